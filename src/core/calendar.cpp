@@ -1,0 +1,33 @@
+#include "core/calendar.h"
+
+#include <algorithm>
+
+namespace backbeat {
+
+namespace {
+
+constexpr int64_t weeksInYear = 52;
+constexpr int64_t lowestCeilingOfAge = 25;
+
+}  // namespace
+
+void rollCalendar(Game& game) {
+  GameState& state = game.state;
+  if (state.weekNumber > weeksInYear) {
+    state.yearNumber += 1;
+    state.weekNumber = 1;
+    state.totalEnergyMax = std::max(state.totalEnergyMax - 1, lowestCeilingOfAge);
+  } else if (state.weekNumber % 10 == 0) {
+    game.launch.leaderboardPassDone = false;
+  }
+  game.save(&GameState::yearNumber, &GameState::weekNumber, &GameState::totalEnergyMax);
+}
+
+void refreshHomeHeader(Game& game) { rollCalendar(game); }
+
+void stateChanged(Game& game) {
+  refreshHomeHeader(game);
+  if (game.leaderboardPass) game.leaderboardPass(game);
+}
+
+}  // namespace backbeat

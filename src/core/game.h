@@ -1,0 +1,119 @@
+// What every rule is given; there is no other context.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "core/clock.h"
+#include "core/game_state.h"
+#include "core/platform.h"
+#include "core/random.h"
+#include "core/save_file.h"
+
+namespace backbeat {
+
+/// How the songs that still live and the albums stand before a turn.
+struct MilestoneSnapshot {
+  struct SongStanding {
+    int64_t songId = 0;
+    int64_t tier = 0;  ///< certification
+    int64_t peak = 0;  ///< best rank so far, 0 when it never charted
+    bool wasFirst = false;
+  };
+  struct AlbumStanding {
+    int64_t albumId = 0;
+    int64_t tier = 0;
+  };
+  std::vector<SongStanding> songs;    ///< by id
+  std::vector<AlbumStanding> albums;  ///< all, in the order of the list, which no turn changes
+};
+
+/// Working values of the running turn; cleared at its first step, never saved.
+struct Turn {
+  MilestoneSnapshot before;                    ///< how songs and albums stood when the turn began
+  int64_t weeklyMarketingPoolTotal = 0;        ///< sum of this week's audiences won by marketing
+  int64_t weeklyMarketingPoolCount = 0;        ///< and their number
+  int64_t firstPlaceChartPosition = 0;         ///< streams that make a number one this week
+  double listensWithinRangeOfChart = 0;        ///< three quarters of that
+  int64_t lastPlaceChartPosition = 0;          ///< streams that enter the chart
+  std::vector<int64_t> songsOnCharts;          ///< rank, streams, rank, streams ... of this week
+  std::vector<size_t> sortedSongListForFans;   ///< positions of the songs, latest release first
+  std::vector<size_t> sortedAlbumListForFans;  ///< positions of the albums, latest release first
+  int64_t seatsSoldOnTourForMerch = 0;
+};
+
+/// The terms of a label's offer while it is on the table.
+struct ContractOffer {
+  int64_t contractLevel = 0;
+  int64_t tempCash = 0;  ///< dollars
+  int64_t tempEp = 0;
+  int64_t tempLp = 0;
+  int64_t tempSongs = 0;
+  double tempPercentageRate = 0;
+  double tempStreamingRate = 0;
+  int64_t tempMarketingScore = 0;
+  int64_t tempViralityScore = 0;
+  int64_t tempStudioScore = 0;
+  int64_t tempStartDate = 0;  ///< absolute week
+  int64_t tempEndDate = 0;    ///< absolute week
+  double tempAlbumPricing = 0;
+  double tempFeatureDiscount = 0;
+  int64_t tempTourTicketCost = 0;
+  double tempViewingRates = 0;
+};
+
+/// Working values of this launch; gone when the program ends, by design.
+struct Launch {
+  int64_t contractOfferState = 0;  ///< 0 none, 1 an offer waits, 2 its terms were seen
+  ContractOffer contractOffer;
+  bool leaderboardPassDone = false;
+  int64_t weeklyFanChange = 0;                       ///< what the last week did to totalFans
+  std::vector<int64_t> selectedFeaturedArtists;      ///< guests picked for the song in preparation
+  std::array<size_t, 3> lastProductionChoices = {};  ///< writer, musicians and studio of the last song, as picked
+  bool musicScreenLoaded = false;                    ///< the music screen's first load has run
+};
+
+struct Game {
+  Game(Store& store, Random& chance, Clock& time, Platform& device)
+      : saveFile(store), random(chance), clock(time), platform(device) {}
+
+  GameState state;
+  Turn turn;
+  Launch launch;
+  SaveFile saveFile;
+  Random& random;
+  Clock& clock;
+  Platform& platform;
+
+  /// Runs after any change that a visible screen has to show: see core/state_changed.h. Handed in by the shell, since
+  /// the leaderboards it submits live in a later room.
+  void (*leaderboardPass)(Game&) = nullptr;
+
+  /// Writes scalars and lists under their keys: `save(&GameState::totalFans, &GameState::saveAllSongList)`.
+  template <class... Members>
+  void save(Members... members) {
+    (saveOne(members), ...);
+  }
+
+ private:
+  template <class T>
+  void saveOne(RecordList<T> GameState::*member) {
+    forEachField<GameState>([&](const auto& field) {
+      if constexpr (std::is_same_v<decltype(field.member), RecordList<T> GameState::*>) {
+        if (field.member == member) saveFile.writeList(field.key, state.*member);
+      }
+    });
+  }
+  template <class T>
+  void saveOne(T GameState::*member) {
+    for (const Scalar& scalar : scalars) {
+      const auto* found = std::get_if<T GameState::*>(&scalar.member);
+      if (found && *found == member) return saveFile.writeScalar(state, scalar);
+    }
+  }
+};
+
+}  // namespace backbeat

@@ -1,0 +1,92 @@
+#include "core/json.h"
+
+#include <cmath>
+#include <cstdio>
+
+namespace backbeat {
+
+void JsonWriter::separate() {
+  if (!first_) out_ += ',';
+  first_ = false;
+}
+
+JsonWriter& JsonWriter::beginObject() {
+  separate();
+  out_ += '{';
+  first_ = true;
+  return *this;
+}
+
+JsonWriter& JsonWriter::endObject() {
+  out_ += '}';
+  first_ = false;
+  return *this;
+}
+
+JsonWriter& JsonWriter::beginArray() {
+  separate();
+  out_ += '[';
+  first_ = true;
+  return *this;
+}
+
+JsonWriter& JsonWriter::endArray() {
+  out_ += ']';
+  first_ = false;
+  return *this;
+}
+
+JsonWriter& JsonWriter::key(std::string_view name) {
+  text(name);
+  out_ += ':';
+  first_ = true;
+  return *this;
+}
+
+JsonWriter& JsonWriter::text(std::string_view utf8) {
+  separate();
+  out_ += '"';
+  for (const char c : utf8) {
+    if (c == '"' || c == '\\') {
+      out_ += '\\';
+      out_ += c;
+    } else if (static_cast<unsigned char>(c) < 0x20) {
+      char escape[8];
+      std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(c));
+      out_ += escape;
+    } else {
+      out_ += c;
+    }
+  }
+  out_ += '"';
+  return *this;
+}
+
+JsonWriter& JsonWriter::number(int64_t value) {
+  separate();
+  out_ += std::to_string(value);
+  return *this;
+}
+
+JsonWriter& JsonWriter::number(double value) {
+  if (!std::isfinite(value)) return null();
+  separate();
+  char digits[32];
+  std::snprintf(digits, sizeof digits, "%.9g", value);
+  out_ += digits;
+  return *this;
+}
+
+JsonWriter& JsonWriter::flag(bool value) {
+  separate();
+  out_ += value ? "true" : "false";
+  return *this;
+}
+
+JsonWriter& JsonWriter::null() {
+  separate();
+  out_ += "null";
+  return *this;
+}
+
+}  // namespace backbeat

@@ -1,0 +1,58 @@
+#include "core/own_photo.h"
+
+#include <algorithm>
+#include <array>
+
+namespace backbeat {
+
+namespace {
+
+constexpr std::array<std::string_view, 4> beginnings = {
+    "data:image/jpeg;base64,",
+    "data:image/png;base64,",
+    "data:image/webp;base64,",
+    "data:image/gif;base64,",
+};
+
+bool isBase64(std::string_view text) {
+  while (text.ends_with('=')) text.remove_suffix(1);
+  return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '+' || c == '/';
+  });
+}
+
+/// Where the data of a picture begins, or nothing when the address is none.
+std::optional<size_t> dataOf(std::string_view address) {
+  for (const std::string_view beginning : beginnings) {
+    if (address.starts_with(beginning)) return beginning.size();
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<Outcome> photoRefusal(std::string_view address) {
+  if (address.size() > largestPhoto) {
+    return alert("📷 Photo Too Large 📷", "\nA photo travels with your save, so it may take up 200 KB at most.");
+  }
+  const auto data = dataOf(address);
+  if (!data || !isBase64(address.substr(*data))) {
+    return alert("📷 Not a Photo 📷", "\nThis can't be read as a picture. Pick a JPEG, PNG, WebP or GIF.");
+  }
+  return std::nullopt;
+}
+
+TextField photoField(const std::string& taken) {
+  TextField field;
+  field.id = "photo";
+  field.label = "Your own photo";
+  field.placeholder = taken.empty() ? "Paste a picture as a data: address" : "Your photo is set. Paste another one";
+  return field;
+}
+
+Picture artistPicture(const GameState& state) {
+  if (dataOf(state.twitterProfileImage)) return {Picture::Kind::photo, state.twitterProfileImage};
+  return person(state.myArtistsName);
+}
+
+}  // namespace backbeat

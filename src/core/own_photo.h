@@ -1,0 +1,26 @@
+// The player's own picture, for covers and for the profile: kept with the save as a data: address.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include "core/game_state.h"
+#include "core/outcome.h"
+#include "core/view.h"
+
+namespace backbeat {
+
+inline constexpr size_t largestPhoto = 204'800;  ///< bytes of the whole address
+
+/// Why a text cannot be kept as a photo: it is no picture (PNG, JPEG, WebP or GIF in base64), or it is too large for a
+/// save. Nothing when it can.
+std::optional<Outcome> photoRefusal(std::string_view address);
+
+/// The field that takes a photo; its press, "photo", carries the address, or nothing to do without one. It does not
+/// show the address of a photo already taken: that is what a cover is for.
+TextField photoField(const std::string& taken);
+
+/// The artist's portrait: the player's own photo, or one drawn after the name.
+Picture artistPicture(const GameState& state);
+
+}  // namespace backbeat

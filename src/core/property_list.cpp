@@ -1,0 +1,473 @@
+#include "core/property_list.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstring>
+
+#include "core/text.h"
+
+namespace backbeat {
+namespace {
+
+constexpr std::string_view magic = "bplist00";
+constexpr size_t trailerSize = 32;
+constexpr double secondsTo2001 = 978'307'200;  // property lists count dates from 2001-01-01
+constexpr size_t firstTableSize = 256;
+constexpr size_t keptTableSize = 1 << 14;  // larger ones are given back: a chunk's few entries would be lost in them
+
+// The upper half of an object's marker byte.
+enum Kind : uint8_t {
+  plain = 0x0,
+  wholeNumber = 0x1,
+  floating = 0x2,
+  instant = 0x3,
+  bytes = 0x4,
+  asciiText = 0x5,
+  utf16Text = 0x6,
+  list = 0xA,
+  table = 0xD,
+};
+constexpr uint8_t falseMarker = 0x08;
+constexpr uint8_t trueMarker = 0x09;
+constexpr uint8_t longCount = 0xF;
+
+template <size_t width>
+char* writeBigEndian(char* out, uint64_t value) {
+  for (size_t i = 0; i < width; ++i) out[i] = static_cast<char>(value >> (8 * (width - 1 - i)));
+  return out + width;
+}
+
+// `width` is 1, 2, 4 or 8.
+char* writeBigEndian(char* out, uint64_t value, size_t width) {
+  switch (width) {
+    case 1: return writeBigEndian<1>(out, value);
+    case 2: return writeBigEndian<2>(out, value);
+    case 4: return writeBigEndian<4>(out, value);
+    default: return writeBigEndian<8>(out, value);
+  }
+}
+
+uint64_t readBigEndian(const char* in, size_t width) {
+  uint64_t value = 0;
+  for (size_t i = 0; i < width; ++i) value = value << 8 | static_cast<uint8_t>(in[i]);
+  return value;
+}
+
+// 1, 2, 4 or 8: the bytes in which the format can hold the number.
+size_t widthOf(uint64_t value) {
+  if (value <= 0xFF) return 1;
+  if (value <= 0xFFFF) return 2;
+  return value <= 0xFFFFFFFF ? 4 : 8;
+}
+
+uint64_t mixed(uint64_t hash, uint64_t word) {
+  hash = (hash ^ word) * 0x9E3779B97F4A7C15u;
+  return hash ^ hash >> 32;
+}
+
+uint64_t loadWord(const char* at) {
+  uint64_t word;
+  std::memcpy(&word, at, sizeof word);
+  return word;
+}
+
+// Only tells texts of one writer apart, so its value may differ between machines.
+uint64_t hashOf(std::string_view text) {
+  const char* at = text.data();
+  size_t left = text.size();
+  uint64_t hash = mixed(0, left);
+  if (left >= 8) {
+    for (; left > 8; at += 8, left -= 8) hash = mixed(hash, loadWord(at));
+    return mixed(hash, loadWord(at + left - 8));
+  }
+  uint64_t tail = 0;
+  for (size_t i = 0; i < left; ++i) tail = tail << 8 | static_cast<uint8_t>(at[i]);
+  return mixed(hash, tail);
+}
+
+bool isAscii(std::string_view text) {
+  const char* at = text.data();
+  size_t left = text.size();
+  uint64_t seen = 0;
+  for (; left >= 8; at += 8, left -= 8) seen |= loadWord(at);
+  for (; left > 0; ++at, --left) seen |= static_cast<uint8_t>(*at);
+  return (seen & 0x8080808080808080u) == 0;
+}
+
+std::string utf8FromUtf16(std::string_view bigEndian) {
+  std::string result;
+  result.reserve(bigEndian.size());
+  const auto unit = [&](size_t at) { return static_cast<char32_t>(readBigEndian(bigEndian.data() + at, 2)); };
+  for (size_t at = 0; at < bigEndian.size(); at += 2) {
+    char32_t value = unit(at);
+    const char32_t next = at + 2 < bigEndian.size() ? unit(at + 2) : 0;
+    if (value >= 0xD800 && value < 0xDC00 && next >= 0xDC00 && next < 0xE000) {
+      value = 0x10000 + ((value - 0xD800) << 10) + (next - 0xDC00);
+      at += 2;
+    }
+    appendCodePoint(result, value);
+  }
+  return result;
+}
+
+}  // namespace
+
+PropertyListWriter::PropertyListWriter() : scalars_(magic), numbers_(firstTableSize), texts_(firstTableSize) {}
+
+PropertyListWriter::Ref PropertyListWriter::newScalar() {
+  offsets_.push_back(scalars_.size());
+  return static_cast<Ref>(offsets_.size() - 1);
+}
+
+PropertyListWriter::Ref PropertyListWriter::integer(int64_t value) {
+  return number(static_cast<uint64_t>(value), wholeNumber);
+}
+
+PropertyListWriter::Ref PropertyListWriter::real(double value) {
+  return number(std::bit_cast<uint64_t>(value), floating);
+}
+
+PropertyListWriter::Ref PropertyListWriter::boolean(bool value) { return number(value, plain); }
+
+PropertyListWriter::Ref PropertyListWriter::date(Date value) {
+  return number(std::bit_cast<uint64_t>(value.seconds - secondsTo2001), instant);
+}
+
+PropertyListWriter::Ref PropertyListWriter::number(uint64_t bits, uint8_t kind) {
+  const size_t last = numbers_.size() - 1;
+  size_t place = static_cast<size_t>(mixed(kind, bits)) & last;
+  for (; numbers_[place].round == round_; place = (place + 1) & last) {
+    if (numbers_[place].bits == bits && numbers_[place].kind == kind) return numbers_[place].ref;
+  }
+  const Ref ref = newScalar();
+  numbers_[place] = {bits, round_, kind, ref};
+  char out[9];
+  size_t width = 8;
+  switch (kind) {
+    case plain:
+      out[0] = static_cast<char>(bits ? trueMarker : falseMarker);
+      width = 0;
+      break;
+    case wholeNumber:
+      // Widths below eight bytes hold no sign.
+      width = widthOf(bits);
+      out[0] = static_cast<char>(wholeNumber << 4 | std::countr_zero(width));
+      break;
+    default: out[0] = static_cast<char>(kind << 4 | 3);
+  }
+  if (width > 0) writeBigEndian(out + 1, bits, width);
+  scalars_.append(out, width + 1);
+  if (++numberCount_ * 2 > numbers_.size()) growNumbers();
+  return ref;
+}
+
+void PropertyListWriter::growNumbers() {
+  std::vector<KnownNumber> larger(numbers_.size() * 4);
+  const size_t last = larger.size() - 1;
+  for (const KnownNumber& known : numbers_) {
+    if (known.round != round_) continue;
+    size_t place = static_cast<size_t>(mixed(known.kind, known.bits)) & last;
+    while (larger[place].round == round_) place = (place + 1) & last;
+    larger[place] = known;
+  }
+  numbers_ = std::move(larger);
+}
+
+PropertyListWriter::Ref PropertyListWriter::text(std::string_view utf8) {
+  const uint64_t hash = hashOf(utf8);
+  const size_t last = texts_.size() - 1;
+  size_t place = static_cast<size_t>(hash) & last;
+  for (; texts_[place].round == round_; place = (place + 1) & last) {
+    const KnownText& known = texts_[place];
+    if (known.hash == hash && std::string_view(textBytes_).substr(known.start, known.size) == utf8) return known.ref;
+  }
+  const Ref ref = newScalar();
+  texts_[place] = {hash, textBytes_.size(), utf8.size(), round_, ref};
+  textBytes_.append(utf8);
+  putText(utf8);
+  if (++textCount_ * 2 > texts_.size()) growTexts();
+  return ref;
+}
+
+void PropertyListWriter::growTexts() {
+  std::vector<KnownText> larger(texts_.size() * 4);
+  const size_t last = larger.size() - 1;
+  for (const KnownText& known : texts_) {
+    if (known.round != round_) continue;
+    size_t place = static_cast<size_t>(known.hash) & last;
+    while (larger[place].round == round_) place = (place + 1) & last;
+    larger[place] = known;
+  }
+  texts_ = std::move(larger);
+}
+
+void PropertyListWriter::putMarker(uint8_t kind, size_t count) {
+  if (count < longCount) {
+    scalars_.push_back(static_cast<char>(kind << 4 | count));
+    return;
+  }
+  const size_t width = widthOf(count);
+  char out[10] = {static_cast<char>(kind << 4 | longCount),
+                  static_cast<char>(wholeNumber << 4 | std::countr_zero(width))};
+  writeBigEndian(out + 2, count, width);
+  scalars_.append(out, 2 + width);
+}
+
+void PropertyListWriter::putText(std::string_view utf8) {
+  if (!isAscii(utf8)) return putUtf16(utf8);
+  putMarker(asciiText, utf8.size());
+  scalars_.append(utf8);
+}
+
+void PropertyListWriter::putUtf16(std::string_view utf8) {
+  utf16_.clear();
+  for (size_t position = 0; position < utf8.size();) {
+    const char32_t point = nextCodePoint(utf8, position);
+    if (point < 0x10000) {
+      utf16_.push_back(static_cast<char16_t>(point));
+    } else {
+      utf16_.push_back(static_cast<char16_t>(0xD800 + ((point - 0x10000) >> 10)));
+      utf16_.push_back(static_cast<char16_t>(0xDC00 + ((point - 0x10000) & 0x3FF)));
+    }
+  }
+  putMarker(utf16Text, utf16_.size());
+  for (const char16_t unit : utf16_) {
+    char out[2];
+    writeBigEndian<2>(out, unit);
+    scalars_.append(out, 2);
+  }
+}
+
+PropertyListWriter::Ref PropertyListWriter::data(std::string_view value) {
+  const Ref ref = newScalar();
+  putMarker(bytes, value.size());
+  scalars_.append(value);
+  return ref;
+}
+
+PropertyListWriter::Ref PropertyListWriter::newContainer(size_t count, bool isDictionary) {
+  offsets_.push_back(0);
+  const Ref ref = static_cast<Ref>(offsets_.size() - 1);
+  containers_.push_back({ref, refs_.size(), static_cast<uint32_t>(count), isDictionary});
+  return ref;
+}
+
+PropertyListWriter::Ref PropertyListWriter::array(std::span<const Ref> items) {
+  const Ref ref = newContainer(items.size(), false);
+  refs_.insert(refs_.end(), items.begin(), items.end());
+  return ref;
+}
+
+PropertyListWriter::Ref PropertyListWriter::dictionary(std::span<const Ref> keys, std::span<const Ref> values) {
+  const Ref ref = newContainer(keys.size(), true);
+  refs_.insert(refs_.end(), keys.begin(), keys.end());
+  refs_.insert(refs_.end(), values.begin(), values.end());
+  return ref;
+}
+
+size_t PropertyListWriter::containerBytes(size_t refSize) const {
+  size_t total = refs_.size() * refSize;
+  for (const Container& container : containers_) {
+    total += container.count < longCount ? 1 : 2 + widthOf(container.count);
+  }
+  return total;
+}
+
+namespace {
+
+template <size_t width>
+char* writeRefs(char* out, const PropertyListWriter::Ref* refs, size_t count) {
+  for (size_t i = 0; i < count; ++i) out = writeBigEndian<width>(out, refs[i]);
+  return out;
+}
+
+char* writeRefs(char* out, const PropertyListWriter::Ref* refs, size_t count, size_t width) {
+  switch (width) {
+    case 1: return writeRefs<1>(out, refs, count);
+    case 2: return writeRefs<2>(out, refs, count);
+    default: return writeRefs<4>(out, refs, count);
+  }
+}
+
+}  // namespace
+
+void PropertyListWriter::writeContainers(Bytes& file, size_t refSize) {
+  char* out = file.data() + scalars_.size();
+  for (const Container& container : containers_) {
+    offsets_[container.self] = static_cast<size_t>(out - file.data());
+    const uint8_t kind = container.isDictionary ? table : list;
+    if (container.count < longCount) {
+      *out++ = static_cast<char>(kind << 4 | container.count);
+    } else {
+      const size_t width = widthOf(container.count);
+      *out++ = static_cast<char>(kind << 4 | longCount);
+      *out++ = static_cast<char>(wholeNumber << 4 | std::countr_zero(width));
+      out = writeBigEndian(out, container.count, width);
+    }
+    const size_t refCount = container.isDictionary ? size_t{container.count} * 2 : container.count;
+    out = writeRefs(out, refs_.data() + container.firstRef, refCount, refSize);
+  }
+}
+
+Bytes PropertyListWriter::finish(Ref root) {
+  const size_t refSize = widthOf(offsets_.size() - 1);
+  const size_t tableStart = scalars_.size() + containerBytes(refSize);
+  const size_t offsetSize = widthOf(tableStart);
+  Bytes file;
+  const size_t fileSize = tableStart + offsets_.size() * offsetSize + trailerSize;
+  file.reserve(fileSize);
+  file.append(scalars_);
+  file.resize(fileSize);
+  writeContainers(file, refSize);
+  char* out = file.data() + tableStart;
+  for (const size_t offset : offsets_) out = writeBigEndian(out, offset, offsetSize);
+  out += 6;  // reserved bytes, zero
+  *out++ = static_cast<char>(offsetSize);
+  *out++ = static_cast<char>(refSize);
+  out = writeBigEndian<8>(out, offsets_.size());
+  out = writeBigEndian<8>(out, root);
+  writeBigEndian<8>(out, tableStart);
+  forgetObjects();
+  return file;
+}
+
+void PropertyListWriter::forgetObjects() {
+  scalars_.resize(magic.size());
+  offsets_.clear();
+  containers_.clear();
+  refs_.clear();
+  textBytes_.clear();
+  numberCount_ = textCount_ = 0;
+  const bool roundsUsedUp = ++round_ == 0;
+  if (roundsUsedUp || numbers_.size() > keptTableSize) numbers_ = std::vector<KnownNumber>(firstTableSize);
+  if (roundsUsedUp || texts_.size() > keptTableSize) texts_ = std::vector<KnownText>(firstTableSize);
+  if (roundsUsedUp) round_ = 1;
+}
+
+std::optional<PropertyListReader> PropertyListReader::open(std::string_view bytes) {
+  if (bytes.size() < magic.size() + 1 + trailerSize || !bytes.starts_with(magic)) return {};
+  const char* trailer = bytes.data() + bytes.size() - trailerSize;
+  PropertyListReader reader(bytes);
+  reader.offsetWidth_ = static_cast<uint8_t>(trailer[6]);
+  reader.refWidth_ = static_cast<uint8_t>(trailer[7]);
+  reader.objectCount_ = readBigEndian(trailer + 8, 8);
+  reader.root_ = readBigEndian(trailer + 16, 8);
+  const uint64_t tableStart = readBigEndian(trailer + 24, 8);
+  const auto isWidth = [](uint8_t width) { return width >= 1 && width <= 8; };
+  if (!isWidth(reader.offsetWidth_) || !isWidth(reader.refWidth_)) return {};
+  const size_t tableEnd = bytes.size() - trailerSize;
+  if (tableStart < magic.size() || tableStart > tableEnd) return {};
+  if (reader.objectCount_ > (tableEnd - tableStart) / reader.offsetWidth_) return {};
+  if (reader.root_ >= reader.objectCount_) return {};
+  reader.objectsEnd_ = static_cast<size_t>(tableStart);
+  return reader;
+}
+
+std::optional<PropertyListReader::Object> PropertyListReader::object(Ref ref) const {
+  if (ref >= objectCount_) return {};
+  const uint64_t offset =
+      readBigEndian(bytes_.data() + objectsEnd_ + static_cast<size_t>(ref) * offsetWidth_, offsetWidth_);
+  if (offset < magic.size() || offset >= objectsEnd_) return {};
+  const size_t at = static_cast<size_t>(offset);
+  return Object{static_cast<uint8_t>(bytes_[at]), at + 1};
+}
+
+// The count of an object that has one, and in `body` where its content begins.
+std::optional<size_t> PropertyListReader::count(const Object& object, size_t& body) const {
+  body = object.body;
+  const uint8_t small = object.marker & 0xF;
+  if (small != longCount) return small;
+  if (body >= objectsEnd_) return {};
+  const uint8_t marker = static_cast<uint8_t>(bytes_[body++]);
+  const size_t width = size_t{1} << (marker & 0xF);
+  if (marker >> 4 != wholeNumber || (marker & 0xF) > 3 || width > objectsEnd_ - body) return {};
+  const uint64_t result = readBigEndian(bytes_.data() + body, width);
+  body += width;
+  if (result > objectsEnd_) return {};
+  return static_cast<size_t>(result);
+}
+
+// The content of an object made of `unit` bytes for each it counts.
+std::optional<std::string_view> PropertyListReader::counted(const Object& object, size_t unit) const {
+  size_t body;
+  const std::optional<size_t> units = count(object, body);
+  if (!units || *units > (objectsEnd_ - body) / unit) return {};
+  return bytes_.substr(body, *units * unit);
+}
+
+std::optional<int64_t> PropertyListReader::integer(Ref ref) const {
+  const std::optional<Object> found = object(ref);
+  if (!found || found->marker >> 4 != wholeNumber || (found->marker & 0xF) > 4) return {};
+  const size_t width = size_t{1} << (found->marker & 0xF);
+  if (width > objectsEnd_ - found->body) return {};
+  const char* body = bytes_.data() + found->body;
+  if (width <= 8) return static_cast<int64_t>(readBigEndian(body, width));
+  const uint64_t upper = readBigEndian(body, 8);
+  const int64_t lower = static_cast<int64_t>(readBigEndian(body + 8, 8));
+  const uint64_t signExtension = lower < 0 ? ~uint64_t{0} : 0;
+  if (upper != signExtension) return {};
+  return lower;
+}
+
+std::optional<double> PropertyListReader::real(Ref ref) const {
+  const std::optional<Object> found = object(ref);
+  if (!found || found->marker >> 4 != floating) return {};
+  const size_t width = size_t{1} << (found->marker & 0x7);
+  if (width > objectsEnd_ - found->body) return {};
+  const uint64_t bits = readBigEndian(bytes_.data() + found->body, std::min<size_t>(width, 8));
+  switch (found->marker & 0xF) {
+    case 2: return std::bit_cast<float>(static_cast<uint32_t>(bits));
+    case 3: return std::bit_cast<double>(bits);
+    default: return {};
+  }
+}
+
+std::optional<bool> PropertyListReader::boolean(Ref ref) const {
+  const std::optional<Object> found = object(ref);
+  if (!found || (found->marker != falseMarker && found->marker != trueMarker)) return {};
+  return found->marker == trueMarker;
+}
+
+std::optional<Date> PropertyListReader::date(Ref ref) const {
+  const std::optional<Object> found = object(ref);
+  if (!found || found->marker != (instant << 4 | 3) || 8 > objectsEnd_ - found->body) return {};
+  return Date{std::bit_cast<double>(readBigEndian(bytes_.data() + found->body, 8)) + secondsTo2001};
+}
+
+std::optional<std::string> PropertyListReader::text(Ref ref) const {
+  const std::optional<Object> found = object(ref);
+  if (!found) return {};
+  const uint8_t kind = found->marker >> 4;
+  if (kind != asciiText && kind != utf16Text) return {};
+  const std::optional<std::string_view> content = counted(*found, kind == asciiText ? 1 : 2);
+  if (!content) return {};
+  if (kind == utf16Text) return utf8FromUtf16(*content);
+  if (!isAscii(*content)) return {};
+  return std::string(*content);
+}
+
+std::optional<std::string_view> PropertyListReader::data(Ref ref) const {
+  const std::optional<Object> found = object(ref);
+  if (!found || found->marker >> 4 != bytes) return {};
+  return counted(*found, 1);
+}
+
+std::optional<PropertyListRefs> PropertyListReader::array(Ref ref) const {
+  const std::optional<Object> found = object(ref);
+  if (!found || found->marker >> 4 != list) return {};
+  const std::optional<std::string_view> content = counted(*found, refWidth_);
+  if (!content) return {};
+  return PropertyListRefs(content->data(), content->size() / refWidth_, refWidth_);
+}
+
+std::optional<PropertyListReader::Entries> PropertyListReader::dictionary(Ref ref) const {
+  const std::optional<Object> found = object(ref);
+  if (!found || found->marker >> 4 != table) return {};
+  const std::optional<std::string_view> content = counted(*found, size_t{2} * refWidth_);
+  if (!content) return {};
+  const size_t entries = content->size() / (size_t{2} * refWidth_);
+  return Entries{PropertyListRefs(content->data(), entries, refWidth_),
+                 PropertyListRefs(content->data() + content->size() / 2, entries, refWidth_)};
+}
+
+}  // namespace backbeat

@@ -1,0 +1,261 @@
+#include "core/save_file.h"
+
+#include <cmath>
+#include <memory>
+
+namespace backbeat {
+namespace {
+
+std::optional<std::vector<uint32_t>> decodeOrder(std::string_view propertyList) {
+  const auto reader = PropertyListReader::open(propertyList);
+  const auto bytes = reader ? reader->data(reader->root()) : std::nullopt;
+  if (!bytes || bytes->size() % 4 != 0) return {};
+  std::vector<uint32_t> slots(bytes->size() / 4);
+  for (size_t i = 0; i < bytes->size(); ++i) {
+    slots[i / 4] |= static_cast<uint32_t>(static_cast<uint8_t>((*bytes)[i])) << (i % 4 * 8);
+  }
+  return slots;
+}
+
+Bytes encodeOrder(PropertyListWriter& writer, const std::vector<uint32_t>& slots) {
+  Bytes bytes;
+  bytes.reserve(slots.size() * 4);
+  for (const uint32_t slot : slots) {
+    for (int shift = 0; shift < 32; shift += 8) bytes.push_back(static_cast<char>(slot >> shift));
+  }
+  return writer.finish(writer.data(bytes));
+}
+
+/// Takes the rows of one list as the store yields them.
+class ListLoader {
+ public:
+  virtual ~ListLoader() = default;
+  virtual void take(int32_t chunk, const Value& value) = 0;
+  /// Puts the list into the state; false, and the state is as it was, when its rows are no whole list.
+  virtual bool finish(GameState& state) = 0;
+
+  StoredList stored;
+};
+
+template <class T>
+class LoaderOf final : public ListLoader {
+ public:
+  LoaderOf(RecordList<T> GameState::*member, ListLayout layout) : member_(member), layout_(layout) {}
+
+  void take(int32_t chunk, const Value& value) override {
+    stored.leftovers.push_back(chunk);
+    const Bytes* row = std::get_if<Bytes>(&value);
+    damaged_ = damaged_ || row == nullptr || !(chunk == orderRow ? takeOrder(*row) : takeChunk(chunk, *row));
+  }
+
+  bool finish(GameState& state) override {
+    if (stored.leftovers.empty()) return true;
+    const bool whole = !damaged_ && stored.chunks > 0 && (state.*member_).restore(std::move(places_), slots_);
+    if (!whole) {
+      stored.chunks = 0;
+      return false;
+    }
+    stored.leftovers.clear();
+    stored.current = !cutOtherwise_;
+    return true;
+  }
+
+ private:
+  bool takeOrder(const Bytes& row) {
+    auto order = decodeOrder(row);
+    if (!order || layout_.order != ListLayout::Order::slots) return false;
+    slots_ = std::move(*order);
+    return true;
+  }
+
+  bool takeChunk(int32_t chunk, const Bytes& row) {
+    if (chunk < 0 || static_cast<uint32_t>(chunk) != stored.chunks) return false;
+    // Rows of another size come from a version that cut the list otherwise; the next save cuts it anew.
+    if (places_.size() != size_t{stored.chunks} * layout_.chunkSize) cutOtherwise_ = true;
+    ++stored.chunks;
+    if (!RecordDecoder(row).append(places_)) return false;
+    if (places_.size() > size_t{stored.chunks} * layout_.chunkSize) cutOtherwise_ = true;
+    return true;
+  }
+
+  RecordList<T> GameState::*member_;
+  ListLayout layout_;
+  std::vector<T> places_;
+  std::vector<uint32_t> slots_;
+  bool damaged_ = false;
+  bool cutOtherwise_ = false;
+};
+
+std::optional<int64_t> asInteger(const Value& value) {
+  if (const auto* whole = std::get_if<int64_t>(&value)) return *whole;
+  const auto* real = std::get_if<double>(&value);
+  const bool fits = real && *real >= -0x1p63 && *real < 0x1p63 && std::trunc(*real) == *real;
+  if (!fits) return {};
+  return static_cast<int64_t>(*real);
+}
+
+void loadScalar(GameState& state, int64_t GameState::*member, const Value& value) {
+  if (const auto whole = asInteger(value)) state.*member = *whole;
+}
+
+void loadScalar(GameState& state, double GameState::*member, const Value& value) {
+  if (const auto* whole = std::get_if<int64_t>(&value)) state.*member = static_cast<double>(*whole);
+  if (const auto* real = std::get_if<double>(&value)) state.*member = *real;
+}
+
+template <class T>
+void loadScalar(GameState& state, T GameState::*member, const Value& value) {
+  const auto* row = std::get_if<Bytes>(&value);
+  if (auto object = row ? decodeValue<T>(*row) : std::nullopt) state.*member = std::move(*object);
+}
+
+/// Sorts the rows of a store into a state.
+class Loader {
+ public:
+  explicit Loader(GameState& state) : state_(state) {
+    forEachField<GameState>([&](const auto& field) { lists_[field.key] = loaderOf(field.member); });
+    for (const Scalar& scalar : scalars) scalars_[scalar.key] = &scalar;
+  }
+
+  bool run(Store& store) {
+    return store.visitRows([&](std::string_view key, int32_t chunk, const Value& value) { take(key, chunk, value); });
+  }
+
+  /// Ends the loading; keys of damaged lists, in the order of the table.
+  std::vector<std::string> finish() {
+    std::vector<std::string> damaged;
+    forEachField<GameState>([&](const auto& field) {
+      if (!lists_[field.key]->finish(state_)) damaged.emplace_back(field.key);
+    });
+    return damaged;
+  }
+
+  const StoredList& stored(std::string_view key) { return lists_[key]->stored; }
+  std::map<std::string, Bytes, std::less<>> otherObjects;
+
+ private:
+  template <class T>
+  std::unique_ptr<ListLoader> loaderOf(RecordList<T> GameState::*member) const {
+    return std::make_unique<LoaderOf<T>>(member, (state_.*member).layout());
+  }
+
+  void take(std::string_view key, int32_t chunk, const Value& value) {
+    if (const auto list = lists_.find(key); list != lists_.end()) return list->second->take(chunk, value);
+    if (chunk != wholeRow) return;
+    if (const auto scalar = scalars_.find(key); scalar != scalars_.end()) {
+      if (scalar->second->loading == Loading::writeOnly) return;
+      std::visit([&](auto member) { loadScalar(state_, member, value); }, scalar->second->member);
+    } else if (const auto* object = std::get_if<Bytes>(&value)) {
+      otherObjects.emplace(key, *object);
+    }
+  }
+
+  GameState& state_;
+  std::map<std::string_view, std::unique_ptr<ListLoader>> lists_;
+  std::map<std::string_view, const Scalar*> scalars_;
+};
+
+}  // namespace
+
+LoadReport SaveFile::load(GameState& state) {
+  Loader loader(state);
+  LoadReport report;
+  report.readable = loader.run(store_);
+  report.damagedLists = loader.finish();
+  lists_.clear();
+  forEachField<GameState>([&](const auto& field) { lists_.emplace(field.key, loader.stored(field.key)); });
+  otherObjects_ = std::move(loader.otherObjects);
+  if (report.readable) {
+    for (const std::string& key : report.damagedLists) store_.quarantine(key);
+  }
+  return report;
+}
+
+void SaveFile::put(std::string_view key, int32_t chunk, std::optional<Value> value) {
+  if (failing_) {
+    const auto [known, isNew] = pendingRows_.try_emplace({std::string(key), chunk}, pending_.size());
+    if (!isNew) {
+      pending_[known->second].value = std::move(value);
+      return;
+    }
+  }
+  pending_.push_back({std::string(key), chunk, std::move(value)});
+}
+
+void SaveFile::setInteger(std::string_view key, int64_t value) {
+  if (store_.keeps()) put(key, wholeRow, value);
+}
+
+void SaveFile::setDouble(std::string_view key, double value) {
+  if (store_.keeps()) put(key, wholeRow, value);
+}
+
+void SaveFile::setObject(std::string_view key, Bytes propertyList) {
+  if (const auto known = otherObjects_.find(key); known != otherObjects_.end()) known->second = propertyList;
+  if (store_.keeps()) put(key, wholeRow, std::move(propertyList));
+}
+
+std::optional<Bytes> SaveFile::object(std::string_view key) const {
+  const auto found = otherObjects_.find(key);
+  if (found == otherObjects_.end()) return {};
+  return found->second;
+}
+
+void SaveFile::writeScalar(const GameState& state, const Scalar& scalar) {
+  if (!store_.keeps()) return;
+  const auto write = [&](auto member) {
+    const auto& value = state.*member;
+    if constexpr (std::is_arithmetic_v<std::decay_t<decltype(value)>>) {
+      put(scalar.key, wholeRow, value);
+    } else {
+      put(scalar.key, wholeRow, encodeValue(writer_, value));
+    }
+  };
+  std::visit(write, scalar.member);
+}
+
+void SaveFile::putOrder(std::string_view key, const std::vector<uint32_t>& slots) {
+  put(key, orderRow, encodeOrder(writer_, slots));
+}
+
+void SaveFile::putRemovals(std::string_view key, StoredList& stored, uint32_t chunks) {
+  for (const int32_t chunk : stored.leftovers) put(key, chunk, std::nullopt);
+  const uint32_t rows = std::max(chunks, 1u);  // an empty list is one empty row, so that its key is there
+  for (uint32_t chunk = rows; chunk < stored.chunks; ++chunk) put(key, static_cast<int32_t>(chunk), std::nullopt);
+  stored = {.current = true, .chunks = rows, .leftovers = {}};
+}
+
+bool SaveFile::commit() {
+  if (pending_.empty()) return true;
+  if (store_.commit(pending_)) {
+    pending_.clear();
+    pendingRows_.clear();
+    failing_ = false;
+    return true;
+  }
+  if (!failing_) {
+    failing_ = true;
+    for (Write& write : std::exchange(pending_, {})) put(write.key, write.chunk, std::move(write.value));
+  }
+  return false;
+}
+
+std::vector<std::string> differencesFromStore(const GameState& state, Store& store) {
+  GameState stored;
+  Loader loader(stored);
+  const bool readable = loader.run(store);
+  std::vector<std::string> different = loader.finish();
+  const auto add = [&](std::string_view key, bool differs) {
+    const bool isNew = std::find(different.begin(), different.end(), key) == different.end();
+    if ((differs || !readable) && isNew) different.emplace_back(key);
+  };
+  forEachField<GameState>([&](const auto& field) { add(field.key, state.*field.member != stored.*field.member); });
+  for (const Scalar& scalar : scalars) {
+    if (scalar.loading == Loading::writeOnly) continue;
+    const auto differs = [&](auto member) { return state.*member != stored.*member; };
+    add(scalar.key, std::visit(differs, scalar.member));
+  }
+  return different;
+}
+
+}  // namespace backbeat

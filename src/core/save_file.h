@@ -1,0 +1,103 @@
+// The door between the state and its store. Every rule that changes a scalar or a list writes it here in the same
+// operation; one player action is one transaction.
+#pragma once
+
+#include <algorithm>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "core/game_state.h"
+#include "core/record_codec.h"
+#include "core/store.h"
+
+namespace backbeat {
+
+/// What loading found.
+struct LoadReport {
+  std::vector<std::string> damagedLists;  ///< keys of lists that could not be read: empty now, the rows put aside
+  bool readable = true;                   ///< false when the store itself could not be read
+};
+
+/// What a store holds of one list.
+struct StoredList {
+  bool current = false;            ///< its rows are the list's chunks, but for those that the list has marked
+  uint32_t chunks = 0;             ///< rows 0 to `chunks` - 1 are there
+  std::vector<int32_t> leftovers;  ///< rows that could not be read and go when the list is saved
+};
+
+class SaveFile {
+ public:
+  explicit SaveFile(Store& store) : store_(store) {}
+
+  /// Fills `state` (fresh, on its defaults) from the store: the lists, and the scalars but for the write-only ones.
+  /// A key that is not there, or holds a value of another kind or one that does not fit, keeps its default; a whole
+  /// number is welcome for a double and a double without fraction for a whole number. Lists load all or nothing.
+  LoadReport load(GameState& state);
+
+  /// The three writers. They join the open transaction.
+  void setInteger(std::string_view key, int64_t value);
+  void setDouble(std::string_view key, double value);
+  void setObject(std::string_view key, Bytes propertyList);
+
+  /// The object stored whole under a key that is no scalar's and no list's, such as one that older versions used; as
+  /// loaded or written since. Nothing when there is none.
+  std::optional<Bytes> object(std::string_view key) const;
+
+  /// Writes one scalar, or what changed of one list, under its key.
+  void writeScalar(const GameState& state, const Scalar& scalar);
+  template <class T>
+  void writeList(std::string_view key, RecordList<T>& list);
+
+  /// Ends the transaction: everything written since the last call becomes durable at once. After a failure the writes
+  /// are kept, the last one of each row, and tried again with the next transaction. True when nothing is left to write.
+  bool commit();
+
+  /// True after a failed commit, until one succeeds.
+  bool failing() const { return failing_; }
+
+  /// Tells the store that a quiet moment has come.
+  void rest() { store_.rest(); }
+
+ private:
+  void put(std::string_view key, int32_t chunk, std::optional<Value> value);
+  void putOrder(std::string_view key, const std::vector<uint32_t>& slots);
+  void putRemovals(std::string_view key, StoredList& stored, uint32_t chunks);
+
+  Store& store_;
+  PropertyListWriter writer_;
+  std::vector<Write> pending_;
+  std::map<std::pair<std::string, int32_t>, size_t> pendingRows_;  // where each row stands in pending_, while failing
+  std::map<std::string, StoredList, std::less<>> lists_;
+  std::map<std::string, Bytes, std::less<>> otherObjects_;
+  bool failing_ = false;
+};
+
+/// The keys whose value in memory differs from what `store` would load, but for those that are never loaded; every key
+/// when the store cannot be read. Empty when memory and store agree: what the random player checks after every action.
+std::vector<std::string> differencesFromStore(const GameState& state, Store& store);
+
+/// A fingerprint of the whole state, equal on every platform; what replays compare.
+uint64_t stateHash(const GameState& state);
+
+template <class T>
+void SaveFile::writeList(std::string_view key, RecordList<T>& list) {
+  if (store_.keeps()) {
+    StoredList& stored = lists_.try_emplace(std::string(key)).first->second;
+    if (!stored.current) list.markAll();
+    putRemovals(key, stored, list.chunkCount());
+    const auto putChunk = [&](uint32_t number) {
+      put(key, static_cast<int32_t>(number), encodeRecords<T>(writer_, list.chunk(number)));
+    };
+    for (const uint32_t number : list.changedChunks()) {
+      if (number < list.chunkCount()) putChunk(number);
+    }
+    if (list.empty() && list.shrunk()) putChunk(0);
+    if (list.orderChanged()) putOrder(key, list.slots());
+  }
+  list.forgetChanges();
+}
+
+}  // namespace backbeat

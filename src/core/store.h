@@ -1,0 +1,65 @@
+// Where a save lives: rows under a key, some of them cut into chunks. A store takes whole transactions and knows no
+// rule.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "core/property_list.h"
+
+namespace backbeat {
+
+/// A stored value: a whole number, a double, or an object (a property list).
+using Value = std::variant<int64_t, double, Bytes>;
+
+/// The chunk number of a row that is not cut.
+inline constexpr int32_t wholeRow = -1;
+
+/// The chunk number of the row that holds the order of a list whose records keep their slots.
+inline constexpr int32_t orderRow = -2;
+
+/// One change: the row (key, chunk) takes the value, or goes when there is none.
+struct Write {
+  std::string key;
+  int32_t chunk = wholeRow;
+  std::optional<Value> value;
+};
+
+class Store {
+ public:
+  virtual ~Store() = default;
+
+  /// Applies the writes in order, all or none of them, and returns once they are as safe as this store makes them.
+  /// False when that failed; nothing has changed then.
+  virtual bool commit(std::span<const Write> writes) = 0;
+
+  /// Hands every row to `visit`, in the order of key and chunk. False when the store cannot be read.
+  virtual bool visitRows(const std::function<void(std::string_view key, int32_t chunk, const Value& value)>& visit) = 0;
+
+  /// Puts rows that cannot be read aside, out of the game's way but not out of the world: they leave the store's rows
+  /// and are kept under their own names for whoever wants to repair them.
+  virtual void quarantine(std::string_view key) = 0;
+
+  /// Work for a quiet moment after the turn (a checkpoint, say).
+  virtual void rest() {}
+
+  /// False for a store that keeps nothing: then nothing is encoded for it.
+  virtual bool keeps() const { return true; }
+};
+
+/// Keeps nothing: for simulations.
+class NullStore final : public Store {
+ public:
+  bool commit(std::span<const Write>) override { return true; }
+  bool visitRows(const std::function<void(std::string_view, int32_t, const Value&)>&) override { return true; }
+  void quarantine(std::string_view) override {}
+  bool keeps() const override { return false; }
+};
+
+}  // namespace backbeat

@@ -1,0 +1,32 @@
+// The rows of one week in a list that grows week by week.
+#pragma once
+
+#include <span>
+
+#include "core/record_list.h"
+
+namespace backbeat {
+
+/// A week of the calendar.
+struct CalendarWeek {
+  int64_t week = 0;
+  int64_t year = 0;
+  friend bool operator==(const CalendarWeek&, const CalendarWeek&) = default;
+};
+
+/// The rows of `list` that carry the week, oldest first. Rows are appended as the calendar runs, so those of the latest
+/// weeks stand together near the end and the search walks back only as far as they begin.
+template <class T>
+std::span<const T> rowsOfWeek(const RecordList<T>& list, CalendarWeek week) {
+  const auto weekOf = [](const T& row) { return CalendarWeek{row.weekNumber, row.yearNumber}; };
+  const auto before = [](CalendarWeek a, CalendarWeek b) {
+    return a.year != b.year ? a.year < b.year : a.week < b.week;
+  };
+  size_t end = list.size();
+  while (end > 0 && before(week, weekOf(list[end - 1]))) --end;
+  size_t begin = end;
+  while (begin > 0 && weekOf(list[begin - 1]) == week) --begin;
+  return std::span<const T>(list.all()).subspan(begin, end - begin);
+}
+
+}  // namespace backbeat

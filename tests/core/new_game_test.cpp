@@ -1,0 +1,80 @@
+#include "core/new_game.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "support/world.h"
+
+namespace backbeat {
+namespace {
+
+void enrich(int64_t& value) { value = 7; }
+void enrich(double& value) { value = 7.5; }
+void enrich(std::string& value) { value = "rich"; }
+void enrich(std::vector<int64_t>& value) { value = {7}; }
+void enrich(std::map<std::string, std::string>& value) { value["rich"] = "rich"; }
+
+/// A life in which every scalar and every list holds something.
+void enrich(GameState& state) {
+  for (const Scalar& scalar : scalars) std::visit([&](auto member) { enrich(state.*member); }, scalar.member);
+  forEachField<GameState>([&](const auto& field) {
+    auto& list = state.*field.member;
+    list.append(std::decay_t<decltype(list.all()[0])>());
+  });
+}
+
+std::set<std::string> keysThatDiffer(const GameState& a, const GameState& b) {
+  std::set<std::string> keys;
+  for (const Scalar& scalar : scalars) {
+    std::visit(
+        [&](auto member) {
+          if (a.*member != b.*member) keys.emplace(scalar.key);
+        },
+        scalar.member);
+  }
+  forEachField<GameState>([&](const auto& field) {
+    if (!(a.*field.member == b.*field.member)) keys.emplace(field.key);
+  });
+  return keys;
+}
+
+TEST(NewGame, RestartLeavesOnlyWhatOutlivesALife) {
+  World world;
+  enrich(world.state);
+  world.settle();
+  world.game.launch.contractOfferState = 2;
+  world.game.launch.selectedFeaturedArtists = {3};
+  world.game.launch.leaderboardPassDone = true;
+
+  restartGame(world.game);
+
+  const std::set<std::string> outlives = {
+      // Bought energy, and the energy that comes of it.
+      "permanentEnergyUpgrade", "totalEnergyMax", "totalEnergyAvailable",
+      // What was ever reached.
+      "AllCompletedAchievements", "totalFanHighScore", "mostPopularSongHighScore", "mostSuccessfulLabelHighScore",
+      "mostPopularAlbumHighScore", "longestBillBoardHitHighScore", "mostNumberOneHighScore", "highestGrossAlbumWeekly",
+      "mostGramWins", "mostAchievementsCompleted", "userRank", "userScore", "recordDictionary", "songDictionary",
+      "albumDictionary", "saveAllLegacyList",
+      // First uses and habits.
+      "loginCount", "savePulse", "assignFollowers", "assignSubscribers", "didSubscribe", "rejectionCount",
+      "slideIntoDmsCount", "saveGenreForNextTime", "appearance",
+      // Names, texts and pictures of the player's making.
+      "AllFeaturedArtists", "AllCelebrityCameos", "featureArtistNamedChanges", "celebrityCameoNamedChanges",
+      "moreInfoDescription", "twitterProfileImage", "twitterHeaderImage", "saveRingImage"};
+  EXPECT_EQ(keysThatDiffer(world.state, GameState()), outlives);
+  EXPECT_EQ(world.state.totalEnergyMax, 107);
+  EXPECT_EQ(world.state.totalEnergyAvailable, 107);
+  EXPECT_EQ(world.game.launch.contractOfferState, 0);
+  EXPECT_TRUE(world.game.launch.selectedFeaturedArtists.empty());
+  EXPECT_TRUE(world.game.launch.leaderboardPassDone);
+  world.expectSaved();
+  GameState loaded;
+  SaveFile(world.store).load(loaded);
+  EXPECT_EQ(loaded.myArtistsName, "") << "no key is removed: the empty name is what is stored";
+  EXPECT_EQ(loaded.permanentEnergyUpgrade, 7);
+}
+
+}  // namespace
+}  // namespace backbeat
