@@ -1,0 +1,23 @@
+// The life tab: getting better, working, and how the artist lives.
+#pragma once
+
+#include "core/screen.h"
+
+namespace backbeat {
+
+class DailyLifeViewController final : public Screen {
+ public:
+  using Screen::Screen;
+  Outcome act(const Action& action) override;
+  View view() const override;
+
+  /// Opens the job board. Each visit costs 5 energy; with less, the energy figure shakes.
+  Outcome goToJobBoardButton();
+
+ private:
+  void describeSkills(View& view) const;
+  void describeLifestyle(View& view) const;
+  void describeAccounts(View& view) const;
+};
+
+}  // namespace backbeat

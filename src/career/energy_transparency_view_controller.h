@@ -1,0 +1,16 @@
+// Where the artist's energy goes and comes from.
+#pragma once
+
+#include "core/screen.h"
+
+namespace backbeat {
+
+class EnergyTransparencyViewController final : public Screen {
+ public:
+  using Screen::Screen;
+  /// Nothing can be pressed: this screen only tells.
+  Outcome act(const Action&) override { return {}; }
+  View view() const override;
+};
+
+}  // namespace backbeat
