@@ -1,0 +1,22 @@
+// Picks the album in production that a song goes on.
+#pragma once
+
+#include "core/screen.h"
+
+namespace backbeat {
+
+class AddToAlbumViewController final : public Screen {
+ public:
+  AddToAlbumViewController(Game& game, int64_t songId) : Screen(game), songId_(songId) {}
+  Outcome act(const Action& action) override;
+  View view() const override;
+
+ private:
+  /// Positions of the albums in production that the song is not on.
+  std::vector<size_t> offered() const;
+
+  int64_t songId_;
+  ListWindow albums_;
+};
+
+}  // namespace backbeat

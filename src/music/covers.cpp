@@ -1,0 +1,36 @@
+#include "music/covers.h"
+
+namespace backbeat {
+
+namespace {
+
+/// Empty when the album has no cover of its own.
+Picture chosenCover(const GameState& state, int64_t albumId) {
+  const RecordList<AlbumCover>& covers = state.saveAllAlbumCovers;
+  const size_t found = covers.find([&](const AlbumCover& chosen) { return chosen.albumId == albumId; });
+  if (found == covers.size() || covers[found].imageString.empty()) return {};
+  return pictureOf(covers[found].imageString);
+}
+
+Picture coverFor(const GameState& state, int64_t albumId, const std::string& title) {
+  Picture chosen = albumId == 0 ? Picture() : chosenCover(state, albumId);
+  return chosen.kind == Picture::Kind::none ? cover(title) : chosen;
+}
+
+}  // namespace
+
+Picture pictureOf(const std::string& imageString) {
+  if (imageString.starts_with("data:")) return {Picture::Kind::photo, imageString};
+  return cover(imageString);
+}
+
+Picture coverOf(const GameState& state, const Album& album) { return coverFor(state, album.albumId, album.title); }
+
+Picture coverOf(const GameState& state, const Song& song) { return coverFor(state, song.albumId, song.title); }
+
+Picture coverOfSong(const GameState& state, int64_t songId, const std::string& title) {
+  const size_t found = state.saveAllSongList.find([&](const Song& song) { return song.songId == songId; });
+  return found == state.saveAllSongList.size() ? cover(title) : coverOf(state, state.saveAllSongList[found]);
+}
+
+}  // namespace backbeat

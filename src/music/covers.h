@@ -1,0 +1,22 @@
+// Which picture a song or an album wears, wherever it appears.
+#pragma once
+
+#include "core/game_state.h"
+#include "core/view.h"
+
+namespace backbeat {
+
+/// The picture behind a stored name: the player's own photo as a data: address, or artwork of that name.
+Picture pictureOf(const std::string& imageString);
+
+/// The album's chosen cover: one of the generated ones by name, or the player's own photo. Artwork named after the
+/// title when none was chosen.
+Picture coverOf(const GameState& state, const Album& album);
+
+/// The cover of its album, or artwork named after the title for a single.
+Picture coverOf(const GameState& state, const Song& song);
+
+/// The same by id, for records that outlive their song.
+Picture coverOfSong(const GameState& state, int64_t songId, const std::string& title);
+
+}  // namespace backbeat

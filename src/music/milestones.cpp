@@ -1,0 +1,121 @@
+#include "music/milestones.h"
+
+#include <algorithm>
+
+#include "core/money.h"
+#include "music/certifications.h"
+#include "music/streaming.h"
+
+namespace backbeat {
+
+namespace {
+
+using Kind = Milestone::Kind;
+using SongStanding = MilestoneSnapshot::SongStanding;
+
+constexpr size_t weeksToBeat = 3;
+
+Milestone ofSong(Kind kind, int64_t songId, std::string text) { return {kind, songId, -1, std::move(text)}; }
+Milestone ofAlbum(Kind kind, int64_t albumId, std::string text) { return {kind, -1, albumId, std::move(text)}; }
+
+std::string quoted(const std::string& title) { return "“" + title + "”"; }
+
+/// The standing of a song, or nullptr when it was not among those that can move.
+template <class Songs>
+auto* standingOf(Songs& songs, int64_t songId) {
+  const auto found = std::lower_bound(songs.begin(), songs.end(), songId,
+                                      [](const SongStanding& song, int64_t id) { return song.songId < id; });
+  return found == songs.end() || found->songId != songId ? nullptr : &*found;
+}
+
+void addChartMilestone(std::vector<Milestone>& milestones, const SongStanding& before, const BillboardSong& row) {
+  const std::string title = quoted(row.songTitle);
+  if (!before.wasFirst && row.weeksAtOne > 0) {
+    milestones.push_back(ofSong(Kind::numberOne, row.songId, title + " is number one!"));
+  } else if (before.peak == 0) {
+    milestones.push_back(
+        ofSong(Kind::chartDebut, row.songId, title + " enters the chart at " + rank(row.rankThisWeek)));
+  } else if (row.peakPosition < before.peak) {
+    milestones.push_back(ofSong(Kind::newPeak, row.songId, title + " climbs to a new peak: " + rank(row.peakPosition)));
+  }
+}
+
+std::string certified(const std::string& title, int64_t tier) {
+  return quoted(title) + " is certified " + std::string(certificationName(tier));
+}
+
+/// The count of the week's row when it beats every earlier one, or 0. `weeks` are the rows of one song or album.
+template <class T>
+int64_t recordCount(const RecordList<T>& list, std::span<const uint32_t> weeks, int64_t T::*count) {
+  if (weeks.size() <= weeksToBeat) return 0;
+  const int64_t latest = list[weeks.back()].*count;
+  const bool beaten =
+      std::any_of(weeks.begin(), weeks.end() - 1, [&](uint32_t position) { return list[position].*count >= latest; });
+  return beaten ? 0 : latest;
+}
+
+void addRecords(std::vector<Milestone>& milestones, const GameState& after, CalendarWeek week) {
+  const auto& streams = after.saveAllWeeklySongListens;
+  for (const WeeklySongListens& row : rowsOfWeek(streams, week)) {
+    const int64_t best = recordCount(streams, streams.historyOf(row.songId), &WeeklySongListens::songListens);
+    if (best == 0) continue;
+    milestones.push_back(ofSong(Kind::recordWeek, row.songId,
+                                quoted(row.songTitle) + " has its best week yet: " + counted(best, "stream")));
+  }
+  const auto& sales = after.saveAllWeeklyAlbumSales;
+  for (const WeeklyAlbumSales& row : rowsOfWeek(sales, week)) {
+    const int64_t best = recordCount(sales, sales.historyOf(row.albumId), &WeeklyAlbumSales::albumSales);
+    if (best == 0) continue;
+    milestones.push_back(ofAlbum(Kind::recordWeek, row.albumId,
+                                 quoted(row.albumTitle) + " has its best week yet: " + withCommas(best) + " sold"));
+  }
+}
+
+}  // namespace
+
+MilestoneSnapshot milestoneSnapshot(const GameState& state) {
+  MilestoneSnapshot snapshot;
+  for (const Song& song : state.saveAllSongList) {
+    if (!song.isReleased || !(remainingLife(state, song) > 0)) continue;
+    snapshot.songs.push_back({song.songId, songCertificationTier(song.totalListen), 0, false});
+  }
+  std::sort(snapshot.songs.begin(), snapshot.songs.end(),
+            [](const SongStanding& a, const SongStanding& b) { return a.songId < b.songId; });
+  for (const BillboardSong& row : state.saveAllBillboardSongList) {
+    SongStanding* song = standingOf(snapshot.songs, row.songId);
+    if (!song) continue;
+    song->peak = row.peakPosition;
+    song->wasFirst = row.weeksAtOne > 0;
+  }
+  for (const Album& album : state.saveAllAlbumList) {
+    snapshot.albums.push_back({album.albumId, albumCertificationTier(album)});
+  }
+  return snapshot;
+}
+
+std::vector<Milestone> milestonesSince(const MilestoneSnapshot& before, const GameState& after, CalendarWeek week) {
+  std::vector<Milestone> milestones;
+  for (const BillboardSong& row : after.saveAllBillboardSongList) {
+    const SongStanding* song = row.isOnCharts ? standingOf(before.songs, row.songId) : nullptr;
+    if (song) addChartMilestone(milestones, *song, row);
+  }
+  for (const Song& song : after.saveAllSongList) {
+    const SongStanding* standing = standingOf(before.songs, song.songId);
+    const int64_t tier = songCertificationTier(song.totalListen);
+    if (standing && tier > standing->tier) {
+      milestones.push_back(ofSong(Kind::certification, song.songId, certified(song.title, tier)));
+    }
+  }
+  for (size_t i = 0; i < std::min(before.albums.size(), after.saveAllAlbumList.size()); ++i) {
+    const Album& album = after.saveAllAlbumList[i];
+    const int64_t tier = albumCertificationTier(album);
+    if (album.albumId != before.albums[i].albumId || tier <= before.albums[i].tier) continue;
+    milestones.push_back(ofAlbum(Kind::certification, album.albumId, certified(album.title, tier)));
+  }
+  addRecords(milestones, after, week);
+  std::stable_sort(milestones.begin(), milestones.end(),
+                   [](const Milestone& a, const Milestone& b) { return a.kind < b.kind; });
+  return milestones;
+}
+
+}  // namespace backbeat

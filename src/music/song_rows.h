@@ -1,0 +1,19 @@
+// How a song stands in a list.
+#pragma once
+
+#include "core/game_state.h"
+#include "core/view.h"
+
+namespace backbeat {
+
+/// A song in a list of the player's own: cover, title, what it is on, streams so far and in its last week. A press of
+/// "song:<id>" opens it.
+Row songRow(const GameState& state, const Song& song);
+
+/// The streams of the song's latest recorded week, 0 when there is none.
+int64_t latestWeeklyStreams(const GameState& state, const Song& song);
+
+/// "12 weeks left", or that it has gone silent: how long a released song still streams.
+std::string lifeLeft(const GameState& state, const Song& song);
+
+}  // namespace backbeat

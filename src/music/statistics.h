@@ -1,0 +1,31 @@
+// How songs and albums have done, told from the weekly records alone.
+#pragma once
+
+#include "core/game_state.h"
+#include "core/view.h"
+
+namespace backbeat {
+
+/// What the recorded weeks of one song or album come to. Weeks that left no record count for nothing.
+struct WeeklyFigures {
+  int64_t weeks = 0;
+  int64_t latest = 0;  ///< streams or units of the latest recorded week
+  int64_t best = 0;    ///< of the best one
+  double earned = 0;   ///< dollars
+};
+WeeklyFigures songFigures(const GameState& state, int64_t songId);
+WeeklyFigures albumFigures(const GameState& state, int64_t albumId);
+
+/// The latest recorded weeks as a graph, `mostWeeks` of them, over the lifetime figure and the weeks left to live.
+Chart streamsChart(const GameState& state, const Song& song, size_t mostWeeks);
+Chart salesChart(const GameState& state, const Album& album, size_t mostWeeks);
+
+/// How far a total is on its way to the next certification.
+Meter songCertificationMeter(const Song& song);
+Meter albumCertificationMeter(const Album& album);
+
+/// What a song earned, week by week, the latest first.
+Table streamsTable(const GameState& state, int64_t songId, size_t mostWeeks);
+Table salesTable(const GameState& state, int64_t albumId, size_t mostWeeks);
+
+}  // namespace backbeat
