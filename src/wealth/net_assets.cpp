@@ -1,0 +1,43 @@
+#include "wealth/net_assets.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr double yearlyDepreciation = -0.025;
+
+}  // namespace
+
+double venturesValue(const GameState& state) {
+  double sum = 0;
+  for (const Venture& venture : state.saveAllVentureInvestments) {
+    if (venture.hasExited != 0 || venture.totalOutstandingShares == 0) continue;
+    const double per100 =
+        static_cast<double>(venture.totalSharesOwned) / static_cast<double>(venture.totalOutstandingShares) * 100;
+    sum += per100 / 100 * static_cast<double>(venture.lastValuation);
+  }
+  return sum;
+}
+
+double propertiesValue(const GameState& state) {
+  double sum = 0;
+  for (const InvestmentProperty& house : state.saveAllInvestmentPropertyList) {
+    sum += house.pricePaid * (state.realEstateIndex - house.realEstateIndex + 1);
+  }
+  return sum;
+}
+
+double transportationValue(const GameState& state) {
+  double sum = 0;
+  for (const Transportation& vehicle : state.saveAllTransportationOwnedList) {
+    const double years = static_cast<double>(state.yearNumber - vehicle.yearPurchased);
+    sum += vehicle.pricePaid + years * yearlyDepreciation * vehicle.pricePaid;
+  }
+  return sum;
+}
+
+double netAssets(const GameState& state) {
+  return venturesValue(state) + propertiesValue(state) + transportationValue(state) + state.totalCashAvailable;
+}
+
+}  // namespace backbeat
