@@ -1,0 +1,163 @@
+#include "turn/weekly_report.h"
+
+#include <algorithm>
+#include <array>
+
+#include "career/ledger.h"
+#include "core/bands.h"
+#include "social/chirps.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr std::array<std::string_view, 20> concertQuotes = {
+    "Empty seats or not, we sang every word tonight.",
+    "To everyone who came: you were louder than the room deserved.",
+    "Small crowd, big hearts. Thank you for tonight!",
+    "Not a full house, but it felt like home.",
+    "Some nights you play for the few. They deserve it most.",
+    "Tonight was intimate. I kind of loved it.",
+    "Next time bring a friend, okay?",
+    "We made a lot of noise for the people we had!",
+    "Thank you for dancing in all that space.",
+    "Every seat that was taken was taken by a legend.",
+    "I could see every single face tonight. Beautiful.",
+    "A quiet night, a loud encore. Goodnight!",
+    "My voice is gone, my heart is full.",
+    "The front row knew every line. I saw you!",
+    "Rain, traffic, and you still came. Thank you.",
+    "Tonight we played for us.",
+    "That last chorus gave me chills.",
+    "Half a room, twice the love.",
+    "I'll be back, and you'll tell them you were here first.",
+    "On to the next city. Thank you for having me!",
+};
+
+constexpr Band<double, int64_t> starBands[] = {{20, 1}, {45, 2}, {70, 3}, {90, 4}};
+constexpr int64_t mostStars = 5;
+
+template <class T>
+std::vector<T> gathered(const RecordList<T>& list, CalendarWeek week) {
+  const std::span<const T> rows = rowsOfWeek(list, week);
+  return {rows.begin(), rows.end()};
+}
+
+template <class T>
+double sumOf(const std::vector<T>& rows, double T::*member) {
+  double sum = 0;
+  for (const T& row : rows) sum += row.*member;
+  return sum;
+}
+
+std::optional<Festival> festivalOf(const GameState& state, CalendarWeek week) {
+  for (const Festival& festival : state.saveAllFestivalList) {
+    if (CalendarWeek{festival.weekNumber, festival.yearNumber} == week) return festival;
+  }
+  return std::nullopt;
+}
+
+/// The show of the week tells the feed how it went.
+void chirpAboutShow(Game& game, const WeeklyReport& report) {
+  if (report.weeklyTourSales.empty()) return;
+  const auto soldOut = std::find_if(report.weeklyTourSales.begin(), report.weeklyTourSales.end(),
+                                    [](const WeeklyTourSales& show) { return show.soldOut == 1; });
+  const std::string message = soldOut != report.weeklyTourSales.end() ? "Sold out show 🔥 " + soldOut->tourLocation
+                                                                      : std::string(game.random.element(concertQuotes));
+  postChirpForArtist(game, message, game.state.followerCount);
+}
+
+void settleLedger(GameState& state, WeeklyReport& report) {
+  for (const WeeklyLineItem& item : state.saveAllWeeklyLineItems) {
+    (item.isExpense ? report.standingExpenses : report.standingIncome) += item.amount;
+    if (item.typeOfExpense >= expense::firstStaff && item.typeOfExpense <= expense::lastLabelCost) {
+      state.totalRecordLabelCost += item.amount;
+    }
+  }
+}
+
+void settleLabel(GameState& state, WeeklyReport& report) {
+  if (state.isLabelLaunched < 1) return;
+  report.label = (sumOf(report.weeklyEarningsSignedArtistSongs, &SignedArtistWeeklySongListens::totalStreamRevenue) +
+                  sumOf(report.weeklyEarningsSignedArtistAlbums, &SignedArtistWeeklyAlbumSales::albumRevenue)) *
+                 (1 + state.labelRevenueBonus / 100);
+  if (state.labelOfficePerkSpend > 0) {
+    report.labelExpenses += state.labelOfficePerkSpend * static_cast<double>(state.saveAllEmployeeList.size());
+  }
+  report.labelExpenses += state.labelOfficeRent;
+  state.totalRecordLabelCost += report.labelExpenses;
+}
+
+}  // namespace
+
+CalendarWeek reportedWeek(const GameState& state) {
+  if (state.weekNumber - 1 == 0) return {52, state.yearNumber - 1};
+  return {state.weekNumber - 1, state.yearNumber};
+}
+
+WeeklyReport buildWeeklyReport(Game& game) {
+  const GameState& state = game.state;
+  WeeklyReport report;
+  report.week = reportedWeek(state);
+  report.weeklyAlbumSales = gathered(state.saveAllWeeklyAlbumSales, report.week);
+  report.weeklySongListens = gathered(state.saveAllWeeklySongListens, report.week);
+  report.weeklyTourSales = gathered(state.saveAllWeeklyTourSales, report.week);
+  report.weeklyEarningsSignedArtistSongs = gathered(state.saveAllSignedArtistWeeklySongListens, report.week);
+  report.weeklyEarningsSignedArtistAlbums = gathered(state.saveAllSignedArtistWeeklyAlbumSales, report.week);
+  report.weeklyFeaturedOnSongListens = gathered(state.saveAllFeaturedOnWeeklySongListens, report.week);
+  report.weeklyMerchSales = gathered(state.saveAllMerchWeeklySales, report.week);
+  report.weeklyMusicVideoViews = gathered(state.saveAllWeeklyVideoViews, report.week);
+  report.festival = festivalOf(state, report.week);
+  std::stable_sort(
+      report.weeklySongListens.begin(), report.weeklySongListens.end(),
+      [](const WeeklySongListens& a, const WeeklySongListens& b) { return a.songListens > b.songListens; });
+  chirpAboutShow(game, report);
+  return report;
+}
+
+void settleWeeklyCash(Game& game, WeeklyReport& report) {
+  GameState& state = game.state;
+  ensureBasicNeeds(game);
+  settleLedger(state, report);
+  report.family = familyCosts(state);
+  report.totalAlbumRevenue = sumOf(report.weeklyAlbumSales, &WeeklyAlbumSales::albumRevenue);
+  if (!report.weeklySongListens.empty()) report.streams = report.weeklySongListens.front().totalStreamRevenue;
+  if (!report.weeklyTourSales.empty()) report.tour = report.weeklyTourSales.front().tourRevenue;
+  if (report.festival) report.festivalPayment = report.festival->payment;
+  settleLabel(state, report);
+  report.featured = sumOf(report.weeklyFeaturedOnSongListens, &FeaturedOnWeeklySongListens::totalStreamRevenue);
+  for (const MerchWeeklySales& sales : report.weeklyMerchSales) {
+    report.merch += sales.merchGross - sales.merchTransactionFees;
+    report.merchUnits += sales.unitsSold;
+  }
+  report.videos = sumOf(report.weeklyMusicVideoViews, &WeeklyVideoViews::totalViewRevenue);
+  report.job = state.weeklyJobIncome;
+
+  // A tour week that lost money is an expense, not a smaller revenue.
+  const double tourIncome = std::max(report.tour, 0.0);
+  const double tourLoss = std::max(-report.tour, 0.0);
+  report.totalExpenses = report.standingExpenses + report.family + tourLoss + report.labelExpenses;
+  report.totalRevenue = report.videos + report.streams + report.featured + report.merch +
+                        (report.standingIncome + tourIncome + report.festivalPayment + report.label) +
+                        report.totalAlbumRevenue + report.job;
+  state.totalCashAvailable += report.totalRevenue - report.totalExpenses;
+  game.save(&GameState::totalCashAvailable, &GameState::totalRecordLabelCost);
+}
+
+int64_t festivalStars(double reviewStars) { return bandFor(starBands, reviewStars, mostStars); }
+
+double familyCosts(const GameState& state) {
+  double sum = 0;
+  for (const Child& child : state.saveAllChildList) {
+    if (child.typeOfRelationship >= 1) sum += child.weeklyFinancialCost;
+  }
+  return sum;
+}
+
+double standingWeeklyNet(const GameState& state) {
+  double net = (state.weeklyJobContractRemaining >= 1 ? state.weeklyJobIncome : 0) - familyCosts(state);
+  for (const WeeklyLineItem& item : state.saveAllWeeklyLineItems) net += item.isExpense ? -item.amount : item.amount;
+  return net;
+}
+
+}  // namespace backbeat

@@ -1,0 +1,64 @@
+// The second half of the turn: opening the report gathers the records of the week that ended and settles its cash.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "core/game.h"
+#include "core/week_rows.h"
+
+namespace backbeat {
+
+/// What the report knows while it is open; never saved.
+struct WeeklyReport {
+  CalendarWeek week;  ///< the week reported: the calendar has moved on already
+  std::vector<WeeklyAlbumSales> weeklyAlbumSales;
+  std::vector<WeeklySongListens> weeklySongListens;  ///< most streams first
+  std::vector<WeeklyTourSales> weeklyTourSales;
+  std::vector<SignedArtistWeeklySongListens> weeklyEarningsSignedArtistSongs;
+  std::vector<SignedArtistWeeklyAlbumSales> weeklyEarningsSignedArtistAlbums;
+  std::vector<FeaturedOnWeeklySongListens> weeklyFeaturedOnSongListens;
+  std::vector<MerchWeeklySales> weeklyMerchSales;
+  std::vector<WeeklyVideoViews> weeklyMusicVideoViews;
+  std::optional<Festival> festival;  ///< the first one played that week
+
+  // The settlement, line by line, in dollars.
+  double totalAlbumRevenue = 0;
+  double streams = 0;  ///< of the most streamed song alone: the others are shown and pay nothing, on purpose
+  double tour = 0;     ///< negative: it stands among the expenses
+  double festivalPayment = 0;
+  double label = 0;
+  double featured = 0;
+  double merch = 0;  ///< shown and counted, though its cash moved at the sale
+  double videos = 0;
+  double job = 0;
+  double standingIncome = 0;
+  double standingExpenses = 0;
+  double family = 0;
+  double labelExpenses = 0;  ///< perks and rent
+  double totalRevenue = 0;
+  double totalExpenses = 0;
+  int64_t merchUnits = 0;
+};
+
+/// The week before the one that the calendar shows; week 1 reports week 52 of the year before.
+CalendarWeek reportedWeek(const GameState& state);
+
+/// Gathers the records of the reported week and tells the feed of its show.
+WeeklyReport buildWeeklyReport(Game& game);
+
+/// Moves the week's net into the cash, which may fall below 0, and the label's costs into their total. Nothing can
+/// refuse it. Runs exactly once a week.
+void settleWeeklyCash(Game& game, WeeklyReport& report);
+
+/// Stars of a festival's review by its score.
+int64_t festivalStars(double reviewStars);
+
+/// Dollars a week for the children who live in the family.
+double familyCosts(const GameState& state);
+
+/// Standing income less standing costs of the coming week: what the ledger, the job and the family come to without any
+/// release. A job whose contract has run out pays no more.
+double standingWeeklyNet(const GameState& state);
+
+}  // namespace backbeat

@@ -1,0 +1,47 @@
+// The weekly report. Opening it is the moment at which a week's cash is settled.
+#pragma once
+
+#include "core/screen.h"
+#include "music/milestones.h"
+#include "turn/weekly_events.h"
+#include "turn/weekly_report.h"
+
+namespace backbeat {
+
+class WeeklySummaryViewController final : public Screen {
+ public:
+  using Screen::Screen;
+
+  /// The opening chain, one step that nothing interrupts: gather, settle, valuations, events, exits, staff and artists,
+  /// awards.
+  Outcome open() override;
+  /// The chain of the first appearance, which runs exactly once: the rating offer, the contract's deadline, the
+  /// relationship.
+  Outcome appear() override;
+  Outcome act(const Action& action) override;
+  View view() const override;
+
+  /// In week 31, until it was answered once: 250 energy for an opinion.
+  Outcome offerEnergyForRating() const;
+  /// Any answer gives the energy, over the ceiling too; only the first one asks for the platform's rating.
+  Outcome answerRatingOffer(int64_t answer);
+  /// The week's side gigs; each button is good for one press and hides whatever comes of it.
+  Outcome eventButton1() { return pressEventButton(game_, events_, events_.buttonEvent1); }
+  Outcome eventButton2() { return pressEventButton(game_, events_, events_.buttonEvent2); }
+  Outcome eventButton3() { return pressEventButton(game_, events_, events_.buttonEvent3); }
+  /// The only way out. A year's news of the children comes with it.
+  Outcome closeButton();
+
+  const WeeklyReport& report() const { return report_; }
+
+ private:
+  void describeEvents(View& view) const;
+
+  WeeklyReport report_;
+  std::vector<Milestone> milestones_;  // greatest first
+  WeeklyEvents events_;
+  double cashBefore_ = 0;
+  bool hasAppeared_ = false;
+};
+
+}  // namespace backbeat
