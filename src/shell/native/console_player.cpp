@@ -1,0 +1,170 @@
+#include "shell/native/console_player.h"
+
+#include <algorithm>
+#include <istream>
+#include <ostream>
+#include <utility>
+
+#include "core/case_folding.h"
+#include "core/text.h"
+#include "shell/native/terminal_text.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr const char* helpText =
+    "Type the number of what you want to press.\n"
+    "  3 Midnight Rivers   fills a text           5 2           takes option 2\n"
+    "  4 on, 4 off         turns a switch         more, earlier moves in a long list\n"
+    "  home, music, life, business, social        the tabs\n"
+    "  back                one screen back        end           END THE WEEK\n"
+    "  info                about this screen      again         shows it once more\n"
+    "  help                this text              quit          leaves; everything is kept\n"
+    "✗ stands behind a price that you cannot pay now.\n";
+
+/// The input up to the first space, and what stands behind it.
+std::pair<std::string_view, std::string_view> firstWord(std::string_view input) {
+  const size_t space = std::min(input.find(' '), input.size());
+  std::string_view rest = input.substr(space);
+  while (rest.starts_with(' ')) rest.remove_prefix(1);
+  return {input.substr(0, space), rest};
+}
+
+}  // namespace
+
+ConsolePlayer::ConsolePlayer(TraceRecorder& career, std::istream& in, std::ostream& out, Look look,
+                             std::function<int64_t()> now)
+    : career_(career), in_(in), out_(out), look_(look), now_(std::move(now)) {}
+
+void ConsolePlayer::run() {
+  show();
+  std::string line;
+  do {
+    if (look_.prompt) out_ << "> ";
+    out_.flush();
+    if (!std::getline(in_, line)) break;
+    if (line.ends_with('\r')) line.pop_back();
+  } while (obey(line));
+  out_ << "See you. Your career is kept up to here.\n";
+  out_.flush();
+}
+
+void ConsolePlayer::show() {
+  const Session& session = career_.session();
+  shown_ = session.shown();
+  printed_ = printScreen(session.navigator(), shown_, look_.colour);
+  out_ << '\n' << printed_.text;
+  if (shown_.endWeek && !shown_.alert) say("Type end to END THE WEEK, a number to press, or help.");
+  if (shown_.feedback == Feedback::energyBounce) say("⚡ This week's energy does not reach for that.");
+  if (session.game().saveFile.failing()) {
+    say("Nothing could be saved just now. The game tries again with every press; do not leave before it works.");
+  }
+}
+
+void ConsolePlayer::say(const std::string& text) { out_ << text << '\n'; }
+
+bool ConsolePlayer::obey(std::string_view input) {
+  const std::string clean = trimmed(validUtf8(input));
+  const auto [word, value] = firstWord(clean);
+  if (word.empty()) {
+    show();
+  } else if (const auto number = wholeNumber(word)) {
+    pressNumber(static_cast<size_t>(std::max<int64_t>(*number, 0)), value);
+  } else {
+    return obeyWord(foldCase(word));
+  }
+  return true;
+}
+
+bool ConsolePlayer::obeyWord(const std::string& word) {
+  if (word == "quit" || word == "exit") return false;
+  const auto tab =
+      std::find_if(tabs().begin(), tabs().end(), [&](const Tab& each) { return foldCase(each.label) == word; });
+  if (word == "help" || word == "?") {
+    out_ << helpText;
+  } else if (word == "again") {
+    show();
+  } else if (word == "info") {
+    out_ << printHelp(shown_.view);
+  } else if (shown_.alert) {
+    say("Answer the message first: type the number of a button.");
+  } else if (tab != tabs().end()) {
+    pressTab(static_cast<size_t>(tab - tabs().begin()));
+  } else if (word == "back") {
+    pressBack();
+  } else if (word == "end") {
+    pressEnd();
+  } else if (word == "more" || word == "earlier") {
+    pressWindow(word == "earlier");
+  } else {
+    say("\"" + oneLine(word, 30) + "\" means nothing here. Type a number from the screen, or help.");
+  }
+  return true;
+}
+
+void ConsolePlayer::pressNumber(size_t number, std::string_view value) {
+  const size_t count = printed_.pressables.size();
+  if (number < 1 || number > count) {
+    return say(count == 0 ? "There is nothing to press here. Type help for what else you can do."
+                          : "The numbers here go from 1 to " + std::to_string(count) + ".");
+  }
+  const Pressable chosen = printed_.pressables[number - 1];
+  Action action = chosen.action;
+  const std::string name = std::to_string(number);
+  switch (chosen.takes) {
+    case Pressable::Takes::text:
+      if (value.empty()) return say("Type the text behind the number: " + name + " Your words");
+      action.value =
+          chosen.maxLength > 0 ? firstCharacters(value, static_cast<size_t>(chosen.maxLength)) : std::string(value);
+      break;
+    case Pressable::Takes::option: {
+      const auto option = wholeNumber(value);
+      if (!option || *option < 1 || *option > chosen.options) {
+        return say("Type the number of an option behind it, 1 to " + std::to_string(chosen.options) + ": " + name +
+                   " 1");
+      }
+      action.value = std::to_string(*option - 1);
+      break;
+    }
+    case Pressable::Takes::flag:
+      if (value == "on") action.value = "1";
+      if (value == "off") action.value = "0";
+      break;
+    case Pressable::Takes::nothing:
+    case Pressable::Takes::row: break;
+  }
+  press(chosen.screenKey, action);
+}
+
+void ConsolePlayer::pressTab(size_t tab) {
+  if (shown_.modal) return say("This screen wants an answer before you go anywhere else.");
+  press("tabs", {"tab", std::to_string(tab)});
+}
+
+void ConsolePlayer::pressBack() {
+  if (shown_.modal) return say("This screen closes with one of its own buttons.");
+  if (shown_.stack.size() <= 1) return say("This is the first screen of the tab. Type home, or quit to leave.");
+  press("nav", {"back", ""});
+}
+
+void ConsolePlayer::pressEnd() {
+  if (!shown_.endWeek) return say("END THE WEEK waits on the first screen of each tab. Go back, or type home.");
+  press("nav", {"endTheWeekButton", ""});
+}
+
+void ConsolePlayer::pressWindow(bool earlier) {
+  for (const Pressable& pressable : printed_.pressables) {
+    if (pressable.takes == Pressable::Takes::row && pressable.earlier == earlier) {
+      return press(pressable.screenKey, pressable.action);
+    }
+  }
+  say(earlier ? "There are no earlier rows here." : "There are no more rows here.");
+}
+
+void ConsolePlayer::press(const std::string& screenKey, const Action& action) {
+  career_.play(actEvent(now_(), screenKey, action));
+  show();
+}
+
+}  // namespace backbeat

@@ -1,0 +1,49 @@
+#include "shell/native/save_info.h"
+
+#include <algorithm>
+
+#include "core/memory_store.h"
+#include "core/money.h"
+#include "core/save_file.h"
+#include "shell/native/terminal_text.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr size_t nameColumns = 40;
+
+void add(std::string& text, const std::string& name, const std::string& value) {
+  text += padded(name, nameColumns) + value + "\n";
+}
+
+}  // namespace
+
+std::string saveInfo(Store& store) {
+  MemoryStore copy;
+  const bool readable = store.visitRows([&](std::string_view key, int32_t chunk, const Value& value) {
+    copy.rows[{std::string(key), chunk}] = value;
+  });
+  if (!readable) return "The save could not be read.\n";
+  GameState state;
+  const LoadReport report = SaveFile(copy).load(state);
+  std::string text;
+  add(text, "Artist", state.myArtistsName.empty() ? "(no name yet)" : oneLine(state.myArtistsName, nameColumns));
+  add(text, "Date",
+      "Week " + std::to_string(state.weekNumber) + ", " + std::to_string(state.yearNumber) + " (week " +
+          std::to_string(state.weekNumberForTracking) + " of the career)");
+  add(text, "Cash", currency(state.totalCashAvailable));
+  add(text, "Monthly listeners", withCommas(state.totalFans));
+  const auto released = std::count_if(state.saveAllSongList.begin(), state.saveAllSongList.end(),
+                                      [](const Song& song) { return song.isReleased; });
+  add(text, "Songs",
+      withCommas(static_cast<int64_t>(state.saveAllSongList.size())) + ", " + withCommas(released) + " released");
+  forEachField<GameState>([&](const auto& field) {
+    const size_t rows = (state.*field.member).size();
+    if (rows > 0) add(text, "  " + std::string(field.key), counted(static_cast<int64_t>(rows), "row"));
+  });
+  for (const std::string& key : report.damagedLists) add(text, "  " + key, "DAMAGED: cannot be read");
+  return text;
+}
+
+}  // namespace backbeat

@@ -1,0 +1,238 @@
+#include "shell/native/sqlite_store.h"
+
+#include <sqlite3.h>
+
+#include <cmath>
+#include <filesystem>
+#include <limits>
+#include <system_error>
+#include <utility>
+
+namespace backbeat {
+namespace {
+
+constexpr int applicationId = 0x42424254;
+constexpr int formatVersion = 1;
+constexpr int newerFormat = SQLITE_MISMATCH;  // SQLite itself never answers so to what is asked here
+
+// The first access after this takes the file's lock and keeps it until the store is closed.
+constexpr const char* lock = "PRAGMA locking_mode = EXCLUSIVE";
+
+constexpr const char* tune =
+    "PRAGMA page_size = 4096;"
+    "PRAGMA journal_mode = WAL;"
+    "PRAGMA synchronous = NORMAL;"
+    "PRAGMA wal_autocheckpoint = 0;"
+    "PRAGMA cell_size_check = ON;";
+
+constexpr const char* tables =
+    "CREATE TABLE IF NOT EXISTS kv (key TEXT PRIMARY KEY, value) WITHOUT ROWID;"
+    "CREATE TABLE IF NOT EXISTS list (key TEXT, chunk INT, blob BLOB, PRIMARY KEY (key, chunk));"
+    "CREATE TABLE IF NOT EXISTS quarantine (key TEXT, chunk INT, value, taken TEXT DEFAULT CURRENT_TIMESTAMP);";
+
+std::string problemText(int code, const std::string& path) {
+  switch (code & 0xFF) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED: return "The save " + path + " is open in another running game; close that one first.";
+    case SQLITE_NOTADB: return "The file " + path + " is not a save of this game.";
+    case SQLITE_CORRUPT: return "The save " + path + " is damaged and cannot be opened.";
+    case newerFormat: return "The save " + path + " was made by a newer version of the game.";
+    case SQLITE_FULL: return "There is no room left on the disk for the save " + path + ".";
+    case SQLITE_PERM:
+    case SQLITE_READONLY:
+    case SQLITE_CANTOPEN: return "The save " + path + " cannot be opened for reading and writing.";
+    default: return "The save " + path + " cannot be opened: " + sqlite3_errstr(code) + ".";
+  }
+}
+
+int execute(sqlite3* database, const std::string& sql) {
+  return sqlite3_exec(database, sql.c_str(), nullptr, nullptr, nullptr);
+}
+
+// The number that a query answers with; in `code` SQLITE_OK or what went wrong.
+int queryNumber(sqlite3* database, const char* sql, int& code) {
+  sqlite3_stmt* statement = nullptr;
+  code = sqlite3_prepare_v2(database, sql, -1, &statement, nullptr);
+  if (code != SQLITE_OK) return 0;
+  const int step = sqlite3_step(statement);
+  const int number = step == SQLITE_ROW ? sqlite3_column_int(statement, 0) : 0;
+  code = step == SQLITE_ROW ? SQLITE_OK : step;
+  sqlite3_finalize(statement);
+  return number;
+}
+
+// A file that holds tables of its own or another mark is somebody else's.
+int checkOwner(sqlite3* database) {
+  int code;
+  const int id = queryNumber(database, "PRAGMA application_id", code);
+  if (code != SQLITE_OK) return code;
+  const int objects = queryNumber(database, "SELECT count(*) FROM sqlite_schema", code);
+  if (code != SQLITE_OK) return code;
+  return id == applicationId || (id == 0 && objects == 0) ? SQLITE_OK : SQLITE_NOTADB;
+}
+
+int makeTables(sqlite3* database) {
+  int code;
+  const int version = queryNumber(database, "PRAGMA user_version", code);
+  if (code != SQLITE_OK || version == formatVersion) return code;
+  if (version > formatVersion) return newerFormat;
+  return execute(database, std::string("BEGIN;") + tables + "PRAGMA application_id = " + std::to_string(applicationId) +
+                               "; PRAGMA user_version = " + std::to_string(formatVersion) + "; COMMIT;");
+}
+
+void bindKey(sqlite3_stmt* statement, std::string_view key, int32_t chunk) {
+  sqlite3_bind_text64(statement, 1, key.data(), key.size(), SQLITE_STATIC, SQLITE_UTF8);
+  if (chunk != wholeRow) sqlite3_bind_int(statement, 2, chunk);
+}
+
+void bindValue(sqlite3_stmt* statement, int column, const Value& value) {
+  if (const auto* whole = std::get_if<int64_t>(&value)) {
+    sqlite3_bind_int64(statement, column, *whole);
+  } else if (const auto* real = std::get_if<double>(&value)) {
+    sqlite3_bind_double(statement, column, *real);
+  } else {
+    const Bytes& bytes = std::get<Bytes>(value);
+    sqlite3_bind_blob64(statement, column, bytes.data(), bytes.size(), SQLITE_STATIC);
+  }
+}
+
+std::string_view bytesAt(sqlite3_stmt* statement, int column) {
+  const void* bytes = sqlite3_column_blob(statement, column);
+  return {static_cast<const char*>(bytes), static_cast<size_t>(sqlite3_column_bytes(statement, column))};
+}
+
+Value valueAt(sqlite3_stmt* statement, int column) {
+  switch (sqlite3_column_type(statement, column)) {
+    case SQLITE_INTEGER: return int64_t{sqlite3_column_int64(statement, column)};
+    case SQLITE_FLOAT: return sqlite3_column_double(statement, column);
+    case SQLITE_NULL: return std::numeric_limits<double>::quiet_NaN();  // as SQLite keeps a double that is no number
+    default: return Bytes(bytesAt(statement, column));
+  }
+}
+
+}  // namespace
+
+void SqliteStore::CloseDatabase::operator()(sqlite3* database) const { sqlite3_close(database); }
+
+void SqliteStore::FinishStatement::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+
+SqliteStore::SqliteStore(Database database) : database_(std::move(database)) {}
+
+SqliteStore::~SqliteStore() = default;
+
+SqliteStore::Opened SqliteStore::open(const std::string& path) {
+  const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+  std::error_code folderProblem;
+  if (!folder.empty()) std::filesystem::create_directories(folder, folderProblem);
+  if (folderProblem) {
+    return {nullptr, "The folder " + folder.string() + " cannot be made: " + folderProblem.message() + "."};
+  }
+  sqlite3* raw = nullptr;
+  int code =
+      sqlite3_open_v2(path.c_str(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
+  Database database(raw);
+  if (code == SQLITE_OK && sqlite3_db_readonly(raw, "main") == 1) code = SQLITE_READONLY;
+  if (code == SQLITE_OK) code = execute(raw, lock);
+  if (code == SQLITE_OK) code = checkOwner(raw);
+  if (code == SQLITE_OK) code = execute(raw, tune);
+  if (code == SQLITE_OK) code = makeTables(raw);
+  if (code != SQLITE_OK) return {nullptr, problemText(code, path)};
+  std::unique_ptr<SqliteStore> store(new SqliteStore(std::move(database)));
+  if (!store->prepareStatements()) return {nullptr, problemText(sqlite3_errcode(raw), path)};
+  return {std::move(store), ""};
+}
+
+bool SqliteStore::prepareStatements() {
+  const auto prepare = [&](Statement& statement, const char* sql) {
+    sqlite3_stmt* raw = nullptr;
+    const int code = sqlite3_prepare_v3(database_.get(), sql, -1, SQLITE_PREPARE_PERSISTENT, &raw, nullptr);
+    statement.reset(raw);
+    return code == SQLITE_OK;
+  };
+  return prepare(begin_, "BEGIN IMMEDIATE") && prepare(commit_, "COMMIT") && prepare(rollback_, "ROLLBACK") &&
+         prepare(putWhole_, "INSERT INTO kv VALUES (?1, ?2) ON CONFLICT (key) DO UPDATE SET value = ?2") &&
+         prepare(removeWhole_, "DELETE FROM kv WHERE key = ?1") &&
+         prepare(putChunk_, "INSERT INTO list VALUES (?1, ?2, ?3) ON CONFLICT (key, chunk) DO UPDATE SET blob = ?3") &&
+         prepare(removeChunk_, "DELETE FROM list WHERE key = ?1 AND chunk = ?2");
+}
+
+bool SqliteStore::run(sqlite3_stmt* statement) {
+  const bool done = sqlite3_step(statement) == SQLITE_DONE;
+  sqlite3_reset(statement);
+  return done;
+}
+
+bool SqliteStore::transaction(const std::function<bool()>& body) {
+  if (!run(begin_.get())) return false;
+  if (body() && run(commit_.get())) return true;
+  const bool alreadyRolledBack = sqlite3_get_autocommit(database_.get()) != 0;
+  if (!alreadyRolledBack) run(rollback_.get());
+  return false;
+}
+
+bool SqliteStore::apply(const Write& write) {
+  const bool whole = write.chunk == wholeRow;
+  if (!write.value) {
+    sqlite3_stmt* remove = (whole ? removeWhole_ : removeChunk_).get();
+    bindKey(remove, write.key, write.chunk);
+    return run(remove);
+  }
+  sqlite3_stmt* put = (whole ? putWhole_ : putChunk_).get();
+  bindKey(put, write.key, write.chunk);
+  bindValue(put, whole ? 2 : 3, *write.value);
+  return run(put);
+}
+
+bool SqliteStore::commit(std::span<const Write> writes) {
+  return transaction([&] {
+    for (const Write& write : writes) {
+      if (!apply(write)) return false;
+    }
+    return true;
+  });
+}
+
+bool SqliteStore::visitRows(const std::function<void(std::string_view, int32_t, const Value&)>& visit) {
+  const auto prepare = [&](const char* sql) {
+    sqlite3_stmt* raw = nullptr;
+    sqlite3_prepare_v2(database_.get(), sql, -1, &raw, nullptr);
+    return Statement(raw);
+  };
+  const Statement wholes = prepare("SELECT key, -1, value FROM kv ORDER BY key");
+  const Statement chunks = prepare("SELECT key, chunk, blob FROM list ORDER BY key, chunk");
+  if (!wholes || !chunks) return false;
+  int whole = sqlite3_step(wholes.get());
+  int chunk = sqlite3_step(chunks.get());
+  const auto place = [](const Statement& row) {
+    return std::pair(bytesAt(row.get(), 0), sqlite3_column_int(row.get(), 1));
+  };
+  while (whole == SQLITE_ROW || chunk == SQLITE_ROW) {
+    const bool wholeIsNext = chunk != SQLITE_ROW || (whole == SQLITE_ROW && place(wholes) < place(chunks));
+    const Statement& next = wholeIsNext ? wholes : chunks;
+    const auto [key, number] = place(next);
+    visit(key, number, valueAt(next.get(), 2));
+    (wholeIsNext ? whole : chunk) = sqlite3_step(next.get());
+  }
+  return whole == SQLITE_DONE && chunk == SQLITE_DONE;
+}
+
+void SqliteStore::quarantine(std::string_view key) {
+  const auto runFor = [&](const char* sql) {
+    sqlite3_stmt* raw = nullptr;
+    if (sqlite3_prepare_v2(database_.get(), sql, -1, &raw, nullptr) != SQLITE_OK) return false;
+    const Statement statement(raw);
+    bindKey(raw, key, wholeRow);
+    return run(raw);
+  };
+  transaction([&] {
+    return runFor("INSERT INTO quarantine (key, chunk, value) SELECT key, -1, value FROM kv WHERE key = ?1") &&
+           runFor("INSERT INTO quarantine (key, chunk, value) SELECT key, chunk, blob FROM list WHERE key = ?1") &&
+           runFor("DELETE FROM kv WHERE key = ?1") && runFor("DELETE FROM list WHERE key = ?1");
+  });
+}
+
+void SqliteStore::rest() {
+  sqlite3_wal_checkpoint_v2(database_.get(), nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+}
+
+}  // namespace backbeat

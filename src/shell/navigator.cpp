@@ -1,0 +1,190 @@
+#include "shell/navigator.h"
+
+#include <algorithm>
+
+#include "core/money.h"
+#include "turn/week_cycle.h"
+
+namespace backbeat {
+
+Navigator::Navigator(Game& game) : game_(game) {}
+Navigator::~Navigator() = default;
+
+void Navigator::start(const LoadReport& report) {
+  if (!report.readable) {
+    notice_ = "The save could not be read. This career is not being kept.";
+  } else if (!report.damagedLists.empty()) {
+    notice_ = "A part of the save was damaged and has been put aside:";
+    for (const std::string& key : report.damagedLists) notice_ += " " + key;
+    notice_ += ".";
+  }
+  openFirstScreens();
+  game_.saveFile.commit();
+}
+
+void Navigator::openFirstScreens() {
+  open(stacks_[homeTab], tabs()[homeTab].root, "");
+  selectTab(game_.state.promptToEnterName >= 1 ? homeTab : musicTab);
+}
+
+void Navigator::startOver() {
+  dropEverything();
+  openFirstScreens();
+}
+
+/// Screens are told that they go; what they answer belongs to a life that is over.
+void Navigator::dropEverything() {
+  const auto drop = [](std::vector<Open>& stack) {
+    while (!stack.empty()) {
+      const std::shared_ptr<Screen> gone = std::move(stack.back().screen);
+      stack.pop_back();
+      gone->close();
+    }
+  };
+  drop(modals_);
+  for (std::vector<Open>& stack : stacks_) drop(stack);
+  alerts_.clear();
+}
+
+void Navigator::press(std::string_view screenKey, const Action& action) {
+  feedback_ = Feedback::none;
+  dispatch(screenKey, action);
+  game_.saveFile.commit();
+  game_.saveFile.rest();
+}
+
+void Navigator::dispatch(std::string_view screenKey, const Action& action) {
+  if (screenKey == "alert") return answerAlert(action);
+  if (!alerts_.empty()) return;
+  if (screenKey == "tabs") {
+    const auto number = optionNumber(action.value, tabCount);
+    if (number && modals_.empty()) selectTab(*number);
+    return;
+  }
+  if (screenKey == "nav") {
+    if (action.id == "back" && modals_.empty() && !onTabRoot()) closeTop();
+    if (action.id == "endTheWeekButton" && endWeekOffered()) endTheWeek();
+    return;
+  }
+  if (wholeNumber(screenKey) != top().key) return;
+  const std::shared_ptr<Screen> screen = top().screen;
+  follow(screen, screen->act(action));
+}
+
+void Navigator::answerAlert(const Action& action) {
+  if (alerts_.empty() || wholeNumber(action.id) != alerts_.front().key) return;
+  const auto number = optionNumber(action.value, alerts_.front().alert.buttons.size());
+  if (!number) return;
+  const QueuedAlert answered = std::move(alerts_.front());
+  alerts_.pop_front();
+  const Action& chosen = answered.alert.buttons[*number].action;
+  if (!chosen.id.empty()) follow(answered.from, answered.from->act(chosen));
+}
+
+void Navigator::selectTab(size_t number) {
+  const bool again = number == tab_;
+  tab_ = number;
+  if (stacks_[tab_].empty()) {
+    open(stacks_[tab_], tabs()[tab_].root, "");
+  } else if (again) {
+    closeToRoot(stacks_[tab_]);
+  }
+  appear();
+}
+
+/// Closes every pushed screen of a tab; the root stays.
+void Navigator::closeToRoot(std::vector<Open>& stack) {
+  while (stack.size() > 1) {
+    const std::shared_ptr<Screen> gone = std::move(stack.back().screen);
+    stack.pop_back();
+    follow(gone, gone->close());
+  }
+}
+
+void Navigator::closeTop() {
+  std::vector<Open>& stack = stackOfTop();
+  const bool report = stack.back().segue->name == "goToWeeklySummary";
+  const std::shared_ptr<Screen> gone = std::move(stack.back().screen);
+  stack.pop_back();
+  follow(gone, gone->close());
+  if (report) return selectTab(homeTab);
+  appear();
+}
+
+void Navigator::endTheWeek() {
+  for (std::vector<Open>& stack : stacks_) closeToRoot(stack);
+  runWeekCycle(game_, [this] { open(modals_, *segueNamed("goToWeeklySummary"), ""); });
+  appear();
+}
+
+void Navigator::open(std::vector<Open>& stack, const Segue& segue, std::string_view argument) {
+  std::shared_ptr<Screen> screen = segue.make(game_, argument);
+  stack.push_back({++lastKey_, &segue, screen});
+  follow(screen, screen->open());
+}
+
+void Navigator::appear() {
+  const std::shared_ptr<Screen> screen = top().screen;
+  follow(screen, screen->appear());
+}
+
+void Navigator::follow(const std::shared_ptr<Screen>& from, Outcome outcome) {
+  for (Alert& alert : outcome.alerts) alerts_.push_back({++lastKey_, std::move(alert), from});
+  if (outcome.feedback != Feedback::none) feedback_ = outcome.feedback;
+  if (!outcome.go) return;
+  if (outcome.go->segue.empty()) {
+    if (top().screen == from) closeTop();
+    return;
+  }
+  if (outcome.go->segue == startOverSegue) return startOver();
+  const Segue* segue = segueNamed(outcome.go->segue);
+  if (!segue) {
+    unknownSegues_.push_back(outcome.go->segue);
+    return;
+  }
+  const bool modal = segue->presentation == Segue::Presentation::modal || !modals_.empty();
+  open(modal ? modals_ : stacks_[tab_], *segue, outcome.go->argument);
+  appear();
+}
+
+const Navigator::Open& Navigator::top() const { return modals_.empty() ? stacks_[tab_].back() : modals_.back(); }
+
+std::vector<Navigator::Open>& Navigator::stackOfTop() { return modals_.empty() ? stacks_[tab_] : modals_; }
+
+bool Navigator::onTabRoot() const { return stacks_[tab_].size() == 1; }
+
+bool Navigator::endWeekOffered() const { return modals_.empty() && onTabRoot() && alerts_.empty(); }
+
+bool Navigator::affordable(const Price& price) const {
+  return price.energy <= game_.state.totalEnergyAvailable &&
+         (price.dollars <= 0 || price.dollars <= game_.state.totalCashAvailable);
+}
+
+Shown Navigator::shown() const {
+  const GameState& state = game_.state;
+  Shown shown;
+  shown.header.cash = currency(state.totalCashAvailable);
+  if (state.totalCashAvailable < 0) shown.header.cashTone = Tone::bad;
+  shown.header.energy = std::to_string(state.totalEnergyAvailable) + " / " + std::to_string(state.totalEnergyMax);
+  if (state.totalEnergyMax > 0) {
+    shown.header.energyShare = std::clamp(
+        static_cast<double>(state.totalEnergyAvailable) / static_cast<double>(state.totalEnergyMax), 0.0, 1.0);
+  }
+  shown.header.date = "Week " + std::to_string(state.weekNumber) + ", " + std::to_string(state.yearNumber);
+  if (game_.launch.contractOfferState >= 1) shown.badges[homeTab] = "!";
+  shown.tab = tab_;
+  for (const Open& open : stacks_[tab_]) shown.stack.push_back(open.key);
+  for (const Open& open : modals_) shown.stack.push_back(open.key);
+  shown.modal = !modals_.empty();
+  shown.endWeek = modals_.empty() && onTabRoot();
+  shown.appearance = state.appearance;
+  shown.feedback = feedback_;
+  if (!alerts_.empty()) shown.alert = Shown::ShownAlert{alerts_.front().key, alerts_.front().alert};
+  shown.notice = notice_;
+  shown.screen = top().segue->screen;
+  shown.key = top().key;
+  shown.view = top().screen->view();
+  return shown;
+}
+
+}  // namespace backbeat

@@ -1,0 +1,113 @@
+// Owns what is open: a stack of screens for each tab, the modal screens over them, and the queue of alerts. The only
+// one that opens, shows and closes screens, and the only way in for a press.
+#pragma once
+
+#include <array>
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/screen.h"
+#include "shell/registry.h"
+
+namespace backbeat {
+
+/// The header, over every screen that is not modal.
+struct Header {
+  std::string cash;
+  Tone cashTone = Tone::plain;  ///< bad when negative
+  std::string energy;           ///< "73 / 104"
+  double energyShare = 0;       ///< 0 to 1
+  std::string date;             ///< "Week 14, 2023"
+};
+
+/// Everything that is on the glass: what the page draws and the console prints.
+struct Shown {
+  Header header;
+  std::array<std::string, tabCount> badges;
+  size_t tab = 0;
+  std::vector<int64_t> stack;  ///< keys, root first; the last is shown
+  bool modal = false;
+  bool endWeek = false;  ///< END THE WEEK is offered here
+  std::string appearance;
+  Feedback feedback = Feedback::none;
+  struct ShownAlert {
+    int64_t key = 0;
+    Alert alert;
+  };
+  std::optional<ShownAlert> alert;
+  std::string notice;
+  std::string_view screen;
+  int64_t key = 0;
+  View view;
+};
+
+/// The way back to the beginning, for a screen to answer with instead of a segue: every screen of every tab and every
+/// modal one is closed, what they still had to say is dropped, home is opened anew and the music tab is shown, which
+/// asks for a name.
+inline constexpr std::string_view startOverSegue = "startOver";
+
+class Navigator {
+ public:
+  explicit Navigator(Game& game);
+  ~Navigator();
+
+  /// Opens the first screen of a launch, after the state was loaded: the music tab until the artist has a name, then
+  /// home. `report` says what loading found.
+  void start(const LoadReport& report);
+
+  /// One press, one transaction. `screenKey` is the number of the screen it was meant for, or "tabs", "nav" or "alert";
+  /// a press for a screen that is not shown, or anything but the answer while an alert stands, is ignored.
+  void press(std::string_view screenKey, const Action& action);
+
+  Shown shown() const;
+
+  /// The segues that screens asked for and nobody has registered, in the order of asking; such a press leads nowhere.
+  const std::vector<std::string>& unknownSegues() const { return unknownSegues_; }
+
+  /// True when the price can be paid with what the artist has now.
+  bool affordable(const Price& price) const;
+
+ private:
+  struct Open {
+    int64_t key;
+    const Segue* segue;
+    std::shared_ptr<Screen> screen;
+  };
+  struct QueuedAlert {
+    int64_t key;
+    Alert alert;
+    std::shared_ptr<Screen> from;  ///< kept alive until the alert is answered
+  };
+
+  void openFirstScreens();
+  void startOver();
+  void dropEverything();
+  const Open& top() const;
+  std::vector<Open>& stackOfTop();
+  bool onTabRoot() const;
+  bool endWeekOffered() const;
+  void dispatch(std::string_view screenKey, const Action& action);
+  void answerAlert(const Action& action);
+  void selectTab(size_t number);
+  void closeToRoot(std::vector<Open>& stack);
+  void closeTop();
+  void endTheWeek();
+  void open(std::vector<Open>& stack, const Segue& segue, std::string_view argument);
+  void follow(const std::shared_ptr<Screen>& from, Outcome outcome);
+  void appear();
+
+  Game& game_;
+  std::array<std::vector<Open>, tabCount> stacks_;
+  std::vector<Open> modals_;
+  std::deque<QueuedAlert> alerts_;
+  size_t tab_ = homeTab;
+  int64_t lastKey_ = 0;
+  Feedback feedback_ = Feedback::none;
+  std::string notice_;
+  std::vector<std::string> unknownSegues_;
+};
+
+}  // namespace backbeat

@@ -1,0 +1,39 @@
+// The save of the browser's game as the engine sees it: rows handed in by the page at the start, and batches of writes
+// handed back. Keeping them is the page's part; docs/page-protocol.md tells the form of both.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "core/store.h"
+
+namespace backbeat {
+
+class PageStore final : public Store {
+ public:
+  /// Takes one stored row, before the game starts. False, and nothing is taken, when it is malformed.
+  bool addRow(std::string_view row);
+
+  /// Forgets the rows that were handed in: once the game is loaded nobody reads them again.
+  void dropRows() { rows_.clear(); }
+
+  /// Every write since the last call, in order; one transaction for the page. Empty when there is none.
+  Bytes takeBatch();
+
+  /// Adds to the batch; always succeeds.
+  bool commit(std::span<const Write> writes) override;
+
+  /// The rows handed in, but for those put aside.
+  bool visitRows(const std::function<void(std::string_view, int32_t, const Value&)>& visit) override;
+
+  /// Has the page move the key's rows, of those handed in, to the same rows under "quarantine/" and the key.
+  void quarantine(std::string_view key) override;
+
+ private:
+  std::map<std::pair<std::string, int32_t>, Value> rows_;
+  Bytes batch_;
+};
+
+}  // namespace backbeat

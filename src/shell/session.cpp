@@ -1,0 +1,23 @@
+#include "shell/session.h"
+
+#include "core/text.h"
+#include "recognition/leaderboards.h"
+
+namespace backbeat {
+
+Session::Session(Store& store, Platform& platform, uint64_t seed, Date now)
+    : random_(seed), game_(store, random_, clock_, platform), navigator_(game_) {
+  clock_.set(now);
+  game_.leaderboardPass = submitLeaderboards;
+  loadReport_ = game_.saveFile.load(game_.state);
+  navigator_.start(loadReport_);
+}
+
+void Session::press(Date now, std::string_view screenKey, Action action) {
+  clock_.set(now);
+  action.id = validUtf8(action.id);
+  action.value = validUtf8(action.value);
+  navigator_.press(screenKey, action);
+}
+
+}  // namespace backbeat

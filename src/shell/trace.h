@@ -1,0 +1,65 @@
+// What happened in a career, as text: launches and presses, one a line. The same trace gives the same career wherever
+// it is played.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "shell/session.h"
+
+namespace backbeat {
+
+struct TraceEvent {
+  enum class Kind {
+    launch,  ///< the game starts, on whatever the store holds by then
+    act,     ///< one press
+  } kind = Kind::act;
+  int64_t unixMilliseconds = 0;  ///< when it happened; may run backwards, as clocks do
+  uint64_t seed = 0;             ///< of a launch
+  std::string screenKey;         ///< of a press, with its action
+  Action action;
+};
+
+TraceEvent launchEvent(int64_t unixMilliseconds, uint64_t seed);
+TraceEvent actEvent(int64_t unixMilliseconds, std::string screenKey, Action action);
+
+/// The event as one line, without its end: "launch <seed> <ms>" or "act <ms> <screenKey> <id> <value>". Spaces, per
+/// cent signs and control characters are written as %20; an empty text is a lone per cent sign.
+std::string traceLine(const TraceEvent& event);
+
+struct Trace {
+  std::vector<TraceEvent> events;
+  std::string problem;  ///< when the text is no trace, what is wrong, with the number of the line; then no events
+};
+
+/// Reads lines as `traceLine` writes them; empty lines are skipped. A trace begins with a launch.
+Trace readTrace(std::string_view text);
+
+/// 16 hexadecimal digits: how the fingerprint of a state is told.
+std::string hashText(uint64_t hash);
+
+/// A career played by events. A launch begins a new session on the same store, as starting the program again does.
+class TraceRecorder {
+ public:
+  /// `record`, when there is one, gets the line of each event before it is played, so that a trace also tells the press
+  /// that ended the program.
+  TraceRecorder(Store& store, Platform& platform, std::function<void(const std::string& line)> record = nullptr);
+
+  /// A press before the first launch is ignored.
+  void play(const TraceEvent& event);
+
+  /// The running session. There is none before the first launch.
+  Session& session() { return *session_; }
+
+ private:
+  Store& store_;
+  Platform& platform_;
+  std::function<void(const std::string&)> record_;
+  std::unique_ptr<Session> session_;
+};
+
+}  // namespace backbeat

@@ -1,0 +1,94 @@
+// The engine's only door to the page: bytes and 32-bit integers in and out. docs/page-protocol.md tells its use.
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "core/platform.h"
+#include "shell/page_store.h"
+#include "shell/session.h"
+#include "shell/shown_json.h"
+#include "shell/trace.h"
+
+namespace backbeat {
+namespace {
+
+/// Everything that lives between two calls. One for the instance; the page makes a new instance to begin anew.
+struct Door {
+  QuietPlatform platform;
+  PageStore store;
+  std::unique_ptr<Session> session;
+  std::string input;
+  std::string answer;
+  std::string batch;
+};
+
+Door& door() {
+  static Door* const instance = new Door;  // never destroyed: the instance ends with the page
+  return *instance;
+}
+
+std::string_view nextPart(std::string_view& text) {
+  const size_t end = text.find('\0');
+  const std::string_view part = text.substr(0, end);
+  text = end == std::string_view::npos ? std::string_view() : text.substr(end + 1);
+  return part;
+}
+
+Date dateFrom(std::string_view unixMilliseconds) {
+  return {static_cast<double>(wholeNumber(unixMilliseconds).value_or(0)) / 1000};
+}
+
+void answer() {
+  Door& here = door();
+  here.answer = shownAsJson(here.session->navigator(), here.session->shown());
+  here.batch = here.store.takeBatch();
+}
+
+}  // namespace
+}  // namespace backbeat
+
+using backbeat::door;
+
+extern "C" {
+
+[[clang::export_name("bb_alloc")]] char* bb_alloc(uint32_t size) {
+  door().input.assign(size, '\0');
+  return door().input.data();
+}
+
+[[clang::export_name("bb_row")]] uint32_t bb_row(const char* bytes, uint32_t size) {
+  return door().store.addRow({bytes, size}) ? 1 : 0;
+}
+
+[[clang::export_name("bb_start")]] void bb_start(const char* bytes, uint32_t size) {
+  std::string_view text(bytes, size);
+  const std::string_view seed = backbeat::nextPart(text);
+  uint64_t number = 0;
+  for (const char digit : seed) number = number * 10 + static_cast<uint64_t>(digit - '0');
+  auto& here = door();
+  here.session = std::make_unique<backbeat::Session>(here.store, here.platform, number,
+                                                     backbeat::dateFrom(backbeat::nextPart(text)));
+  backbeat::answer();
+}
+
+[[clang::export_name("bb_act")]] void bb_act(const char* bytes, uint32_t size) {
+  std::string_view text(bytes, size);
+  const backbeat::Date now = backbeat::dateFrom(backbeat::nextPart(text));
+  const std::string screen(backbeat::nextPart(text));
+  const std::string id(backbeat::nextPart(text));
+  door().session->press(now, screen, {id, std::string(text)});
+  backbeat::answer();
+}
+
+[[clang::export_name("bb_state_hash")]] void bb_state_hash() {
+  auto& here = door();
+  here.answer = backbeat::hashText(backbeat::stateHash(here.session->game().state));
+}
+
+[[clang::export_name("bb_out")]] const char* bb_out() { return door().answer.data(); }
+[[clang::export_name("bb_out_size")]] uint32_t bb_out_size() { return static_cast<uint32_t>(door().answer.size()); }
+[[clang::export_name("bb_batch")]] const char* bb_batch() { return door().batch.data(); }
+[[clang::export_name("bb_batch_size")]] uint32_t bb_batch_size() { return static_cast<uint32_t>(door().batch.size()); }
+}

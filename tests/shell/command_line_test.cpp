@@ -1,0 +1,116 @@
+#include "shell/native/command_line.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "play/worlds.h"
+#include "shell/native/sqlite_store.h"
+#include "support/program.h"
+
+namespace backbeat {
+namespace {
+
+using ::testing::HasSubstr;
+
+CommandLine read(const std::vector<const char*>& words) { return readCommandLine(words, "/home/mara/career"); }
+
+TEST(CommandLine, TakesWhatMakesSense) {
+  const CommandLine play = read({"play", "--seed", "18446744073709551615", "--trace", "t", "--save", "s"});
+  EXPECT_EQ(play.problem, "");
+  EXPECT_EQ(play.seed, UINT64_MAX);
+  EXPECT_EQ(play.trace, "t");
+  EXPECT_EQ(play.save, "s");
+  EXPECT_EQ(read({"info"}).save, "/home/mara/career");
+  EXPECT_EQ(read({"replay", "year.trace"}).trace, "year.trace");
+  EXPECT_EQ(defaultSaveFile("/data", "/home/mara"), "/data/backbeat/career.backbeat");
+  EXPECT_EQ(defaultSaveFile("relative", "/home/mara"), "/home/mara/.local/share/backbeat/career.backbeat");
+}
+
+TEST(CommandLine, RefusesTheRestWithTheUsage) {
+  const std::vector<std::vector<const char*>> senseless = {
+      {},
+      {"dance"},
+      {"play", "now"},
+      {"play", "--seed"},
+      {"play", "--seed", "-1"},
+      {"play", "--seed", "5x"},
+      {"play", "--seed", "18446744073709551616"},
+      {"play", "--save", ""},
+      {"play", "--tempo", "3"},
+      {"info", "--seed", "5"},
+      {"replay"},
+      {"replay", "a", "b"},
+      {"replay", "--save", "s", "a"},
+  };
+  for (const auto& words : senseless) {
+    EXPECT_THAT(read(words).problem, HasSubstr("usage: backbeat")) << ::testing::PrintToString(words);
+  }
+}
+
+TEST(CommandLine, TheProgramEndsWithTheRightCode) {
+  EXPECT_EQ(runProgram({"--version"}).exitCode, 0);
+  for (const char* command : {"play", "replay", "info"}) {
+    const ProgramRun help = runProgram({command, "--help"});
+    EXPECT_EQ(help.exitCode, 0);
+    EXPECT_THAT(help.output, HasSubstr(std::string("usage: backbeat ") + command));
+  }
+  EXPECT_EQ(runProgram({"play", "--seed", "x"}).exitCode, 2);
+  const std::string file = freshFile("not_there");
+  EXPECT_EQ(runProgram({"info", "--save", file}).exitCode, 1);
+  EXPECT_EQ(contentOf(file), "") << "asking for a save begins none";
+  EXPECT_EQ(runProgram({"replay", file}).exitCode, 1);
+  writeFile(file, "this is no save and no trace");
+  EXPECT_EQ(runProgram({"play", "--save", file}).exitCode, 1);
+  EXPECT_EQ(contentOf(file), "this is no save and no trace");
+  const ProgramRun replay = runProgram({"replay", file});
+  EXPECT_EQ(replay.exitCode, 1);
+  EXPECT_THAT(replay.output, HasSubstr("line 1"));
+}
+
+TEST(CommandLine, ACareerGoesOnWhereItWasLeftAndInfoTellsOfIt) {
+  const std::string save = freshFile("career");
+  EXPECT_EQ(runProgram({"play", "--save", save}, "1 Zoë Falk\n2\nend\n").exitCode, 0);
+  EXPECT_EQ(runProgram({"play", "--save", save}, "").exitCode, 0);
+  const std::string before = contentOf(save);
+  const ProgramRun info = runProgram({"info", "--save", save});
+  EXPECT_EQ(info.exitCode, 0);
+  EXPECT_THAT(info.output, HasSubstr("Zoë Falk"));
+  EXPECT_THAT(info.output, HasSubstr("Week 2, 2023"));
+  EXPECT_THAT(info.output, HasSubstr("saveAllWeeklyLineItems"));
+  EXPECT_EQ(contentOf(save), before);
+}
+
+TEST(CommandLine, DamagedListsAreToldAndLeftAloneByInfo) {
+  const std::string save = freshFile("damaged");
+  {
+    const SqliteStore::Opened opened = SqliteStore::open(save);
+    ASSERT_TRUE(opened.store);
+    settleInto(*opened.store, namedWorlds()[1]);
+    ASSERT_TRUE(opened.store->commit(std::vector<Write>{{"saveAllSongList", 0, Bytes("rubbish")}}));
+  }
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_THAT(runProgram({"info", "--save", save}).output,
+                HasSubstr("saveAllSongList                       DAMAGED"));
+  }
+  EXPECT_THAT(runProgram({"play", "--save", save}).output, HasSubstr("was damaged and has been put aside"));
+  EXPECT_THAT(runProgram({"info", "--save", save}).output, ::testing::Not(HasSubstr("DAMAGED")));
+}
+
+TEST(CommandLine, AnAmountThatOutgrowsItsNumberEndsTheProgramWithOneLine) {
+  const std::string save = freshFile("endless");
+  {
+    const SqliteStore::Opened opened = SqliteStore::open(save);
+    ASSERT_TRUE(opened.store);
+    settleInto(*opened.store, {"endless", [](GameState& state) {
+                                 state.promptToEnterName = 1;
+                                 state.weekNumberForTracking = INT64_MAX;
+                               }});
+  }
+  const ProgramRun run = runProgram({"play", "--save", save}, "end\n");
+  EXPECT_EQ(run.exitCode, 70);
+  EXPECT_THAT(run.output,
+              HasSubstr("An amount grew past what the game can count. The save holds the last whole step."));
+}
+
+}  // namespace
+}  // namespace backbeat

@@ -1,0 +1,158 @@
+#include "shell/navigator.h"
+
+#include <gtest/gtest.h>
+
+#include "core/memory_store.h"
+#include "shell/session.h"
+
+namespace backbeat {
+namespace {
+
+/// A launch over a store, played by presses on what is shown.
+struct Play {
+  explicit Play(MemoryStore& kept) : session(kept, platform, 7, Date{}) {}
+
+  void press(const std::string& id, const std::string& value = "") { to(std::to_string(shown().key), id, value); }
+  void to(const std::string& screenKey, const std::string& id, const std::string& value = "") {
+    session.press(Date{}, screenKey, {id, value});
+  }
+  void tab(TabNumber number) { to("tabs", "", std::to_string(number)); }
+  void answer(int button) { to("alert", std::to_string(shown().alert->key), std::to_string(button)); }
+  void nameTheArtist() {
+    press("name", "Mira");
+    press("saveButton");
+  }
+  void endWeek() { to("nav", "endTheWeekButton"); }
+  Shown shown() const { return session.shown(); }
+  std::string screen() const { return std::string(shown().screen); }
+  GameState& state() { return session.game().state; }
+
+  QuietPlatform platform;
+  Session session;
+};
+
+TEST(Navigator, AFirstStartAsksForTheNameAndNothingElseIsInReach) {
+  MemoryStore store;
+  Play play(store);
+  EXPECT_EQ(play.screen(), "EnterNameViewController");
+  EXPECT_EQ(play.shown().tab, musicTab);
+  EXPECT_FALSE(play.shown().endWeek);
+  play.tab(homeTab);
+  play.to("nav", "back");
+  play.endWeek();
+  EXPECT_EQ(play.screen(), "EnterNameViewController");
+  EXPECT_EQ(play.state().weekNumber, 1);
+  play.nameTheArtist();
+  EXPECT_EQ(play.screen(), "MusicViewController");
+  Play again(store);
+  EXPECT_EQ(again.screen(), "ViewController") << "later launches begin at home";
+}
+
+TEST(Navigator, TabsKeepTheirScreensAndOldPressesAreIgnored) {
+  MemoryStore store;
+  Play play(store);
+  play.nameTheArtist();
+  const std::string music = std::to_string(play.shown().key);
+  play.press("createSongButton");
+  EXPECT_EQ(play.screen(), "CreateASongViewController");
+  play.to(music, "createSongButton");
+  EXPECT_EQ(play.shown().stack.size(), 2u) << "a second tap meant for the screen below";
+  EXPECT_EQ(play.state().albumId, 1);
+  play.tab(socialTab);
+  EXPECT_EQ(play.screen(), "TwitterProfileViewController");
+  play.to("tabs", "", "5");
+  play.to("tabs", "", "nonsense");
+  play.tab(musicTab);
+  EXPECT_EQ(play.screen(), "CreateASongViewController");
+  play.to("nav", "back");
+  EXPECT_EQ(play.screen(), "MusicViewController");
+  play.to("nav", "back");
+  EXPECT_EQ(play.shown().stack.size(), 1u);
+  play.press("goToBillboard");
+  play.tab(musicTab);
+  EXPECT_EQ(play.screen(), "MusicViewController") << "the tab shown leads to its root";
+}
+
+TEST(Navigator, AnAlertIsAnsweredFirst) {
+  MemoryStore store;
+  Play play(store);
+  play.nameTheArtist();
+  play.press("createSongButton");
+  play.press("createSongButton");
+  ASSERT_TRUE(play.shown().alert);
+  const int64_t key = play.shown().alert->key;
+  play.tab(homeTab);
+  play.to("nav", "back");
+  play.press("createSongButton");
+  EXPECT_EQ(play.screen(), "CreateASongViewController");
+  play.to("alert", std::to_string(key + 1), "0");
+  play.to("alert", std::to_string(key), "1");
+  ASSERT_TRUE(play.shown().alert) << "neither another alert's key nor a button that is not there";
+  play.answer(0);
+  EXPECT_FALSE(play.shown().alert);
+  play.to("alert", std::to_string(key), "0");
+  EXPECT_EQ(play.screen(), "CreateASongViewController");
+}
+
+TEST(Navigator, TheWeekEndsOnRootsAndClosesWhatStandsOpen) {
+  MemoryStore store;
+  Play play(store);
+  play.nameTheArtist();
+  play.press("goToBillboard");
+  EXPECT_FALSE(play.shown().endWeek);
+  play.endWeek();
+  EXPECT_EQ(play.state().weekNumber, 1);
+  play.tab(homeTab);
+  EXPECT_TRUE(play.shown().endWeek);
+  play.state().weekNumber = 30;  // the report of the next week asks for an opinion
+  play.endWeek();
+  EXPECT_EQ(play.screen(), "WeeklySummaryViewController");
+  EXPECT_EQ(play.state().weekNumber, 31);
+  ASSERT_TRUE(play.shown().alert);
+  play.press("closeButton");
+  play.endWeek();
+  EXPECT_EQ(play.state().weekNumber, 31);
+  play.answer(2);
+  EXPECT_EQ(play.state().totalEnergyAvailable, 350) << "the answer reached the screen that asked";
+  play.to("nav", "back");
+  EXPECT_EQ(play.screen(), "WeeklySummaryViewController");
+  play.press("closeButton");
+  EXPECT_EQ(play.screen(), "ViewController");
+  play.tab(musicTab);
+  EXPECT_EQ(play.screen(), "MusicViewController");
+}
+
+TEST(Navigator, ARestartBeginsAnewAtTheMusicTab) {
+  MemoryStore store;
+  Play play(store);
+  play.nameTheArtist();
+  play.press("createSongButton");
+  play.tab(socialTab);
+  play.press("goToCreateTwitterMessage");
+  play.tab(homeTab);
+  play.press("goToSettings");
+  play.press("appearance", "2");
+  play.press("restartButton");
+  ASSERT_TRUE(play.shown().alert);
+  EXPECT_EQ(play.shown().alert->alert.buttons[0].label, "Close");
+  play.answer(0);
+  EXPECT_EQ(play.state().myArtistsName, "Mira");
+  play.press("restartButton");
+  play.answer(1);
+  EXPECT_EQ(play.screen(), "EnterNameViewController");
+  EXPECT_EQ(play.shown().tab, musicTab);
+  EXPECT_EQ(play.state().myArtistsName, "");
+  EXPECT_EQ(play.state().appearance, "light");
+  play.nameTheArtist();
+  EXPECT_EQ(play.screen(), "MusicViewController");
+  EXPECT_EQ(play.shown().stack.size(), 1u);
+  play.tab(homeTab);
+  EXPECT_EQ(play.screen(), "ViewController");
+  EXPECT_TRUE(play.shown().endWeek);
+  play.tab(socialTab);
+  EXPECT_EQ(play.screen(), "TwitterProfileViewController");
+  EXPECT_TRUE(differencesFromStore(play.state(), store).empty());
+}
+
+}  // namespace
+}  // namespace backbeat

@@ -1,0 +1,127 @@
+// The engine as the page drives it: rows in, presses in, answers and batches out. Keeps the rows as a browser would.
+import { readFileSync } from 'node:fs';
+
+export const module = new WebAssembly.Module(
+  readFileSync(new URL('../../src/shell/web/public/engine.wasm', import.meta.url)),
+);
+
+const encoder = new TextEncoder();
+const decoder = new TextDecoder('utf-8', { fatal: true });
+
+/** Reads a batch to its last byte; a length that points past the end throws. */
+export function decodeBatch(bytes) {
+  const view = new DataView(bytes.buffer, bytes.byteOffset, bytes.byteLength);
+  const rows = [];
+  let at = 0;
+  const take = () => {
+    const size = view.getUint32(at, true);
+    at += 4 + size;
+    if (at > bytes.length) throw new RangeError('a batch ends in the middle of a row');
+    return bytes.slice(at - size, at);
+  };
+  while (at < bytes.length) {
+    const key = decoder.decode(take());
+    const chunk = view.getInt32(at, true);
+    const remove = view.getUint8(at + 4);
+    at += 5;
+    rows.push({ key, chunk, remove, value: take() });
+  }
+  return rows;
+}
+
+function encodeRow({ key, chunk, value }) {
+  const name = encoder.encode(key);
+  const bytes = new Uint8Array(13 + name.length + value.length);
+  const view = new DataView(bytes.buffer);
+  view.setUint32(0, name.length, true);
+  bytes.set(name, 4);
+  view.setInt32(4 + name.length, chunk, true);
+  view.setUint32(9 + name.length, value.length, true);
+  bytes.set(value, 13 + name.length);
+  return bytes;
+}
+
+/** One launch of the engine on a set of rows, which it keeps up to date. */
+export class Launch {
+  now = Date.UTC(2023, 0, 2, 12);
+  batches = [];
+
+  constructor({ seed = '20230102', rows = new Map(), now } = {}) {
+    this.rows = rows;
+    this.now = now ?? this.now;
+    this.door = new WebAssembly.Instance(module, {}).exports;
+    this.door._initialize();
+    for (const row of rows.values()) this.#pass(encodeRow(row), this.door.bb_row);
+    this.#call(this.door.bb_start, `${seed}\0${this.now}`);
+  }
+
+  /** One press; answers with the new state of the glass. */
+  press(screenKey, id, value = '') {
+    return this.pressAt(this.now + 1000, screenKey, id, value);
+  }
+
+  pressAt(now, screenKey, id, value) {
+    this.now = now;
+    return this.#call(this.door.bb_act, `${now}\0${screenKey}\0${id}\0${value}`);
+  }
+
+  /** The fingerprint of the whole state. */
+  stateHash() {
+    this.door.bb_state_hash();
+    return decoder.decode(this.#bytes(this.door.bb_out(), this.door.bb_out_size()));
+  }
+
+  /** A press on the screen that is shown. */
+  pressShown(id, value) {
+    return this.press(this.answer.view.key, id, value);
+  }
+
+  #pass(bytes, call) {
+    const address = this.door.bb_alloc(bytes.length) >>> 0;
+    new Uint8Array(this.door.memory.buffer, address, bytes.length).set(bytes);
+    return call(address, bytes.length);
+  }
+
+  #bytes(address, size) {
+    return new Uint8Array(this.door.memory.buffer, address >>> 0, size >>> 0).slice();
+  }
+
+  #call(call, text) {
+    this.#pass(encoder.encode(text), call);
+    this.text = decoder.decode(this.#bytes(this.door.bb_out(), this.door.bb_out_size()));
+    this.answer = JSON.parse(this.text);
+    const batch = decodeBatch(this.#bytes(this.door.bb_batch(), this.door.bb_batch_size()));
+    this.batches.push(batch);
+    for (const row of batch) {
+      if (row.remove) this.rows.delete(`${row.key}\0${row.chunk}`);
+      else this.rows.set(`${row.key}\0${row.chunk}`, row);
+    }
+    return this.answer;
+  }
+}
+
+/** Types a name on the first screen and begins the career, as a new player does. */
+export function beginCareer(launch, name) {
+  const field = launch.answer.view.blocks.find(({ kind }) => kind === 'field');
+  launch.pressShown(field.id, name);
+  launch.pressShown(launch.answer.view.mainAction.id);
+  return settle(launch);
+}
+
+/** Answers every alert with its first button and leaves every screen that covers the tabs. */
+export function settle(launch) {
+  for (let presses = 0; launch.answer.alert || launch.answer.modal; ++presses) {
+    if (presses > 200) throw new Error(`stuck on ${launch.answer.view.screen}`);
+    if (launch.answer.alert) launch.press('alert', launch.answer.alert.key, 0);
+    else launch.pressShown(launch.answer.view.mainAction.id);
+  }
+  return launch.answer;
+}
+
+/** Ends the week from the home screen and reads the report to its end. */
+export function endTheWeek(launch) {
+  launch.press('tabs', 'tab', 0);
+  settle(launch);
+  launch.press('nav', 'endTheWeekButton');
+  return settle(launch);
+}

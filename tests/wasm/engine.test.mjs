@@ -1,0 +1,76 @@
+// The engine in WebAssembly, through the page's own door.
+import assert from 'node:assert/strict';
+import test from 'node:test';
+import { Launch, beginCareer, endTheWeek, module, settle } from './door.mjs';
+
+/** What a player sees, without the numbers of screens, which every launch counts anew. */
+function glass({ header, tabs, tab, view }) {
+  return { header, tabs, tab, view: { ...view, key: 0 } };
+}
+
+test('the module asks nobody for anything and has the whole door', () => {
+  assert.deepEqual(WebAssembly.Module.imports(module), []);
+  const names = WebAssembly.Module.exports(module).map(({ name }) => name);
+  const door = ['_initialize', 'bb_act', 'bb_alloc', 'bb_batch', 'bb_batch_size', 'bb_out', 'bb_out_size', 'bb_row', 'bb_start', 'bb_state_hash', 'memory'];
+  assert.deepEqual(names.sort(), door);
+});
+
+test('a new career begins with a name and goes on from week to week', () => {
+  const launch = new Launch();
+  assert.equal(launch.answer.tabs.length, 5);
+  assert.ok(launch.answer.modal, 'the name is asked for before anything else');
+  beginCareer(launch, 'Zoë 🎤 歌手');
+  assert.match(launch.text, /Zoë 🎤 歌手/);
+  const dates = [launch.answer.header.date];
+  for (let week = 0; week < 5; ++week) dates.push(endTheWeek(launch).header.date);
+  assert.equal(new Set(dates).size, dates.length, dates.join(', '));
+});
+
+test('what was stored gives the same screens after a restart', () => {
+  const launch = new Launch();
+  beginCareer(launch, 'Mara');
+  for (let week = 0; week < 4; ++week) endTheWeek(launch);
+  const again = new Launch({ seed: '7', rows: new Map(launch.rows) });
+  for (const tab of [0, 1, 2, 3, 4]) {
+    launch.press('tabs', 'tab', tab);
+    again.press('tabs', 'tab', tab);
+    settle(launch);
+    settle(again);
+    assert.deepEqual(glass(again.answer), glass(launch.answer));
+  }
+});
+
+test('the same seed and presses give the same bytes, another seed another career', () => {
+  const careers = ['11', '11', '12'].map((seed) => {
+    const launch = new Launch({ seed });
+    beginCareer(launch, 'Ines');
+    for (let week = 0; week < 6; ++week) endTheWeek(launch);
+    return JSON.stringify([...launch.rows].map(([name, { value }]) => [name, Buffer.from(value).toString('hex')]).sort());
+  });
+  assert.equal(careers[0], careers[1]);
+  assert.notEqual(careers[0], careers[2]);
+});
+
+test('presses that do not belong to what is shown change nothing', () => {
+  const launch = new Launch();
+  beginCareer(launch, 'Theo');
+  const before = glass(launch.answer);
+  const stored = launch.batches.length;
+  const key = launch.answer.view.key;
+  for (const [screen, id, value] of [
+    [key + 999, 'saveButton', ''],
+    [key, 'noSuchButton', '1'],
+    [key, '', ''],
+    ['', '', ''],
+    ['alert', '5', '0'],
+    ['tabs', 'tab', '9'],
+    ['tabs', 'tab', '-1'],
+    ['tabs', 'tab', 'one'],
+    ['nav', 'back', ''],
+    ['nowhere', 'x'.repeat(70_000), '\0\0'],
+  ]) {
+    launch.press(screen, id, value);
+    assert.deepEqual(glass(launch.answer), before, `${screen} ${id.slice(0, 20)} ${value}`);
+  }
+  assert.deepEqual(launch.batches.slice(stored).flat(), []);
+});
