@@ -1,0 +1,84 @@
+import { html, nothing, type TemplateResult } from "lit";
+import { live } from "lit/directives/live.js";
+import type { ButtonData, Choice, TextField, Toggle } from "../protocol";
+import type { Scene } from "../scene";
+import { pricePill, toneClass } from "./parts";
+import "./photo-field";
+import "./text-field";
+
+/** A button with its price. One that is too dear looks so and still answers. */
+export function buttonBlock(button: ButtonData, scene: Scene): TemplateResult {
+  const { id, label, price, style = "secondary", tone, pulse } = button;
+  const dear = price !== undefined && !price.affordable && (price.energy || price.dollars);
+  return html`<button
+    class="button ${style} ${toneClass(tone)} ${dear ? "dear" : ""} ${pulse ? "pulse" : ""}"
+    type="button"
+    @click=${() => scene.press(id)}
+  >
+    <span class="button-label" dir="auto">${label}</span>${pricePill(price)}
+  </button>`;
+}
+
+/** A text to type. */
+export function fieldBlock(field: TextField, scene: Scene): TemplateResult {
+  // The engine asks for the player's own picture by this id.
+  if (field.id === "photo") return html`<bb-photo-field .field=${field} .scene=${scene}></bb-photo-field>`;
+  return html`<bb-text-field .field=${field} .scene=${scene}></bb-text-field>`;
+}
+
+/** On or off. */
+export function toggleBlock({ id, label, on, note }: Toggle, scene: Scene): TemplateResult {
+  const flip = (event: Event): void => scene.press(id, (event.target as HTMLInputElement).checked ? "1" : "0");
+  return html`<label class="line toggle">
+    <span class="line-texts">
+      <span class="line-label" dir="auto">${label}</span>
+      ${note ? html`<span class="line-note" dir="auto">${note}</span>` : nothing}
+    </span>
+    <input type="checkbox" role="switch" .checked=${live(on ?? false)} @change=${flip} />
+  </label>`;
+}
+
+/** One of several: segments side by side, or a line that opens the list of options. */
+export function choiceBlock(choice: Choice, scene: Scene): TemplateResult {
+  return choice.style === "segments" ? segments(choice, scene) : optionLine(choice, scene);
+}
+
+function segments({ id, label, options = [], selected = 0 }: Choice, scene: Scene): TemplateResult {
+  const note = options[selected]?.note;
+  return html`<fieldset class="segments">
+    ${label ? html`<legend dir="auto">${label}</legend>` : html`<legend class="unseen">Choose one</legend>`}
+    <div class="segment-track">
+      ${options.map(
+        (option, i) =>
+          html`<label class="segment ${toneClass(option.tone)}">
+            <input
+              type="radio"
+              name="${scene.key} ${id}"
+              .checked=${live(i === selected)}
+              @change=${() => scene.press(id, String(i))}
+            />
+            <span dir="auto">${option.label}</span>
+          </label>`,
+      )}
+    </div>
+    ${note ? html`<p class="text caption" dir="auto">${note}</p>` : nothing}
+  </fieldset>`;
+}
+
+function optionLine({ id, label, options = [], selected = 0 }: Choice, scene: Scene): TemplateResult {
+  const open = (): void =>
+    scene.open({
+      title: label || "Choose one",
+      items: options.map((option, i) => ({
+        ...option,
+        selected: i === selected,
+        press: () => scene.press(id, String(i)),
+      })),
+    });
+  const chosen = options[selected];
+  return html`<button class="line" type="button" aria-haspopup="dialog" @click=${open}>
+    ${label ? html`<span class="line-label" dir="auto">${label}</span>` : nothing}
+    <span class="line-value ${toneClass(chosen?.tone)}" dir="auto">${chosen?.label ?? "Choose"}</span>
+    <span class="updown" aria-hidden="true"></span>
+  </button>`;
+}

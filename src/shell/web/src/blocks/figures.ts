@@ -1,0 +1,107 @@
+import { html, LitElement, nothing, type PropertyValues, type TemplateResult } from "lit";
+import { prefersStillness } from "../motion";
+import type { Figure, Figures } from "../protocol";
+import { toneClass } from "./parts";
+
+const duration = 600;
+
+/** Figures that count up together; any tap or key shows them finished. */
+class FiguresElement extends LitElement {
+  static override properties = { figures: { attribute: false }, share: { state: true } };
+  declare figures: Figures;
+  declare share: number;
+
+  private told = "";
+  private frame = 0;
+
+  constructor() {
+    super();
+    this.share = 1;
+  }
+
+  protected override createRenderRoot(): this {
+    return this;
+  }
+
+  override disconnectedCallback(): void {
+    super.disconnectedCallback();
+    this.finish();
+  }
+
+  protected override willUpdate(changed: PropertyValues<this>): void {
+    if (!changed.has("figures")) return;
+    const { items = [], total } = this.figures;
+    const told = JSON.stringify([...items, total].map((figure) => figure?.value));
+    if (told === this.told) return;
+    this.told = told;
+    if (!prefersStillness()) this.begin();
+  }
+
+  protected override render(): TemplateResult {
+    const { title, items = [], total, style } = this.figures;
+    return html`<section class="figures card ${style ?? "ledger"}">
+      ${title ? html`<h3 dir="auto">${title}</h3>` : nothing}
+      ${
+        style === "large"
+          ? items.map((figure) => this.large(figure))
+          : html`<dl>
+              ${items.map((figure) => this.line(figure, ""))} ${total ? this.line(total, "total") : nothing}
+            </dl>`
+      }
+    </section>`;
+  }
+
+  private large(figure: Figure): TemplateResult {
+    return html`<div class="large-figure ${toneClass(figure.tone)}">
+      ${figure.label ? html`<span class="figure-label" dir="auto">${figure.label}</span>` : nothing}
+      <span class="figure-value">${this.counted(figure)}</span>
+      ${figure.note ? html`<span class="figure-note" dir="auto">${figure.note}</span>` : nothing}
+    </div>`;
+  }
+
+  private line(figure: Figure, role: string): TemplateResult {
+    return html`<div class="ledger-line ${role} ${toneClass(figure.tone)}">
+      <dt dir="auto">
+        ${figure.label}${figure.note ? html`<span class="figure-note" dir="auto">${figure.note}</span>` : nothing}
+      </dt>
+      <dd class="figure-value">${this.counted(figure)}</dd>
+    </div>`;
+  }
+
+  private counted({ value = "" }: Figure): string {
+    return this.share < 1 ? partOf(value, this.share) : value;
+  }
+
+  private begin(): void {
+    this.finish();
+    this.share = 0;
+    addEventListener("pointerdown", this.finish, { capture: true });
+    addEventListener("keydown", this.finish, { capture: true });
+    const start = performance.now();
+    const step = (now: number): void => {
+      const passed = Math.min(1, Math.max(0, (now - start) / duration));
+      this.share = 1 - (1 - passed) ** 3;
+      if (passed < 1) this.frame = requestAnimationFrame(step);
+      else this.finish();
+    };
+    this.frame = requestAnimationFrame(step);
+  }
+
+  private readonly finish = (): void => {
+    cancelAnimationFrame(this.frame);
+    removeEventListener("pointerdown", this.finish, { capture: true });
+    removeEventListener("keydown", this.finish, { capture: true });
+    this.share = 1;
+  };
+}
+
+/** The same text with its number at a part of the way: "$1,250" at a half is "$625". */
+function partOf(value: string, share: number): string {
+  return value.replace(/\d[\d,]*(\.\d+)?/, (number, decimals: string | undefined) => {
+    const places = decimals ? decimals.length - 1 : 0;
+    const part = Number(number.replaceAll(",", "")) * share;
+    return part.toLocaleString("en-US", { minimumFractionDigits: places, maximumFractionDigits: places });
+  });
+}
+
+customElements.define("bb-figures", FiguresElement);

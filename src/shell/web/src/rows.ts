@@ -1,0 +1,50 @@
+/** The stored rows as they cross the engine's door: bytes in, bytes out. */
+
+/** One write: a value under (key, chunk), or its removal when `value` is null. */
+export interface Row {
+  key: string;
+  chunk: number;
+  value: Uint8Array | null;
+}
+
+const encoder = new TextEncoder();
+const decoder = new TextDecoder();
+
+/** Reads a batch that the engine hands out; the values are views into `bytes`. */
+export function decodeBatch(bytes: Uint8Array): Row[] {
+  const view = new DataView(bytes.buffer, bytes.byteOffset, bytes.byteLength);
+  const rows: Row[] = [];
+  let at = 0;
+  const length = (): number => {
+    const n = view.getUint32(at, true);
+    at += 4;
+    return n;
+  };
+  const take = (n: number): Uint8Array => {
+    if (at + n > bytes.length) throw new RangeError("A batch of rows ends in the middle of a row.");
+    at += n;
+    return bytes.subarray(at - n, at);
+  };
+  while (at < bytes.length) {
+    const key = decoder.decode(take(length()));
+    const chunk = view.getInt32(at, true);
+    const remove = view.getUint8(at + 4) !== 0;
+    at += 5;
+    const value = take(length());
+    rows.push({ key, chunk, value: remove ? null : value });
+  }
+  return rows;
+}
+
+/** Writes one stored row in the form of a batch of one. */
+export function encodeRow(key: string, chunk: number, value: Uint8Array): Uint8Array {
+  const name = encoder.encode(key);
+  const bytes = new Uint8Array(13 + name.length + value.length);
+  const view = new DataView(bytes.buffer);
+  view.setUint32(0, name.length, true);
+  bytes.set(name, 4);
+  view.setInt32(4 + name.length, chunk, true);
+  view.setUint32(9 + name.length, value.length, true);
+  bytes.set(value, 13 + name.length);
+  return bytes;
+}

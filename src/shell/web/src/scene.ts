@@ -1,0 +1,26 @@
+import type { Price, Tone } from "./protocol";
+
+/** One line of a sheet. */
+export interface SheetItem {
+  label: string;
+  note?: string;
+  tone?: Tone;
+  price?: Price;
+  selected?: boolean;
+  press: () => void;
+}
+
+/** What comes up from the bottom: a text to read, or things to choose from. */
+export interface SheetContent {
+  title: string;
+  text?: string;
+  items?: SheetItem[];
+}
+
+/** What a block can do on its screen. */
+export interface Scene {
+  /** The key of the screen, to name what must be unique in the page. */
+  readonly key: number;
+  press(id: string, value?: string): void;
+  open(sheet: SheetContent): void;
+}

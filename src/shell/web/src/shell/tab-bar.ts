@@ -1,0 +1,21 @@
+import { html, nothing, type TemplateResult } from "lit";
+import { glyph } from "../pictures/icons";
+import type { Tab } from "../protocol";
+
+/** The floating bar with the tabs. */
+export function tabBar(tabs: Tab[], shown: number, covered: boolean, press: (tab: number) => void): TemplateResult {
+  return html`<nav class="tab-bar" aria-label="Tabs" ?inert=${covered} style="--tabs:${tabs.length};--tab:${shown}">
+    <span class="tab-highlight"></span>
+    ${tabs.map(
+      ({ label, icon, badge }, i) =>
+        html`<button class="tab" type="button" aria-current=${i === shown ? "page" : nothing} @click=${() => press(i)}>
+          <span class="tab-icon"
+            >${glyph(icon ?? "")}${
+              badge ? html`<span class="tab-badge"><span class="unseen">new: </span>${badge}</span>` : nothing
+            }</span
+          >
+          <span class="tab-label">${label}</span>
+        </button>`,
+    )}
+  </nav>`;
+}

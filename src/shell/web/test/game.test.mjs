@@ -1,0 +1,83 @@
+import assert from "node:assert/strict";
+import { existsSync } from "node:fs";
+import { readdir, readFile } from "node:fs/promises";
+import { join, resolve } from "node:path";
+import { after, before, describe, test } from "node:test";
+import { gzipSync } from "node:zlib";
+import { openGame } from "./open.mjs";
+
+const engine = resolve(import.meta.dirname, "../public/engine.wasm");
+
+describe("the whole game", { skip: !existsSync(engine) && "the engine is not built for the browser" }, () => {
+  let house;
+  before(async () => (house = await openGame()));
+  after(() => house?.close());
+
+  const open = (options = {}) => house.open({ address: `${house.home}?seed=7`, ...options });
+  const press = (page, name) => page.locator(".layer.top, .tab-bar").getByRole("button", { name }).first().click();
+  const title = (page, name) => page.locator(".layer.top").getByRole("heading", { name, level: 1 }).waitFor();
+  const answerAlerts = async (page) => {
+    const alert = page.locator(".alert[open]");
+    while (await alert.count()) await alert.getByRole("button").first().click();
+  };
+
+  async function start(page, name = "Nova Reyes") {
+    await page.getByRole("textbox", { name: "Artist name" }).fill(name);
+    await press(page, "Start the career");
+    await page.locator(".tab-bar:not([inert])").waitFor();
+    await answerAlerts(page);
+  }
+
+  async function endTheWeek(page) {
+    await press(page, "END THE WEEK");
+    await answerAlerts(page);
+    await press(page, "Continue");
+    await answerAlerts(page);
+  }
+
+  test("an artist writes a song, releases it and plays on after a reload", async () => {
+    const { page, context, faults } = await open();
+    await start(page);
+    await press(page, /^Music/);
+    await press(page, /^Create a Song/);
+    await page.getByRole("textbox", { name: "Title" }).fill("Paper Lanterns 🏮");
+    await press(page, /^Create Song/);
+    await answerAlerts(page);
+    await press(page, /Paper Lanterns/);
+    await press(page, /^RELEASE/);
+    await answerAlerts(page);
+    await press(page, "Back");
+    for (let week = 0; week < 3; week += 1) await endTheWeek(page);
+    const header = await page.locator(".layer.top .status").innerText();
+    assert.match(header, /Week 4, 2023/);
+
+    await page.reload();
+    await press(page, /^Music/);
+    await title(page, "Music");
+    await page.getByRole("button", { name: /Paper Lanterns 🏮/ }).waitFor();
+    assert.equal(await page.locator(".layer.top .status").innerText(), header);
+    assert.deepEqual(faults, []);
+    await context.close();
+  });
+
+  test("a second tab is told, and takes over only when asked to", async () => {
+    const { page, context } = await open();
+    await start(page);
+    const second = await context.newPage();
+    await second.goto(house.home);
+    await second.getByRole("button", { name: "Use here" }).click();
+    await second.locator(".tab-bar").waitFor();
+    await page.getByRole("heading", { name: "Backbeat is open in another tab" }).waitFor();
+    assert.equal(await second.getByText("Who are you?").count(), 0);
+    await context.close();
+  });
+
+  test("the page stays small", async () => {
+    const scripts = (await readdir(join(house.folder, "assets"))).filter((name) => name.endsWith(".js"));
+    const sizes = await Promise.all(
+      scripts.map(async (name) => gzipSync(await readFile(join(house.folder, "assets", name))).length),
+    );
+    const total = sizes.reduce((sum, size) => sum + size, 0);
+    assert.ok(total < 250_000, `${total} bytes of compressed script`);
+  });
+});

@@ -1,0 +1,54 @@
+import "@fontsource-variable/inter";
+import "uplot/dist/uPlot.min.css";
+import "../../src/theme.css";
+import { setAppearance } from "../../src/appearance";
+import type { Player } from "../../src/game";
+import { installGlyphs, isIcon } from "../../src/pictures/icons";
+import { sleeve } from "../../src/pictures/sleeves";
+import type { Answer } from "../../src/protocol";
+import { Save } from "../../src/save";
+import type { AppElement } from "../../src/shell/app";
+import "../../src/shell/app";
+
+/** A player whose answers a test hands in, and which notes what is pressed. */
+class StagePlayer implements Player {
+  answer!: Answer;
+  failing = false;
+  recovered = false;
+  onChange: () => void = () => {};
+  readonly presses: string[][] = [];
+  /** What the next presses answer; without any, the screen describes itself again. */
+  readonly answers: Answer[] = [];
+
+  act(screen: number | string, id: string, value = ""): void {
+    this.presses.push([String(screen), id, value]);
+    this.answer = this.answers.shift() ?? structuredClone(this.answer);
+    this.onChange();
+  }
+
+  acknowledgeRecovery(): void {
+    this.recovered = false;
+    this.onChange();
+  }
+}
+
+const player = new StagePlayer();
+
+function show(answer: Answer): void {
+  player.answer = answer;
+  if (document.querySelector("backbeat-app")) return player.onChange();
+  const app = document.createElement("backbeat-app") as AppElement;
+  app.player = player;
+  document.querySelector(".full-notice")!.replaceWith(app);
+}
+
+setAppearance("system");
+installGlyphs();
+
+const stage = { show, player, Save, isIcon, sleeve };
+declare global {
+  interface Window {
+    stage: typeof stage;
+  }
+}
+window.stage = stage;
