@@ -12,6 +12,7 @@
 #include <set>
 
 #include "core/game.h"
+#include "core/record_codec.h"
 #include "music/streaming.h"
 #include "shell/native/sqlite_store.h"
 #include "turn/week_cycle.h"

@@ -35,4 +35,33 @@ void MemoryStore::quarantine(std::string_view key) {
   rows.erase(first, last);
 }
 
+bool MemoryStore::keepSnapshot(std::string_view name) {
+  if (failures_ > 0) return false;
+  return snapshots_.emplace(name, rows).second;
+}
+
+void MemoryStore::dropSnapshot(std::string_view name) {
+  if (const auto found = snapshots_.find(name); found != snapshots_.end()) snapshots_.erase(found);
+}
+
+std::vector<std::string> MemoryStore::snapshots() {
+  std::vector<std::string> names;
+  for (const auto& [name, copy] : snapshots_) names.push_back(name);
+  return names;
+}
+
+bool MemoryStore::restoreSnapshot(std::string_view name) {
+  const auto found = snapshots_.find(name);
+  if (found == snapshots_.end() || failures_ > 0) return false;
+  rows = found->second;
+  return true;
+}
+
+bool MemoryStore::replaceAll(std::span<const Write> replacement) {
+  const Rows before = std::exchange(rows, {});
+  if (commit(replacement)) return true;
+  rows = before;
+  return false;
+}
+
 }  // namespace backbeat

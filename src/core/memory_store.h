@@ -9,13 +9,18 @@
 
 namespace backbeat {
 
-class MemoryStore final : public Store {
+class MemoryStore final : public CareerStore {
  public:
   using Rows = std::map<std::pair<std::string, int32_t>, Value>;
 
   bool commit(std::span<const Write> writes) override;
   bool visitRows(const std::function<void(std::string_view, int32_t, const Value&)>& visit) override;
   void quarantine(std::string_view key) override;
+  bool keepSnapshot(std::string_view name) override;
+  void dropSnapshot(std::string_view name) override;
+  std::vector<std::string> snapshots() override;
+  bool restoreSnapshot(std::string_view name) override;
+  bool replaceAll(std::span<const Write> rows) override;
 
   /// The next `count` commits fail and change nothing.
   void failNext(int64_t count) { failures_ = count; }
@@ -28,6 +33,7 @@ class MemoryStore final : public Store {
 
  private:
   int64_t failures_ = 0;
+  std::map<std::string, Rows, std::less<>> snapshots_;
 };
 
 }  // namespace backbeat

@@ -101,6 +101,22 @@ class RecordDecoder {
     return reader_ && value(reader_->root(), out);
   }
 
+  /// The entries of the list's root; nothing when it is no dictionary.
+  std::optional<PropertyListReader::Entries> rootEntries() const {
+    return reader_ ? reader_->dictionary(reader_->root()) : std::nullopt;
+  }
+  std::optional<std::string> keyText(Ref ref) const { return reader_->text(ref); }
+
+  /// One object of the list as a value of type T; when it is none, `problem()` tells why.
+  template <class T>
+  bool read(Ref ref, T& out) {
+    problem_.clear();
+    return value(ref, out) || (note("is of another kind or does not fit"), false);
+  }
+
+  /// Why the last value was refused, with the way to the place: "entry 3: title is missing".
+  const std::string& problem() const { return problem_; }
+
   /// The list's root, an array of records, added to the end of `out`, which is cut back when one of them fails.
   template <Record T>
   bool append(std::vector<T>& out) {
@@ -155,11 +171,13 @@ class RecordDecoder {
     for (size_t i = 0; i < items.size(); ++i) {
       if (!allow(sizeof(T))) return false;
       T& item = out.emplace_back();
+      bool read = false;
       if constexpr (Record<T>) {
-        if (!record(items[i], known, item)) return false;
+        read = record(items[i], known, item);
       } else {
-        if (!value(items[i], item)) return false;
+        read = value(items[i], item);
       }
+      if (!read) return refuse("entry " + std::to_string(i + 1), "is of another kind or does not fit");
     }
     return true;
   }
@@ -172,10 +190,30 @@ class RecordDecoder {
     for (size_t i = 0; i < entries->size(); ++i) {
       const size_t field = fieldOf<T>(entries->keys[i], i, known);
       if (field == fieldCount<T>) continue;
-      if (seen[field] || !valueOfField(field, entries->values[i], out)) return false;
+      if (seen[field]) return refuse(nameOf<T>(field), "is there twice");
+      if (!valueOfField(field, entries->values[i], out)) {
+        return refuse(nameOf<T>(field), "is of another kind or does not fit");
+      }
       seen[field] = true;
     }
-    return seen.all();
+    for (size_t field = 0; field < fieldCount<T>; ++field) {
+      if (!seen[field]) return refuse(nameOf<T>(field), "is missing");
+    }
+    return true;
+  }
+
+  template <class T>
+  static std::string nameOf(size_t number) {
+    return std::string(fieldsOf<T>([&](const auto&... field) { return std::array{field.key...}[number]; }));
+  }
+
+  // Puts the place before what is known of the trouble; false for the caller to pass on.
+  bool refuse(const std::string& place, const char* otherwise) {
+    problem_ = problem_.empty() ? place + " " + otherwise : place + ": " + problem_;
+    return false;
+  }
+  void note(const char* trouble) {
+    if (problem_.empty()) problem_ = trouble;
   }
 
   template <class T>
@@ -213,6 +251,7 @@ class RecordDecoder {
 
   std::optional<PropertyListReader> reader_;
   uint64_t allowance_;  // bytes of memory that decoding may still take
+  std::string problem_;
 };
 
 /// One value as a whole property list.

@@ -1,7 +1,10 @@
 #include "core/save_file.h"
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
+
+#include "core/record_codec.h"
 
 namespace backbeat {
 namespace {
@@ -214,6 +217,24 @@ void SaveFile::writeScalar(const GameState& state, const Scalar& scalar) {
   std::visit(write, scalar.member);
 }
 
+template <class T>
+void SaveFile::writeList(std::string_view key, RecordList<T>& list) {
+  if (store_.keeps()) {
+    StoredList& stored = lists_.try_emplace(std::string(key)).first->second;
+    if (!stored.current) list.markAll();
+    putRemovals(key, stored, list.chunkCount());
+    const auto putChunk = [&](uint32_t number) {
+      put(key, static_cast<int32_t>(number), encodeRecords<T>(writer_, list.chunk(number)));
+    };
+    for (const uint32_t number : list.changedChunks()) {
+      if (number < list.chunkCount()) putChunk(number);
+    }
+    if (list.empty() && list.shrunk()) putChunk(0);
+    if (list.orderChanged()) putOrder(key, list.slots());
+  }
+  list.forgetChanges();
+}
+
 void SaveFile::putOrder(std::string_view key, const std::vector<uint32_t>& slots) {
   put(key, orderRow, encodeOrder(writer_, slots));
 }
@@ -240,6 +261,10 @@ bool SaveFile::commit() {
   return false;
 }
 
+bool SaveFile::keepSnapshot(SnapshotKind kind, const GameState& state, std::string_view spared) {
+  return commit() && backbeat::keepSnapshot(store_, kind, state, spared);
+}
+
 std::vector<std::string> differencesFromStore(const GameState& state, Store& store) {
   GameState stored;
   Loader loader(stored);
@@ -257,5 +282,42 @@ std::vector<std::string> differencesFromStore(const GameState& state, Store& sto
   }
   return different;
 }
+
+// The lists of GameState.
+template void SaveFile::writeList(std::string_view, RecordList<Album>&);
+template void SaveFile::writeList(std::string_view, RecordList<AlbumCover>&);
+template void SaveFile::writeList(std::string_view, RecordList<Award>&);
+template void SaveFile::writeList(std::string_view, RecordList<BillboardSong>&);
+template void SaveFile::writeList(std::string_view, RecordList<CelebrityCameo>&);
+template void SaveFile::writeList(std::string_view, RecordList<Child>&);
+template void SaveFile::writeList(std::string_view, RecordList<Chirp>&);
+template void SaveFile::writeList(std::string_view, RecordList<ContractLabel>&);
+template void SaveFile::writeList(std::string_view, RecordList<CreatedArtist>&);
+template void SaveFile::writeList(std::string_view, RecordList<Employee>&);
+template void SaveFile::writeList(std::string_view, RecordList<FeaturedArtist>&);
+template void SaveFile::writeList(std::string_view, RecordList<FeaturedOn>&);
+template void SaveFile::writeList(std::string_view, RecordList<FeaturedOnWeeklySongListens>&);
+template void SaveFile::writeList(std::string_view, RecordList<Festival>&);
+template void SaveFile::writeList(std::string_view, RecordList<InvestmentProperty>&);
+template void SaveFile::writeList(std::string_view, RecordList<Legacy>&);
+template void SaveFile::writeList(std::string_view, RecordList<Matches>&);
+template void SaveFile::writeList(std::string_view, RecordList<Merch>&);
+template void SaveFile::writeList(std::string_view, RecordList<MerchWeeklySales>&);
+template void SaveFile::writeList(std::string_view, RecordList<MusicTour>&);
+template void SaveFile::writeList(std::string_view, RecordList<MusicVideo>&);
+template void SaveFile::writeList(std::string_view, RecordList<SignedArtist>&);
+template void SaveFile::writeList(std::string_view, RecordList<SignedArtistAlbum>&);
+template void SaveFile::writeList(std::string_view, RecordList<SignedArtistSong>&);
+template void SaveFile::writeList(std::string_view, RecordList<SignedArtistWeeklyAlbumSales>&);
+template void SaveFile::writeList(std::string_view, RecordList<SignedArtistWeeklySongListens>&);
+template void SaveFile::writeList(std::string_view, RecordList<Song>&);
+template void SaveFile::writeList(std::string_view, RecordList<SongGenre>&);
+template void SaveFile::writeList(std::string_view, RecordList<Transportation>&);
+template void SaveFile::writeList(std::string_view, RecordList<Venture>&);
+template void SaveFile::writeList(std::string_view, RecordList<WeeklyAlbumSales>&);
+template void SaveFile::writeList(std::string_view, RecordList<WeeklyLineItem>&);
+template void SaveFile::writeList(std::string_view, RecordList<WeeklySongListens>&);
+template void SaveFile::writeList(std::string_view, RecordList<WeeklyTourSales>&);
+template void SaveFile::writeList(std::string_view, RecordList<WeeklyVideoViews>&);
 
 }  // namespace backbeat

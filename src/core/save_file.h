@@ -2,15 +2,15 @@
 // operation; one player action is one transaction.
 #pragma once
 
-#include <algorithm>
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
 #include "core/game_state.h"
-#include "core/record_codec.h"
+#include "core/snapshots.h"
 #include "core/store.h"
 
 namespace backbeat {
@@ -49,7 +49,7 @@ class SaveFile {
   /// Writes one scalar, or what changed of one list, under its key.
   void writeScalar(const GameState& state, const Scalar& scalar);
   template <class T>
-  void writeList(std::string_view key, RecordList<T>& list);
+  void writeList(std::string_view key, RecordList<T>& list);  ///< for the lists of GameState
 
   /// Ends the transaction: everything written since the last call becomes durable at once. After a failure the writes
   /// are kept, the last one of each row, and tried again with the next transaction. True when nothing is left to write.
@@ -57,6 +57,13 @@ class SaveFile {
 
   /// True after a failed commit, until one succeeds.
   bool failing() const { return failing_; }
+
+  /// Ends the transaction and keeps a copy of the whole save, which is `state`; see core/snapshots.h. False when that
+  /// did not work.
+  bool keepSnapshot(SnapshotKind kind, const GameState& state, std::string_view spared = {});
+
+  /// The kept copies, newest first.
+  std::vector<Snapshot> snapshots() const { return snapshotsOf(store_); }
 
   /// Tells the store that a quiet moment has come.
   void rest() { store_.rest(); }
@@ -81,23 +88,5 @@ std::vector<std::string> differencesFromStore(const GameState& state, Store& sto
 
 /// A fingerprint of the whole state, equal on every platform; what replays compare.
 uint64_t stateHash(const GameState& state);
-
-template <class T>
-void SaveFile::writeList(std::string_view key, RecordList<T>& list) {
-  if (store_.keeps()) {
-    StoredList& stored = lists_.try_emplace(std::string(key)).first->second;
-    if (!stored.current) list.markAll();
-    putRemovals(key, stored, list.chunkCount());
-    const auto putChunk = [&](uint32_t number) {
-      put(key, static_cast<int32_t>(number), encodeRecords<T>(writer_, list.chunk(number)));
-    };
-    for (const uint32_t number : list.changedChunks()) {
-      if (number < list.chunkCount()) putChunk(number);
-    }
-    if (list.empty() && list.shrunk()) putChunk(0);
-    if (list.orderChanged()) putOrder(key, list.slots());
-  }
-  list.forgetChanges();
-}
 
 }  // namespace backbeat

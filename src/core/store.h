@@ -46,11 +46,34 @@ class Store {
   /// and are kept under their own names for whoever wants to repair them.
   virtual void quarantine(std::string_view key) = 0;
 
+  /// Keeps a copy of every row, but for those put aside, under `name`, which is new. False when that failed or this
+  /// store keeps no copies; nothing has changed then.
+  virtual bool keepSnapshot(std::string_view) { return false; }
+
+  /// Forgets a kept copy.
+  virtual void dropSnapshot(std::string_view) {}
+
+  /// The names of the kept copies, in alphabetical order.
+  virtual std::vector<std::string> snapshots() { return {}; }
+
   /// Work for a quiet moment after the turn (a checkpoint, say).
   virtual void rest() {}
 
   /// False for a store that keeps nothing: then nothing is encoded for it.
   virtual bool keeps() const { return true; }
+};
+
+/// A store that can put another career in the place of the one it holds. The game that runs on it has to be launched
+/// anew afterwards.
+class CareerStore : public Store {
+ public:
+  /// These rows, each under a key and chunk of its own, take the place of all rows. False when that failed; nothing has
+  /// changed then.
+  virtual bool replaceAll(std::span<const Write> rows) = 0;
+
+  /// The rows of a kept copy take the place of all rows. False when there is no such copy or it failed; nothing has
+  /// changed then.
+  virtual bool restoreSnapshot(std::string_view name) = 0;
 };
 
 /// Keeps nothing: for simulations.

@@ -7,6 +7,11 @@ namespace backbeat {
 namespace {
 
 constexpr std::string_view quarantinePrefix = "quarantine/";
+
+// Chunk numbers that make a write of a batch an order to the page; its key is the name of a copy.
+constexpr int32_t keepCopy = -10;
+constexpr int32_t forgetCopy = -11;
+
 constexpr char integerTag = 'i';
 constexpr char doubleTag = 'd';
 constexpr char objectTag = 'o';
@@ -115,6 +120,20 @@ void PageStore::quarantine(std::string_view key) {
   }
   rows_.erase(first, last);
   commit(writes);
+}
+
+bool PageStore::keepSnapshot(std::string_view name) {
+  if (!snapshots_.emplace(name).second) return false;
+  const Write order{std::string(name), keepCopy, std::nullopt};
+  return commit({&order, 1});
+}
+
+void PageStore::dropSnapshot(std::string_view name) {
+  const auto found = snapshots_.find(name);
+  if (found == snapshots_.end()) return;
+  const Write order{*found, forgetCopy, std::nullopt};
+  snapshots_.erase(found);
+  commit({&order, 1});
 }
 
 }  // namespace backbeat

@@ -4,6 +4,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 
@@ -19,6 +20,9 @@ class PageStore final : public Store {
   /// Forgets the rows that were handed in: once the game is loaded nobody reads them again.
   void dropRows() { rows_.clear(); }
 
+  /// Takes the name of a copy that the page keeps, before the game starts.
+  void addSnapshot(std::string name) { snapshots_.insert(std::move(name)); }
+
   /// Every write since the last call, in order; one transaction for the page. Empty when there is none.
   Bytes takeBatch();
 
@@ -31,8 +35,14 @@ class PageStore final : public Store {
   /// Has the page move the key's rows, of those handed in, to the same rows under "quarantine/" and the key.
   void quarantine(std::string_view key) override;
 
+  /// Has the page keep a copy of its rows as they stand at this place of the batch, or forget one.
+  bool keepSnapshot(std::string_view name) override;
+  void dropSnapshot(std::string_view name) override;
+  std::vector<std::string> snapshots() override { return {snapshots_.begin(), snapshots_.end()}; }
+
  private:
   std::map<std::pair<std::string, int32_t>, Value> rows_;
+  std::set<std::string, std::less<>> snapshots_;
   Bytes batch_;
 };
 

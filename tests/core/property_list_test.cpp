@@ -12,6 +12,7 @@
 #include <sstream>
 
 #include "core/record_codec.h"
+#include "support/test_folder.h"
 
 namespace backbeat {
 namespace {
@@ -210,47 +211,23 @@ TEST(PropertyList, AFewBytesCannotAskForTheWholeMemory) {
   EXPECT_FALSE(decodeValue<std::vector<std::vector<std::string>>>(writer.finish(writer.array(manyArrays))));
 }
 
-/// A folder of its own for a test's files, gone with the test.
-class PropertyListPeers : public testing::Test {
- protected:
-  void SetUp() override {
-    char name[] = "/tmp/backbeat-peers-XXXXXX";
-    folder_ = mkdtemp(name);
-  }
-  void TearDown() override { std::filesystem::remove_all(folder_); }
-
-  Bytes read(const std::string& name) const {
-    std::ifstream file(folder_ / name, std::ios::binary);
-    std::ostringstream content;
-    content << file.rdbuf();
-    return content.str();
-  }
-  void write(const std::string& name, const Bytes& bytes) const {
-    std::ofstream(folder_ / name, std::ios::binary) << bytes;
-  }
-  testing::AssertionResult run(const std::string& command) const {
-    if (std::system(("cd " + folder_.string() + " && " + command).c_str()) == 0) return testing::AssertionSuccess();
-    return testing::AssertionFailure() << command << "\nfailed; plistutil (libplist-utils) and python3 are needed";
-  }
-
-  std::filesystem::path folder_;
-};
-
-TEST_F(PropertyListPeers, UnderstandOursAndWeUnderstandTheirs) {
+TEST(PropertyListPeers, UnderstandOursAndWeUnderstandTheirs) {
+  const TestFolder folder;
   const std::vector<Sample> samples = hardSamples();
-  write("ours", encoded(samples));
-  EXPECT_TRUE(run("plistutil -f bin -i ours -o theirs"));
-  EXPECT_EQ(decodeRecords<Sample>(read("theirs")), samples);
+  folder.write("ours", encoded(samples));
+  EXPECT_TRUE(folder.run("plistutil -f bin -i ours -o theirs"));
+  EXPECT_EQ(decodeRecords<Sample>(folder.read("theirs")), samples);
   EXPECT_TRUE(
-      run("python3 -c \"import plistlib; l = plistlib.load(open('ours', 'rb')); "
-          "plistlib.dump(l, open('python', 'wb'), fmt=plistlib.FMT_BINARY)\""));
-  EXPECT_EQ(decodeRecords<Sample>(read("python")), samples);
+      folder.run("python3 -c \"import plistlib; l = plistlib.load(open('ours', 'rb')); "
+                 "plistlib.dump(l, open('python', 'wb'), fmt=plistlib.FMT_BINARY)\""));
+  EXPECT_EQ(decodeRecords<Sample>(folder.read("python")), samples);
 }
 
-TEST_F(PropertyListPeers, SeeTheSameValuesAsWe) {
+TEST(PropertyListPeers, SeeTheSameValuesAsWe) {
+  const TestFolder folder;
   const Sample sample = {true, -5, 1e300, {1'700'000'000.5}, "é🎤", {greatest, least}, {"", "\0"s}, {{3, "x"}}};
-  write("ours", encoded({sample}));
-  EXPECT_TRUE(run(R"(python3 -c "
+  folder.write("ours", encoded({sample}));
+  EXPECT_TRUE(folder.run(R"(python3 -c "
 import plistlib, datetime
 assert plistlib.load(open('ours', 'rb')) == [{
   'flag': True, 'whole': -5, 'real': 1e300, 'date': datetime.datetime(2023, 11, 14, 22, 13, 20, 500000),

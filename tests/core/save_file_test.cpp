@@ -7,6 +7,8 @@
 #include <limits>
 
 #include "core/memory_store.h"
+#include "core/record_codec.h"
+#include "support/small_career.h"
 
 namespace backbeat {
 namespace {
@@ -15,23 +17,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
-
-/// A state with a few songs out of their first order, a chirp list grown at its head, and scalars of each kind.
-GameState smallCareer() {
-  GameState state;
-  state.myArtistsName = "Zoë 🎤";
-  state.totalCashAvailable = -12.5;
-  state.totalFans = 9'000'000'000;
-  state.AllCompletedAchievements = {4, 7};
-  state.songDictionary = {{"", "empty"}, {"k", "ü"}};
-  for (int64_t id = 100; id < 140; ++id) {
-    state.saveAllSongList.append({.songId = id, .title = "Song", .viralityScore = static_cast<double>(id * 7 % 40)});
-    state.saveAllChirpList.insertFront({.id = id, .timestamp = {1.7e9}});
-  }
-  state.saveAllSongList.sortDescending([](const Song& song) { return song.viralityScore; });
-  state.saveAllMerchReleasedList.append({.merchId = 5, .songList = {state.saveAllSongList[0]}});
-  return state;
-}
 
 void writeAll(SaveFile& saveFile, GameState& state) {
   forEachField<GameState>([&](const auto& field) { saveFile.writeList(field.key, state.*field.member); });

@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
 #include <limits>
@@ -12,7 +13,7 @@ namespace backbeat {
 namespace {
 
 constexpr int applicationId = 0x42424254;
-constexpr int formatVersion = 1;
+constexpr int formatVersion = 2;
 constexpr int newerFormat = SQLITE_MISMATCH;  // SQLite itself never answers so to what is asked here
 
 // The first access after this takes the file's lock and keeps it until the store is closed.
@@ -28,7 +29,10 @@ constexpr const char* tune =
 constexpr const char* tables =
     "CREATE TABLE IF NOT EXISTS kv (key TEXT PRIMARY KEY, value) WITHOUT ROWID;"
     "CREATE TABLE IF NOT EXISTS list (key TEXT, chunk INT, blob BLOB, PRIMARY KEY (key, chunk));"
-    "CREATE TABLE IF NOT EXISTS quarantine (key TEXT, chunk INT, value, taken TEXT DEFAULT CURRENT_TIMESTAMP);";
+    "CREATE TABLE IF NOT EXISTS quarantine (key TEXT, chunk INT, value, taken TEXT DEFAULT CURRENT_TIMESTAMP);"
+    // Since version 2: whole copies of both.
+    "CREATE TABLE IF NOT EXISTS snapshot (name TEXT PRIMARY KEY, taken TEXT DEFAULT CURRENT_TIMESTAMP);"
+    "CREATE TABLE IF NOT EXISTS snapshot_row (name TEXT, key TEXT, chunk INT, value, PRIMARY KEY (name, key, chunk));";
 
 std::string problemText(int code, const std::string& path) {
   switch (code & 0xFF) {
@@ -162,6 +166,22 @@ bool SqliteStore::run(sqlite3_stmt* statement) {
   return done;
 }
 
+SqliteStore::Statement SqliteStore::prepared(const char* sql) const {
+  sqlite3_stmt* raw = nullptr;
+  sqlite3_prepare_v2(database_.get(), sql, -1, &raw, nullptr);
+  return Statement(raw);
+}
+
+/// Runs each statement for the key or name that it calls ?1.
+bool SqliteStore::runFor(std::string_view name, std::initializer_list<const char*> statements) {
+  return std::all_of(statements.begin(), statements.end(), [&](const char* sql) {
+    const Statement statement = prepared(sql);
+    if (!statement) return false;
+    bindKey(statement.get(), name, wholeRow);
+    return run(statement.get());
+  });
+}
+
 bool SqliteStore::transaction(const std::function<bool()>& body) {
   if (!run(begin_.get())) return false;
   if (body() && run(commit_.get())) return true;
@@ -193,13 +213,8 @@ bool SqliteStore::commit(std::span<const Write> writes) {
 }
 
 bool SqliteStore::visitRows(const std::function<void(std::string_view, int32_t, const Value&)>& visit) {
-  const auto prepare = [&](const char* sql) {
-    sqlite3_stmt* raw = nullptr;
-    sqlite3_prepare_v2(database_.get(), sql, -1, &raw, nullptr);
-    return Statement(raw);
-  };
-  const Statement wholes = prepare("SELECT key, -1, value FROM kv ORDER BY key");
-  const Statement chunks = prepare("SELECT key, chunk, blob FROM list ORDER BY key, chunk");
+  const Statement wholes = prepared("SELECT key, -1, value FROM kv ORDER BY key");
+  const Statement chunks = prepared("SELECT key, chunk, blob FROM list ORDER BY key, chunk");
   if (!wholes || !chunks) return false;
   int whole = sqlite3_step(wholes.get());
   int chunk = sqlite3_step(chunks.get());
@@ -217,17 +232,49 @@ bool SqliteStore::visitRows(const std::function<void(std::string_view, int32_t, 
 }
 
 void SqliteStore::quarantine(std::string_view key) {
-  const auto runFor = [&](const char* sql) {
-    sqlite3_stmt* raw = nullptr;
-    if (sqlite3_prepare_v2(database_.get(), sql, -1, &raw, nullptr) != SQLITE_OK) return false;
-    const Statement statement(raw);
-    bindKey(raw, key, wholeRow);
-    return run(raw);
-  };
   transaction([&] {
-    return runFor("INSERT INTO quarantine (key, chunk, value) SELECT key, -1, value FROM kv WHERE key = ?1") &&
-           runFor("INSERT INTO quarantine (key, chunk, value) SELECT key, chunk, blob FROM list WHERE key = ?1") &&
-           runFor("DELETE FROM kv WHERE key = ?1") && runFor("DELETE FROM list WHERE key = ?1");
+    return runFor(key, {"INSERT INTO quarantine (key, chunk, value) SELECT key, -1, value FROM kv WHERE key = ?1",
+                        "INSERT INTO quarantine (key, chunk, value) SELECT key, chunk, blob FROM list WHERE key = ?1",
+                        "DELETE FROM kv WHERE key = ?1", "DELETE FROM list WHERE key = ?1"});
+  });
+}
+
+bool SqliteStore::keepSnapshot(std::string_view name) {
+  return transaction([&] {
+    return runFor(
+        name, {"INSERT INTO snapshot (name) VALUES (?1)", "INSERT INTO snapshot_row SELECT ?1, key, -1, value FROM kv",
+               "INSERT INTO snapshot_row SELECT ?1, key, chunk, blob FROM list"});
+  });
+}
+
+void SqliteStore::dropSnapshot(std::string_view name) {
+  transaction([&] {
+    return runFor(name, {"DELETE FROM snapshot WHERE name = ?1", "DELETE FROM snapshot_row WHERE name = ?1"});
+  });
+}
+
+std::vector<std::string> SqliteStore::snapshots() {
+  std::vector<std::string> names;
+  const Statement all = prepared("SELECT name FROM snapshot ORDER BY name");
+  while (all && sqlite3_step(all.get()) == SQLITE_ROW) names.emplace_back(bytesAt(all.get(), 0));
+  return names;
+}
+
+bool SqliteStore::replaceAll(std::span<const Write> rows) {
+  return transaction([&] {
+    return runFor("", {"DELETE FROM kv", "DELETE FROM list"}) &&
+           std::all_of(rows.begin(), rows.end(), [&](const Write& row) { return apply(row); });
+  });
+}
+
+bool SqliteStore::restoreSnapshot(std::string_view name) {
+  const std::vector<std::string> known = snapshots();
+  if (std::find(known.begin(), known.end(), name) == known.end()) return false;
+  return transaction([&] {
+    return runFor(name,
+                  {"DELETE FROM kv", "DELETE FROM list",
+                   "INSERT INTO kv SELECT key, value FROM snapshot_row WHERE name = ?1 AND chunk = -1",
+                   "INSERT INTO list SELECT key, chunk, value FROM snapshot_row WHERE name = ?1 AND chunk <> -1"});
   });
 }
 

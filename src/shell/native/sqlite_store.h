@@ -1,6 +1,7 @@
 // The save on a computer: one SQLite file.
 #pragma once
 
+#include <initializer_list>
 #include <memory>
 #include <string>
 
@@ -13,7 +14,7 @@ namespace backbeat {
 
 /// Each commit is one transaction: after a kill the save is what some commit left, whole. A power failure may take the
 /// last few commits with it, never a part of one. While a store is open no other program can open the same file.
-class SqliteStore final : public Store {
+class SqliteStore final : public CareerStore {
  public:
   struct Opened {
     std::unique_ptr<SqliteStore> store;  ///< none when opening failed
@@ -31,6 +32,11 @@ class SqliteStore final : public Store {
   bool commit(std::span<const Write> writes) override;
   bool visitRows(const std::function<void(std::string_view, int32_t, const Value&)>& visit) override;
   void quarantine(std::string_view key) override;
+  bool keepSnapshot(std::string_view name) override;
+  void dropSnapshot(std::string_view name) override;
+  std::vector<std::string> snapshots() override;
+  bool replaceAll(std::span<const Write> rows) override;
+  bool restoreSnapshot(std::string_view name) override;
 
   /// Moves what was committed from the journal into the save's own pages.
   void rest() override;
@@ -50,6 +56,8 @@ class SqliteStore final : public Store {
   bool apply(const Write& write);
   bool transaction(const std::function<bool()>& body);
   bool run(sqlite3_stmt* statement);
+  Statement prepared(const char* sql) const;
+  bool runFor(std::string_view name, std::initializer_list<const char*> statements);
 
   Database database_;
   Statement begin_;
