@@ -15,9 +15,8 @@ struct Licence {
 };
 
 /// What is shipped in the page beside our own code.
-constexpr std::array<Licence, 8> licences = {{
+constexpr std::array<Licence, 7> licences = {{
     {"lit", "Drawing the page", "BSD-3-Clause"},
-    {"@ionic/core", "Controls and movement", "MIT"},
     {"ionicons", "Glyphs", "MIT"},
     {"uPlot", "Charts", "MIT"},
     {"@dicebear/core", "Building portraits", "MIT"},

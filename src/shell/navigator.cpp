@@ -48,8 +48,14 @@ void Navigator::dropEverything() {
 
 void Navigator::press(std::string_view screenKey, const Action& action) {
   feedback_ = Feedback::none;
+  request_ = {};
+  const int64_t year = game_.state.yearNumber;
   dispatch(screenKey, action);
   game_.saveFile.commit();
+  if (game_.state.yearNumber > year) {
+    game_.saveFile.keepSnapshot(SnapshotKind::newYear, game_.state);
+    request_.kind = Request::Kind::newYear;
+  }
   game_.saveFile.rest();
 }
 
@@ -136,7 +142,7 @@ void Navigator::follow(const std::shared_ptr<Screen>& from, Outcome outcome) {
     if (top().screen == from) closeTop();
     return;
   }
-  if (outcome.go->segue == startOverSegue) return startOver();
+  if (followReserved(*outcome.go)) return;
   const Segue* segue = segueNamed(outcome.go->segue);
   if (!segue) {
     unknownSegues_.push_back(outcome.go->segue);
@@ -145,6 +151,22 @@ void Navigator::follow(const std::shared_ptr<Screen>& from, Outcome outcome) {
   const bool modal = segue->presentation == Segue::Presentation::modal || !modals_.empty();
   open(modal ? modals_ : stacks_[tab_], *segue, outcome.go->argument);
   appear();
+}
+
+/// The ways that lead to no screen.
+bool Navigator::followReserved(const Go& go) {
+  if (go.segue == startOverSegue) {
+    startOver();
+  } else if (go.segue == exportCareerSegue) {
+    request_ = {Request::Kind::exportCareer, ""};
+  } else if (go.segue == importCareerSegue) {
+    request_ = {Request::Kind::importCareer, ""};
+  } else if (go.segue == restoreSegue) {
+    request_ = {Request::Kind::restore, go.argument};
+  } else {
+    return false;
+  }
+  return true;
 }
 
 const Navigator::Open& Navigator::top() const { return modals_.empty() ? stacks_[tab_].back() : modals_.back(); }
@@ -181,6 +203,7 @@ Shown Navigator::shown() const {
   shown.feedback = feedback_;
   if (!alerts_.empty()) shown.alert = Shown::ShownAlert{alerts_.front().key, alerts_.front().alert};
   shown.notice = notice_;
+  shown.request = request_;
   shown.screen = top().segue->screen;
   shown.key = top().key;
   shown.view = top().screen->view();

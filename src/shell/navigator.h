@@ -23,6 +23,18 @@ struct Header {
   std::string date;             ///< "Week 14, 2023"
 };
 
+/// What the program around the game has to do after a press, because only it can.
+struct Request {
+  enum class Kind {
+    none,
+    exportCareer,  ///< hand the player the career as a file
+    importCareer,  ///< ask for a file and put the career in it in the place of this one
+    restore,       ///< go back to the kept copy `snapshot`: put it in the place of the save and launch anew
+    newYear,       ///< nothing; a New Year has begun, a good moment to think of a copy elsewhere
+  } kind = Kind::none;
+  std::string snapshot;
+};
+
 /// Everything that is on the glass: what the page draws and the console prints.
 struct Shown {
   Header header;
@@ -39,6 +51,7 @@ struct Shown {
   };
   std::optional<ShownAlert> alert;
   std::string notice;
+  Request request;
   std::string_view screen;
   int64_t key = 0;
   View view;
@@ -48,6 +61,12 @@ struct Shown {
 /// modal one is closed, what they still had to say is dropped, home is opened anew and the music tab is shown, which
 /// asks for a name.
 inline constexpr std::string_view startOverSegue = "startOver";
+
+/// Answered instead of a segue by a screen that needs the program around the game; see Request. The last one carries
+/// the copy's name.
+inline constexpr std::string_view exportCareerSegue = "exportCareer";
+inline constexpr std::string_view importCareerSegue = "importCareer";
+inline constexpr std::string_view restoreSegue = "restoreSnapshot";
 
 class Navigator {
  public:
@@ -98,6 +117,7 @@ class Navigator {
   void open(std::vector<Open>& stack, const Segue& segue, std::string_view argument);
   void follow(const std::shared_ptr<Screen>& from, Outcome outcome);
   void appear();
+  bool followReserved(const Go& go);
 
   Game& game_;
   std::array<std::vector<Open>, tabCount> stacks_;
@@ -107,6 +127,7 @@ class Navigator {
   int64_t lastKey_ = 0;
   Feedback feedback_ = Feedback::none;
   std::string notice_;
+  Request request_;
   std::vector<std::string> unknownSegues_;
 };
 

@@ -28,6 +28,7 @@
 #include "music/song_chart_detail_view_controller.h"
 #include "music/song_detail_view_controller.h"
 #include "shell/about_view_controller.h"
+#include "shell/restore_view_controller.h"
 #include "shell/settings_view_controller.h"
 #include "social/create_twitter_message_view_controller.h"
 #include "social/twitter_profile_view_controller.h"
@@ -103,6 +104,7 @@ constexpr Segue allSegues[] = {
     {"goToNetWorth", "NetWorthViewController", push, make<NetWorthViewController>},
     // shell
     {"goToSettings", "SettingsViewController", push, make<SettingsViewController>},
+    {"goToRestore", "RestoreViewController", push, make<RestoreViewController>},
     {"goToAbout", "AboutViewController", push, make<AboutViewController>},
 };
 

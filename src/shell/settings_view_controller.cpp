@@ -35,7 +35,9 @@ Outcome SettingsViewController::act(const Action& action) {
   if (action.id == confirmedRestart) return restart();
   if (action.id == "appearance") return chooseAppearance(action.value);
   for (const std::string_view segue :
-       {"goToChangeFeaturedArtistName", "goToChangeCameoNames", "goToData", "goToAbout"}) {
+       {exportCareerSegue, importCareerSegue, std::string_view("goToRestore"),
+        std::string_view("goToChangeFeaturedArtistName"), std::string_view("goToChangeCameoNames"),
+        std::string_view("goToData"), std::string_view("goToAbout")}) {
     if (action.id == segue) return goTo(action.id);
   }
   return {};
@@ -51,6 +53,7 @@ Outcome SettingsViewController::restartButton() {
 }
 
 Outcome SettingsViewController::restart() {
+  game_.saveFile.keepSnapshot(SnapshotKind::restart, state());
   restartGame(game_);
   return goTo(std::string(startOverSegue));
 }
@@ -81,6 +84,13 @@ View SettingsViewController::view() const {
   names.items.push_back(wayTo("goToChangeFeaturedArtistName", "guest", "Featured artists", "Rename the guests"));
   names.items.push_back(wayTo("goToChangeCameoNames", "video", "Cameos", "Rename the faces in videos"));
   view.add(std::move(names));
+  view.add(Heading{"Your career", {}});
+  Rows career;
+  career.items.push_back(
+      wayTo(std::string(exportCareerSegue), "document", "Export", "Save it as a file, to keep or to carry over"));
+  career.items.push_back(wayTo(std::string(importCareerSegue), "box", "Import", "Go on with a career from a file"));
+  career.items.push_back(wayTo("goToRestore", "restart", "Restore", "Go back to a New Year, or undo a restart"));
+  view.add(std::move(career));
   view.add(Heading{"Backbeat", {}});
   Rows game;
   game.items.push_back(wayTo("goToData", "box", "Data", "Make a long career lighter"));

@@ -28,6 +28,17 @@ const char* nameOf(Feedback feedback) {
   return "none";
 }
 
+const char* nameOf(Request::Kind kind) {
+  switch (kind) {
+    case Request::Kind::none: return "";
+    case Request::Kind::exportCareer: return "export";
+    case Request::Kind::importCareer: return "import";
+    case Request::Kind::restore: return "restore";
+    case Request::Kind::newYear: return "newYear";
+  }
+  return "";
+}
+
 const char* nameOf(Theme theme) {
   switch (theme) {
     case Theme::plain: return "plain";
@@ -424,6 +435,8 @@ std::string shownAsJson(const Navigator& navigator, const Shown& shown) {
   json.key("feedback").text(nameOf(shown.feedback));
   writer.alert(shown.alert);
   json.key("notice").text(shown.notice);
+  json.key("request").text(nameOf(shown.request.kind));
+  if (!shown.request.snapshot.empty()) json.key("snapshot").text(shown.request.snapshot);
   writer.view(shown);
   json.endObject();
   return json.str();

@@ -74,7 +74,7 @@ TEST(GoldenYear, EndsTheSameWhenTypedIntoTheConsole) {
   career.play(trace.events.at(0));
   size_t next = 1;
   const auto clock = [&] { return trace.events[std::min(next++, trace.events.size() - 1)].unixMilliseconds; };
-  ConsolePlayer(career, typed, printed, {}, clock).run();
+  ConsolePlayer(career, store, typed, printed, {}, clock).run();
   EXPECT_EQ(hashText(stateHash(career.session().game().state)), goldenHash("golden_year"));
   EXPECT_EQ(printed.str().find('\x1b'), std::string::npos) << "no colours over a pipe";
 }

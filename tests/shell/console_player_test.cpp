@@ -28,7 +28,7 @@ struct ConsoleRun {
     launched_ = true;
     std::istringstream in(script);
     std::ostringstream out;
-    ConsolePlayer(career, in, out, {false, colour}, [] { return int64_t{1'672'660'800'000}; }).run();
+    ConsolePlayer(career, store, in, out, {false, colour}, [] { return int64_t{1'672'660'800'000}; }).run();
     said = out.str();
   }
   const GameState& state() { return career.session().game().state; }

@@ -27,6 +27,12 @@ constexpr CommandText commands[] = {
     {"info", Command::info, "backbeat info [--save FILE]",
      "Tells what a save holds, and changes nothing.\n"
      "  --save FILE   the save to look into\n"},
+    {"export", Command::exportCareer, "backbeat export FILE [--save FILE]",
+     "Writes the whole career into one binary property list, to keep or to carry to another device.\n"
+     "  --save FILE   the save to take it from\n"},
+    {"import", Command::importCareer, "backbeat import FILE [--save FILE]",
+     "Puts the career of such a file in the place of the one in the save, which is kept aside: Settings, Restore.\n"
+     "  --save FILE   the save to put it into\n"},
 };
 
 std::string wholeUsage() {
@@ -71,6 +77,16 @@ std::string takeOption(CommandLine& line, std::string_view option, std::string_v
   return value.empty() ? std::string(option) + " needs a value behind it" : "";
 }
 
+/// Where the file goes that a command takes without an option; nullptr for a command that takes none.
+std::string* fileOf(CommandLine& line) {
+  switch (line.command) {
+    case Command::replay: return &line.trace;
+    case Command::exportCareer:
+    case Command::importCareer: return &line.career;
+    default: return nullptr;
+  }
+}
+
 CommandLine readCommand(const CommandText& command, std::span<const char* const> words,
                         const std::string& defaultSave) {
   CommandLine line;
@@ -84,15 +100,15 @@ CommandLine readCommand(const CommandText& command, std::span<const char* const>
       const std::string_view value = i + 1 < words.size() ? words[i + 1] : "";
       problem = takeOption(line, word, value);
       ++i;
-    } else if (command.command == Command::replay && line.trace.empty() && !word.empty()) {
-      line.trace = word;
+    } else if (std::string* file = fileOf(line); file && file->empty() && !word.empty()) {
+      *file = word;
     } else {
       problem = "unexpected word \"" + std::string(word) + "\"";
     }
     if (!problem.empty()) return misuse(problem, usageOf(command));
   }
-  if (command.command == Command::replay && line.trace.empty()) {
-    return misuse("replay needs the file of a trace", usageOf(command));
+  if (const std::string* file = fileOf(line); file && file->empty()) {
+    return misuse(std::string(command.word) + " needs a file", usageOf(command));
   }
   return line;
 }

@@ -7,6 +7,7 @@
 
 #include "core/case_folding.h"
 #include "core/text.h"
+#include "shell/native/career_transfer.h"
 #include "shell/native/terminal_text.h"
 
 namespace backbeat {
@@ -20,6 +21,7 @@ constexpr const char* helpText =
     "  home, music, life, business, social        the tabs\n"
     "  back                one screen back        end           END THE WEEK\n"
     "  info                about this screen      again         shows it once more\n"
+    "  export FILE         the career as a file   import FILE   goes on with such a file\n"
     "  help                this text              quit          leaves; everything is kept\n"
     "✗ stands behind a price that you cannot pay now.\n";
 
@@ -33,9 +35,9 @@ std::pair<std::string_view, std::string_view> firstWord(std::string_view input) 
 
 }  // namespace
 
-ConsolePlayer::ConsolePlayer(TraceRecorder& career, std::istream& in, std::ostream& out, Look look,
+ConsolePlayer::ConsolePlayer(TraceRecorder& career, CareerStore& store, std::istream& in, std::ostream& out, Look look,
                              std::function<int64_t()> now)
-    : career_(career), in_(in), out_(out), look_(look), now_(std::move(now)) {}
+    : career_(career), store_(store), in_(in), out_(out), look_(look), now_(std::move(now)) {}
 
 void ConsolePlayer::run() {
   show();
@@ -72,12 +74,12 @@ bool ConsolePlayer::obey(std::string_view input) {
   } else if (const auto number = wholeNumber(word)) {
     pressNumber(static_cast<size_t>(std::max<int64_t>(*number, 0)), value);
   } else {
-    return obeyWord(foldCase(word));
+    return obeyWord(foldCase(word), value);
   }
   return true;
 }
 
-bool ConsolePlayer::obeyWord(const std::string& word) {
+bool ConsolePlayer::obeyWord(const std::string& word, std::string_view value) {
   if (word == "quit" || word == "exit") return false;
   const auto tab =
       std::find_if(tabs().begin(), tabs().end(), [&](const Tab& each) { return foldCase(each.label) == word; });
@@ -87,6 +89,10 @@ bool ConsolePlayer::obeyWord(const std::string& word) {
     show();
   } else if (word == "info") {
     out_ << printHelp(shown_.view);
+  } else if (word == "export") {
+    exportTo(value);
+  } else if (word == "import") {
+    importFrom(value);
   } else if (shown_.alert) {
     say("Answer the message first: type the number of a button.");
   } else if (tab != tabs().end()) {
@@ -164,7 +170,43 @@ void ConsolePlayer::pressWindow(bool earlier) {
 
 void ConsolePlayer::press(const std::string& screenKey, const Action& action) {
   career_.play(actEvent(now_(), screenKey, action));
+  obeyRequest();
   show();
+}
+
+void ConsolePlayer::obeyRequest() {
+  const Request request = career_.session().shown().request;
+  switch (request.kind) {
+    case Request::Kind::exportCareer: return say("\nType export and the name of a file: export nova.plist");
+    case Request::Kind::importCareer: return say("\nType import and the name of a file: import nova.plist");
+    case Request::Kind::restore:
+      if (!store_.restoreSnapshot(request.snapshot))
+        return say("\nThat copy could not be restored. Nothing has changed.");
+      return relaunch();
+    case Request::Kind::none:
+    case Request::Kind::newYear: break;
+  }
+}
+
+void ConsolePlayer::exportTo(std::string_view path) {
+  if (path.empty()) return say("Type the name of a file behind it: export nova.plist");
+  const std::string problem = exportToFile(career_.session().game().state, std::string(path));
+  say(problem.empty() ? "Your career is in " + std::string(path) + "." : problem);
+}
+
+void ConsolePlayer::importFrom(std::string_view path) {
+  if (path.empty()) return say("Type the name of a file behind it: import nova.plist");
+  const FileImport import = importFromFile(std::string(path), store_);
+  say(importMessage(import));
+  if (!import.problem.empty()) return;
+  relaunch();
+  show();
+}
+
+/// Another career is in the save now.
+void ConsolePlayer::relaunch() {
+  const int64_t time = now_();
+  career_.play(launchEvent(time, static_cast<uint64_t>(time)));
 }
 
 }  // namespace backbeat

@@ -18,8 +18,9 @@ class ConsolePlayer {
     bool colour = false;
   };
 
-  /// `career` has been launched. `now` gives the time of each press, in milliseconds since 1970.
-  ConsolePlayer(TraceRecorder& career, std::istream& in, std::ostream& out, Look look, std::function<int64_t()> now);
+  /// `career` plays on `store` and has been launched. `now` gives the time of each press, in milliseconds since 1970.
+  ConsolePlayer(TraceRecorder& career, CareerStore& store, std::istream& in, std::ostream& out, Look look,
+                std::function<int64_t()> now);
 
   /// Plays until the player quits or the input ends.
   void run();
@@ -28,7 +29,11 @@ class ConsolePlayer {
   void show();
   /// False when the player leaves.
   bool obey(std::string_view input);
-  bool obeyWord(const std::string& word);
+  bool obeyWord(const std::string& word, std::string_view value);
+  void exportTo(std::string_view path);
+  void importFrom(std::string_view path);
+  void relaunch();
+  void obeyRequest();
   void pressNumber(size_t number, std::string_view value);
   void pressTab(size_t tab);
   void pressBack();
@@ -38,6 +43,7 @@ class ConsolePlayer {
   void say(const std::string& text);
 
   TraceRecorder& career_;
+  CareerStore& store_;
   std::istream& in_;
   std::ostream& out_;
   Look look_;

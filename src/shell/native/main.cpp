@@ -12,6 +12,7 @@
 
 #include "core/memory_store.h"
 #include "core/money.h"
+#include "shell/native/career_transfer.h"
 #include "shell/native/command_line.h"
 #include "shell/native/console_player.h"
 #include "shell/native/save_info.h"
@@ -78,7 +79,7 @@ int play(const CommandLine& line) {
   QuietPlatform platform;
   TraceRecorder career(*opened.store, platform, record);
   career.play(launchEvent(unixMilliseconds(), line.seed.value_or(seedOfTheSystem())));
-  ConsolePlayer(career, std::cin, std::cout, look(), unixMilliseconds).run();
+  ConsolePlayer(career, *opened.store, std::cin, std::cout, look(), unixMilliseconds).run();
   if (!line.trace.empty() && !trace) return fail("the trace " + line.trace + " is not complete.");
   if (career.session().game().saveFile.failing()) return fail("the last steps could not be saved.");
   return done;
@@ -98,14 +99,40 @@ int replay(const CommandLine& line) {
   return done;
 }
 
-int info(const CommandLine& line) {
+/// Opens a save that is there: opening one that is not, or is still empty, would begin it.
+SqliteStore::Opened openExisting(const std::string& save) {
   std::error_code problem;
-  const auto size = std::filesystem::file_size(line.save, problem);
-  // Opening a save that is not there, or is still empty, would begin one.
-  if (problem || size == 0) return fail("there is no save in " + line.save + ".");
-  const SqliteStore::Opened opened = SqliteStore::open(line.save);
+  const auto size = std::filesystem::file_size(save, problem);
+  if (problem || size == 0) return {nullptr, "there is no save in " + save + "."};
+  return SqliteStore::open(save);
+}
+
+int info(const CommandLine& line) {
+  const SqliteStore::Opened opened = openExisting(line.save);
   if (!opened.store) return fail(opened.problem);
   std::cout << saveInfo(*opened.store);
+  return done;
+}
+
+int exportCareerFile(const CommandLine& line) {
+  const SqliteStore::Opened opened = openExisting(line.save);
+  if (!opened.store) return fail(opened.problem);
+  GameState state;
+  const LoadReport report = SaveFile(*opened.store).load(state);
+  if (!report.readable) return fail("the save " + line.save + " cannot be read.");
+  const std::string problem = exportToFile(state, line.career);
+  if (!problem.empty()) return fail(problem);
+  for (const std::string& key : report.damagedLists) std::cerr << "backbeat: " << key << " is damaged and left out.\n";
+  std::cout << "The career is in " << line.career << ".\n";
+  return done;
+}
+
+int importCareerFile(const CommandLine& line) {
+  const SqliteStore::Opened opened = SqliteStore::open(line.save);
+  if (!opened.store) return fail(opened.problem);
+  const FileImport import = importFromFile(line.career, *opened.store);
+  if (!import.problem.empty()) return fail(import.problem);
+  std::cout << importMessage(import) << '\n';
   return done;
 }
 
@@ -118,6 +145,8 @@ int run(const CommandLine& line) {
     case CommandLine::Command::play: return play(line);
     case CommandLine::Command::replay: return replay(line);
     case CommandLine::Command::info: return info(line);
+    case CommandLine::Command::exportCareer: return exportCareerFile(line);
+    case CommandLine::Command::importCareer: return importCareerFile(line);
     case CommandLine::Command::version: std::cout << "backbeat 1.0\n"; return done;
     case CommandLine::Command::help: std::cout << line.help; return done;
   }

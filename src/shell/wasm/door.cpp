@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/career_file.h"
+#include "core/json.h"
 #include "core/platform.h"
 #include "shell/page_store.h"
 #include "shell/session.h"
@@ -38,6 +40,26 @@ std::string_view nextPart(std::string_view& text) {
 
 Date dateFrom(std::string_view unixMilliseconds) {
   return {static_cast<double>(wholeNumber(unixMilliseconds).value_or(0)) / 1000};
+}
+
+/// The running career, or the one in the rows that were handed in, which goes to `loaded`: an engine that the page does
+/// not dare to start can still hand out what is stored.
+const GameState& currentState(GameState& loaded) {
+  Door& here = door();
+  if (here.session) return here.session->game().state;
+  SaveFile(here.store).load(loaded);
+  return loaded;
+}
+
+std::string importAsJson(const ImportedCareer& career) {
+  JsonWriter json;
+  json.beginObject();
+  json.key("problem").text(career.problem);
+  json.key("missing").beginArray();
+  for (const std::string& key : career.missing) json.text(key);
+  json.endArray();
+  json.endObject();
+  return json.str();
 }
 
 void answer() {
@@ -80,6 +102,32 @@ extern "C" {
   const std::string id(backbeat::nextPart(text));
   door().session->press(now, screen, {id, std::string(text)});
   backbeat::answer();
+}
+
+[[clang::export_name("bb_snapshot")]] void bb_snapshot(const char* name, uint32_t size) {
+  door().store.addSnapshot({name, size});
+}
+
+[[clang::export_name("bb_export")]] void bb_export() {
+  backbeat::GameState loaded;
+  const backbeat::GameState& state = backbeat::currentState(loaded);
+  door().answer = backbeat::exportCareer(state);
+}
+
+[[clang::export_name("bb_export_name")]] void bb_export_name() {
+  backbeat::GameState loaded;
+  door().answer = backbeat::exportFileName(backbeat::currentState(loaded));
+}
+
+[[clang::export_name("bb_import")]] void bb_import(const char* bytes, uint32_t size) {
+  backbeat::ImportedCareer career = backbeat::importCareer({bytes, size});
+  auto& here = door();
+  here.answer = backbeat::importAsJson(career);
+  if (!career.state) return;
+  backbeat::GameState loaded;
+  backbeat::keepSnapshot(here.store, backbeat::SnapshotKind::import, backbeat::currentState(loaded));
+  here.store.commit(backbeat::rowsOf(*career.state));
+  here.batch = here.store.takeBatch();
 }
 
 [[clang::export_name("bb_state_hash")]] void bb_state_hash() {
