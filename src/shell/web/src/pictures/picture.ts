@@ -6,29 +6,36 @@ import { sleeve } from "./sleeves";
 
 /** Artwork that follows from a name, made once and kept while it is likely to be shown again. */
 class Gallery {
-  private readonly made = new Map<string, string>();
+  private readonly made = new Map<string, TemplateResult>();
 
-  constructor(private readonly draw: (name: string) => string) {}
+  constructor(private readonly draw: (name: string) => TemplateResult) {}
 
-  address(name: string): string {
-    let address = this.made.get(name);
-    if (address === undefined) {
+  work(name: string): TemplateResult {
+    let work = this.made.get(name);
+    if (work === undefined) {
       if (this.made.size >= 400) this.made.clear();
-      address = `data:image/svg+xml,${encodeURIComponent(this.draw(name))}`;
-      this.made.set(name, address);
+      work = this.draw(name);
+      this.made.set(name, work);
     }
-    return address;
+    return work;
   }
 }
 
-const sleeves = new Gallery(sleeve);
+const drawn = (address: string): TemplateResult =>
+  html`<img src=${address} alt="" draggable="false" decoding="async" />`;
+
+/** Our own markup as a template that is parsed once, however often it is shown. */
+const fixed = (markup: string): TemplateResult => html(Object.assign([markup], { raw: [markup] }));
+
+const sleeves = new Gallery((name) => fixed(sleeve(name)));
 // The portraits' drawings are as large as the rest of the page, so they come after the first screen stands.
 let portraits: Gallery | null = null;
 let loading: Promise<Gallery> | null = null;
 
 function loadPortraits(): Promise<Gallery> {
   loading ??= import("./portraits").then(
-    ({ portrait }) => (portraits = new Gallery(portrait)),
+    ({ portrait }) =>
+      (portraits = new Gallery((name) => drawn(`data:image/svg+xml,${encodeURIComponent(portrait(name))}`))),
     (failed) => {
       loading = null; // the next portrait tries again
       throw failed;
@@ -37,15 +44,13 @@ function loadPortraits(): Promise<Gallery> {
   return loading;
 }
 
-const drawn = (address: string): TemplateResult =>
-  html`<img src=${address} alt="" draggable="false" decoding="async" />`;
 const silhouette = html`<span class="silhouette">${glyph("person")}</span>`;
 
 function person(name: string): unknown {
-  if (portraits) return drawn(portraits.address(name));
+  if (portraits) return portraits.work(name);
   return until(
     loadPortraits().then(
-      (gallery) => drawn(gallery.address(name)),
+      (gallery) => gallery.work(name),
       () => silhouette,
     ),
     silhouette,
@@ -57,7 +62,7 @@ export function picture(wanted: Picture | undefined): TemplateResult | typeof no
   const name = wanted?.name ?? "";
   switch (wanted?.kind) {
     case "cover":
-      return html`<span class="picture cover">${drawn(sleeves.address(name))}</span>`;
+      return sleeves.work(name);
     case "person":
       return html`<span class="picture person">${person(name)}</span>`;
     case "photo":

@@ -125,17 +125,18 @@ function rays([, , shade, light]: Palette, draw: Draw): string {
 
 const motifs = [sun, triangles, waves, rings, night, mountains, bars, dots, arches, flower, orbit, rays];
 
-/** A record sleeve as an SVG text: it follows from the name alone. */
+/**
+ * A record sleeve as markup: it follows from the name alone. Drawn in the page itself, since every image of its own
+ * costs the browser a document; the colours lie behind the drawing, so that no two drawings share an id.
+ */
 export function sleeve(name: string): string {
   const draw = drawsOf(name);
   const palette = pick(palettes, draw);
   const motif = pick(motifs, draw);
-  const tilt = Math.floor(draw() * 4);
-  const ends = [`x2="1" y2="1"`, `x2="0" y2="1"`, `x1="1" x2="0" y2="1"`, `x2=".4" y2="1"`][tilt];
+  const tilt = pick([135, 180, 225, 158], draw);
+  const sky = `linear-gradient(${tilt}deg,${palette[0]},${palette[1]})`;
   return (
-    `<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 100 100"><defs><linearGradient id="s" ${ends}><stop stop-color="${palette[0]}"/>` +
-    `<stop offset="1" stop-color="${palette[1]}"/></linearGradient><radialGradient id="h" cx=".5" cy="0" r=".7"><stop stop-color="#fff" stop-opacity=".3"/>` +
-    `<stop offset="1" stop-color="#fff" stop-opacity="0"/></radialGradient></defs><rect width="100" height="100" fill="url(#s)"/>` +
-    `<rect width="100" height="100" fill="url(#h)"/>${motif(palette, draw)}</svg>`
+    `<span class="picture cover" style="background:radial-gradient(70% 70% at 50% 0,#ffffff4d,#fff0),${sky}">` +
+    `<svg viewBox="0 0 100 100" aria-hidden="true">${motif(palette, draw)}</svg></span>`
   );
 }

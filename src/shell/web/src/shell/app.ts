@@ -1,4 +1,5 @@
 import { html, LitElement, nothing, type PropertyValues, type TemplateResult } from "lit";
+import { guard } from "lit/directives/guard.js";
 import { repeat } from "lit/directives/repeat.js";
 import { setAppearance } from "../appearance";
 import { BackGesture } from "../back-gesture";
@@ -89,7 +90,8 @@ class AppElement extends LitElement {
       ${repeat(
         shown,
         (layer) => layer.key,
-        (layer) => this.layer(layer, answer),
+        // Nobody sees a parked layer: it stays as it was drawn until it comes back.
+        (layer) => guard([this.placeOf(layer) === "parked" ? "parked" : {}], () => this.layer(layer, answer)),
       )}
       ${this.canGoBack ? this.edge() : nothing}
       ${tabBar(answer.tabs ?? [], answer.tab ?? 0, modal, (tab) => this.press("tabs", "tab", String(tab)))}
