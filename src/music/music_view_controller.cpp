@@ -31,7 +31,14 @@ std::vector<size_t> positionsWhere(const RecordList<T>& list, bool released) {
 
 std::vector<size_t> releasedAlbums(const GameState& state) { return positionsWhere(state.saveAllAlbumList, true); }
 
-std::vector<size_t> releasedSongs(const GameState& state) { return positionsWhere(state.saveAllSongList, true); }
+/// The latest release first; the list itself is in the order of virality.
+std::vector<size_t> releasedSongs(const GameState& state) {
+  const RecordList<Song>& songs = state.saveAllSongList;
+  std::vector<size_t> positions = positionsWhere(songs, true);
+  const auto age = [&](size_t i) { return std::pair(songs[i].releaseWeek, songs[i].songId); };
+  std::sort(positions.begin(), positions.end(), [&](size_t a, size_t b) { return age(a) > age(b); });
+  return positions;
+}
 
 Row link(const char* id, const char* glyph, const char* title, const char* subtitle) {
   Row row;
@@ -133,7 +140,7 @@ void MusicViewController::describeSongs(View& view) const {
   if (!released.empty()) {
     view.add(Heading{"Released", {}});
     view.add(windowedRows("released", released_, static_cast<int64_t>(released.size()),
-                          [&](size_t i) { return songRow(state(), songs[released[released.size() - 1 - i]]); }));
+                          [&](size_t i) { return songRow(state(), songs[released[i]]); }));
   }
 }
 

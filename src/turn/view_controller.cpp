@@ -141,8 +141,9 @@ void ViewController::describeWeek(View& view) const {
   Row money;
   money.picture = icon("cash");
   money.title = "Standing net";
-  money.subtitle = "Job and weekly entries";
   const double net = standingWeeklyNet(state());
+  const bool needsWork = net < 0 && state().weeklyJobContractRemaining == 0;
+  money.subtitle = needsWork ? "No job: the Job Board in Life has one" : "Job and weekly entries";
   money.value = currency(net);
   money.tone = net < 0 ? Tone::bad : Tone::good;
   view.add(Rows{{std::move(energy), std::move(money)}, "", 0, 0});

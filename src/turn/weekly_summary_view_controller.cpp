@@ -263,6 +263,7 @@ View WeeklySummaryViewController::view() const {
   headline.items.push_back(std::move(fan));
   view.add(std::move(headline));
   if (!milestones_.empty()) view.add(celebration(state(), milestones_.front()));
+  describeEvents(view);
   if (!report_.weeklySongListens.empty()) {
     view.add(Heading{"POPULAR SONGS", {}});
     view.add(songsOf(state(), report_, milestones_));
@@ -280,7 +281,6 @@ View WeeklySummaryViewController::view() const {
   }
   view.add(incomeOf(report_));
   view.add(expensesOf(report_));
-  describeEvents(view);
   Button close;
   close.id = "closeButton";
   close.label = "Continue";

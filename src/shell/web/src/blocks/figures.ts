@@ -54,7 +54,7 @@ class FiguresElement extends LitElement {
   private large(figure: Figure): TemplateResult {
     return html`<div class="large-figure ${toneClass(figure.tone)}">
       ${figure.label ? html`<span class="figure-label" dir="auto">${figure.label}</span>` : nothing}
-      <span class="figure-value">${this.counted(figure)}</span>
+      <span class="figure-value" style="--letters:${figure.value?.length ?? 1}">${this.counted(figure)}</span>
       ${figure.note ? html`<span class="figure-note" dir="auto">${figure.note}</span>` : nothing}
     </div>`;
   }

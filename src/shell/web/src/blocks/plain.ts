@@ -33,7 +33,7 @@ function tile({ icon, label, value, note, tone, id }: Tile, scene: Scene): Templ
   const body = html`
     ${icon ? html`<span class="tile-icon tint-${tintOf(icon)}">${glyph(icon)}</span>` : nothing}
     <span class="tile-label" dir="auto">${label}</span>
-    <span class="tile-value" dir="auto">${value}</span>
+    <span class="tile-value" dir="auto" style="--letters:${value?.length ?? 1}">${value}</span>
     ${note ? html`<span class="tile-note" dir="auto">${note}</span>` : nothing}
   `;
   const look = `tile card ${toneClass(tone)}`;

@@ -50,7 +50,8 @@ class AlertElement extends LitElement {
     const dialog = this.querySelector("dialog")!;
     if (this.alert && !dialog.open) dialog.showModal();
     if (!this.alert && dialog.open) dialog.close();
-    if (this.alert) this.querySelector<HTMLElement>(".alert-buttons .button:last-child")?.focus();
+    // Return agrees, but never to something that destroys.
+    if (this.alert) [...this.querySelectorAll<HTMLElement>(".alert-buttons .button:not(.destructive)")].at(-1)?.focus();
   }
 
   private press(button: number): void {

@@ -1,0 +1,93 @@
+// Careers to look at: rows of a save, made by playing a golden career in the engine, with a few values put in their
+// place afterwards.
+import { readFileSync } from "node:fs";
+import { Launch } from "../../../../tests/wasm/door.mjs";
+
+const trace = (name) => readFileSync(new URL(`../../../../tests/play/${name}.trace`, import.meta.url), "utf8");
+const unescaped = (text) => (text === "%" ? "" : decodeURIComponent(text));
+
+/** The rows after the first `weeks` weeks of a golden career. */
+function played(name, weeks = Infinity) {
+  let launch;
+  let left = weeks;
+  for (const line of trace(name).split("\n").filter(Boolean)) {
+    const [kind, ...rest] = line.split(" ");
+    if (kind === "launch") {
+      launch = new Launch({ seed: rest[0], now: Number(rest[1]), rows: launch?.rows });
+    } else {
+      const [now, ...press] = rest;
+      if (press[1] === "endTheWeekButton" && (left -= 1) < 0) break;
+      launch.pressAt(Number(now), ...press.map(unescaped));
+    }
+  }
+  return launch.rows;
+}
+
+function whole(value) {
+  const bytes = new Uint8Array(9);
+  bytes[0] = "i".charCodeAt(0);
+  new DataView(bytes.buffer).setBigInt64(1, BigInt(value), true);
+  return bytes;
+}
+
+function double(value) {
+  const bytes = new Uint8Array(9);
+  bytes[0] = "d".charCodeAt(0);
+  new DataView(bytes.buffer).setFloat64(1, value, true);
+  return bytes;
+}
+
+/** A property list of one text. */
+function text(value) {
+  const utf16 = Buffer.from(value, "utf16le").swap16();
+  const body = Buffer.concat([Buffer.from([0x6f, 0x11, utf16.length >> 9, (utf16.length >> 1) & 255]), utf16]);
+  const end = 8 + body.length;
+  const trailer = Buffer.alloc(32);
+  trailer[6] = 2; // bytes of an offset
+  trailer[7] = 1; // bytes of a reference
+  trailer[15] = 1; // objects
+  trailer[30] = end >> 8;
+  trailer[31] = end & 255;
+  return new Uint8Array(Buffer.concat([Buffer.from("obplist00"), body, Buffer.from([0, 8]), trailer]));
+}
+
+function patched(rows, values) {
+  const patch = new Map(rows);
+  for (const [key, value] of Object.entries(values)) patch.set(`${key}\0-1`, { key, chunk: -1, remove: 0, value });
+  return patch;
+}
+
+/** Each world by its name; made when asked for. */
+export const worlds = {
+  new: () => new Map(),
+  "first weeks": () => played("golden_year", 8),
+  year: () => played("golden_year"),
+  decade: () => played("golden_decade"),
+  edges: () =>
+    patched(played("golden_decade"), {
+      myArtistsName: text("Maximiliana Rosalind Featherstonehaugh-Oyelaran 🎤 المغنية"),
+      totalCashAvailable: double(-98_765_432_109.87),
+      totalFans: whole(9_876_543_210),
+      totalEnergyAvailable: whole(-35),
+    }),
+};
+
+/** Puts the rows into the page's database; the page must be on the game's address, and not playing. */
+export function store(page, rows) {
+  const plain = [...rows.values()].map(({ key, chunk, value }) => [key, chunk, [...value]]);
+  return page.evaluate(async (rows) => {
+    const database = await new Promise((done, failed) => {
+      const opening = indexedDB.open("backbeat", 1);
+      opening.onupgradeneeded = () => opening.result.createObjectStore("rows");
+      opening.onsuccess = () => done(opening.result);
+      opening.onerror = () => failed(opening.error);
+    });
+    const transaction = database.transaction("rows", "readwrite");
+    for (const [key, chunk, value] of rows) transaction.objectStore("rows").put(new Uint8Array(value), [key, chunk]);
+    await new Promise((done, failed) => {
+      transaction.oncomplete = done;
+      transaction.onabort = () => failed(transaction.error);
+    });
+    database.close();
+  }, plain);
+}
