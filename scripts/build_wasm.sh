@@ -10,7 +10,7 @@ flags=(-std=c++20 -Oz -fno-exceptions -fno-rtti -ffp-contract=off -Wall -Wextra 
   "-fsanitize=$traps" -fsanitize-trap=all -D_LIBCPP_HARDENING_MODE=_LIBCPP_HARDENING_MODE_FAST -I../../src)
 # The stack lies below the data, so that running out of it is a trap. No -O here: it would run whatever optimiser is
 # installed, and the module would differ from machine to machine.
-link_flags=(-mexec-model=reactor "-Wl,--stack-first" "-Wl,-z,stack-size=1048576" "-Wl,--strip-debug")
+link_flags=(-mexec-model=reactor "-Wl,--stack-first" "-Wl,-z,stack-size=1048576" "-Wl,--strip-all")
 
 sources() {
   find src -name '*.cpp' -not -path 'src/shell/native/*' -not -path 'src/shell/web/*' | LC_ALL=C sort

@@ -55,5 +55,5 @@ export async function openHouse(root) {
     await new Promise((done) => server.close(done));
   }
 
-  return { home, open, close };
+  return { home, browser, open, close };
 }

@@ -7,7 +7,7 @@ import { parseArgs } from "node:util";
 import { launchBrowser } from "./browser.mjs";
 import { serve } from "./serve.mjs";
 import { walk } from "./walk.mjs";
-import { store, worlds } from "./worlds.mjs";
+import { openWorld, worlds } from "./worlds.mjs";
 
 const { values } = parseArgs({
   options: {
@@ -50,10 +50,7 @@ async function take(world, rows, theme) {
   const page = await context.newPage();
   page.on("console", (message) => message.type() === "error" && faults.push(`${world}: ${message.text()}`));
   page.on("pageerror", (error) => faults.push(`${world}: ${error}`));
-  await page.goto(`${home}icon.svg`);
-  await store(page, rows);
-  await page.goto(`${home}?seed=7`);
-  await page.locator(".layer.top").first().waitFor();
+  await openWorld(page, home, rows);
   await walk(page, async (name) => {
     await stillness(page);
     await shoot(page, world, theme, name);

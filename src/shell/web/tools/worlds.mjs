@@ -72,8 +72,17 @@ export const worlds = {
     }),
 };
 
-/** Puts the rows into the page's database; the page must be on the game's address, and not playing. */
-export function store(page, rows) {
+/** Opens the game on a save of these rows: they are stored from an empty page of the same address. */
+export async function openWorld(page, home, rows, query = "?seed=7") {
+  const empty = { contentType: "text/html", body: '<link rel="icon" href="data:,">' };
+  await page.route(`${home}empty`, (route) => route.fulfill(empty));
+  await page.goto(`${home}empty`);
+  await store(page, rows);
+  await page.goto(`${home}${query}`);
+  await page.locator(".layer.top").first().waitFor();
+}
+
+function store(page, rows) {
   const plain = [...rows.values()].map(({ key, chunk, value }) => [key, chunk, [...value]]);
   return page.evaluate(async (rows) => {
     const database = await new Promise((done, failed) => {

@@ -1,0 +1,89 @@
+// What the page may weigh and cost. The limits are generous: they catch what makes it twice as slow, on any machine.
+import assert from "node:assert/strict";
+import { readdir, readFile } from "node:fs/promises";
+import { join } from "node:path";
+import { after, before, test } from "node:test";
+import { gzipSync } from "node:zlib";
+import { openWorld, worlds } from "../tools/worlds.mjs";
+import { costOfPress, median } from "./cost.mjs";
+import { openGame } from "./open.mjs";
+
+/** A phone of the middle class is about four times slower than a desktop machine. */
+const slowdown = 4;
+
+let game;
+
+before(async () => {
+  game = await openGame();
+});
+after(() => game.close());
+
+test("the page stays light on the line", async () => {
+  const weights = new Map();
+  for (const folder of ["", "assets"]) {
+    for (const entry of await readdir(join(game.folder, folder), { withFileTypes: true })) {
+      if (entry.isFile())
+        weights.set(entry.name, gzipSync(await readFile(join(game.folder, folder, entry.name))).length / 1024);
+    }
+  }
+  const weigh = (pattern) => [...weights].reduce((sum, [name, size]) => sum + (pattern.test(name) ? size : 0), 0);
+  const limits = [
+    [/^index.*\.js$/, 90],
+    [/^portraits.*\.js$/, 140],
+    [/\.css$/, 14],
+    [/^engine\.wasm$/, 380],
+  ];
+  for (const [pattern, limit] of limits) {
+    const kilobytes = weigh(pattern);
+    assert.ok(kilobytes > 0 && kilobytes <= limit, `${pattern} weighs ${kilobytes.toFixed(0)} KB of ${limit}`);
+  }
+});
+
+test("a press is painted and a report shown at once", async () => {
+  const { page, context, faults } = await game.open({ address: "about:blank" });
+  await openWorld(page, game.home, worlds.decade());
+  const press = (presses) => costOfPress(game.browser, page, presses);
+  const tab = (n) => press(`() => document.querySelectorAll(".tab-bar button")[${n}].click()`);
+  const button = (label) =>
+    press(
+      `() => [...document.querySelectorAll(".layer.top button")].find((b) => b.textContent.includes("${label}")).click()`,
+    );
+  const presses = [];
+  const reports = [];
+  for (let round = 0; round < 4; round += 1) {
+    for (const n of [1, 2, 3, 4]) presses.push(await tab(n));
+    await tab(1);
+    presses.push(await button("Create a Song"));
+    presses.push(await press(`() => document.querySelector('.layer.top button[aria-label="Back"]').click()`));
+    presses.push(await tab(0));
+    reports.push(await button("END THE WEEK"));
+    await page.evaluate(() => {
+      const { player } = document.querySelector("backbeat-app");
+      for (let i = 0; i < 50 && (player.answer.alert || player.answer.modal); i += 1) {
+        const { alert, view } = player.answer;
+        if (alert) player.act("alert", String(alert.key), "0");
+        else player.act(view.key, view.mainAction.id);
+      }
+    });
+  }
+  const told = `presses ${presses.map((ms) => ms.toFixed(0))}, reports ${reports.map((ms) => ms.toFixed(0))} ms`;
+  assert.ok(median(presses) * slowdown <= 100, told);
+  assert.ok(median(reports) * slowdown <= 200, told);
+  assert.deepEqual(faults, []);
+  await context.close();
+});
+
+test("it starts soon and takes little memory", async () => {
+  const { page, context, faults } = await game.open({ address: "about:blank" });
+  const session = await context.newCDPSession(page);
+  await session.send("Emulation.setCPUThrottlingRate", { rate: slowdown });
+  const start = Date.now();
+  await page.goto(game.home);
+  await page.locator(".layer.top").first().waitFor();
+  const took = Date.now() - start;
+  assert.ok(took <= 6000, `the first screen took ${took} ms`);
+  const { usedSize } = await session.send("Runtime.getHeapUsage");
+  assert.ok(usedSize <= 40e6, `the page holds ${(usedSize / 1e6).toFixed(0)} MB`);
+  assert.deepEqual(faults, []);
+  await context.close();
+});
