@@ -4,7 +4,7 @@ import { readdir, readFile } from "node:fs/promises";
 import { join } from "node:path";
 import { after, before, test } from "node:test";
 import { gzipSync } from "node:zlib";
-import { openWorld, worlds } from "../tools/worlds.mjs";
+import { century, openWorld, worlds } from "../tools/worlds.mjs";
 import { costOfPress, median } from "./cost.mjs";
 import { openGame } from "./open.mjs";
 
@@ -69,6 +69,20 @@ test("a press is painted and a report shown at once", async () => {
   const told = `presses ${presses.map((ms) => ms.toFixed(0))}, reports ${reports.map((ms) => ms.toFixed(0))} ms`;
   assert.ok(median(presses) * slowdown <= 100, told);
   assert.ok(median(reports) * slowdown <= 200, told);
+  assert.deepEqual(faults, []);
+  await context.close();
+});
+
+test("a career of a hundred years is resumed soon", async () => {
+  const { page, context, faults } = await game.open({ address: "about:blank" });
+  await openWorld(page, game.home, century());
+  const session = await context.newCDPSession(page);
+  await session.send("Emulation.setCPUThrottlingRate", { rate: slowdown });
+  const start = Date.now();
+  await page.reload();
+  await page.locator(".layer.top").first().waitFor();
+  const took = Date.now() - start;
+  assert.ok(took <= 8000, `it took ${took} ms`);
   assert.deepEqual(faults, []);
   await context.close();
 });
