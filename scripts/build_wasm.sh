@@ -13,7 +13,8 @@ flags=(-std=c++20 -Oz -fno-exceptions -fno-rtti -ffp-contract=off -Wall -Wextra 
 link_flags=(-mexec-model=reactor "-Wl,--stack-first" "-Wl,-z,stack-size=1048576" "-Wl,--strip-all")
 
 sources() {
-  find src -name '*.cpp' -not -path 'src/shell/native/*' -not -path 'src/shell/web/*' | LC_ALL=C sort
+  find src -name '*.cpp' -not -path 'src/shell/native/*' -not -path 'src/shell/simulate/*' -not -path 'src/shell/web/*' |
+    LC_ALL=C sort
 }
 
 ninja_file() {

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "core/money.h"
-#include "turn/week_cycle.h"
 
 namespace backbeat {
 
@@ -119,7 +118,8 @@ void Navigator::closeTop() {
 
 void Navigator::endTheWeek() {
   for (std::vector<Open>& stack : stacks_) closeToRoot(stack);
-  runWeekCycle(game_, [this] { open(modals_, *segueNamed("goToWeeklySummary"), ""); });
+  runWeekCycle(
+      game_, [this] { open(modals_, *segueNamed("goToWeeklySummary"), ""); }, turnObserver_);
   appear();
 }
 

@@ -7,10 +7,12 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "core/screen.h"
 #include "shell/registry.h"
+#include "turn/week_cycle.h"
 
 namespace backbeat {
 
@@ -83,6 +85,9 @@ class Navigator {
 
   Shown shown() const;
 
+  /// Has every turn from now on tell `observer` of its steps.
+  void observeTurns(StepObserver observer) { turnObserver_ = std::move(observer); }
+
   /// The segues that screens asked for and nobody has registered, in the order of asking; such a press leads nowhere.
   const std::vector<std::string>& unknownSegues() const { return unknownSegues_; }
 
@@ -129,6 +134,7 @@ class Navigator {
   std::string notice_;
   Request request_;
   std::vector<std::string> unknownSegues_;
+  StepObserver turnObserver_;
 };
 
 }  // namespace backbeat

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <utility>
 
 #include "core/clock.h"
 #include "core/game.h"
@@ -26,6 +27,9 @@ class Session {
   Game& game() { return game_; }
   const Game& game() const { return game_; }
   const LoadReport& loadReport() const { return loadReport_; }
+
+  /// Has every turn from now on tell `observer` of its steps.
+  void observeTurns(StepObserver observer) { navigator_.observeTurns(std::move(observer)); }
 
  private:
   SeededRandom random_;

@@ -18,32 +18,38 @@
 
 namespace backbeat {
 
-void runWeekCycle(Game& game, const std::function<void()>& openReport) {
+void runWeekCycle(Game& game, const std::function<void()>& openReport, const StepObserver& observer) {
   GameState& state = game.state;
-  game.turn = Turn();
-  game.turn.before = milestoneSnapshot(state);
-  const auto step = [&](auto&& rule) {
+  const auto begin = [&](std::string_view name) {
+    if (observer) observer(name);
+  };
+  const auto step = [&](std::string_view name, auto&& rule) {
+    begin(name);
     rule(game);
     game.saveFile.commit();
   };
-  step(simulateWeeklyAlbumSales);   // 1, first: it opens the marketing pool
-  step(simulateWeeklySongStreams);  // 2, fills the chart
-  step(simulateWeeklyVideoViews);   // 3
-  step(runWeeklyTourShow);          // 4
-  step(simulateWeeklyListeners);    // 5, reads the marketing pool
+  begin("before");
+  game.turn = Turn();
+  game.turn.before = milestoneSnapshot(state);
+  step("album sales", simulateWeeklyAlbumSales);    // 1, first: it opens the marketing pool
+  step("song streams", simulateWeeklySongStreams);  // 2, fills the chart
+  step("video views", simulateWeeklyVideoViews);    // 3
+  step("tour show", runWeeklyTourShow);             // 4
+  step("listeners", simulateWeeklyListeners);       // 5, reads the marketing pool
   if (state.isLabelLaunched >= 1) {
-    step([](Game& g) {  // 6
+    step("signed artists", [](Game& g) {  // 6
       simulateSignedArtistStreams(g);
       simulateSignedArtistAlbumSales(g);
     });
   }
-  step(simulateFeaturedOnStreams);  // 7
-  step(settleBillboardRanks);       // 8, after all three writers of chart rows
-  step(sellWeeklyMerch);            // 9
-  state.weekNumber += 1;            // 10, in memory only: the records above carry the week that ends
+  step("guest verses", simulateFeaturedOnStreams);  // 7
+  step("chart", settleBillboardRanks);              // 8, after all three writers of chart rows
+  step("merchandise", sellWeeklyMerch);             // 9
+  state.weekNumber += 1;                            // 10, in memory only: the records above carry the week that ends
   state.weekNumberForTracking += 1;
-  step(advanceJobContract);                                 // 11
-  step(applyWeeklyEnergy);                                  // 12
+  step("job", advanceJobContract);    // 11
+  step("energy", applyWeeklyEnergy);  // 12
+  begin("calendar");
   refreshHomeHeader(game);                                  // 13, rolls the calendar
   checkLabelOfferBadge(game);                               // 14
   driftRealEstateIndex(game);                               // 15
@@ -51,9 +57,12 @@ void runWeekCycle(Game& game, const std::function<void()>& openReport) {
     state.timeUntilNextTour -= 1;
   }
   game.save(&GameState::timeUntilNextTour, &GameState::weekNumber, &GameState::weekNumberForTracking);  // 17
-  openReport();                                                                                         // 18
+  begin("report");
+  openReport();  // 18
   game.saveFile.commit();
+  begin("after");
   stateChanged(game);  // 19
+  begin("");
 }
 
 }  // namespace backbeat

@@ -2,7 +2,7 @@
 #include <array>
 
 #include "play/golden_careers.h"
-#include "play/scripted_player.h"
+#include "shell/simulate/player.h"
 
 namespace backbeat {
 
@@ -26,7 +26,7 @@ std::string albumOption(const GameState& state) {
   return std::to_string(option);
 }
 
-void makeSong(ScriptedPlayer& player, int64_t week) {
+void makeSong(Player& player, int64_t week) {
   player.tab(musicTab);
   player.press("createSongButton");
   player.press("title", "Letter " + std::to_string(week));
@@ -40,7 +40,7 @@ void makeSong(ScriptedPlayer& player, int64_t week) {
 }
 
 /// Releases what waits and belongs to no album.
-void releaseSingle(ScriptedPlayer& player) {
+void releaseSingle(Player& player) {
   const auto& songs = player.state().saveAllSongList;
   const auto waiting =
       std::find_if(songs.begin(), songs.end(), [](const Song& song) { return !song.isReleased && song.albumId == 0; });
@@ -52,7 +52,7 @@ void releaseSingle(ScriptedPlayer& player) {
   player.settle();
 }
 
-void workOnAlbum(ScriptedPlayer& player, int64_t week) {
+void workOnAlbum(Player& player, int64_t week) {
   const auto& albums = player.state().saveAllAlbumList;
   const auto inProduction = std::find_if(albums.begin(), albums.end(),
                                          [](const Album& album) { return !album.isReleased && album.albumId > 0; });
@@ -81,7 +81,7 @@ void workOnAlbum(ScriptedPlayer& player, int64_t week) {
   player.press("kind", "0");
 }
 
-void practise(ScriptedPlayer& player, int64_t week) {
+void practise(Player& player, int64_t week) {
   player.tab(lifeTab);
   player.press("goToMyMusic");
   const std::string trait = practised[static_cast<size_t>(week) % practised.size()];
@@ -93,7 +93,7 @@ void practise(ScriptedPlayer& player, int64_t week) {
   }
 }
 
-void lookForWork(ScriptedPlayer& player) {
+void lookForWork(Player& player) {
   if (player.state().weeklyJobContractRemaining > 0 || player.state().totalCashAvailable > 10'000) return;
   player.tab(lifeTab);
   player.press("goToJobBoardButton");
@@ -101,7 +101,7 @@ void lookForWork(ScriptedPlayer& player) {
   player.settle();
 }
 
-void answerLabel(ScriptedPlayer& player) {
+void answerLabel(Player& player) {
   player.tab(homeTab);
   if (player.launch().contractOfferState == 0 || player.state().underContract >= 1) return;
   player.press("goToContractOffer");
@@ -113,7 +113,7 @@ void answerLabel(ScriptedPlayer& player) {
 }  // namespace
 
 std::vector<std::string> playGoldenDecade(std::vector<std::string>& problems) {
-  ScriptedPlayer player(seed, problems);
+  Player player(seed, problems);
   player.press("name", "Mara Quill");
   player.press("saveButton");
   for (int64_t week = 1; week <= weeks; ++week) {

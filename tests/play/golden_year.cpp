@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "core/memory_store.h"
-#include "play/scripted_player.h"
 #include "shell/native/view_printer.h"
+#include "shell/simulate/player.h"
 
 namespace backbeat {
 
@@ -13,13 +13,13 @@ namespace {
 constexpr uint64_t seed = 20230102;
 constexpr int64_t weeks = 52;
 
-void beginCareer(ScriptedPlayer& player) {
+void beginCareer(Player& player) {
   player.press("name", "Zoë Falk");
   player.press("saveButton");
   player.settle();
 }
 
-void makeSong(ScriptedPlayer& player, int64_t week) {
+void makeSong(Player& player, int64_t week) {
   player.tab(musicTab);
   player.press("createSongButton");
   player.press("title", "Chapter " + std::to_string(week) + " – 日々");
@@ -31,7 +31,7 @@ void makeSong(ScriptedPlayer& player, int64_t week) {
 }
 
 /// Boosts, announces and releases the first song that is in production.
-void releaseSong(ScriptedPlayer& player) {
+void releaseSong(Player& player) {
   player.tab(musicTab);
   const auto& songs = player.state().saveAllSongList;
   const auto waiting = std::find_if(songs.begin(), songs.end(), [](const Song& song) { return !song.isReleased; });
@@ -49,7 +49,7 @@ void releaseSong(ScriptedPlayer& player) {
   player.settle();
 }
 
-void liveTheWeek(ScriptedPlayer& player, int64_t week) {
+void liveTheWeek(Player& player, int64_t week) {
   player.tab(lifeTab);
   if (week % 13 == 1) {
     player.press("goToJobBoardButton");
@@ -72,7 +72,7 @@ void liveTheWeek(ScriptedPlayer& player, int64_t week) {
 }  // namespace
 
 std::vector<std::string> playGoldenYear(std::vector<std::string>& problems) {
-  ScriptedPlayer player(seed, problems);
+  Player player(seed, problems);
   beginCareer(player);
   for (int64_t week = 1; week <= weeks; ++week) {
     if (week % 3 == 1) makeSong(player, week);

@@ -22,6 +22,11 @@ TEST(CommandLine, TakesWhatMakesSense) {
   EXPECT_EQ(play.save, "s");
   EXPECT_EQ(read({"info"}).save, "/home/mara/career");
   EXPECT_EQ(read({"replay", "year.trace"}).trace, "year.trace");
+  const CommandLine sweep = read({"simulate", "--json", "--careers", "7", "--profile", "--strategy", "idle"});
+  EXPECT_EQ(sweep.problem, "");
+  EXPECT_TRUE(sweep.simulate.json && sweep.simulate.profile);
+  EXPECT_EQ(sweep.simulate.careers, 7);
+  EXPECT_EQ(sweep.simulate.strategy, "idle");
   EXPECT_EQ(defaultSaveFile("/data", "/home/mara"), "/data/backbeat/career.backbeat");
   EXPECT_EQ(defaultSaveFile("relative", "/home/mara"), "/home/mara/.local/share/backbeat/career.backbeat");
 }
@@ -41,6 +46,12 @@ TEST(CommandLine, RefusesTheRestWithTheUsage) {
       {"replay"},
       {"replay", "a", "b"},
       {"replay", "--save", "s", "a"},
+      {"simulate", "--careers", "0"},
+      {"simulate", "--years", "1001"},
+      {"simulate", "--strategy", "lucky"},
+      {"simulate", "--save", "s"},
+      {"simulate", "--csv"},
+      {"play", "--json"},
   };
   for (const auto& words : senseless) {
     EXPECT_THAT(read(words).problem, HasSubstr("usage: backbeat")) << ::testing::PrintToString(words);
@@ -49,7 +60,7 @@ TEST(CommandLine, RefusesTheRestWithTheUsage) {
 
 TEST(CommandLine, TheProgramEndsWithTheRightCode) {
   EXPECT_EQ(runProgram({"--version"}).exitCode, 0);
-  for (const char* command : {"play", "replay", "info"}) {
+  for (const char* command : {"play", "replay", "info", "simulate"}) {
     const ProgramRun help = runProgram({command, "--help"});
     EXPECT_EQ(help.exitCode, 0);
     EXPECT_THAT(help.output, HasSubstr(std::string("usage: backbeat ") + command));

@@ -33,6 +33,19 @@ constexpr CommandText commands[] = {
     {"import", Command::importCareer, "backbeat import FILE [--save FILE]",
      "Puts the career of such a file in the place of the one in the save, which is kept aside: Settings, Restore.\n"
      "  --save FILE   the save to put it into\n"},
+    {"simulate", Command::simulate,
+     "backbeat simulate [--strategy NAME] [--careers N] [--years Y] [--seed S] [--jobs J]\n"
+     "                [--csv FILE] [--json] [--trace FILE] [--profile]",
+     "Plays whole careers by a strategy and tells how they end. Nothing is kept but what is asked for.\n"
+     "  --strategy NAME  idle, casual, keen (unless told otherwise) or mogul\n"
+     "  --careers N      how many careers, 100 unless told otherwise; they have the seeds S, S+1 and so on\n"
+     "  --years Y        how long each lasts, 10 unless told otherwise\n"
+     "  --seed S         the chance of the first career, 1 unless told otherwise\n"
+     "  --jobs J         how many are played at once; otherwise one for each core\n"
+     "  --csv FILE       writes a row for each career and year\n"
+     "  --json           tells the outcome as JSON\n"
+     "  --trace FILE     writes down every press of the first career, for backbeat replay\n"
+     "  --profile        tells how the time of a turn divides over its steps\n"},
 };
 
 std::string wholeUsage() {
@@ -60,7 +73,10 @@ CommandLine misuse(const std::string& what, const std::string& usage) {
 /// Takes one option with its value; what is wrong with it, or "".
 std::string takeOption(CommandLine& line, std::string_view option, std::string_view value) {
   const bool plays = line.command == Command::play;
-  if (option == "--save" && line.command != Command::replay) {
+  if (line.command == Command::simulate) {
+    const auto problem = takeSimulateOption(line.simulate, option, value);
+    if (!problem || !problem->empty()) return problem.value_or("unknown option " + std::string(option));
+  } else if (option == "--save" && line.command != Command::replay) {
     line.save = value;
   } else if (option == "--trace" && plays) {
     line.trace = value;
@@ -96,6 +112,7 @@ CommandLine readCommand(const CommandText& command, std::span<const char* const>
     const std::string_view word = words[i];
     if (word == "--help" || word == "-h") return helpOf(usageOf(command) + "\n" + std::string(command.help));
     std::string problem;
+    if (line.command == Command::simulate && takeSimulateFlag(line.simulate, word)) continue;
     if (word.starts_with("-")) {
       const std::string_view value = i + 1 < words.size() ? words[i + 1] : "";
       problem = takeOption(line, word, value);

@@ -7,14 +7,26 @@
 #include <string>
 #include <string_view>
 
+#include "shell/simulate/simulate_command.h"
+
 namespace backbeat {
 
 struct CommandLine {
-  enum class Command { play, replay, info, exportCareer, importCareer, version, help } command = Command::help;
+  enum class Command {
+    play,
+    replay,
+    info,
+    exportCareer,
+    importCareer,
+    simulate,
+    version,
+    help
+  } command = Command::help;
   std::string save;              ///< the save's file, of play, info, export and import
   std::optional<uint64_t> seed;  ///< of play
   std::string trace;             ///< of play: the file that a trace goes to, "" for none; of replay: the one to play
   std::string career;            ///< of export and import: the file that holds or gets the career
+  SimulateOptions simulate;      ///< of simulate
   std::string help;              ///< of help: the text that was asked for
   std::string problem;           ///< why the words make no sense, with the usage; "" when they do
 };

@@ -147,6 +147,7 @@ int run(const CommandLine& line) {
     case CommandLine::Command::info: return info(line);
     case CommandLine::Command::exportCareer: return exportCareerFile(line);
     case CommandLine::Command::importCareer: return importCareerFile(line);
+    case CommandLine::Command::simulate: return runSimulation(line.simulate);
     case CommandLine::Command::version: std::cout << "backbeat 1.0\n"; return done;
     case CommandLine::Command::help: std::cout << line.help; return done;
   }

@@ -3,22 +3,29 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "core/memory_store.h"
+#include "core/store.h"
 #include "shell/trace.h"
 
 namespace backbeat {
 
-class ScriptedPlayer {
+class Player {
  public:
-  /// `problems` gets the steps that could not be made.
-  ScriptedPlayer(uint64_t seed, std::vector<std::string>& problems);
+  /// Launches a career that no store keeps. `problems` gets the steps that could not be made.
+  Player(uint64_t seed, std::vector<std::string>& problems);
 
   /// The trace so far.
   const std::vector<std::string>& lines() const { return lines_; }
   const GameState& state() { return career_.session().game().state; }
   const Launch& launch() { return career_.session().game().launch; }
+  /// What is on the glass; until the next press.
+  const Shown& seen();
+  /// The row, button, choice or other thing of kind `Block` with that id on the screen; nullptr when there is none.
+  const Row* row(std::string_view id);
+  const Choice* choice(std::string_view id);
+  const Button* button(std::string_view id);
 
   /// Presses what has the id; a step that finds nothing to press is a problem.
   void press(const std::string& id, const std::optional<std::string>& value = std::nullopt);
@@ -26,20 +33,29 @@ class ScriptedPlayer {
   bool tryPress(const std::string& id, const std::optional<std::string>& value = std::nullopt);
   /// Goes to the root of a tab.
   void tab(TabNumber number);
+  /// Leaves the screen.
+  void back() { act("nav", {"back", ""}); }
+  /// Answers one question with the button of that number, or with its first when it has fewer; nothing when nobody
+  /// asks.
+  void answer(size_t button);
   /// Answers what is asked with the first button.
   void settle();
-  /// Ends the week and reads the report; the chances it offers are taken when `takesChances`.
+  /// Ends the week from the root of the tab and reads the report; the chances it offers are taken when `takesChances`.
   void endTheWeek(bool takesChances = false);
 
+  /// Has every turn tell `observer` of its steps.
+  void observeTurns(StepObserver observer) { career_.session().observeTurns(std::move(observer)); }
+
  private:
-  std::string screen();
+  void backToRoot();
   void act(const std::string& screenKey, const Action& action);
 
   int64_t now_;
-  MemoryStore store_;
+  NullStore store_;
   QuietPlatform platform_;
   std::vector<std::string> lines_;
   TraceRecorder career_;
+  std::optional<Shown> seen_;
   std::vector<std::string>& problems_;
 };
 

@@ -1,0 +1,62 @@
+#include "shell/simulate/career_year.h"
+
+#include <charconv>
+
+#include "career/studio.h"
+#include "music/chart.h"
+#include "wealth/net_assets.h"
+
+namespace backbeat {
+
+namespace {
+
+void countMusic(const GameState& state, CareerYear& row) {
+  for (const Song& song : state.saveAllSongList) {
+    row.songs += song.isReleased ? 1 : 0;
+    row.streams += song.totalListen;
+  }
+  for (const Album& album : state.saveAllAlbumList) {
+    row.albums += album.isReleased ? 1 : 0;
+    row.albumsSold += album.albumsSold;
+  }
+  for (const BillboardSong& hit : state.saveAllBillboardSongList) {
+    if (hit.songId >= signedArtistSongOffset) continue;
+    row.chartHits += 1;
+    row.weeksAtOne += hit.weeksAtOne;
+    if (row.bestRank == 0 || hit.peakPosition < row.bestRank) row.bestRank = hit.peakPosition;
+  }
+}
+
+}  // namespace
+
+double Column::of(const CareerYear& row) const {
+  return std::visit([&](auto each) { return static_cast<double>(row.*each); }, member);
+}
+
+std::string Column::text(const CareerYear& row) const {
+  if (const auto* whole = std::get_if<int64_t CareerYear::*>(&member)) return std::to_string(row.*(*whole));
+  std::array<char, 400> digits;  // the longest double in full
+  const auto end = std::to_chars(digits.begin(), digits.end(), of(row), std::chars_format::fixed, 2).ptr;
+  return {digits.begin(), end};
+}
+
+CareerYear careerYear(const GameState& state, int64_t year) {
+  CareerYear row;
+  row.year = year;
+  row.cash = state.totalCashAvailable;
+  row.netAssets = netAssets(state);
+  row.listeners = state.totalFans;
+  row.followers = state.followerCount;
+  row.underContract = state.underContract;
+  row.energyCeiling = state.totalEnergyMax;
+  row.songWriting = state.songWriting;
+  row.vocalRange = state.vocalRange;
+  row.rhythm = state.rhythm;
+  row.charisma = state.charisma;
+  row.virality = state.virality;
+  row.studio = studioRating(state);
+  countMusic(state, row);
+  return row;
+}
+
+}  // namespace backbeat

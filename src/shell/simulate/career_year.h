@@ -1,0 +1,73 @@
+// One year of one simulated career, as numbers: a row of the table that a simulation writes.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "core/game_state.h"
+
+namespace backbeat {
+
+/// Where a career stands at the end of a year. Counts are of the whole career so far.
+struct CareerYear {
+  int64_t year = 0;  ///< of the career, from 1
+  double cash = 0;
+  double netAssets = 0;
+  int64_t listeners = 0;
+  int64_t followers = 0;
+  int64_t songs = 0;   ///< released
+  int64_t albums = 0;  ///< released
+  int64_t streams = 0;
+  int64_t albumsSold = 0;
+  int64_t chartHits = 0;      ///< own songs that ever charted
+  int64_t bestRank = 0;       ///< 0 when none did
+  int64_t weeksAtOne = 0;     ///< of all own songs together
+  int64_t underContract = 0;  ///< 1 while a label's contract runs
+  int64_t energyCeiling = 0;
+  int64_t songWriting = 0;
+  int64_t vocalRange = 0;
+  int64_t rhythm = 0;
+  int64_t charisma = 0;
+  int64_t virality = 0;
+  int64_t studio = 0;  ///< rating of the own one
+};
+
+/// One number of the row.
+struct Column {
+  std::string_view name;
+  std::variant<int64_t CareerYear::*, double CareerYear::*> member;
+
+  double of(const CareerYear& row) const;
+  std::string text(const CareerYear& row) const;  ///< dollars with cents
+};
+
+inline constexpr std::array<Column, 20> columns = {{
+    {"year", &CareerYear::year},
+    {"cash", &CareerYear::cash},
+    {"net_assets", &CareerYear::netAssets},
+    {"listeners", &CareerYear::listeners},
+    {"followers", &CareerYear::followers},
+    {"songs", &CareerYear::songs},
+    {"albums", &CareerYear::albums},
+    {"streams", &CareerYear::streams},
+    {"albums_sold", &CareerYear::albumsSold},
+    {"chart_hits", &CareerYear::chartHits},
+    {"best_rank", &CareerYear::bestRank},
+    {"weeks_at_one", &CareerYear::weeksAtOne},
+    {"under_contract", &CareerYear::underContract},
+    {"energy_ceiling", &CareerYear::energyCeiling},
+    {"songwriting", &CareerYear::songWriting},
+    {"vocals", &CareerYear::vocalRange},
+    {"rhythm", &CareerYear::rhythm},
+    {"charisma", &CareerYear::charisma},
+    {"virality", &CareerYear::virality},
+    {"studio", &CareerYear::studio},
+}};
+
+/// The row of a career that has just ended its `year`th year.
+CareerYear careerYear(const GameState& state, int64_t year);
+
+}  // namespace backbeat

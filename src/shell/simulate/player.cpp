@@ -1,0 +1,123 @@
+#include "shell/simulate/player.h"
+
+#include <utility>
+
+#include "shell/native/view_printer.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr int64_t newYear2023 = 1'672'660'800'000;  // unix milliseconds
+constexpr int64_t betweenPresses = 7'000;
+constexpr int mostReportPresses = 20;
+constexpr int mostQuestions = 100;
+
+/// The first of `items` with that id.
+template <class Items>
+auto withId(const Items& items, std::string_view id) -> decltype(&*items.begin()) {
+  for (const auto& item : items) {
+    if (item.id == id) return &item;
+  }
+  return nullptr;
+}
+
+template <class Block>
+const Block* blockWithId(const View& view, std::string_view id) {
+  for (const auto& block : view.blocks) {
+    const auto* wanted = std::get_if<Block>(&block);
+    if (wanted && wanted->id == id) return wanted;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+Player::Player(uint64_t seed, std::vector<std::string>& problems)
+    : now_(newYear2023),
+      career_(store_, platform_, [this](const std::string& line) { lines_.push_back(line); }),
+      problems_(problems) {
+  career_.play(launchEvent(now_, seed));
+}
+
+const Shown& Player::seen() {
+  if (!seen_) seen_ = career_.session().shown();
+  return *seen_;
+}
+
+const Row* Player::row(std::string_view id) {
+  for (const Block& block : seen().view.blocks) {
+    const auto* rows = std::get_if<Rows>(&block);
+    if (!rows) continue;
+    if (const Row* found = withId(rows->items, id)) return found;
+  }
+  return nullptr;
+}
+
+const Choice* Player::choice(std::string_view id) { return blockWithId<Choice>(seen().view, id); }
+
+const Button* Player::button(std::string_view id) {
+  const std::optional<Button>& main = seen().view.mainAction;
+  return main && main->id == id ? &*main : blockWithId<Button>(seen().view, id);
+}
+
+void Player::press(const std::string& id, const std::optional<std::string>& value) {
+  if (!tryPress(id, value)) problems_.push_back("there is no " + id + " on " + std::string(seen().screen));
+}
+
+bool Player::tryPress(const std::string& id, const std::optional<std::string>& value) {
+  for (const Pressable& each : printScreen(career_.session().navigator(), seen(), false).pressables) {
+    if (each.action.id != id || each.screenKey == "alert") continue;
+    act(each.screenKey, {id, value.value_or(each.action.value)});
+    return true;
+  }
+  return false;
+}
+
+void Player::tab(TabNumber number) {
+  act("tabs", {"tab", std::to_string(number)});
+  backToRoot();
+}
+
+void Player::backToRoot() {
+  for (size_t screens = seen().stack.size(); screens > 1; --screens) back();
+}
+
+void Player::answer(size_t button) {
+  const auto asked = seen().alert;
+  if (!asked) return;
+  const size_t chosen = button < asked->alert.buttons.size() ? button : 0;
+  act("alert", {std::to_string(asked->key), std::to_string(chosen)});
+}
+
+void Player::settle() {
+  for (int questions = 0; seen().alert; ++questions) {
+    if (questions > mostQuestions) return problems_.push_back("asked for ever: " + seen().alert->alert.title);
+    answer(0);
+  }
+}
+
+void Player::endTheWeek(bool takesChances) {
+  backToRoot();
+  const int64_t week = state().weekNumberForTracking;
+  act("nav", {"endTheWeekButton", ""});
+  settle();
+  for (const char* chance : {"eventButton1", "eventButton2", "eventButton3"}) {
+    if (takesChances && tryPress(chance)) settle();
+  }
+  for (int presses = 0; seen().modal; ++presses) {
+    if (presses > mostReportPresses) return problems_.push_back("stuck on " + std::string(seen().screen));
+    press("closeButton");
+    settle();
+  }
+  if (state().weekNumberForTracking == week)
+    problems_.push_back("the week does not end on " + std::string(seen().screen));
+}
+
+void Player::act(const std::string& screenKey, const Action& action) {
+  now_ += betweenPresses;
+  seen_.reset();
+  career_.play(actEvent(now_, screenKey, action));
+}
+
+}  // namespace backbeat

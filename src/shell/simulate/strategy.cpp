@@ -1,0 +1,36 @@
+#include "shell/simulate/strategy.h"
+
+#include <algorithm>
+
+#include "shell/simulate/casual.h"
+#include "shell/simulate/idle.h"
+#include "shell/simulate/keen.h"
+#include "shell/simulate/mogul.h"
+
+namespace backbeat {
+
+namespace {
+
+template <class S>
+std::unique_ptr<Strategy> make() {
+  return std::make_unique<S>();
+}
+
+constexpr StrategyEntry all[] = {
+    {"idle", "ends weeks and does nothing else", make<Idle>},
+    {"casual", "a job, a song every other month, a few traits", make<Casual>},
+    {"keen", "a song every other week, albums, traits, studio, marketing, contracts", make<Keen>},
+    {"mogul", "keen, and everything that money buys", make<Mogul>},
+};
+
+}  // namespace
+
+std::span<const StrategyEntry> strategies() { return all; }
+
+const StrategyEntry* strategyNamed(std::string_view name) {
+  const auto found =
+      std::find_if(std::begin(all), std::end(all), [&](const StrategyEntry& each) { return each.name == name; });
+  return found == std::end(all) ? nullptr : found;
+}
+
+}  // namespace backbeat
