@@ -1,7 +1,8 @@
 #include "music/listeners.h"
 
 #include <algorithm>
-#include <numeric>
+#include <utility>
+#include <vector>
 
 #include "core/bands.h"
 #include "core/numbers.h"
@@ -31,12 +32,17 @@ constexpr int64_t recentWeeks = 104;
 constexpr size_t weeksRemembered = 26;
 constexpr double poolShare = 0.01;
 
+/// Positions, the latest release first and equal ones as they stand. The weeks are taken out of the records before they
+/// are sorted: records lie far apart, and a long career has thousands.
 template <class T>
 std::vector<size_t> byLatestRelease(const RecordList<T>& list) {
-  std::vector<size_t> order(list.size());
-  std::iota(order.begin(), order.end(), size_t{0});
-  std::stable_sort(order.begin(), order.end(),
-                   [&](size_t a, size_t b) { return list[a].releaseWeek > list[b].releaseWeek; });
+  std::vector<std::pair<int64_t, size_t>> weeks;
+  weeks.reserve(list.size());
+  for (size_t i = 0; i < list.size(); ++i) weeks.emplace_back(-list[i].releaseWeek, i);
+  std::sort(weeks.begin(), weeks.end());
+  std::vector<size_t> order;
+  order.reserve(weeks.size());
+  for (const auto& [week, position] : weeks) order.push_back(position);
   return order;
 }
 
