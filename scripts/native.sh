@@ -11,3 +11,15 @@ build_native() {
   fi
   logged native ninja -C "$native_build" -j "$(jobs_at_once)" "$2"
 }
+
+# build_bench: the benchmarks, in a folder of their own.
+bench_build="$house/build/bench"
+build_bench() {
+  local launcher=()
+  if command -v ccache >/dev/null; then launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache); fi
+  if [[ ! -f $bench_build/build.ninja ]]; then
+    logged cmake-bench cmake -S "$house" -B "$bench_build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+      -DBACKBEAT_TESTS=OFF -DBACKBEAT_BENCH=ON "${launcher[@]}" || return 1
+  fi
+  logged bench ninja -C "$bench_build" -j "$(jobs_at_once)" backbeat_bench
+}

@@ -8,6 +8,7 @@ packages_for() {
     computer) echo g++ cmake ninja-build libsqlite3-dev ;;
     node) echo nodejs npm ca-certificates ;;
     tests) echo ccache libgtest-dev libgmock-dev libplist-utils python3 chromium fonts-noto-color-emoji ;;
+    bench) echo ccache libbenchmark-dev ;;
     lint) echo clang-format-14 clang-tidy-19 ;;
   esac
 }

@@ -1,0 +1,34 @@
+// A career at full stretch: a song released every week and rated so that about eighty stream at a time, an album of ten
+// of them every ten weeks, a post a week, and listeners enough to fill the chart.
+#pragma once
+
+#include "core/clock.h"
+#include "core/game.h"
+#include "core/platform.h"
+
+namespace backbeat {
+
+/// A game with everything that it is given.
+struct LoneGame {
+  explicit LoneGame(Store& store) : game(store, random, clock, platform) {}
+
+  SeededRandom random{2023};
+  SetClock clock;
+  QuietPlatform platform;
+  Game game;
+};
+
+/// What the artist does between two weeks.
+void liveWeek(Game& game);
+
+/// END THE WEEK until the report is closed, views not built.
+void playWeek(Game& game);
+
+/// The state after so many weeks of both.
+GameState heavyCareer(int64_t weeks);
+
+/// The number of records in all lists, and of songs that still stream.
+size_t recordsIn(const GameState& state);
+size_t songsStreaming(const GameState& state);
+
+}  // namespace backbeat

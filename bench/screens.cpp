@@ -1,0 +1,58 @@
+#include "screens.h"
+
+#include "shell/shown_json.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr Date someDay{1'672'660'800};
+
+}  // namespace
+
+const std::vector<HeavyScreen>& heavyScreens() {
+  static const std::vector<HeavyScreen> screens = {
+      {"home", {"0"}},
+      {"music, songs", {"1", "kind=0"}},
+      {"music, albums", {"1", "kind=1"}},
+      {"chart", {"1", "goToBillboard"}},
+      {"certifications", {"1", "goToCertification"}},
+      {"listeners", {"1", "goToMonthlyListenerDetail"}},
+      {"artist profile", {"1", "goToArtistProfile"}},
+      {"song statistics", {"1", "song:1", "marketingButton"}},
+      {"chirp feed", {"4"}},
+      {"weekly report", {}},
+  };
+  return screens;
+}
+
+void goToScreen(Session& session, const HeavyScreen& screen) {
+  if (screen.presses.empty()) return pressOnce(session, "nav", "endTheWeekButton", "");
+  pressOnce(session, "tabs", "tab", screen.presses.front());
+  while (session.shown().stack.size() > 1) pressOnce(session, "nav", "back", "");
+  for (size_t i = 1; i < screen.presses.size(); ++i) {
+    const std::string& step = screen.presses[i];
+    const size_t equals = step.find('=');
+    pressOnce(session, std::to_string(session.shown().key), step.substr(0, equals),
+              equals == step.npos ? "" : step.substr(equals + 1));
+  }
+}
+
+std::string describedScreen(const Session& session) { return shownAsJson(session.navigator(), session.shown()); }
+
+void endTheWeek(Session& session, const Press& press) {
+  press("nav", "endTheWeekButton", "");
+  for (Shown shown = session.shown(); shown.alert || shown.modal; shown = session.shown()) {
+    if (shown.alert) {
+      press("alert", std::to_string(shown.alert->key), "0");
+    } else {
+      press(std::to_string(shown.key), "closeButton", "");
+    }
+  }
+}
+
+void pressOnce(Session& session, const std::string& screenKey, const std::string& id, const std::string& value) {
+  session.press(someDay, screenKey, {id, value});
+}
+
+}  // namespace backbeat

@@ -1,0 +1,33 @@
+// The screens that have most to say.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "shell/session.h"
+
+namespace backbeat {
+
+struct HeavyScreen {
+  const char* name;
+  std::vector<std::string> presses;  ///< the way there from anywhere: a tab's number, then ids; empty for the report
+};
+const std::vector<HeavyScreen>& heavyScreens();
+
+/// Goes to the screen. After the report the week is over.
+void goToScreen(Session& session, const HeavyScreen& screen);
+
+/// What the page gets after a press: the whole glass, as JSON.
+std::string describedScreen(const Session& session);
+
+/// A press of `id` on the screen of that key.
+using Press = std::function<void(const std::string& screenKey, const std::string& id, const std::string& value)>;
+
+/// Ends the week, answers everything and closes the report, all by `press`.
+void endTheWeek(Session& session, const Press& press);
+
+/// A press at a time that is always the same.
+void pressOnce(Session& session, const std::string& screenKey, const std::string& id, const std::string& value);
+
+}  // namespace backbeat
