@@ -33,15 +33,13 @@ struct MilestoneSnapshot {
 
 /// Working values of the running turn; cleared at its first step, never saved.
 struct Turn {
-  MilestoneSnapshot before;                    ///< how songs and albums stood when the turn began
-  int64_t weeklyMarketingPoolTotal = 0;        ///< sum of this week's audiences won by marketing
-  int64_t weeklyMarketingPoolCount = 0;        ///< and their number
-  int64_t firstPlaceChartPosition = 0;         ///< streams that make a number one this week
-  double listensWithinRangeOfChart = 0;        ///< three quarters of that
-  int64_t lastPlaceChartPosition = 0;          ///< streams that enter the chart
-  std::vector<int64_t> songsOnCharts;          ///< rank, streams, rank, streams ... of this week
-  std::vector<size_t> sortedSongListForFans;   ///< positions of the songs, latest release first
-  std::vector<size_t> sortedAlbumListForFans;  ///< positions of the albums, latest release first
+  MilestoneSnapshot before;              ///< how songs and albums stood when the turn began
+  int64_t weeklyMarketingPoolTotal = 0;  ///< sum of this week's audiences won by marketing
+  int64_t weeklyMarketingPoolCount = 0;  ///< and their number
+  int64_t firstPlaceChartPosition = 0;   ///< streams that make a number one this week
+  double listensWithinRangeOfChart = 0;  ///< three quarters of that
+  int64_t lastPlaceChartPosition = 0;    ///< streams that enter the chart
+  std::vector<int64_t> songsOnCharts;    ///< rank, streams, rank, streams ... of this week
   int64_t seatsSoldOnTourForMerch = 0;
 };
 

@@ -32,29 +32,26 @@ constexpr int64_t recentWeeks = 104;
 constexpr size_t weeksRemembered = 26;
 constexpr double poolShare = 0.01;
 
-/// Positions, the latest release first and equal ones as they stand. The weeks are taken out of the records before they
-/// are sorted: records lie far apart, and a long career has thousands.
+/// The latest release, released or not, the first of equal ones: something still in production has release week 0, and
+/// the built-in "Single" stands in as it is, with 0 too. The list is not empty.
 template <class T>
-std::vector<size_t> byLatestRelease(const RecordList<T>& list) {
-  std::vector<std::pair<int64_t, size_t>> weeks;
-  weeks.reserve(list.size());
-  for (size_t i = 0; i < list.size(); ++i) weeks.emplace_back(-list[i].releaseWeek, i);
-  std::sort(weeks.begin(), weeks.end());
-  std::vector<size_t> order;
-  order.reserve(weeks.size());
-  for (const auto& [week, position] : weeks) order.push_back(position);
-  return order;
+const T& latestRelease(const RecordList<T>& list) {
+  const auto earlier = [](const T& a, const T& b) { return a.releaseWeek < b.releaseWeek; };
+  return *std::max_element(list.begin(), list.end(), earlier);
 }
 
+/// Summed from the latest release on, equal ones as they stand: the order decides the last bit of a sum.
 double meanRatingOfRecentSongs(const GameState& state) {
-  double sum = 0;
-  int64_t count = 0;
-  for (const Song& song : state.saveAllSongList) {
-    if (!song.isReleased || song.releaseWeek <= state.weekNumberForTracking - recentWeeks) continue;
-    sum += song.productionRating;
-    ++count;
+  const RecordList<Song>& songs = state.saveAllSongList;
+  std::vector<std::pair<int64_t, size_t>> sortedSongListForFans;  // the recent ones alone: a long career has thousands
+  for (size_t i = 0; i < songs.size(); ++i) {
+    if (!songs[i].isReleased || songs[i].releaseWeek <= state.weekNumberForTracking - recentWeeks) continue;
+    sortedSongListForFans.emplace_back(-songs[i].releaseWeek, i);
   }
-  return count == 0 ? 0 : sum / static_cast<double>(count);
+  std::sort(sortedSongListForFans.begin(), sortedSongListForFans.end());
+  double sum = 0;
+  for (const auto& [week, position] : sortedSongListForFans) sum += songs[position].productionRating;
+  return sortedSongListForFans.empty() ? 0 : sum / static_cast<double>(sortedSongListForFans.size());
 }
 
 int64_t marketingPoolMean(const Turn& turn) {
@@ -77,19 +74,13 @@ int64_t weeklyFanGainFor(Game& game, int64_t poolMean, double recency, double me
 
 void simulateWeeklyListeners(Game& game) {
   GameState& state = game.state;
-  Turn& turn = game.turn;
-  const int64_t poolMean = marketingPoolMean(turn);
-  turn.sortedSongListForFans = byLatestRelease(state.saveAllSongList);
-  turn.sortedAlbumListForFans = byLatestRelease(state.saveAllAlbumList);
-  // The first of each list counts, released or not: the built-in "Single" stands in as it is, with release week 0.
+  const int64_t poolMean = marketingPoolMean(game.turn);
   double recency = 0;
-  if (!turn.sortedSongListForFans.empty()) {
-    const Song& latest = state.saveAllSongList[turn.sortedSongListForFans.front()];
-    recency += songRecencyFor(state.weekNumberForTracking - latest.releaseWeek);
+  if (!state.saveAllSongList.empty()) {
+    recency += songRecencyFor(state.weekNumberForTracking - latestRelease(state.saveAllSongList).releaseWeek);
   }
-  if (!turn.sortedAlbumListForFans.empty()) {
-    const Album& latest = state.saveAllAlbumList[turn.sortedAlbumListForFans.front()];
-    recency += albumRecencyFor(state.weekNumberForTracking - latest.releaseWeek);
+  if (!state.saveAllAlbumList.empty()) {
+    recency += albumRecencyFor(state.weekNumberForTracking - latestRelease(state.saveAllAlbumList).releaseWeek);
   }
   const int64_t gain = weeklyFanGainFor(game, poolMean, recency, meanRatingOfRecentSongs(state));
   game.launch.weeklyFanChange = gain;
