@@ -73,6 +73,12 @@ export class Launch {
     return decoder.decode(this.#bytes(this.door.bb_out(), this.door.bb_out_size()));
   }
 
+  /** The career as a file. */
+  careerFile() {
+    this.door.bb_export();
+    return this.#bytes(this.door.bb_out(), this.door.bb_out_size());
+  }
+
   /** A press on the screen that is shown. */
   pressShown(id, value) {
     return this.press(this.answer.view.key, id, value);
@@ -128,4 +134,22 @@ export function endTheWeek(launch) {
   settle(launch);
   launch.press('nav', 'endTheWeekButton');
   return settle(launch);
+}
+
+const unescaped = (text) => (text === '%' ? '' : decodeURIComponent(text));
+
+/** Plays a golden career to its end; each of its launches goes on with the rows that the one before it stored. */
+export function playGolden(name) {
+  const trace = readFileSync(new URL(`../play/${name}.trace`, import.meta.url), 'utf8');
+  let launch;
+  for (const line of trace.split('\n').filter(Boolean)) {
+    const [kind, ...rest] = line.split(' ');
+    if (kind === 'launch') {
+      launch = new Launch({ seed: rest[0], now: Number(rest[1]), rows: launch?.rows });
+    } else {
+      const [now, ...press] = rest;
+      launch.pressAt(Number(now), ...press.map(unescaped));
+    }
+  }
+  return launch;
 }

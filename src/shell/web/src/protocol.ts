@@ -285,6 +285,8 @@ export interface Answer {
   appearance?: "system" | "dark" | "light";
   feedback?: "none" | "energyBounce" | "success" | "warning";
   alert?: Alert | null;
+  request?: "" | "export" | "import" | "restore" | "newYear";
+  snapshot?: string;
   notice?: string;
   view: View;
 }
