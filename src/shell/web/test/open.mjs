@@ -55,8 +55,14 @@ export async function openHouse(root) {
 
   async function close() {
     await browser.close();
-    await new Promise((done) => server.close(done));
+    if (server.listening) await new Promise((done) => server.close(done));
   }
 
-  return { home, browser, open, close };
+  /** From now on there is no network. */
+  function unplug() {
+    server.close();
+    server.closeAllConnections();
+  }
+
+  return { home, browser, open, unplug, close };
 }

@@ -105,7 +105,7 @@ class AppElement extends LitElement {
     return html`<div class="phone">
       ${repeat(
         shown,
-        (layer) => layer.key,
+        (layer) => `${this.launches} ${layer.key}`,
         // Nobody sees a parked layer: it stays as it was drawn until it comes back.
         (layer) => guard([this.placeOf(layer) === "parked" ? "parked" : {}], () => this.layer(layer, answer)),
       )}
