@@ -138,16 +138,18 @@ export function endTheWeek(launch) {
 
 const unescaped = (text) => (text === '%' ? '' : decodeURIComponent(text));
 
-/** Plays a golden career to its end; each of its launches goes on with the rows that the one before it stored. */
-export function playGolden(name) {
+/** Plays a golden career to its end or for some weeks; each of its launches goes on with what the one before it stored. */
+export function playGolden(name, weeks = Infinity) {
   const trace = readFileSync(new URL(`../play/${name}.trace`, import.meta.url), 'utf8');
   let launch;
+  let left = weeks;
   for (const line of trace.split('\n').filter(Boolean)) {
     const [kind, ...rest] = line.split(' ');
     if (kind === 'launch') {
       launch = new Launch({ seed: rest[0], now: Number(rest[1]), rows: launch?.rows });
     } else {
       const [now, ...press] = rest;
+      if (press[1] === 'endTheWeekButton' && (left -= 1) < 0) break;
       launch.pressAt(Number(now), ...press.map(unescaped));
     }
   }
