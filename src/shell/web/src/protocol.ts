@@ -184,6 +184,7 @@ export interface Card {
 
 export interface Cover {
   kind: "cover";
+  hook?: string;
   picture?: Picture;
   title?: string;
   text?: string;

@@ -3,6 +3,7 @@ import "uplot/dist/uPlot.min.css";
 import "../../src/theme.css";
 import { setAppearance } from "../../src/appearance";
 import type { Player } from "../../src/game";
+import { hookLength, tuneOf } from "../../src/hooks/tune";
 import { Messages } from "../../src/messages";
 import { installGlyphs, isIcon } from "../../src/pictures/icons";
 import { sleeve } from "../../src/pictures/sleeves";
@@ -42,7 +43,7 @@ function show(answer: Answer): void {
 setAppearance("system");
 installGlyphs();
 
-const stage = { show, player, Save, isIcon, sleeve };
+const stage = { show, player, Save, isIcon, sleeve, tuneOf, hookLength };
 declare global {
   interface Window {
     stage: typeof stage;
