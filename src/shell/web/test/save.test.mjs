@@ -81,16 +81,21 @@ test("what could not be written is told, kept, and written in order as soon as i
   await context.close();
 });
 
-test("a failure mends itself without another press", async () => {
+test("an aborted write mends itself without another press", async () => {
   const { page, context, faults } = await stage.open();
   await withSave(page);
   await page.evaluate(() => {
-    window.breakDisk(true);
+    const { put } = IDBObjectStore.prototype;
+    IDBObjectStore.prototype.put = function (...row) {
+      put.apply(this, row);
+      this.transaction.abort();
+    };
     window.save.write([window.put("cash", 0, 7)]);
-    setTimeout(() => window.breakDisk(false), 200);
+    setTimeout(() => (IDBObjectStore.prototype.put = put), 200);
   });
   await page.waitForFunction(() => window.told.at(-1) === "", undefined, { timeout: 5000 });
   assert.deepEqual(await page.evaluate(() => window.stored()), ["cash/0=7"]);
+  assert.deepEqual(await page.evaluate(() => window.told), ["failing", ""]);
   assert.deepEqual(faults, []);
   await context.close();
 });
