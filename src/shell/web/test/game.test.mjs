@@ -43,7 +43,7 @@ describe("the whole game", { skip: !existsSync(engine) && "the engine is not bui
   });
 
   test("a second tab is told, and takes over only when asked to", async () => {
-    const { page, context } = await open();
+    const { page, context, faults } = await open();
     await start(page);
     const second = await context.newPage();
     await second.goto(house.home);
@@ -51,6 +51,7 @@ describe("the whole game", { skip: !existsSync(engine) && "the engine is not bui
     await second.locator(".tab-bar").waitFor();
     await page.getByRole("heading", { name: "Backbeat is open in another tab" }).waitFor();
     assert.equal(await second.getByText("Who are you?").count(), 0);
+    assert.deepEqual(faults, []);
     await context.close();
   });
 

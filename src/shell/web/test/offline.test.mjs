@@ -86,7 +86,7 @@ describe("the installed page", { skip: !existsSync(engine) && "the engine is not
 
   test("is never made of files of two versions", async () => {
     const house = await host("halfway");
-    const { page, context } = await visit(house);
+    const { page, close } = await visit(house);
     await appendFile(join(house.page, "licenses.txt"), "newer\n");
     writeWorker(house.page);
     await appendFile(join(house.page, "licenses.txt"), "newer still\n");
@@ -101,8 +101,7 @@ describe("the installed page", { skip: !existsSync(engine) && "the engine is not
       return worker.state;
     });
     assert.equal(state, "redundant");
-    await context.close();
-    await house.close();
+    await close();
   });
 
   test("names every licence of what is in it, and can be put on a home screen", async () => {

@@ -168,7 +168,7 @@ test("a save of the first form loses nothing when it learns to keep copies", asy
 
 test("a tab that is killed while it writes leaves the save as after some whole batch", async () => {
   for (const wait of [0, 5, 20]) {
-    const { page, context } = await stage.open();
+    const { page, context, faults } = await stage.open();
     await withSave(page);
     await page.evaluate(() => {
       const { save, put } = window;
@@ -186,6 +186,7 @@ test("a tab that is killed while it writes leaves the save as after some whole b
     const values = (await next.evaluate(() => window.stored())).map((row) => row.split("=")[1]);
     assert.ok(values.length === 200 || values.length === 0);
     assert.equal(new Set(values).size, Math.sign(values.length), "the rows of one batch");
+    assert.deepEqual(faults, []);
     await context.close();
   }
 });
