@@ -6,6 +6,7 @@ import {
   answerAlerts,
   downloaded,
   endTheWeek,
+  launched,
   offerCareer,
   playedCareer,
   press,
@@ -118,7 +119,7 @@ describe("a career", { skip: !existsSync(engine) && "the engine is not built for
     for (const copy of [/^Before the restart/, /^Before going back/, /^Before the restart/]) {
       await setting(page, /^Restore/);
       await press(page, copy);
-      await alert(page).getByRole("button", { name: "Restore" }).click();
+      await launched(page, () => alert(page).getByRole("button", { name: "Restore" }).click());
       await seen(page, "You are back.");
     }
     assert.equal(await status(page), there);

@@ -25,6 +25,13 @@ export async function endTheWeek(page) {
   await answerAlerts(page);
 }
 
+/** Does what starts the engine anew, and waits for that. */
+export async function launched(page, ask) {
+  const launches = await page.evaluate(() => document.querySelector("backbeat-app").player.launches);
+  await ask();
+  await page.waitForFunction((n) => document.querySelector("backbeat-app").player.launches > n, launches);
+}
+
 /** Opens the settings and presses one of their rows. */
 export async function setting(page, name) {
   await press(page, "Home");
@@ -42,7 +49,7 @@ export async function offerCareer(page, name, bytes) {
 /** Goes on with the career in a file. */
 export async function takeCareer(page, name, bytes) {
   await offerCareer(page, name, bytes);
-  await page.locator(".alert").getByRole("button", { name: "Import" }).click();
+  await launched(page, () => page.locator(".alert").getByRole("button", { name: "Import" }).click());
   await page.getByText("Your imported career goes on here.").waitFor();
 }
 

@@ -64,7 +64,7 @@ export const worlds = {
 };
 
 /** As many records as a hundred busy years leave: 460,000. Too long a life to be looked at screen by screen. */
-export const century = () => lengthened(played("golden_decade"), 3600);
+export const century = () => lengthened(playGolden("golden_decade").rows, 3600);
 
 /** Opens the game on a save of these rows: they are stored from an empty page of the same address. */
 export async function openWorld(page, home, rows, query = "?seed=7") {
