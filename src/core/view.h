@@ -213,6 +213,7 @@ struct Cover {
   std::string title;
   std::string text;
   std::string badge;
+  std::string hook;  ///< what a few seconds of this song follow from, for whoever can make them heard; "" for no song
 };
 
 /// A figure that counts up to `value`; `amount` is the same figure as a number.

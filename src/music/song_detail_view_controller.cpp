@@ -5,6 +5,7 @@
 #include "core/money.h"
 #include "music/album_release.h"
 #include "music/covers.h"
+#include "music/genres.h"
 #include "music/song_release.h"
 #include "music/statistics.h"
 #include "social/chirps.h"
@@ -14,6 +15,16 @@ namespace backbeat {
 namespace {
 
 constexpr size_t weeksOnGraph = 26;
+
+/// Title and genre; a song from before genres were kept has its title alone.
+std::string hookOf(const GameState& state, const Song& song) {
+  std::string genre;
+  for (const SongGenre& made : state.songGenres) {
+    const auto number = static_cast<size_t>(made.genreNumber);
+    if (made.songId == song.songId && number < genres.size()) genre = genres[number];
+  }
+  return song.title + "|" + genre;
+}
 
 Button priced(std::string id, std::string label, int64_t energy, Button::Style style = Button::Style::secondary) {
   Button button;
@@ -83,6 +94,7 @@ View SongDetailViewController::view() const {
   if (const std::string names = featuring(song); !names.empty()) head.text += "\n" + names;
   head.text += song.isReleased ? "\nReleased in " + std::to_string(song.releaseYear) : "\nIn production";
   if (song.isExplicit >= 1) head.badge = "E";
+  head.hook = hookOf(state(), song);
   view.add(std::move(head));
   if (song.isReleased) {
     describeReleased(view, song);

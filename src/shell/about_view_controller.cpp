@@ -47,6 +47,8 @@ View AboutViewController::view() const {
     works.items.push_back(std::move(row));
   }
   view.add(std::move(works));
+  view.add(Text{"Their licence texts are in the file licenses.txt, which lies beside the page.", Tone::plain,
+                Text::Style::caption});
   view.add(Text{"The game itself, its rules, texts, record sleeves and everything else here is Backbeat's own.",
                 Tone::plain, Text::Style::caption});
   return view;

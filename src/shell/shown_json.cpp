@@ -290,6 +290,7 @@ class ViewWriter {
     member("title", cover.title);
     member("text", cover.text);
     member("badge", cover.badge);
+    member("hook", cover.hook);
   }
   void write(const Figure& figure) {
     member("label", figure.label);

@@ -73,6 +73,12 @@ export class Launch {
     return decoder.decode(this.#bytes(this.door.bb_out(), this.door.bb_out_size()));
   }
 
+  /** The career as a file. */
+  careerFile() {
+    this.door.bb_export();
+    return this.#bytes(this.door.bb_out(), this.door.bb_out_size());
+  }
+
   /** A press on the screen that is shown. */
   pressShown(id, value) {
     return this.press(this.answer.view.key, id, value);
@@ -128,4 +134,24 @@ export function endTheWeek(launch) {
   settle(launch);
   launch.press('nav', 'endTheWeekButton');
   return settle(launch);
+}
+
+const unescaped = (text) => (text === '%' ? '' : decodeURIComponent(text));
+
+/** Plays a golden career to its end or for some weeks; each of its launches goes on with what the one before it stored. */
+export function playGolden(name, weeks = Infinity) {
+  const trace = readFileSync(new URL(`../play/${name}.trace`, import.meta.url), 'utf8');
+  let launch;
+  let left = weeks;
+  for (const line of trace.split('\n').filter(Boolean)) {
+    const [kind, ...rest] = line.split(' ');
+    if (kind === 'launch') {
+      launch = new Launch({ seed: rest[0], now: Number(rest[1]), rows: launch?.rows });
+    } else {
+      const [now, ...press] = rest;
+      if (press[1] === 'endTheWeekButton' && (left -= 1) < 0) break;
+      launch.pressAt(Number(now), ...press.map(unescaped));
+    }
+  }
+  return launch;
 }

@@ -1,11 +1,16 @@
 import type { Answer, PressScreen } from "./protocol";
 import { decodeBatch, encodeRow, type Row } from "./rows";
+import type { Stored } from "./save";
 
 interface Exports {
   memory: WebAssembly.Memory;
   _initialize(): void;
   bb_alloc(size: number): number;
   bb_row(address: number, size: number): void;
+  bb_snapshot(address: number, size: number): void;
+  bb_export(): void;
+  bb_export_name(): void;
+  bb_import(address: number, size: number): void;
   bb_start(address: number, size: number): void;
   bb_act(address: number, size: number): void;
   bb_out(): number;
@@ -25,6 +30,16 @@ export class EngineFault extends Error {
 /** What a call of the engine gives back: the screen now, and the rows it wants stored together. */
 export interface Reply {
   answer: Answer;
+  batch: Row[];
+}
+
+/** What the engine makes of a career file. */
+export interface Import {
+  /** What is wrong with it, as a sentence for the player; "" when it can be taken. */
+  problem: string;
+  /** Keys that the file lacks; they have their defaults. */
+  missing: string[];
+  /** With no problem: orders, and all rows of the career in it. */
   batch: Row[];
 }
 
@@ -50,9 +65,14 @@ export class Engine {
     return engine;
   }
 
-  /** Hands in one stored row; only before `start`. */
-  row(key: string, chunk: number, value: Uint8Array): void {
-    this.guard(() => this.pass(encodeRow(key, chunk, value), this.door.bb_row));
+  /** A fresh instance that has been handed what is stored, and is not started. */
+  static async holding(module: WebAssembly.Module, { rows, copies }: Stored): Promise<Engine> {
+    const engine = await Engine.create(module);
+    engine.guard(() => {
+      for (const { key, chunk, value } of rows) engine.pass(encodeRow(key, chunk, value), engine.door.bb_row);
+      for (const name of copies) engine.pass(encoder.encode(name), engine.door.bb_snapshot);
+    });
+    return engine;
   }
 
   /** Begins the launch. `seed` is a 64-bit number as decimal text. */
@@ -65,12 +85,38 @@ export class Engine {
     return this.call(`${now}\0${screen}\0${id}\0${value}`, this.door.bb_act);
   }
 
+  /** The whole career as a file; before `start` the one that was handed in, without running a rule. */
+  careerFile(): { name: string; bytes: Uint8Array<ArrayBuffer> } {
+    return this.guard(() => {
+      this.door.bb_export_name();
+      const name = decoder.decode(this.out());
+      this.door.bb_export();
+      return { name, bytes: this.out() };
+    });
+  }
+
+  /** Reads a career file; what the engine itself plays stays as it is. */
+  import(file: Uint8Array): Import {
+    return this.guard(() => {
+      this.pass(file, this.door.bb_import);
+      const read = JSON.parse(decoder.decode(this.out())) as Omit<Import, "batch">;
+      return { ...read, batch: read.problem ? [] : this.batch() };
+    });
+  }
+
   private call(text: string, entry: (address: number, size: number) => void): Reply {
     return this.guard(() => {
       this.pass(encoder.encode(text), entry);
-      const answer = JSON.parse(decoder.decode(this.bytes(this.door.bb_out(), this.door.bb_out_size()))) as Answer;
-      return { answer, batch: decodeBatch(this.bytes(this.door.bb_batch(), this.door.bb_batch_size())) };
+      return { answer: JSON.parse(decoder.decode(this.out())) as Answer, batch: this.batch() };
     });
+  }
+
+  private out(): Uint8Array<ArrayBuffer> {
+    return this.bytes(this.door.bb_out(), this.door.bb_out_size());
+  }
+
+  private batch(): Row[] {
+    return decodeBatch(this.bytes(this.door.bb_batch(), this.door.bb_batch_size()));
   }
 
   private pass(input: Uint8Array, entry: (address: number, size: number) => void): void {
@@ -80,7 +126,7 @@ export class Engine {
   }
 
   // A copy, because the memory grows and moves under the next call.
-  private bytes(address: number, size: number): Uint8Array {
+  private bytes(address: number, size: number): Uint8Array<ArrayBuffer> {
     return new Uint8Array(this.door.memory.buffer, address >>> 0, size >>> 0).slice();
   }
 

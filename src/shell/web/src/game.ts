@@ -1,68 +1,139 @@
-import { Engine, EngineFault, loadEngineModule, type Reply } from "./engine";
+import { Engine, EngineFault, loadEngineModule, type Import, type Reply } from "./engine";
+import type { CareerFile } from "./files";
+import { Messages } from "./messages";
 import type { Answer, PressScreen } from "./protocol";
-import { Save } from "./save";
+import { obey } from "./requests";
+import type { Row } from "./rows";
+import { Save, type Trouble } from "./save";
+import { forgetStops, noteStop, stopsTooOften } from "./stops";
 
 /** What the shell plays: the latest answer of the engine, and the way to press something. */
 export interface Player {
   readonly answer: Answer;
-  /** Writing the save fails for the moment. */
-  readonly failing: boolean;
-  /** The engine stopped and was started again from the last save; lasts until the player has read it. */
-  readonly recovered: boolean;
+  /** How often the engine has been started: with each start, all screens are new ones. */
+  readonly launches: number;
+  /** Why the save is not being written for the moment, as a sentence; "" while it is. */
+  readonly unsaved: string;
+  /** What the page itself has to say. */
+  readonly messages: Messages;
   act(screen: PressScreen, id: string, value?: string): void;
-  acknowledgeRecovery(): void;
-  /** Called after every change of the members above. */
+  /** Called after every change of the members above, but for the messages. */
   onChange: () => void;
 }
+
+const troubles: Record<Trouble, string> = {
+  "": "",
+  full: "Not saved: this device is full. Make room, and it is saved by itself.",
+  failing: "Not saved yet. Trying again …",
+};
 
 /** The one owner of engine and save. */
 export class Game implements Player {
   answer!: Answer;
-  failing = false;
-  recovered = false;
+  launches = 0;
+  unsaved = "";
+  readonly messages = new Messages();
   onChange: () => void = () => {};
-  /** Called when even a fresh engine cannot go on with the save. */
+  /** Called when the engine has stopped too often in a row on this save. */
+  onStuck: () => void = () => {};
+  /** Called when the game cannot go on for another reason. */
   onBroken: (fault: unknown) => void = () => {};
 
+  /** None while the save is being exchanged: what is pressed meanwhile belongs to a screen that is gone. */
   private engine: Engine | null = null;
 
   private constructor(
     private readonly module: WebAssembly.Module,
     private readonly save: Save,
     private readonly seed: () => string,
-  ) {}
+  ) {
+    save.onTrouble = (trouble) => {
+      this.unsaved = troubles[trouble];
+      this.onChange();
+    };
+    save.onCleared = () => void this.storeAnew();
+    addEventListener("beforeunload", (event) => {
+      if (this.unsaved) event.preventDefault(); // the browser asks before it throws the unsaved away
+    });
+  }
 
-  /** Loads engine and save and begins a launch. `seed` gives the seed of each start of the engine. */
+  /** Loads engine and save. `seed` gives the seed of each start of the engine. */
   static async open(seed: () => string): Promise<Game> {
     const [module, save] = await Promise.all([loadEngineModule("./engine.wasm"), Save.open()]);
-    const game = new Game(module, save, seed);
-    save.onFailing = (failing) => {
-      game.failing = failing;
-      game.onChange();
-    };
-    await game.launch();
-    addEventListener("beforeunload", (event) => {
-      if (game.failing) event.preventDefault(); // the browser asks before it throws the unsaved away
-    });
-    return game;
+    return new Game(module, save, seed);
+  }
+
+  /** Begins a launch. False when the engine has stopped too often in a row for another try. */
+  async launch(): Promise<boolean> {
+    while (!stopsTooOften()) {
+      try {
+        const engine = await this.engineOnShelf();
+        this.take(engine.start(this.seed(), Date.now()));
+        this.engine = engine;
+        this.launches += 1;
+        return true;
+      } catch (fault) {
+        this.stopped(fault);
+      }
+    }
+    return false;
   }
 
   act(screen: PressScreen, id: string, value = ""): void {
-    if (!this.engine) return; // recovering: what was pressed belongs to a screen that is gone
+    if (!this.engine) return;
     try {
       this.take(this.engine.act(Date.now(), screen, id, value));
     } catch (fault) {
-      if (!(fault instanceof EngineFault)) throw fault;
-      console.warn(fault.message, fault.cause);
-      void this.recover();
-      return;
+      return this.recover(fault);
     }
+    forgetStops();
     this.onChange();
+    if (this.answer.request) void obey(this, this.answer);
   }
 
-  acknowledgeRecovery(): void {
-    this.recovered = false;
-    this.onChange();
+  /** The career as a file; null when making it stopped the engine. */
+  careerFile(): CareerFile | null {
+    try {
+      return this.engine?.careerFile() ?? null;
+    } catch (fault) {
+      this.recover(fault);
+      return null;
+    }
+  }
+
+  /** The stored career as a file, for when no engine runs on it. */
+  async storedCareerFile(): Promise<CareerFile> {
+    return (await this.engineOnShelf()).careerFile();
+  }
+
+  /** What a career file holds; null when reading it stopped the engine. Nothing changes. */
+  async readCareer(file: Uint8Array): Promise<Import | null> {
+    try {
+      return (await this.engineOnShelf()).import(file);
+    } catch (fault) {
+      console.warn("The file stopped the engine.", fault);
+      return null;
+    }
+  }
+
+  /** Goes on with the career in `batch`, all or nothing. */
+  playOn(batch: Row[]): Promise<boolean> {
+    return this.exchange(() => this.save.replace(batch));
+  }
+
+  /** Goes on with a kept copy, all or nothing. */
+  goBackTo(copy: string, orders: Row[] = []): Promise<boolean> {
+    return this.exchange(() => this.save.restore(copy, orders));
+  }
+
+  /** The names of the kept copies, the newest first. */
+  async copies(): Promise<string[]> {
+    return (await this.save.load()).copies.reverse();
+  }
+
+  /** Resolves with true once everything is stored, and with false while writing fails. */
+  settled(): Promise<boolean> {
+    return this.save.settled();
   }
 
   /** Stops for good: another tab plays on. */
@@ -71,22 +142,71 @@ export class Game implements Player {
     this.save.close();
   }
 
-  private async recover(): Promise<void> {
+  private async exchange(work: () => Promise<boolean>): Promise<boolean> {
+    const engine = this.engine;
     this.engine = null;
+    const done = await work();
+    if (done) {
+      forgetStops();
+      await this.relaunch();
+    } else {
+      this.engine = engine;
+    }
+    return done;
+  }
+
+  private async relaunch(): Promise<void> {
     try {
-      await this.launch();
-      this.recovered = true;
-      this.onChange();
+      if (await this.launch()) this.onChange();
+      else this.onStuck();
     } catch (fault) {
       this.onBroken(fault);
     }
   }
 
-  private async launch(): Promise<void> {
-    const [engine, rows] = await Promise.all([Engine.create(this.module), this.save.load()]);
-    for (const { key, chunk, value } of rows) if (value) engine.row(key, chunk, value);
-    this.take(engine.start(this.seed(), Date.now()));
-    this.engine = engine;
+  private recover(fault: unknown): void {
+    this.engine = null;
+    this.stopped(fault);
+    void this.relaunch().then(() => this.tellOfStop());
+  }
+
+  private stopped(fault: unknown): void {
+    if (!(fault instanceof EngineFault)) throw fault;
+    console.warn(fault.message, fault.cause);
+    noteStop();
+  }
+
+  private async tellOfStop(): Promise<void> {
+    if (!this.engine) return;
+    await this.messages.ask({
+      title: "The game stopped and is back",
+      message: "Something went wrong inside the game. Your last save was loaded: at most your last press is missing.",
+      buttons: [{ label: "Play on" }],
+      covers: true,
+    });
+  }
+
+  // The running engine is the only one that still has the career. A file of it, read by a fresh one, gives every row.
+  private async storeAnew(): Promise<void> {
+    const engine = this.engine;
+    if (!engine) return;
+    this.engine = null;
+    try {
+      const { bytes } = engine.careerFile();
+      const { batch } = (await Engine.create(this.module)).import(bytes);
+      this.save.write(batch.filter((row) => row.value));
+    } catch (fault) {
+      return this.onBroken(fault);
+    }
+    await this.relaunch();
+    await this.messages.tell(
+      "Stored anew",
+      "This browser threw away what Backbeat had stored. Your career was still open and has been stored anew; the kept copies are gone. A file of it (Settings, Export) is safe from that.",
+    );
+  }
+
+  private async engineOnShelf(): Promise<Engine> {
+    return Engine.holding(this.module, await this.save.load());
   }
 
   private take({ answer, batch }: Reply): void {

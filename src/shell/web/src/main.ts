@@ -6,8 +6,10 @@ import { Game, launchSeed } from "./game";
 import { takeSave } from "./lock";
 import { installGlyphs } from "./pictures/icons";
 import { showNotice } from "./notice";
+import { showRescue } from "./rescue";
 import type { AppElement } from "./shell/app";
 import "./shell/app";
+import { offerUpdates } from "./updates";
 
 setAppearance("system");
 installGlyphs();
@@ -22,17 +24,19 @@ async function begin(steal: boolean): Promise<void> {
     showNotice({
       title: "Backbeat is open in another tab",
       text: "Only one tab can write your save.",
-      button: "Use here",
-      press: () => void begin(true),
+      buttons: [{ label: "Use here", primary: true, press: () => void begin(true) }],
     });
   };
   try {
     if (!(await takeSave(steal, elsewhere))) return elsewhere();
     game = await Game.open(() => launchSeed(location.href));
     game.onBroken = broken;
+    game.onStuck = () => void showRescue(game!).catch(broken);
+    if (!(await game.launch())) return await showRescue(game);
     const app = document.createElement("backbeat-app") as AppElement;
     app.player = game;
     document.querySelector("backbeat-app, .full-notice")!.replaceWith(app);
+    if (import.meta.env.PROD) void offerUpdates(game);
   } catch (fault) {
     broken(fault);
   }
@@ -43,7 +47,6 @@ function broken(fault: unknown): void {
   showNotice({
     title: "Backbeat could not start",
     text: "Your save is untouched. Try again, and if that does not help, close other tabs or restart the browser.",
-    button: "Try again",
-    press: () => location.reload(),
+    buttons: [{ label: "Try again", primary: true, press: () => location.reload() }],
   });
 }

@@ -184,6 +184,7 @@ export interface Card {
 
 export interface Cover {
   kind: "cover";
+  hook?: string;
   picture?: Picture;
   title?: string;
   text?: string;
@@ -285,6 +286,8 @@ export interface Answer {
   appearance?: "system" | "dark" | "light";
   feedback?: "none" | "energyBounce" | "success" | "warning";
   alert?: Alert | null;
+  request?: "" | "export" | "import" | "restore" | "newYear";
+  snapshot?: string;
   notice?: string;
   view: View;
 }

@@ -7,6 +7,31 @@ export interface Row {
   value: Uint8Array | null;
 }
 
+/** A row as it is kept: it has a value. */
+export interface StoredRow extends Row {
+  value: Uint8Array;
+}
+
+const keepCopy = -10;
+const forgetCopy = -11;
+
+/** An order to keep all rows as they stand under a name, instead of a row. */
+export function keepsCopy(row: Row): boolean {
+  return row.chunk === keepCopy;
+}
+
+/** An order to forget the copy of a name. */
+export function forgetsCopy(row: Row): boolean {
+  return row.chunk === forgetCopy;
+}
+
+/** The last write of each row, in the order in which the rows first appear. */
+export function lastOfEach(rows: Row[]): Row[] {
+  const last = new Map<string, Row>();
+  for (const row of rows) last.set(`${row.chunk} ${row.key}`, row);
+  return [...last.values()];
+}
+
 const encoder = new TextEncoder();
 const decoder = new TextDecoder();
 

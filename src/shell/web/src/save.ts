@@ -1,13 +1,28 @@
-import { openDB, type IDBPDatabase } from "idb";
-import type { Row } from "./rows";
+import { openDB, type IDBPDatabase, type IDBPTransaction } from "idb";
+import { forgetsCopy, keepsCopy, lastOfEach, type Row, type StoredRow } from "./rows";
 
-const storeName = "rows";
+const rowStore = "rows";
+const copyStore = "copies";
+const quarantinePrefix = "quarantine/";
 const firstPause = 1000;
 const longestPause = 30_000;
+
+type Key = [key: string, chunk: number];
+type Database = IDBPDatabase;
+type Writing = IDBPTransaction<unknown, string[], "readwrite">;
 
 interface Batch {
   rows: Row[];
   confirmed: boolean;
+}
+
+/** Why writing fails for the moment; "" while it works. */
+export type Trouble = "" | "full" | "failing";
+
+/** Everything that a fresh engine is handed: the stored rows and the names of the kept copies. */
+export interface Stored {
+  rows: StoredRow[];
+  copies: string[];
 }
 
 /**
@@ -16,34 +31,41 @@ interface Batch {
  * confirmed batch is kept and written again in one transaction, later and at the next press, until it works.
  */
 export class Save {
-  /** Told when writing starts to fail and when everything is stored again. */
-  onFailing: (failing: boolean) => void = () => {};
+  /** Told when writing starts to fail, when the reason changes, and when everything is stored again. */
+  onTrouble: (trouble: Trouble) => void = () => {};
+  /** Told when the browser has thrown the whole save away while it was in use; the rows are gone, copies and all. */
+  onCleared: () => void = () => {};
 
   private unconfirmed: Batch[] = [];
   private running = 0;
-  private failing = false;
+  private trouble: Trouble = "";
   private pause = firstPause;
   private timer = 0;
   private closed = false;
+  private connecting: Promise<void> | null = null;
+  private waiting: ((stored: boolean) => void)[] = [];
+  private db!: Database;
 
-  private constructor(
-    private readonly name: string,
-    private db: IDBPDatabase,
-  ) {}
+  private constructor(private readonly name: string) {}
 
   static async open(name = "backbeat"): Promise<Save> {
-    return new Save(name, await connect(name));
+    const save = new Save(name);
+    await save.connect();
+    return save;
   }
 
-  /** Every stored row, with what is still waiting to be written laid over it. */
-  async load(): Promise<Row[]> {
-    const tx = this.db.transaction(storeName, "readonly");
-    const [keys, values] = await Promise.all([tx.store.getAllKeys(), tx.store.getAll() as Promise<Uint8Array[]>]);
-    const rows = keys.map((at, i) => {
-      const [key, chunk] = at as [string, number];
-      return { key, chunk, value: values[i] ?? null };
-    });
-    return lastOfEach([...rows, ...this.unconfirmed.flatMap((batch) => batch.rows)]).filter((row) => row.value);
+  /** What is stored, with what is still waiting to be written laid over it. */
+  async load(): Promise<Stored> {
+    const tx = this.db.transaction([rowStore, copyStore], "readonly");
+    const copies = new Set((await tx.objectStore(copyStore).getAllKeys()) as string[]);
+    const stored: Row[] = await allRows(tx.objectStore(rowStore));
+    const waiting = this.unconfirmed.flatMap((batch) => batch.rows);
+    for (const row of waiting) {
+      if (keepsCopy(row)) copies.add(row.key);
+      if (forgetsCopy(row)) copies.delete(row.key);
+    }
+    const rows = lastOfEach([...stored, ...waiting.filter((row) => !keepsCopy(row) && !forgetsCopy(row))]);
+    return { rows: rows.filter((row): row is StoredRow => row.value !== null), copies: [...copies].sort() };
   }
 
   /** Stores one batch, all or nothing. Returns at once. */
@@ -51,8 +73,40 @@ export class Save {
     if (this.closed) return;
     const batch = { rows, confirmed: false };
     if (rows.length > 0) this.unconfirmed.push(batch);
-    if (this.failing) this.retry();
+    if (this.trouble) this.retry();
     else if (rows.length > 0) void this.store([batch]);
+  }
+
+  /** Puts `batch` in the place of every row, its orders first; all or nothing, and not tried again. */
+  replace(batch: Row[]): Promise<boolean> {
+    const isOrder = (row: Row): boolean => keepsCopy(row) || forgetsCopy(row);
+    return this.exchange(async (tx) => {
+      await put(tx, batch.filter(isOrder));
+      await tx.objectStore(rowStore).clear();
+      await put(
+        tx,
+        batch.filter((row) => !isOrder(row)),
+      );
+    });
+  }
+
+  /** Puts the copy of that name in the place of every row, `orders` first; all or nothing, and not tried again. */
+  restore(name: string, orders: Row[] = []): Promise<boolean> {
+    return this.exchange(async (tx) => {
+      const copy = (await tx.objectStore(copyStore).get(name)) as StoredRow[] | undefined;
+      if (!copy) throw new Error(`There is no copy named ${name}.`);
+      await put(tx, orders);
+      await tx.objectStore(rowStore).clear();
+      await put(tx, copy);
+    });
+  }
+
+  /** Resolves with true once every batch is stored, and with false while writing fails. */
+  settled(): Promise<boolean> {
+    return new Promise((resolve) => {
+      this.waiting.push(resolve);
+      this.tellWaiting();
+    });
   }
 
   /** Writes nothing any more: another tab has the save now. */
@@ -64,53 +118,61 @@ export class Save {
 
   private async store(batches: Batch[]): Promise<void> {
     this.running += 1;
-    const stored = await this.transact(batches.flatMap((batch) => batch.rows));
+    const rows = batches.flatMap((batch) => batch.rows);
+    const failed = await this.transact((tx) => put(tx, rows));
     this.running -= 1;
     if (this.closed) return;
-    if (stored) this.confirm(batches);
-    else this.fail();
+    if (failed) this.fail(failed);
+    else this.confirm(batches);
   }
 
-  private async transact(rows: Row[]): Promise<boolean> {
+  private async exchange(work: (tx: Writing) => Promise<void>): Promise<boolean> {
+    // A batch that is written later than this would mix two careers.
+    if (!(await this.settled()) || this.closed) return false;
+    return (await this.transact(work)) === null;
+  }
+
+  /** Runs `work` in one transaction; answers with what went wrong, or null. */
+  private async transact(work: (tx: Writing) => Promise<void>): Promise<unknown> {
+    let tx: Writing;
     try {
-      const tx = this.db.transaction(storeName, "readwrite");
-      const done = tx.done.then(
-        () => true,
-        () => false,
-      );
-      try {
-        for (const { key, chunk, value } of rows) {
-          const request = value ? tx.store.put(value, [key, chunk]) : tx.store.delete([key, chunk]);
-          request.catch(() => {}); // the transaction fails with it and tells
-        }
-        tx.commit();
-      } catch {
-        tx.abort();
-      }
-      return await done;
-    } catch {
-      // The browser may drop the connection; the next attempt gets a new one.
-      if (!this.closed) this.db = await connect(this.name).catch(() => this.db);
-      return false;
+      tx = this.db.transaction([rowStore, copyStore], "readwrite");
+    } catch (lost) {
+      await this.reconnect(); // the browser may drop the connection; the next attempt has a new one
+      return lost;
     }
+    let problem: unknown = null;
+    const done = tx.done.then(
+      () => null,
+      (failed: unknown) => problem ?? tx.error ?? failed ?? new Error("The transaction was aborted."),
+    );
+    try {
+      await work(tx);
+      tx.commit();
+    } catch (failed) {
+      problem = failed;
+      abort(tx);
+    }
+    return done;
   }
 
   private confirm(batches: Batch[]): void {
     for (const batch of batches) batch.confirmed = true;
     while (this.unconfirmed[0]?.confirmed) this.unconfirmed.shift();
-    if (!this.failing) return;
+    this.tellWaiting();
+    if (!this.trouble) return;
     if (this.unconfirmed.length > 0) return this.retry();
     this.pause = firstPause;
-    this.tell(false);
+    this.tell("");
   }
 
-  private fail(): void {
+  private fail(problem: unknown): void {
     // Only the last write of each row is kept, so that a long failure does not fill the memory.
-    this.unconfirmed = [{ rows: lastOfEach(this.unconfirmed.flatMap((batch) => batch.rows)), confirmed: false }];
+    this.unconfirmed = [{ rows: folded(this.unconfirmed.flatMap((batch) => batch.rows)), confirmed: false }];
     clearTimeout(this.timer);
     this.timer = window.setTimeout(() => this.retry(), this.pause);
     this.pause = Math.min(this.pause * 2, longestPause);
-    this.tell(true);
+    this.tell(problem instanceof DOMException && problem.name === "QuotaExceededError" ? "full" : "failing");
   }
 
   private retry(): void {
@@ -119,20 +181,103 @@ export class Save {
     void this.store([...this.unconfirmed]);
   }
 
-  private tell(failing: boolean): void {
-    if (failing === this.failing) return;
-    this.failing = failing;
-    this.onFailing(failing);
+  private tell(trouble: Trouble): void {
+    if (trouble === this.trouble) return;
+    this.trouble = trouble;
+    this.onTrouble(trouble);
+    this.tellWaiting();
+  }
+
+  private tellWaiting(): void {
+    if (this.unconfirmed.length > 0 && !this.trouble) return;
+    for (const tell of this.waiting.splice(0)) tell(this.unconfirmed.length === 0);
+  }
+
+  private async connect(): Promise<boolean> {
+    let fresh = false;
+    this.db = await openDB(this.name, 2, {
+      upgrade: (db, oldVersion) => {
+        fresh = oldVersion === 0;
+        if (oldVersion < 1) db.createObjectStore(rowStore);
+        if (oldVersion < 2) db.createObjectStore(copyStore);
+      },
+      // Whoever throws the save away does not wait for this tab, and what comes after that is seen to at once.
+      blocking: () => {
+        this.db.close();
+        void this.reconnect();
+      },
+      terminated: () => void this.reconnect(),
+    });
+    return fresh;
+  }
+
+  private reconnect(): Promise<void> {
+    this.connecting ??= this.reopen().finally(() => (this.connecting = null));
+    return this.connecting;
+  }
+
+  // A database that has to be made anew has lost all it held: what is waiting would be half of a save.
+  private async reopen(): Promise<void> {
+    if (this.closed) return;
+    // While the browser is still at it, it refuses. After that it is asked again at the next write.
+    let fresh: boolean | null = null;
+    for (let tries = 0; tries < 5 && fresh === null; tries += 1) {
+      if (tries > 0) await new Promise((resolve) => setTimeout(resolve, 200));
+      fresh = await this.connect().catch(() => null);
+    }
+    if (!fresh) return;
+    clearTimeout(this.timer);
+    this.unconfirmed = [];
+    this.tell("");
+    this.onCleared();
   }
 }
 
-function connect(name: string): Promise<IDBPDatabase> {
-  return openDB(name, 1, { upgrade: (fresh) => void fresh.createObjectStore(storeName) });
+async function put(tx: Writing, rows: Row[]): Promise<void> {
+  const [kept, copies] = [tx.objectStore(rowStore), tx.objectStore(copyStore)];
+  for (const row of rows) {
+    const at: Key = [row.key, row.chunk];
+    // A copy is what the rows hold right here, so only an order of that kind is waited for; what else fails fails the
+    // transaction, which tells.
+    if (keepsCopy(row)) await copies.put(await rowsToCopy(tx), row.key);
+    else if (forgetsCopy(row)) copies.delete(row.key).catch(() => {});
+    else (row.value ? kept.put(row.value, at) : kept.delete(at)).catch(() => {});
+  }
 }
 
-/** The last write of each row, in the order in which the rows first appear. */
-function lastOfEach(rows: Row[]): Row[] {
-  const last = new Map<string, Row>();
-  for (const row of rows) last.set(`${row.chunk} ${row.key}`, row);
-  return [...last.values()];
+async function rowsToCopy(tx: Writing): Promise<StoredRow[]> {
+  const rows = await allRows(tx.objectStore(rowStore));
+  return rows.filter(({ key }) => !key.startsWith(quarantinePrefix));
+}
+
+interface Readable {
+  getAllKeys(): Promise<IDBValidKey[]>;
+  getAll(): Promise<unknown[]>;
+}
+
+async function allRows(store: Readable): Promise<StoredRow[]> {
+  const [keys, values] = await Promise.all([store.getAllKeys(), store.getAll()]);
+  return keys.map((at, i) => {
+    const [key, chunk] = at as Key;
+    return { key, chunk, value: values[i] as Uint8Array };
+  });
+}
+
+function abort(tx: Writing): void {
+  try {
+    tx.abort();
+  } catch {
+    // It has ended by itself already.
+  }
+}
+
+/** The last write of each row between one order to keep a copy and the next, so that each copy stays what it was. */
+function folded(rows: Row[]): Row[] {
+  const done: Row[] = [];
+  let since: Row[] = [];
+  for (const row of rows) {
+    if (keepsCopy(row)) done.push(...lastOfEach(since.splice(0)), row);
+    else since.push(row);
+  }
+  return [...done, ...lastOfEach(since)];
 }

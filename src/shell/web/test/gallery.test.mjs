@@ -4,6 +4,7 @@ import { createRequire } from "node:module";
 import { resolve } from "node:path";
 import { after, before, test } from "node:test";
 import hostile from "./fixtures/hostile.mjs";
+import { barriers, quiet, tooWide } from "./look.mjs";
 import { openStage } from "./open.mjs";
 
 const here = import.meta.dirname;
@@ -17,15 +18,10 @@ before(async () => {
 });
 after(() => stage.close());
 
-/** Shows an answer and waits until nothing fades or slides any more: a half-faded text has no contrast. */
-const show = (page, answer) =>
-  page.evaluate(async (answer) => {
-    window.stage.show(answer);
-    await document.fonts.ready;
-    await new Promise(requestAnimationFrame);
-    const ending = document.getAnimations().filter(({ effect }) => effect.getComputedTiming().endTime !== Infinity);
-    await Promise.allSettled(ending.map(({ finished }) => finished));
-  }, answer);
+const show = async (page, answer) => {
+  await page.evaluate((answer) => window.stage.show(answer), answer);
+  await quiet(page);
+};
 
 for (const theme of ["dark", "light"]) {
   for (const width of [320, 390]) {
@@ -41,41 +37,15 @@ for (const theme of ["dark", "light"]) {
   }
 
   test(`no serious barrier for anybody, ${theme}`, async () => {
-    const { page, context } = await stage.open({ theme, bypassCSP: true });
+    const { page, context, faults } = await stage.open({ theme, bypassCSP: true });
     const axe = await readFile(createRequire(import.meta.url).resolve("axe-core/axe.min.js"), "utf8");
     for (const name of ["home", "blocks", "report"]) {
       await show(page, screens[name]);
       await page.evaluate(axe);
-      const { violations } = await page.evaluate(() => window.axe.run());
-      const grave = violations
-        .filter(({ impact }) => impact === "serious" || impact === "critical")
-        .map(({ id, nodes }) => `${id}: ${nodes.map((node) => node.html.slice(0, 120)).join(" | ")}`);
-      assert.deepEqual(grave, [], name);
+      assert.deepEqual(await barriers(page), [], name);
     }
+    assert.deepEqual(faults, []);
     await context.close();
-  });
-}
-
-/** What sticks out of the screen or of the row, card or button it lies in. */
-function tooWide(page) {
-  return page.evaluate(() => {
-    const scroll = document.querySelector(".layer.top .scroll");
-    const room = scroll.getBoundingClientRect();
-    const found = scroll.scrollWidth > scroll.clientWidth ? ["the screen scrolls sideways"] : [];
-    const pieces = ".status > *, .row-main > *, .card > *, .button > *, .heading > *, .line > *, .dock > *";
-    for (const piece of scroll.querySelectorAll(pieces)) {
-      const box = piece.getBoundingClientRect();
-      if (box.width === 0 || piece.classList.contains("unseen") || piece.closest(".table")) continue;
-      if (box.left < room.left - 0.5 || box.right > room.right + 0.5) found.push(piece.outerHTML.slice(0, 120));
-    }
-    const status = [...scroll.querySelectorAll(".status > *")].map((piece) => piece.getBoundingClientRect());
-    for (const [i, a] of status.entries()) {
-      for (const b of status.slice(i + 1)) {
-        const apart = a.right <= b.left + 0.5 || b.right <= a.left + 0.5 || a.bottom <= b.top || b.bottom <= a.top;
-        if (!apart) found.push("pieces of the status row overlap");
-      }
-    }
-    return found;
   });
 }
 
@@ -83,7 +53,7 @@ test("every glyph that the engine may name has a drawing", async () => {
   const header = await readFile(resolve(here, "../../../core/icons.h"), "utf8");
   const names = [...header.slice(header.indexOf("icons = {")).matchAll(/"([\w-]+)"/g)].map(([, name]) => name);
   assert.ok(names.length > 0);
-  const { page, context } = await stage.open();
+  const { page, context, faults } = await stage.open();
   const missing = await page.evaluate(
     (names) =>
       names.filter(
@@ -92,11 +62,12 @@ test("every glyph that the engine may name has a drawing", async () => {
     names,
   );
   assert.deepEqual(missing, []);
+  assert.deepEqual(faults, []);
   await context.close();
 });
 
 test("a sleeve follows from its name, and names make many sleeves", async () => {
-  const { page, context } = await stage.open();
+  const { page, context, faults } = await stage.open();
   const [same, different] = await page.evaluate(() => {
     const { sleeve } = window.stage;
     const many = Array.from({ length: 300 }, (_, i) => sleeve(`Song ${i}`));
@@ -104,5 +75,6 @@ test("a sleeve follows from its name, and names make many sleeves", async () => 
   });
   assert.ok(same);
   assert.ok(different > 200, `only ${different} of 300 sleeves differ`);
+  assert.deepEqual(faults, []);
   await context.close();
 });

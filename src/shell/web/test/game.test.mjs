@@ -4,6 +4,7 @@ import { readdir, readFile } from "node:fs/promises";
 import { join, resolve } from "node:path";
 import { after, before, describe, test } from "node:test";
 import { gzipSync } from "node:zlib";
+import { answerAlerts, endTheWeek, press, start } from "./life.mjs";
 import { openGame } from "./open.mjs";
 
 const engine = resolve(import.meta.dirname, "../public/engine.wasm");
@@ -14,26 +15,7 @@ describe("the whole game", { skip: !existsSync(engine) && "the engine is not bui
   after(() => house?.close());
 
   const open = (options = {}) => house.open({ address: `${house.home}?seed=7`, ...options });
-  const press = (page, name) => page.locator(".layer.top, .tab-bar").getByRole("button", { name }).first().click();
   const title = (page, name) => page.locator(".layer.top").getByRole("heading", { name, level: 1 }).waitFor();
-  const answerAlerts = async (page) => {
-    const alert = page.locator(".alert[open]");
-    while (await alert.count()) await alert.getByRole("button").first().click();
-  };
-
-  async function start(page, name = "Nova Reyes") {
-    await page.getByRole("textbox", { name: "Artist name" }).fill(name);
-    await press(page, "Start the career");
-    await page.locator(".tab-bar:not([inert])").waitFor();
-    await answerAlerts(page);
-  }
-
-  async function endTheWeek(page) {
-    await press(page, "END THE WEEK");
-    await answerAlerts(page);
-    await press(page, "Continue");
-    await answerAlerts(page);
-  }
 
   test("an artist writes a song, releases it and plays on after a reload", async () => {
     const { page, context, faults } = await open();
@@ -61,7 +43,7 @@ describe("the whole game", { skip: !existsSync(engine) && "the engine is not bui
   });
 
   test("a second tab is told, and takes over only when asked to", async () => {
-    const { page, context } = await open();
+    const { page, context, faults } = await open();
     await start(page);
     const second = await context.newPage();
     await second.goto(house.home);
@@ -69,6 +51,7 @@ describe("the whole game", { skip: !existsSync(engine) && "the engine is not bui
     await second.locator(".tab-bar").waitFor();
     await page.getByRole("heading", { name: "Backbeat is open in another tab" }).waitFor();
     assert.equal(await second.getByText("Who are you?").count(), 0);
+    assert.deepEqual(faults, []);
     await context.close();
   });
 

@@ -31,13 +31,16 @@ export async function openHouse(root) {
   const browser = await launchBrowser();
   const home = `http://127.0.0.1:${server.address().port}/`;
 
-  async function open({ theme = "dark", width = 390, height = 844, address = home, ...more } = {}) {
+  /** `init` runs in the page before anything of its own. */
+  async function open({ theme = "dark", width = 390, height = 844, address = home, init, ...more } = {}) {
     const context = await browser.newContext({
       viewport: { width, height },
       colorScheme: theme,
       reducedMotion: "reduce",
+      serviceWorkers: "block",
       ...more,
     });
+    if (init) await context.addInitScript(init);
     const page = await context.newPage();
     const faults = [];
     page.on("console", (message) => message.type() === "error" && faults.push(message.text()));
@@ -52,8 +55,14 @@ export async function openHouse(root) {
 
   async function close() {
     await browser.close();
-    await new Promise((done) => server.close(done));
+    if (server.listening) await new Promise((done) => server.close(done));
   }
 
-  return { home, browser, open, close };
+  /** From now on there is no network. */
+  function unplug() {
+    server.close();
+    server.closeAllConnections();
+  }
+
+  return { home, browser, open, unplug, close };
 }

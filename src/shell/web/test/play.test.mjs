@@ -234,3 +234,72 @@ test("figures count up together and any tap shows them finished", async () => {
   assert.equal(await shown(), "$9,000");
   await close();
 });
+
+test("a song can be heard where that is wanted, and falls silent when one goes on", async () => {
+  const cover = {
+    kind: "cover",
+    title: "Paper Lanterns",
+    picture: { kind: "cover", name: "x" },
+    hook: "Paper Lanterns|Pop",
+  };
+  const song = answer([cover, { kind: "button", id: "go", label: "Release" }]);
+  const settings = answer([], { key: 9, title: "Settings" });
+  settings.view.screen = "SettingsViewController";
+  const { page, presses, answerNext, close } = await open(song);
+  const hear = page.getByRole("button", { name: "Hear the hook" });
+  const wanted = page.getByRole("switch", { name: /Song hooks/ });
+  assert.equal(await hear.count(), 0, "off until asked for");
+  await answerNext(settings, song, song);
+  await page.getByRole("button", { name: "Home" }).click();
+  await wanted.click();
+  await page.getByRole("button", { name: "Music" }).click();
+  await hear.click();
+  await page.getByRole("button", { name: "Stop the hook" }).waitFor();
+  await page.getByRole("button", { name: "Release" }).click();
+  await hear.waitFor();
+  assert.deepEqual(
+    (await presses()).map(([, id]) => id),
+    ["tab", "tab", "go"],
+  );
+  await page.reload();
+  await page.evaluate((song) => window.stage.show(song), song);
+  await hear.waitFor();
+
+  const told = await page.evaluate(() => {
+    const { tuneOf, hookLength } = window.stage;
+    const told = (hook) => JSON.stringify(tuneOf(hook));
+    const songs = Array.from({ length: 40 }, (_, i) => `Song ${i}|${["Pop", "Metal", "no such", ""][i % 4]}`);
+    const notes = songs.flatMap((song) => tuneOf(song).notes);
+    return {
+      same: told("A|Jazz") === told("A|Jazz"),
+      different: new Set(songs.map(told)).size,
+      whole: notes.every(({ at, pitch, loudness }) => at >= 0 && at < hookLength && pitch < 4000 && loudness <= 1),
+    };
+  });
+  assert.deepEqual(told, { same: true, different: 40, whole: true });
+  await close();
+});
+
+test("a list of 3,000 rows draws only what is near", async () => {
+  const items = Array.from({ length: 3000 }, (_, i) => ({
+    title: `Song ${i}`,
+    subtitle: "Single",
+    value: `${i}`,
+    id: `s:${i}`,
+  }));
+  const { page, presses, close } = await open(answer([{ kind: "rows", items }]));
+  const drawn = () =>
+    page.evaluate(
+      () =>
+        [...document.querySelectorAll(".row")].filter((row) =>
+          row.firstElementChild.checkVisibility({ contentVisibilityAuto: true }),
+        ).length,
+    );
+  assert.ok((await drawn()) < 100, `${await drawn()} rows are drawn`);
+  const last = page.getByRole("button", { name: /^Song 2999/ });
+  await last.scrollIntoViewIfNeeded();
+  await last.click();
+  assert.deepEqual(await presses(), [["5", "s:2999", ""]]);
+  assert.ok((await drawn()) < 100);
+  await close();
+});

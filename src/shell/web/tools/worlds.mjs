@@ -1,27 +1,6 @@
 // Careers to look at: rows of a save, made by playing a golden career in the engine, with a few values put in their
 // place afterwards.
-import { readFileSync } from "node:fs";
-import { Launch } from "../../../../tests/wasm/door.mjs";
-
-const trace = (name) => readFileSync(new URL(`../../../../tests/play/${name}.trace`, import.meta.url), "utf8");
-const unescaped = (text) => (text === "%" ? "" : decodeURIComponent(text));
-
-/** The rows after the first `weeks` weeks of a golden career. */
-function played(name, weeks = Infinity) {
-  let launch;
-  let left = weeks;
-  for (const line of trace(name).split("\n").filter(Boolean)) {
-    const [kind, ...rest] = line.split(" ");
-    if (kind === "launch") {
-      launch = new Launch({ seed: rest[0], now: Number(rest[1]), rows: launch?.rows });
-    } else {
-      const [now, ...press] = rest;
-      if (press[1] === "endTheWeekButton" && (left -= 1) < 0) break;
-      launch.pressAt(Number(now), ...press.map(unescaped));
-    }
-  }
-  return launch.rows;
-}
+import { playGolden } from "../../../../tests/wasm/door.mjs";
 
 function whole(value) {
   const bytes = new Uint8Array(9);
@@ -72,11 +51,11 @@ function lengthened(rows, chunks) {
 /** Each world by its name; made when asked for. */
 export const worlds = {
   new: () => new Map(),
-  "first weeks": () => played("golden_year", 8),
-  year: () => played("golden_year"),
-  decade: () => played("golden_decade"),
+  "first weeks": () => playGolden("golden_year", 8).rows,
+  year: () => playGolden("golden_year").rows,
+  decade: () => playGolden("golden_decade").rows,
   edges: () =>
-    patched(played("golden_decade"), {
+    patched(playGolden("golden_decade").rows, {
       myArtistsName: text("Maximiliana Rosalind Featherstonehaugh-Oyelaran 🎤 المغنية"),
       totalCashAvailable: double(-98_765_432_109.87),
       totalFans: whole(9_876_543_210),
@@ -85,7 +64,7 @@ export const worlds = {
 };
 
 /** As many records as a hundred busy years leave: 460,000. Too long a life to be looked at screen by screen. */
-export const century = () => lengthened(played("golden_decade"), 3600);
+export const century = () => lengthened(playGolden("golden_decade").rows, 3600);
 
 /** Opens the game on a save of these rows: they are stored from an empty page of the same address. */
 export async function openWorld(page, home, rows, query = "?seed=7") {

@@ -1,8 +1,10 @@
 import { html, nothing, type TemplateResult } from "lit";
+import "../hooks/button";
 import { glyph, tintOf } from "../pictures/icons";
 import { picture } from "../pictures/picture";
 import type { Card, Cover, EmptyHint, Heading, Meter, Post, Table, Text, Tile, Tiles } from "../protocol";
 import type { Scene } from "../scene";
+import { hooksOn } from "../preferences";
 import { actionMenu, badge, bar, toneClass } from "./parts";
 import { buttonBlock } from "./controls";
 
@@ -124,7 +126,9 @@ export function cardBlock(card: Card, scene: Scene): TemplateResult {
 /** The head of a detail screen. */
 export function coverBlock(head: Cover): TemplateResult {
   return html`<section class="head card">
-    ${picture(head.picture)}
+    <div class="head-picture">
+      ${picture(head.picture)} ${head.hook && hooksOn() ? html`<bb-hook .hook=${head.hook}></bb-hook>` : nothing}
+    </div>
     <div class="head-texts">
       <h2 dir="auto">${head.title}</h2>
       ${head.text ? html`<p dir="auto">${head.text}</p>` : nothing} ${badge(head.badge)}

@@ -5,6 +5,8 @@ import type { PictureGrid, Row, Rows } from "../protocol";
 import type { Scene } from "../scene";
 import { actionMenu, badge, bar, pricePill, toneClass } from "./parts";
 
+const longList = 100;
+
 /** A grouped list; a windowed one has ways to the rows before and after. */
 export function rowsBlock(list: Rows, scene: Scene): TemplateResult {
   const { items = [], total = 0, from = 0, columns = [] } = list;
@@ -14,7 +16,7 @@ export function rowsBlock(list: Rows, scene: Scene): TemplateResult {
   return html`<div class="list ${columns.length > 0 ? "columned" : ""}">
     ${columns.length > 0 ? html`<p class="list-heads">${columns.map((head) => html`<span>${head}</span>`)}</p>` : nothing}
     ${from > 0 ? turnPage(list, "Earlier", Math.max(0, from - items.length), scene) : nothing}
-    <ul class="group ${pictured ? "pictured" : ""}">
+    <ul class="group ${pictured ? "pictured" : ""} ${items.length > longList ? "long" : ""}">
       ${items.map((row) => html`<li class="row ${toneClass(row.tone)}">${rowLine(row, scene)}</li>`)}
     </ul>
     ${end < total ? turnPage(list, "More", end, scene) : nothing}

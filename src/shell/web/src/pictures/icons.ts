@@ -75,6 +75,8 @@ const named: Record<string, [drawing: string, tint: Tint]> = {
 /** Glyphs of the page's own furniture. */
 const furniture: Record<string, string> = {
   back: glyphs.chevronBack,
+  play: glyphs.play,
+  stop: glyphs.stop,
   more: glyphs.ellipsisHorizontal,
   comment: glyphs.chatbubbleOutline,
   reChirp: glyphs.repeat,

@@ -6,6 +6,7 @@ import { BackGesture } from "../back-gesture";
 import { buttonBlock } from "../blocks/controls";
 import { tellDrafts } from "../drafts";
 import type { Player } from "../game";
+import type { Toast } from "../messages";
 import { prefersStillness } from "../motion";
 import { glyph } from "../pictures/icons";
 import { picture } from "../pictures/picture";
@@ -18,6 +19,7 @@ import { EdgeSwipe } from "./edge-swipe";
 import "./sheet";
 import { shakeEnergy, statusRow } from "./status";
 import { tabBar } from "./tab-bar";
+import { toastPlace } from "./toast";
 import { play } from "./transition";
 
 /** The phone: the stack of screens, the tabs, and what comes up over them. */
@@ -26,7 +28,8 @@ class AppElement extends LitElement {
   declare player: Player;
   declare sheet: SheetContent | null;
 
-  private readonly stack = new Stack();
+  private stack = new Stack();
+  private launches = 0;
   private readonly scenes = new WeakMap<Layer, Scene>();
   private readonly swipe = new EdgeSwipe({
     pulled: (share) => this.pull(share),
@@ -60,12 +63,24 @@ class AppElement extends LitElement {
   private take(answer: Answer): void {
     this.stopMoving();
     this.remember();
+    if (this.launches !== this.player.launches) this.stack = new Stack(); // the screens of another launch are gone
+    this.launches = this.player.launches;
     const before = this.stack.top;
     this.step = this.stack.advance(answer);
     this.seen = answer;
     if (before !== this.stack.top || answer.alert) this.sheet = null;
     if (this.canGoBack) this.backGesture.arm();
     setAppearance(answer.appearance);
+  }
+
+  private get toast(): Toast | null {
+    const { toast } = this.player.messages;
+    const onRoot = this.stack.layers.length === 1 && !this.stack.top!.modal && !this.alerting;
+    return toast?.onRootsOnly && !onRoot ? null : toast;
+  }
+
+  private get alerting(): boolean {
+    return Boolean(this.player?.messages.alert ?? this.player?.answer.alert);
   }
 
   private get canGoBack(): boolean {
@@ -75,12 +90,13 @@ class AppElement extends LitElement {
   protected override willUpdate(changed: PropertyValues<this>): void {
     if (changed.has("player")) {
       this.player.onChange = () => this.show();
+      this.player.messages.onChange = () => this.requestUpdate();
       this.take(this.player.answer);
     }
   }
 
   protected override render(): TemplateResult {
-    const { answer, recovered } = this.player;
+    const { answer, messages } = this.player;
     const { everywhere, top } = this.stack;
     const { leaving } = this.step;
     const modal = top!.modal;
@@ -89,16 +105,17 @@ class AppElement extends LitElement {
     return html`<div class="phone">
       ${repeat(
         shown,
-        (layer) => layer.key,
+        (layer) => `${this.launches} ${layer.key}`,
         // Nobody sees a parked layer: it stays as it was drawn until it comes back.
         (layer) => guard([this.placeOf(layer) === "parked" ? "parked" : {}], () => this.layer(layer, answer)),
       )}
       ${this.canGoBack ? this.edge() : nothing}
       ${tabBar(answer.tabs ?? [], answer.tab ?? 0, modal, (tab) => this.press("tabs", "tab", String(tab)))}
+      ${toastPlace(this.toast, () => messages.dropToast())}
       <bb-sheet .content=${this.sheet} .dismiss=${() => (this.sheet = null)}></bb-sheet>
       <bb-alert
-        class=${recovered ? "whole-page" : ""}
-        .alert=${recovered ? recoveryNotice : (answer.alert ?? null)}
+        class=${messages.covers ? "whole-page" : ""}
+        .alert=${messages.alert ?? answer.alert ?? null}
         .answer=${this.answerAlert}
       ></bb-alert>
     </div>`;
@@ -141,7 +158,7 @@ class AppElement extends LitElement {
   }
 
   private topBar({ view, pushed, modal }: Layer, header: Header): TemplateResult {
-    const notices = [this.player.failing ? "Not saved yet. Trying again …" : "", this.player.answer.notice ?? ""];
+    const notices = [this.player.unsaved, this.player.answer.notice ?? ""];
     return html`<header class="top-bar">
       ${
         pushed
@@ -212,7 +229,7 @@ class AppElement extends LitElement {
         press: (id, value) => this.press(key, id, value),
         open: (sheet) => {
           tellDrafts();
-          if (!this.player.answer.alert) this.sheet = sheet;
+          if (!this.alerting) this.sheet = sheet;
         },
       };
       this.scenes.set(layer, scene);
@@ -226,7 +243,7 @@ class AppElement extends LitElement {
   }
 
   private readonly answerAlert = (alert: Alert, button: number): void => {
-    if (alert === recoveryNotice) this.player.acknowledgeRecovery();
+    if (alert === this.player.messages.alert) this.player.messages.answer(button);
     else this.press("alert", String(alert.key), String(button));
   };
 
@@ -294,23 +311,16 @@ class AppElement extends LitElement {
 
   private deviceBack(): boolean {
     if (this.sheet) this.sheet = null;
-    else if (this.canGoBack && !this.player.answer.alert) this.press("nav", "back");
+    else if (this.canGoBack && !this.alerting) this.press("nav", "back");
     return this.canGoBack;
   }
 
   private key(event: KeyboardEvent): void {
     const typing = event.target instanceof HTMLInputElement || event.target instanceof HTMLTextAreaElement;
-    if (event.key !== "Escape" || typing || this.sheet || this.player?.answer.alert || !this.canGoBack) return;
+    if (event.key !== "Escape" || typing || this.sheet || this.alerting || !this.canGoBack) return;
     this.press("nav", "back");
   }
 }
-
-const recoveryNotice: Alert = {
-  key: -1,
-  title: "The game stopped and is back",
-  message: "Something went wrong inside the game. Your last save was loaded: at most your last press is missing.",
-  buttons: [{ label: "Play on" }],
-};
 
 customElements.define("backbeat-app", AppElement);
 

@@ -2,6 +2,7 @@ import { LitElement, type TemplateResult } from "lit";
 import type { View } from "../protocol";
 import { renderBlocks } from "../render";
 import type { Scene } from "../scene";
+import { ownSettings } from "./own-settings";
 
 /** The blocks of one screen; drawn again only when the screen has described itself anew. */
 class BlocksElement extends LitElement {
@@ -14,7 +15,8 @@ class BlocksElement extends LitElement {
   }
 
   protected override render(): TemplateResult[] {
-    return renderBlocks(this.view?.blocks ?? [], this.scene);
+    const drawn = renderBlocks(this.view?.blocks ?? [], this.scene);
+    return this.view?.screen === "SettingsViewController" ? [...drawn, ownSettings(this.scene)] : drawn;
   }
 }
 

@@ -3,6 +3,8 @@ import "uplot/dist/uPlot.min.css";
 import "../../src/theme.css";
 import { setAppearance } from "../../src/appearance";
 import type { Player } from "../../src/game";
+import { hookLength, tuneOf } from "../../src/hooks/tune";
+import { Messages } from "../../src/messages";
 import { installGlyphs, isIcon } from "../../src/pictures/icons";
 import { sleeve } from "../../src/pictures/sleeves";
 import type { Answer } from "../../src/protocol";
@@ -13,8 +15,9 @@ import "../../src/shell/app";
 /** A player whose answers a test hands in, and which notes what is pressed. */
 class StagePlayer implements Player {
   answer!: Answer;
-  failing = false;
-  recovered = false;
+  readonly launches = 1;
+  unsaved = "";
+  readonly messages = new Messages();
   onChange: () => void = () => {};
   readonly presses: string[][] = [];
   /** What the next presses answer; without any, the screen describes itself again. */
@@ -23,11 +26,6 @@ class StagePlayer implements Player {
   act(screen: number | string, id: string, value = ""): void {
     this.presses.push([String(screen), id, value]);
     this.answer = this.answers.shift() ?? structuredClone(this.answer);
-    this.onChange();
-  }
-
-  acknowledgeRecovery(): void {
-    this.recovered = false;
     this.onChange();
   }
 }
@@ -45,7 +43,7 @@ function show(answer: Answer): void {
 setAppearance("system");
 installGlyphs();
 
-const stage = { show, player, Save, isIcon, sleeve };
+const stage = { show, player, Save, isIcon, sleeve, tuneOf, hookLength };
 declare global {
   interface Window {
     stage: typeof stage;

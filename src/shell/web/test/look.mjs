@@ -1,0 +1,66 @@
+/** What can be wrong with the looks of a page, as lists of faults. */
+
+/** Waits until nothing fades or slides any more: a half-faded text has no contrast. */
+export const quiet = (page) =>
+  page.evaluate(async () => {
+    await document.fonts.ready;
+    await new Promise(requestAnimationFrame);
+    await new Promise(requestAnimationFrame);
+    const ending = document.getAnimations().filter(({ effect }) => effect.getComputedTiming().endTime !== Infinity);
+    await Promise.allSettled(ending.map(({ finished }) => finished));
+  });
+
+/** What axe, which must be in the page, finds serious; of the named rules alone when there are any. */
+export async function barriers(page, ...rules) {
+  const { violations } = await page.evaluate((rules) => {
+    // What nobody can reach for the moment is looked at when it is on top.
+    const exclude = [".layer:not(.top)"];
+    return window.axe.run({ exclude }, { resultTypes: ["violations"], ...(rules.length > 0 && { runOnly: rules }) });
+  }, rules);
+  return violations
+    .filter(({ impact }) => impact === "serious" || impact === "critical")
+    .map(({ id, nodes }) => `${id}: ${nodes.map((node) => node.html.slice(0, 120)).join(" | ")}`);
+}
+
+/** What sticks out of the screen or of the row, card or button it lies in. */
+export function tooWide(page) {
+  return page.evaluate(() => {
+    const scroll = document.querySelector(".layer.top .scroll");
+    const room = scroll.getBoundingClientRect();
+    const found = scroll.scrollWidth > scroll.clientWidth ? ["the screen scrolls sideways"] : [];
+    const pieces = ".status > *, .row-main > *, .card > *, .button > *, .heading > *, .line > *, .dock > *";
+    for (const piece of scroll.querySelectorAll(pieces)) {
+      const box = piece.getBoundingClientRect();
+      if (box.width === 0 || piece.classList.contains("unseen") || piece.closest(".table")) continue;
+      if (box.left < room.left - 0.5 || box.right > room.right + 0.5) found.push(piece.outerHTML.slice(0, 120));
+    }
+    const status = [...scroll.querySelectorAll(".status > *")].map((piece) => piece.getBoundingClientRect());
+    for (const [i, a] of status.entries()) {
+      for (const b of status.slice(i + 1)) {
+        const apart = a.right <= b.left + 0.5 || b.right <= a.left + 0.5 || a.bottom <= b.top || b.bottom <= a.top;
+        if (!apart) found.push("pieces of the status row overlap");
+      }
+    }
+    return found;
+  });
+}
+
+/** Controls that a finger cannot get at, however it scrolls. */
+export function unreachable(page) {
+  return page.evaluate(() => {
+    const dialog = document.querySelector("dialog[open]");
+    const roots = dialog
+      ? [dialog]
+      : [document.querySelector(".layer.top"), document.querySelector(".tab-bar:not([inert])")];
+    const controls = roots.flatMap((root) => [...(root?.querySelectorAll("button, input, textarea, select") ?? [])]);
+    const visible = controls.filter((control) => control.checkVisibility() && control.getClientRects().length > 0);
+    return visible
+      .filter((control) => {
+        control.scrollIntoView({ block: "center" });
+        const { left, top, width, height } = control.getBoundingClientRect();
+        const hit = document.elementFromPoint(left + width / 2, top + height / 2);
+        return !hit || !(control.contains(hit) || control.closest("label")?.contains(hit));
+      })
+      .map((control) => `out of reach: ${control.outerHTML.slice(0, 120)}`);
+  });
+}
