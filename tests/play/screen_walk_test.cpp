@@ -57,17 +57,19 @@ void pressEverything(Session& session, Screen& screen, std::string_view name, Pr
   const auto looks = [&] {
     return shownAsJson(session.navigator(), shown()) + hashText(stateHash(session.game().state));
   };
+  std::string before = looks();
   for (const Pressable& pressable : printScreen(session.navigator(), shown(), false).pressables) {
     const std::string what = std::string(name) + " " + std::string(pressable.action.verb());
     presses.offered.insert(what);
     for (const std::string& value : valuesFor(pressable)) {
       if (presses.answered.contains(what) && value != pressable.action.value) continue;
-      const std::string before = looks();
       const Outcome outcome = screen.act({pressable.action.id, value});
       EXPECT_TRUE(!outcome.go || leadsSomewhere(*outcome.go)) << what << " leads to " << outcome.go->segue;
-      if (outcome.go || !outcome.alerts.empty() || outcome.feedback != Feedback::none || looks() != before) {
+      const std::string after = looks();
+      if (outcome.go || !outcome.alerts.empty() || outcome.feedback != Feedback::none || after != before) {
         presses.answered.insert(what);
       }
+      before = after;
     }
   }
 }
