@@ -1,10 +1,21 @@
-# The program for this computer, in build/native. Sourced, never run.
+# The program for this computer, in build/native, and the same with sanitizers and fuzzers, in build/sanitize. Sourced,
+# never run.
 # shellcheck shell=bash disable=SC2154
+
+sanitize_build="$house/build/sanitize"
+
+# Sets what CMake needs to use ccache, once that is installed.
+find_launcher() {
+  launcher=()
+  if ! command -v ccache >/dev/null; then return 0; fi
+  launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+  # Without it nothing that uses the tests' parsed headers is ever found again.
+  export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros}
+}
 
 # build_native TESTS TARGET: TESTS is ON or OFF; both share one build folder and its objects.
 build_native() {
-  local launcher=()
-  if command -v ccache >/dev/null; then launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache); fi
+  find_launcher
   if [[ ! -f $native_build/build.ninja ]] || ! grep -q "^BACKBEAT_TESTS:BOOL=$1$" "$native_build/CMakeCache.txt"; then
     logged cmake cmake -S "$house" -B "$native_build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
       "-DBACKBEAT_TESTS=$1" "${launcher[@]}" || return 1
@@ -15,11 +26,21 @@ build_native() {
 # build_bench: the benchmarks, in a folder of their own.
 bench_build="$house/build/bench"
 build_bench() {
-  local launcher=()
-  if command -v ccache >/dev/null; then launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache); fi
+  find_launcher
   if [[ ! -f $bench_build/build.ninja ]]; then
     logged cmake-bench cmake -S "$house" -B "$bench_build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
       -DBACKBEAT_TESTS=OFF -DBACKBEAT_BENCH=ON "${launcher[@]}" || return 1
   fi
   logged bench ninja -C "$bench_build" -j "$(jobs_at_once)" backbeat_bench
+}
+
+# build_sanitized TARGET...
+build_sanitized() {
+  find_launcher
+  if [[ ! -f $sanitize_build/build.ninja ]]; then
+    logged cmake-sanitize cmake -S "$house" -B "$sanitize_build" -G Ninja -DCMAKE_CXX_COMPILER=clang++-19 \
+      -DCMAKE_BUILD_TYPE=Debug "-DCMAKE_CXX_FLAGS_DEBUG=-O1 -g1" \
+      -DBACKBEAT_SANITIZE=ON -DBACKBEAT_FUZZ=ON "${launcher[@]}" || return 1
+  fi
+  logged sanitize ninja -C "$sanitize_build" -j "$(jobs_at_once)" "$@"
 }

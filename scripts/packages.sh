@@ -9,6 +9,7 @@ packages_for() {
     node) echo nodejs npm ca-certificates ;;
     tests) echo ccache libgtest-dev libgmock-dev libplist-utils python3 chromium fonts-noto-color-emoji ;;
     bench) echo ccache libbenchmark-dev ;;
+    fuzz) echo clang-19 libclang-rt-19-dev ;;
     lint) echo clang-format-14 clang-tidy-19 ;;
   esac
 }

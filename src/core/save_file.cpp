@@ -164,13 +164,16 @@ LoadReport SaveFile::load(GameState& state) {
   Loader loader(state);
   LoadReport report;
   report.readable = loader.run(store_);
+  keeping_ = report.readable;
+  if (!report.readable) {
+    state = GameState();
+    return report;
+  }
   report.damagedLists = loader.finish();
   lists_.clear();
   forEachField<GameState>([&](const auto& field) { lists_.emplace(field.key, loader.stored(field.key)); });
   otherObjects_ = std::move(loader.otherObjects);
-  if (report.readable) {
-    for (const std::string& key : report.damagedLists) store_.quarantine(key);
-  }
+  for (const std::string& key : report.damagedLists) store_.quarantine(key);
   return report;
 }
 
@@ -186,16 +189,16 @@ void SaveFile::put(std::string_view key, int32_t chunk, std::optional<Value> val
 }
 
 void SaveFile::setInteger(std::string_view key, int64_t value) {
-  if (store_.keeps()) put(key, wholeRow, value);
+  if (writes()) put(key, wholeRow, value);
 }
 
 void SaveFile::setDouble(std::string_view key, double value) {
-  if (store_.keeps()) put(key, wholeRow, value);
+  if (writes()) put(key, wholeRow, value);
 }
 
 void SaveFile::setObject(std::string_view key, Bytes propertyList) {
   if (const auto known = otherObjects_.find(key); known != otherObjects_.end()) known->second = propertyList;
-  if (store_.keeps()) put(key, wholeRow, std::move(propertyList));
+  if (writes()) put(key, wholeRow, std::move(propertyList));
 }
 
 std::optional<Bytes> SaveFile::object(std::string_view key) const {
@@ -205,7 +208,7 @@ std::optional<Bytes> SaveFile::object(std::string_view key) const {
 }
 
 void SaveFile::writeScalar(const GameState& state, const Scalar& scalar) {
-  if (!store_.keeps()) return;
+  if (!writes()) return;
   const auto write = [&](auto member) {
     const auto& value = state.*member;
     if constexpr (std::is_arithmetic_v<std::decay_t<decltype(value)>>) {
@@ -219,7 +222,7 @@ void SaveFile::writeScalar(const GameState& state, const Scalar& scalar) {
 
 template <class T>
 void SaveFile::writeList(std::string_view key, RecordList<T>& list) {
-  if (store_.keeps()) {
+  if (writes()) {
     StoredList& stored = lists_.try_emplace(std::string(key)).first->second;
     if (!stored.current) list.markAll();
     putRemovals(key, stored, list.chunkCount());
@@ -262,7 +265,7 @@ bool SaveFile::commit() {
 }
 
 bool SaveFile::keepSnapshot(SnapshotKind kind, const GameState& state, std::string_view spared) {
-  return commit() && backbeat::keepSnapshot(store_, kind, state, spared);
+  return !keeping_ || (commit() && backbeat::keepSnapshot(store_, kind, state, spared));
 }
 
 std::vector<std::string> differencesFromStore(const GameState& state, Store& store) {

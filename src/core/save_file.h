@@ -35,6 +35,8 @@ class SaveFile {
   /// Fills `state` (fresh, on its defaults) from the store: the lists, and the scalars but for the write-only ones.
   /// A key that is not there, or holds a value of another kind or one that does not fit, keeps its default; a whole
   /// number is welcome for a double and a double without fraction for a whole number. Lists load all or nothing.
+  /// When the store cannot be read, `state` stays on its defaults and nothing is written from then on: half a career
+  /// would otherwise take the place of what may still be mended.
   LoadReport load(GameState& state);
 
   /// The three writers. They join the open transaction.
@@ -58,8 +60,11 @@ class SaveFile {
   /// True after a failed commit, until one succeeds.
   bool failing() const { return failing_; }
 
+  /// False once a load found that the store cannot be read: this career is not being kept.
+  bool keeping() const { return keeping_; }
+
   /// Ends the transaction and keeps a copy of the whole save, which is `state`; see core/snapshots.h. False when that
-  /// did not work.
+  /// did not work. A save that could not be read has nothing worth a copy: true then.
   bool keepSnapshot(SnapshotKind kind, const GameState& state, std::string_view spared = {});
 
   /// The kept copies, newest first.
@@ -69,6 +74,7 @@ class SaveFile {
   void rest() { store_.rest(); }
 
  private:
+  bool writes() const { return keeping_ && store_.keeps(); }
   void put(std::string_view key, int32_t chunk, std::optional<Value> value);
   void putOrder(std::string_view key, const std::vector<uint32_t>& slots);
   void putRemovals(std::string_view key, StoredList& stored, uint32_t chunks);
@@ -80,6 +86,7 @@ class SaveFile {
   std::map<std::string, StoredList, std::less<>> lists_;
   std::map<std::string, Bytes, std::less<>> otherObjects_;
   bool failing_ = false;
+  bool keeping_ = true;
 };
 
 /// The keys whose value in memory differs from what `store` would load, but for those that are never loaded; every key

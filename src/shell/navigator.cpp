@@ -11,7 +11,7 @@ Navigator::~Navigator() = default;
 
 void Navigator::start(const LoadReport& report) {
   if (!report.readable) {
-    notice_ = "The save could not be read. This career is not being kept.";
+    notice_ = "The save could not be read and is left as it is. This career is not being kept.";
   } else if (!report.damagedLists.empty()) {
     notice_ = "A part of the save was damaged and has been put aside:";
     for (const std::string& key : report.damagedLists) notice_ += " " + key;
@@ -204,6 +204,7 @@ Shown Navigator::shown() const {
   if (!alerts_.empty()) shown.alert = Shown::ShownAlert{alerts_.front().key, alerts_.front().alert};
   shown.notice = notice_;
   shown.request = request_;
+  shown.segue = top().segue->name;
   shown.screen = top().segue->screen;
   shown.key = top().key;
   shown.view = top().screen->view();

@@ -54,6 +54,7 @@ struct Shown {
   std::optional<ShownAlert> alert;
   std::string notice;
   Request request;
+  std::string_view segue;  ///< that led here; a tab's name for its root
   std::string_view screen;
   int64_t key = 0;
   View view;

@@ -2,81 +2,27 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
+#include <cstdlib>
 
-#include "core/week_rows.h"
+#include "core/career_file.h"
+#include "core/snapshots.h"
 #include "play/glass.h"
+#include "play/random_habits.h"
 
 namespace backbeat {
 
 namespace {
 
-using namespace std::string_literals;
-
-constexpr int64_t pressesBetweenChecksOfLargeWorlds = 10;
+constexpr int64_t smallWorldsAreCheckedEvery = 4;
+constexpr int64_t largeWorldsAreCheckedEvery = 20;
 constexpr size_t hugeText = 100'000;
-
-const std::array<std::string, 6> sensibleTexts = {"Midnight Rivers", "Paper Lanterns", "Mara",
-                                                  "Blue Hour",       "Sound & Sons",   "Thank you all!"};
-const std::array<std::string, 18> absurdTexts = {"",
-                                                 " ",
-                                                 "0",
-                                                 "-1",
-                                                 "1e308",
-                                                 "9223372036854775807",
-                                                 "-9223372036854775808",
-                                                 "99999999999999999999",
-                                                 "0.5",
-                                                 "nan",
-                                                 "\u202Eשלום עולם",
-                                                 "👩‍👩‍👧‍👦🏳️‍🌈🇳🇴",
-                                                 "a\0b"s,
-                                                 "<script>alert(1)</script>",
-                                                 "\xFF\xFE broken",
-                                                 "line\nbreak\r\n\ttab",
-                                                 "Single",
-                                                 "%s%n ${x} '; DROP TABLE kv; --"};
-
-/// Whether the index of a history finds what looking at every row finds.
-template <class T>
-std::string historyFault(std::string_view key, const RecordList<T>& list) {
-  if constexpr (historyKeyOf<T> != nullptr) {
-    std::map<int64_t, std::vector<uint32_t>> plain;
-    for (uint32_t i = 0; i < list.size(); ++i) plain[list[i].*historyKeyOf<T>].push_back(i);
-    for (const auto& [id, positions] : plain) {
-      const auto found = list.historyOf(id);
-      if (!std::equal(found.begin(), found.end(), positions.begin(), positions.end())) {
-        return "the history of " + std::to_string(id) + " in " + std::string(key) + " is not what its rows say";
-      }
-    }
-    if (!list.historyOf(-987'654'321).empty()) return "a history of nothing in " + std::string(key);
-  }
-  return {};
-}
-
-/// Whether the rows of the week that just ended are all that carry it.
-template <class T>
-std::string weekRowsFault(std::string_view key, const RecordList<T>& list, CalendarWeek week) {
-  if constexpr (requires(T row) {
-                  row.weekNumber;
-                  row.yearNumber;
-                }) {
-    if (key.find("Weekly") == std::string_view::npos) return {};
-    const auto plain = std::count_if(list.begin(), list.end(), [&](const T& row) {
-      return CalendarWeek{row.weekNumber, row.yearNumber} == week;
-    });
-    if (static_cast<size_t>(plain) != rowsOfWeek(list, week).size()) {
-      return "the rows of week " + std::to_string(week.week) + " in " + std::string(key) + " do not stand together";
-    }
-  }
-  return {};
-}
 
 }  // namespace
 
 void Coverage::add(const Coverage& other) {
-  for (const auto& [screen, count] : other.screens) screens[screen] += count;
+  for (const auto& [segue, count] : other.segues) segues[segue] += count;
   for (const auto& [action, count] : other.actions) actions[action] += count;
+  alerts.insert(other.alerts.begin(), other.alerts.end());
   unknownSegues.insert(other.unknownSegues.begin(), other.unknownSegues.end());
 }
 
@@ -92,61 +38,93 @@ RandomPlayer::RandomPlayer(uint64_t seed)
     : seed_(seed),
       random_(seed),
       world_(namedWorlds()[seed % namedWorlds().size()]),
-      career_(store_, platform_, [this](const std::string& line) { lastLine_ = line.substr(0, 300); }),
-      weights_{{random_.integer(30, 100), weight() / 4, weight() / 4, weight(), weight(), random_.integer(1, 20)}},
+      career_(store_, platform_),
       absurdIn100_(weight()),
-      hugeTexts_(random_.integer(0, 7) == 0) {
+      hugeTexts_(random_.integer(0, 7) == 0),
+      checkEvery_(world_.large ? largeWorldsAreCheckedEvery : smallWorldsAreCheckedEvery) {
+  weights_.of = {random_.integer(30, 100), rarely(), rarely(), weight(), weight(), random_.integer(1, 20),
+                 random_.integer(1, 6),    rarely(), rarely(), rarely()};
+  if (std::getenv("BACKBEAT_CHECK_ALL")) checkEvery_ = 1;
   settleInto(store_, world_);
-  career_.play(launchEvent(now_, random_.bits64()));
+  launch();
 }
 
 std::string RandomPlayer::whereabouts() const {
-  return "seed " + std::to_string(seed_) + ", world \"" + world_.name + "\", press " + std::to_string(pressesDone_) +
+  return "seed " + std::to_string(seed_) + ", world \"" + world_.name + "\", step " + std::to_string(stepsDone_) +
          ": " + lastLine_ + "\nagain: BACKBEAT_SEED=" + std::to_string(seed_) +
-         " BACKBEAT_CAREERS=1 backbeat_tests --gtest_filter='RandomPlayer.*'\n";
+         " BACKBEAT_SEEDS=1 BACKBEAT_CHECK_ALL=1 backbeat_tests --gtest_filter='RandomPlayer*'\n";
 }
 
-std::string RandomPlayer::play(int64_t presses) {
+std::string RandomPlayer::play(int64_t things) {
   std::string found = fault();
-  while (found.empty() && presses-- > 0) {
-    play(anyEvent());
-    found = fault();
+  while (found.empty() && things-- > 0) {
+    found = step();
+    if (found.empty()) found = fault();
   }
   return found;
 }
 
-void RandomPlayer::play(const TraceEvent& event) {
-  ++pressesDone_;
-  week_ = {career_.session().game().state.weekNumberForTracking, event.action.id == "endTheWeekButton"};
-  if (beforePress) {
-    lastLine_ = traceLine(event).substr(0, 300);
-    beforePress(whereabouts());
-  }
-  career_.play(event);
-  const auto& unknown = career_.session().navigator().unknownSegues();
-  coverage_.unknownSegues.insert(unknown.begin(), unknown.end());
-}
-
-TraceEvent RandomPlayer::anyEvent() {
+std::string RandomPlayer::step() {
+  ++stepsDone_;
   now_ += random_.integer(1, 3'000'000);
+  endingWeek_ = false;
   const Shown shown = career_.session().shown();
   const std::vector<Pressable> offered = printScreen(career_.session().navigator(), shown, false).pressables;
   note(shown, offered);
+  if (!errand_.empty()) {
+    play(nextOfErrand(shown, offered));
+    return obeyRequest();
+  }
   size_t kind = 0;
   for (int64_t draw = random_.integer(1, weights_.sum()); draw > weights_.of[kind]; ++kind) draw -= weights_.of[kind];
   switch (kind) {
-    case Weights::unknown: return unknownPress();
-    case Weights::reload: return launchEvent(now_, random_.bits64());
-    case Weights::back: return actEvent(now_, "nav", {"back", ""});
-    case Weights::tab: return actEvent(now_, "tabs", {"tab", std::to_string(random_.integer(0, tabCount))});
-    case Weights::endWeek: return actEvent(now_, "nav", {"endTheWeekButton", ""});
-    default: return anyPress(offered);
+    case Weights::unknown: play(unknownPress()); break;
+    case Weights::reload: launch(); break;
+    case Weights::back: play(actEvent(now_, "nav", {"back", ""})); break;
+    case Weights::tab: play(actEvent(now_, "tabs", {"tab", std::to_string(random_.integer(0, tabCount))})); break;
+    case Weights::endWeek: play(actEvent(now_, "nav", {"endTheWeekButton", ""})); break;
+    case Weights::errand: {
+      const std::vector<Wish>& chosen = random_.element(errands);
+      errand_.assign(chosen.begin(), chosen.end());
+      play(nextOfErrand(shown, offered));
+      break;
+    }
+    case Weights::carryOver: return carryOver();
+    case Weights::damagedImport: return importDamaged();
+    case Weights::goBack: return goBack();
+    default: play(anyPress(offered)); break;
   }
+  return obeyRequest();
+}
+
+/// The next press of the errand; one that finds its way barred gets it out of the way or gives up.
+TraceEvent RandomPlayer::nextOfErrand(const Shown& shown, const std::vector<Pressable>& offered) {
+  const Wish wish = errand_.front();
+  for (size_t tab = 0; tab < tabCount; ++tab) {
+    if (tabs()[tab].label != wish.what || shown.modal || shown.alert) continue;
+    if (shown.tab == tab) errand_.pop_front();
+    return actEvent(now_, "tabs", {"tab", std::to_string(tab)});
+  }
+  std::vector<const Pressable*> wished;
+  for (const Pressable& pressable : offered) {
+    if (pressable.action.verb() == wish.what || pressable.label == wish.what) wished.push_back(&pressable);
+  }
+  if (!wished.empty()) {
+    errand_.pop_front();
+    TraceEvent press = pressOf(*random_.element(wished));
+    if (!wish.value.empty()) press.action.value = wish.value;
+    return press;
+  }
+  if (!shown.alert && !shown.modal) errand_.clear();
+  return anyPress(offered);
 }
 
 TraceEvent RandomPlayer::anyPress(const std::vector<Pressable>& offered) {
   if (offered.empty()) return actEvent(now_, "nav", {"back", ""});
-  const Pressable& pressable = wanted(offered);
+  return pressOf(wanted(offered));
+}
+
+TraceEvent RandomPlayer::pressOf(const Pressable& pressable) {
   const std::string screen(career_.session().shown().screen);
   if (pressable.screenKey != "alert") ++coverage_.actions[{screen, std::string(pressable.action.verb())}];
   return actEvent(now_, pressable.screenKey, {pressable.action.id, valueFor(pressable)});
@@ -201,42 +179,106 @@ TraceEvent RandomPlayer::unknownPress() {
 
 void RandomPlayer::note(const Shown& shown, const std::vector<Pressable>& offered) {
   const std::string screen(shown.screen);
-  ++coverage_.screens[screen];
+  ++coverage_.segues[std::string(shown.segue)];
+  if (shown.alert) coverage_.alerts.insert(shown.alert->alert.title);
   for (const Pressable& pressable : offered) {
     if (pressable.screenKey != "alert")
       coverage_.actions.try_emplace({screen, std::string(pressable.action.verb())}, 0);
   }
 }
 
-std::string RandomPlayer::fault() {
-  const Session& session = career_.session();
-  const GameState& state = session.game().state;
-  if (!session.loadReport().damagedLists.empty()) return "a list of its own save was damaged at a reload";
-  if (!world_.large || pressesDone_ % pressesBetweenChecksOfLargeWorlds == 0 || week_.ending) {
-    const std::vector<std::string> unsaved = differencesFromStore(state, store_);
-    if (!unsaved.empty()) return "not saved: " + unsaved.front();
-  }
-  if (std::string found = glassFault(session, [&] { return session.shown(); }); !found.empty()) return found;
-  return week_.ending && state.weekNumberForTracking != week_.tracking ? weekFault(state) : "";
+void RandomPlayer::mark(const std::string& line) {
+  lastLine_ = line.substr(0, 300);
+  if (beforeStep) beforeStep(whereabouts());
 }
 
-std::string RandomPlayer::weekFault(const GameState& state) const {
-  if (state.weekNumber < 1 || state.weekNumber > 52) return "the week is " + std::to_string(state.weekNumber);
-  if (state.weekNumberForTracking != week_.tracking + 1) return "the week moved by more than one";
-  if (state.totalEnergyAvailable < 0) return "the energy is below 0";
-  if (!std::isfinite(state.totalCashAvailable)) return "the cash is no number";
-  std::set<int64_t> ids;
-  for (const Song& song : state.saveAllSongList) {
-    if (!ids.insert(song.songId).second) return "two songs have the id " + std::to_string(song.songId);
+void RandomPlayer::play(const TraceEvent& event) {
+  const GameState& state = career_.session().game().state;
+  week_ = {state.weekNumberForTracking, state.totalCashAvailable, state.underContract};
+  endingWeek_ = event.action.id == "endTheWeekButton";
+  mark(traceLine(event));
+  career_.play(event);
+  const auto& unknown = career_.session().navigator().unknownSegues();
+  coverage_.unknownSegues.insert(unknown.begin(), unknown.end());
+}
+
+void RandomPlayer::launch() {
+  const TraceEvent event = launchEvent(now_, random_.bits64());
+  mark(traceLine(event));
+  career_.play(event);
+  justLaunched_ = true;
+}
+
+/// What the program around the game does after a press.
+std::string RandomPlayer::obeyRequest() {
+  const Request request = career_.session().shown().request;
+  switch (request.kind) {
+    case Request::Kind::exportCareer:
+    case Request::Kind::importCareer: return carryOver();
+    case Request::Kind::restore: return goBackTo(request.snapshot);
+    case Request::Kind::none:
+    case Request::Kind::newYear: break;
   }
-  const CalendarWeek ended = state.weekNumber == 1 ? CalendarWeek{52, state.yearNumber - 1}
-                                                   : CalendarWeek{state.weekNumber - 1, state.yearNumber};
-  std::string found;
-  forEachField<GameState>([&](const auto& field) {
-    if (found.empty()) found = historyFault(field.key, state.*field.member);
-    if (found.empty()) found = weekRowsFault(field.key, state.*field.member, ended);
-  });
-  return found;
+  return {};
+}
+
+/// The career leaves as a file and comes back from it, as on another device.
+std::string RandomPlayer::carryOver() {
+  mark("carries the career over in a file");
+  const GameState& state = career_.session().game().state;
+  const Bytes file = exportCareer(state);
+  ImportedCareer career = importCareer(file);
+  if (!career.state) return "its own export is refused: " + career.problem;
+  if (!career.missing.empty()) return "its own export lacks " + career.missing.front();
+  if (exportCareer(*career.state) != file) return "a career that was carried over is exported otherwise";
+  if (!keepSnapshot(store_, SnapshotKind::import, state)) return "no copy was kept before the import";
+  if (!store_.replaceAll(rowsOf(*career.state))) return "the import was not stored";
+  launch();
+  return {};
+}
+
+/// A damaged file is refused with a reason, or was read whole.
+std::string RandomPlayer::importDamaged() {
+  mark("reads a damaged career file");
+  Bytes file = exportCareer(career_.session().game().state);
+  const auto place = [&] { return static_cast<size_t>(random_.integer(0, static_cast<int64_t>(file.size()) - 1)); };
+  if (random_.coin() == 1) file.resize(place());
+  for (int64_t flips = file.empty() ? 0 : random_.integer(1, 3); flips > 0; --flips) {
+    file[place()] ^= static_cast<char>(1 << random_.integer(0, 7));
+  }
+  const ImportedCareer career = importCareer(file);
+  if (career.state.has_value() != career.problem.empty()) return "a damaged file is neither refused nor read";
+  return {};
+}
+
+std::string RandomPlayer::goBack() {
+  const std::vector<Snapshot> kept = snapshotsOf(store_);
+  return kept.empty() ? "" : goBackTo(random_.element(kept).name);
+}
+
+std::string RandomPlayer::goBackTo(const std::string& snapshot) {
+  mark("goes back to " + snapshot);
+  if (!store_.restoreSnapshot(snapshot)) return "a copy that is offered could not be restored";
+  launch();
+  return {};
+}
+
+std::string RandomPlayer::fault() {
+  const Session& session = career_.session();
+  const bool weekEnded = endingWeek_ && session.game().state.weekNumberForTracking != week_.tracking;
+  const bool due = stepsDone_ % checkEvery_ == 0 || weekEnded || std::exchange(justLaunched_, false);
+  const bool newHere = seen_.insert(session.shown().segue).second;
+  if (!session.loadReport().damagedLists.empty()) return "a list of its own save was damaged at a reload";
+  if (session.game().saveFile.failing()) return "the store took a write and the save file does not know";
+  if (due) {
+    const std::vector<std::string> unsaved = differencesFromStore(session.game().state, store_);
+    if (!unsaved.empty()) return "not saved: " + unsaved.front();
+    if (std::string found = historyFault(session.game().state); !found.empty()) return found;
+  }
+  if (due || newHere) {
+    if (std::string found = glassFault(session, [&] { return session.shown(); }); !found.empty()) return found;
+  }
+  return weekEnded ? weekFault(session.game().state, week_) : "";
 }
 
 }  // namespace backbeat

@@ -1,5 +1,5 @@
 // Random careers. A few in the check; as many as asked for by hand:
-//   BACKBEAT_SEED=1000 BACKBEAT_CAREERS=5000 BACKBEAT_PRESSES=2000 backbeat_tests --gtest_filter='RandomPlayer.*'
+//   BACKBEAT_SEED=1000 BACKBEAT_SEEDS=5000 BACKBEAT_STEPS=2000 backbeat_tests --gtest_filter='RandomPlayer*'
 #include "play/random_player.h"
 
 #include <gtest/gtest.h>
@@ -9,14 +9,19 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
+#include <regex>
+#include <set>
 
 #include "shell/registry.h"
+#include "support/program.h"
 
 namespace backbeat {
 namespace {
 
-constexpr uint64_t careersOfTheCheck = 60;
+constexpr uint64_t careersOfTheCheck = 84;  // twelve of each world
+constexpr int64_t stepsOfTheCheck = 300;
 
 /// Where the running career stands, for the handler of a crash: it may only read what is already there.
 std::array<char, 1200> crashNote;
@@ -38,30 +43,72 @@ uint64_t fromEnvironment(const char* name, uint64_t otherwise) {
   return text ? std::strtoull(text, nullptr, 10) : otherwise;
 }
 
-/// Met only from a song and an album that are in production at once; the walk through all screens opens them each time.
-constexpr std::array<std::string_view, 2> rare = {"goToAddToAlbum", "goToSetAlbumPricing"};
+/// What chance has to reach no time in the check, and why that is no fault.
+struct Unreached {
+  std::string_view what;
+  std::string_view why;
+};
+constexpr std::array<Unreached, 4> unreached = {{
+    {"alert Currently on Tour", "nobody can go on tour yet"},
+    {"alert 🎤 Signed Artist🎤", "nobody can have a label yet"},
+    {"alert No Recent Songs", "fame without a song of the last years; the tests of the week's events have it"},
+    {"alert Nothing Changed", "only a store that fails raises it"},
+}};
+
+bool isExplained(const std::string& what) {
+  return std::any_of(unreached.begin(), unreached.end(), [&](const Unreached& each) { return each.what == what; });
+}
+
+/// The titles of alerts that stand in the sources.
+std::set<std::string> alertsOfTheGame() {
+  std::set<std::string> titles;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(BACKBEAT_SOURCE_DIR "/src")) {
+    if (entry.path().extension() != ".cpp") continue;
+    const std::string text = contentOf(entry.path());
+    const std::regex raised("[aA]lert(?:AndStay)?\\(\\s*\"((?:[^\"\\\\])+)\"");
+    for (std::sregex_iterator found(text.begin(), text.end(), raised), end; found != end; ++found) {
+      titles.insert((*found)[1]);
+    }
+  }
+  return titles;
+}
+
+/// Everything that no career reached, but for what is explained.
+std::vector<std::string> neverReached(const Coverage& coverage) {
+  std::vector<std::string> names;
+  const auto add = [&](const std::string& name) {
+    if (!isExplained(name)) names.push_back(name);
+  };
+  for (const Segue& segue : segues()) {
+    if (!coverage.segues.contains(std::string(segue.name))) add("screen " + std::string(segue.name));
+  }
+  for (const std::string& action : coverage.neverPressed()) add("press " + action);
+  for (const std::string& title : alertsOfTheGame()) {
+    if (!coverage.alerts.contains(title)) add("alert " + title);
+  }
+  return names;
+}
 
 TEST(RandomPlayer, NothingThatCanBePressedBreaksACareer) {
   for (const int signal : {SIGILL, SIGTRAP, SIGABRT, SIGSEGV}) ::signal(signal, tellCrash);
   const uint64_t first = fromEnvironment("BACKBEAT_SEED", 1);
-  const uint64_t careers = fromEnvironment("BACKBEAT_CAREERS", careersOfTheCheck);
-  const auto presses = static_cast<int64_t>(fromEnvironment("BACKBEAT_PRESSES", 300));
+  const uint64_t careers = fromEnvironment("BACKBEAT_SEEDS", careersOfTheCheck);
+  const auto steps = static_cast<int64_t>(fromEnvironment("BACKBEAT_STEPS", stepsOfTheCheck));
   Coverage coverage;
   for (uint64_t seed = first; seed < first + careers; ++seed) {
     RandomPlayer player(seed);
-    player.beforePress = keepForCrash;
-    const std::string fault = player.play(presses);
+    player.beforeStep = keepForCrash;
+    const std::string fault = player.play(steps);
     EXPECT_EQ(fault, "") << player.whereabouts();
     coverage.add(player.coverage());
     if (::testing::Test::HasFailure()) break;
   }
   for (const int signal : {SIGILL, SIGTRAP, SIGABRT, SIGSEGV}) ::signal(signal, SIG_DFL);
-  for (const std::string& action : coverage.neverPressed()) std::cout << "never pressed: " << action << '\n';
   for (const std::string& segue : coverage.unknownSegues) ADD_FAILURE() << "leads nowhere: " << segue;
-  if (careers < careersOfTheCheck) return;  // too few to have been everywhere
-  for (const Segue& segue : segues()) {
-    if (std::find(rare.begin(), rare.end(), segue.name) != rare.end()) continue;
-    EXPECT_GT(coverage.screens[std::string(segue.screen)], 0) << segue.name << " was never opened";
+  const bool enoughForEverything = careers >= careersOfTheCheck;
+  for (const std::string& what : neverReached(coverage)) {
+    if (enoughForEverything) ADD_FAILURE() << "never reached: " << what;
+    if (!enoughForEverything) std::cout << "never reached: " << what << '\n';
   }
 }
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "core/game.h"
+#include "core/new_game.h"
 #include "support/world.h"
 
 namespace backbeat {
@@ -100,7 +100,47 @@ void inDebt(GameState& state) {
   furnishCareer(state, 1, 3);
   state.totalCashAvailable = -75'000;
   state.totalEnergyAvailable = 0;
+  state.totalEnergyMax = 3;  // tired too: hardly anything can be paid for
   state.followerCount = -40;
+}
+
+/// Ten years in: hits on the chart and one that left it, certified songs, a contract whose terms are met.
+void midCareer(GameState& state) {
+  setDate(state, 520);
+  furnishCareer(state, 12, 30);
+  state.totalFans = 6'000'000;
+  state.totalCashAvailable = 2'500'000;
+  state.totalEnergyAvailable = state.totalEnergyMax = 300;
+  state.underContract = 1;
+  ContractLabel met;
+  met.recordLabel = "Still Water";
+  met.contractStartWeek = 470;
+  met.contractEndWeek = 600;
+  met.albumPricing = 8.99;
+  met.featureDiscounts = 0.8;
+  state.saveAllContractLabelList.append(met);
+  for (int64_t place = 0; place < 6; ++place) {
+    const bool left = place == 5;
+    BillboardSong row;
+    row.songId = firstWorldSong + 3 * place;
+    row.songTitle = "Song No. " + std::to_string(place + 1);
+    row.weeklySongListens = 30'000'000 - 2'000'000 * place;
+    row.rankThisWeek = left ? row.songId + 1000 : 1 + 4 * place;
+    row.rankLastWeek = 2 + 4 * place;
+    row.peakPosition = 1 + 4 * place;
+    row.weeksAtOne = place == 0 ? 3 : 0;
+    row.weeksOnChart = 8;
+    row.yearDebut = row.yearCurrent = state.yearNumber;
+    row.weekNumber = state.weekNumberForTracking - 8;
+    row.isOnCharts = !left;
+    state.saveAllBillboardSongList.append(row);
+    const size_t position = state.saveAllSongList.find([&](const Song& song) { return song.songId == row.songId; });
+    state.saveAllSongList.update(position, [&](Song& song) {
+      song.totalListen = 150'000'000 * (place + 1);
+      song.productionRating = 95;
+      song.chartRanking = left ? 0 : row.rankThisWeek;
+    });
+  }
 }
 
 void ninetyNinthYear(GameState& state) {
@@ -115,11 +155,13 @@ void ninetyNinthYear(GameState& state) {
 }  // namespace
 
 std::span<const NamedWorld> namedWorlds() {
-  static constexpr std::array<NamedWorld, 5> worlds = {{
+  static constexpr std::array<NamedWorld, 7> worlds = {{
       {"new", fresh},
       {"rich", rich},
       {"signed", signedArtist},
+      {"mid-career", midCareer},
       {"in debt", inDebt},
+      {"restarted", rich, false, restartGame},
       {"ninety-ninth year", ninetyNinthYear, true},
   }};
   return worlds;
@@ -133,6 +175,8 @@ void settleInto(Store& store, const NamedWorld& world) {
   world.furnish(game.state);
   forEachField<GameState>([&](const auto& field) { game.save(field.member); });
   for (const Scalar& scalar : scalars) game.saveFile.writeScalar(game.state, scalar);
+  game.saveFile.commit();
+  if (world.afterwards) world.afterwards(game);
   game.saveFile.commit();
 }
 

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
-#include <sys/mman.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -16,6 +15,8 @@
 #include <sstream>
 
 #include "core/save_file.h"
+#include "shell/session.h"
+#include "support/small_career.h"
 
 namespace backbeat {
 namespace {
@@ -129,44 +130,6 @@ TEST_F(SqliteStoreTest, ADamagedListIsPutAsideForGood) {
   EXPECT_EQ(tamper("SELECT count(*) FROM quarantine"), 51) << "50 rows of songs and their order";
 }
 
-TEST_F(SqliteStoreTest, AKillLeavesAWholeStep) {
-  auto* const acknowledged = static_cast<volatile int64_t*>(
-      mmap(nullptr, sizeof(int64_t), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0));
-  *acknowledged = 0;
-  for (int round = 0; round < 40; ++round) {
-    const pid_t child = fork();
-    if (child == 0) {
-      const auto opened = SqliteStore::open(path);
-      if (!opened.store) _exit(1);
-      for (int64_t step = *acknowledged + 1;; ++step) {
-        std::vector<Write> writes = {{"step", wholeRow, Value(step)}};
-        for (int32_t chunk = 0; chunk < 30; ++chunk) {
-          writes.push_back({"rows", chunk, Value(Bytes(3000, static_cast<char>(step)))});
-        }
-        if (!opened.store->commit(writes)) _exit(2);
-        *acknowledged = step;
-        if (step % 7 == 0) opened.store->rest();
-      }
-    }
-    usleep(static_cast<useconds_t>(3000 + round * 1009 % 20'000));
-    kill(child, SIGKILL);
-    int status = 0;
-    waitpid(child, &status, 0);
-    ASSERT_TRUE(WIFSIGNALED(status)) << "the child ended by itself";
-    int64_t step = 0;
-    open()->visitRows([&](std::string_view key, int32_t, const Value& value) {
-      if (key == "step") step = std::get<int64_t>(value);
-    });
-    open()->visitRows([&](std::string_view key, int32_t chunk, const Value& value) {
-      if (key != "rows") return;
-      EXPECT_EQ(std::get<Bytes>(value), Bytes(3000, static_cast<char>(step))) << chunk;
-    });
-    EXPECT_GE(step, *acknowledged) << "an acknowledged step is lost";
-    *acknowledged = step;
-  }
-  EXPECT_GT(*acknowledged, 40);
-}
-
 TEST_F(SqliteStoreTest, ASecondGameIsToldAndChangesNothing) {
   const auto first = open();
   GameState state = career();
@@ -226,6 +189,35 @@ TEST_F(SqliteStoreTest, ADamageFurtherInIsNeverTakenForAShorterCareer) {
   EXPECT_GT(noticed, whole.size() / 4096 / 2);
 }
 
+TEST_F(SqliteStoreTest, ACutOrFlippedFileIsRefusedOrPlayedAndThePlayerIsTold) {
+  GameState state = smallCareer();
+  ASSERT_TRUE(saveAll(*open(), state));
+  const Bytes whole = bytes();
+  SeededRandom random(5);
+  int refused = 0;
+  int told = 0;
+  for (int round = 0; round < 200; ++round) {
+    Bytes damaged = whole;
+    const auto place = [&] { return static_cast<size_t>(random.integer(0, static_cast<int64_t>(damaged.size()) - 1)); };
+    if (round % 4 == 0) damaged.resize(place() + 1);
+    for (int flips = round % 4 * 4; flips > 0; --flips)
+      damaged[place()] ^= static_cast<char>(1 << random.integer(0, 7));
+    write(damaged);
+    const auto opened = SqliteStore::open(path);
+    refused += !opened.store;
+    EXPECT_NE(opened.store == nullptr, opened.problem.empty());
+    if (!opened.store) continue;
+    QuietPlatform platform;
+    Session session(*opened.store, platform, 7, {});
+    for (const char* tab : {"0", "1", "2", "3", "4"}) session.press({}, "tabs", {"tab", tab});
+    const LoadReport& report = session.loadReport();
+    EXPECT_EQ(session.shown().notice.empty(), report.readable && report.damagedLists.empty());
+    told += !session.shown().notice.empty();
+  }
+  EXPECT_GT(refused, 10);
+  EXPECT_GT(told, 10);
+}
+
 TEST_F(SqliteStoreTest, SaysSoWhenItMayNotWrite) {
   write("");
   std::filesystem::permissions(folder, std::filesystem::perms(0755));
@@ -251,16 +243,19 @@ TEST_F(SqliteStoreTest, AFullDiskRefusesAndTheGamePlaysOnWhenThereIsRoomAgain) {
     SaveFile saveFile(*store);
     GameState state = career();
     if (!saveAll(*store, state)) return 1;
-    const rlimit full{300'000, RLIM_INFINITY};
-    setrlimit(RLIMIT_FSIZE, &full);
     for (int64_t id = 400; id < 9000; ++id) state.saveAllWeeklySongListens.append({.songId = id});
     saveFile.writeList("saveAllWeeklySongListens", state.saveAllWeeklySongListens);
-    if (saveFile.commit() || !saveFile.failing()) return 2;
-    if (differencesFromStore(state, *store) != std::vector<std::string>{"saveAllWeeklySongListens"}) return 3;
     const rlimit roomy{RLIM_INFINITY, RLIM_INFINITY};
-    setrlimit(RLIMIT_FSIZE, &roomy);
-    if (!saveFile.commit()) return 4;
-    return differencesFromStore(state, *store).empty() ? 0 : 5;
+    for (rlim_t room = 50'000; room < 5'000'000; room += 50'000) {
+      const rlimit full{room, RLIM_INFINITY};
+      setrlimit(RLIMIT_FSIZE, &full);
+      const bool saved = saveFile.commit();
+      setrlimit(RLIMIT_FSIZE, &roomy);
+      if (saved) return room > 300'000 && differencesFromStore(state, *store).empty() ? 0 : 2;
+      if (!saveFile.failing()) return 3;
+      if (differencesFromStore(state, *store) != std::vector<std::string>{"saveAllWeeklySongListens"}) return 4;
+    }
+    return 5;
   });
   EXPECT_EQ(outcome, 0);
 }

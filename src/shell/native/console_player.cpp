@@ -48,7 +48,9 @@ void ConsolePlayer::run() {
     if (!std::getline(in_, line)) break;
     if (line.ends_with('\r')) line.pop_back();
   } while (obey(line));
-  out_ << "See you. Your career is kept up to here.\n";
+  const SaveFile& saveFile = career_.session().game().saveFile;
+  const bool kept = saveFile.keeping() && !saveFile.failing();
+  out_ << (kept ? "See you. Your career is kept up to here.\n" : "See you. The last steps are not kept.\n");
   out_.flush();
 }
 

@@ -1,0 +1,123 @@
+#include "play/career_invariants.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <set>
+#include <vector>
+
+#include "career/ledger.h"
+#include "core/money.h"
+#include "core/week_rows.h"
+#include "turn/income_statement.h"
+#include "turn/weekly_report.h"
+
+namespace backbeat {
+
+namespace {
+
+/// Whether the index of a history finds what looking at every row finds.
+template <class T>
+std::string indexFault(std::string_view key, const RecordList<T>& list) {
+  if constexpr (historyKeyOf<T> != nullptr) {
+    std::map<int64_t, std::vector<uint32_t>> plain;
+    for (uint32_t i = 0; i < list.size(); ++i) plain[list[i].*historyKeyOf<T>].push_back(i);
+    for (const auto& [id, positions] : plain) {
+      const auto found = list.historyOf(id);
+      if (!std::equal(found.begin(), found.end(), positions.begin(), positions.end())) {
+        return "the history of " + std::to_string(id) + " in " + std::string(key) + " is not what its rows say";
+      }
+    }
+    if (!list.historyOf(-987'654'321).empty()) return "a history of nothing in " + std::string(key);
+  }
+  return {};
+}
+
+/// Whether the rows of the week that just ended are all that carry it.
+template <class T>
+std::string weekRowsFault(std::string_view key, const RecordList<T>& list, CalendarWeek week) {
+  if constexpr (requires(T row) {
+                  row.weekNumber;
+                  row.yearNumber;
+                }) {
+    if (key.find("Weekly") == std::string_view::npos) return {};
+    const auto plain = std::count_if(list.begin(), list.end(), [&](const T& row) {
+      return CalendarWeek{row.weekNumber, row.yearNumber} == week;
+    });
+    if (static_cast<size_t>(plain) != rowsOfWeek(list, week).size()) {
+      return "the rows of week " + std::to_string(week.week) + " in " + std::string(key) + " do not stand together";
+    }
+  }
+  return {};
+}
+
+/// Whether the ledger holds together.
+std::string ledgerFault(const GameState& state) {
+  std::set<int64_t> entries;
+  for (const WeeklyLineItem& item : state.saveAllWeeklyLineItems) {
+    if (!std::isfinite(item.amount) || item.amount < 0) return "the ledger asks for an odd amount for " + item.title;
+    if (item.typeOfExpense <= expense::transportation && !entries.insert(item.typeOfExpense).second) {
+      return "the ledger holds two choices of one kind: " + item.title;
+    }
+  }
+  const auto& items = state.saveAllWeeklyLineItems;
+  if (std::count_if(items.begin(), items.end(),
+                    [](const WeeklyLineItem& item) { return item.typeOfExpense == expense::basicNeeds; }) != 1) {
+    return "the basic needs are not in the ledger once";
+  }
+  return {};
+}
+
+/// Whether the cash moved by what the income statement tells. The statement sums all streams though the best song alone
+/// is paid, and counts fees that were paid when they were agreed on.
+std::string cashFault(const GameState& state, double cashBefore) {
+  const IncomeStatement told = incomeStatement(state);
+  double standingIncome = 0;
+  for (const WeeklyLineItem& item : state.saveAllWeeklyLineItems) standingIncome += item.isExpense ? 0 : item.amount;
+  double bestSong = 0;
+  int64_t mostStreams = -1;
+  for (const WeeklySongListens& row : rowsOfWeek(state.saveAllWeeklySongListens, reportedWeek(state))) {
+    if (row.songListens > mostStreams) bestSong = row.totalStreamRevenue;
+    mostStreams = std::max(mostStreams, row.songListens);
+  }
+  const double expected = cashBefore + told.income() - told.streams + bestSong - told.flatFees + standingIncome +
+                          state.weeklyJobIncome - told.expenses();
+  if (!(std::abs(state.totalCashAvailable - expected) <= 1e-9 * std::abs(expected) + 0.01)) {
+    return "the cash is " + currency(state.totalCashAvailable) + " where the week's records say " + currency(expected);
+  }
+  return {};
+}
+
+}  // namespace
+
+std::string historyFault(const GameState& state) {
+  std::string found;
+  forEachField<GameState>([&](const auto& field) {
+    if (found.empty()) found = indexFault(field.key, state.*field.member);
+  });
+  return found;
+}
+
+std::string weekFault(const GameState& state, const WeekBefore& before) {
+  if (state.weekNumber < 1 || state.weekNumber > 52) return "the week is " + std::to_string(state.weekNumber);
+  if (state.weekNumberForTracking != before.tracking + 1) return "the week moved by more than one";
+  if ((state.yearNumber - 2023) * 52 + state.weekNumber != state.weekNumberForTracking) {
+    return "the two week counters parted";
+  }
+  if (state.totalEnergyAvailable < 0) return "the energy is below 0";
+  if (std::string found = ledgerFault(state); !found.empty()) return found;
+  const bool advancePaidBack = before.underContract != state.underContract;  // a contract was not fulfilled in time
+  if (std::string found = cashFault(state, before.cash); !found.empty() && !advancePaidBack) return found;
+  std::set<int64_t> ids;
+  for (const Song& song : state.saveAllSongList) {
+    if (!ids.insert(song.songId).second) return "two songs have the id " + std::to_string(song.songId);
+  }
+  const CalendarWeek ended = reportedWeek(state);
+  std::string found;
+  forEachField<GameState>([&](const auto& field) {
+    if (found.empty()) found = weekRowsFault(field.key, state.*field.member, ended);
+  });
+  return found;
+}
+
+}  // namespace backbeat

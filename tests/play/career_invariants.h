@@ -1,0 +1,25 @@
+// What holds in every career, whatever was pressed.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "core/game_state.h"
+
+namespace backbeat {
+
+/// How a career stood before a week ended.
+struct WeekBefore {
+  int64_t tracking = 0;
+  double cash = 0;
+  int64_t underContract = 0;
+};
+
+/// What is wrong with the indexes of the histories, or "": each finds what looking at every row finds.
+std::string historyFault(const GameState& state);
+
+/// What is wrong right after a week has ended, or "": with the calendar, the ledger, the cash, the songs and the
+/// week's rows.
+std::string weekFault(const GameState& state, const WeekBefore& before);
+
+}  // namespace backbeat
