@@ -23,7 +23,7 @@ class SheetElement extends LitElement {
       class="sheet"
       aria-labelledby="sheet-title"
       @cancel=${this.cancel}
-      @close=${() => this.content && this.dismiss()}
+      @close=${this.closed}
       @click=${this.pressBeside}
     >
       <div class="sheet-body">
@@ -79,6 +79,11 @@ class SheetElement extends LitElement {
         ${selected ? html`<span class="row-mark chosen">${glyph("check")}<span class="unseen">selected</span></span>` : nothing}
       </button>
     </li>`;
+  }
+
+  // The event comes a moment after the fact: by then the next sheet may have been opened.
+  private closed(event: Event): void {
+    if (this.content && !(event.currentTarget as HTMLDialogElement).open) this.dismiss();
   }
 
   private cancel(event: Event): void {
