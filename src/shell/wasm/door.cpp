@@ -21,6 +21,7 @@ struct Door {
   QuietPlatform platform;
   PageStore store;
   std::unique_ptr<Session> session;
+  std::unique_ptr<GameState> stored;  // what the rows hold, once asked for without a session
   std::string input;
   std::string answer;
   std::string batch;
@@ -42,13 +43,16 @@ Date dateFrom(std::string_view unixMilliseconds) {
   return {static_cast<double>(wholeNumber(unixMilliseconds).value_or(0)) / 1000};
 }
 
-/// The running career, or the one in the rows that were handed in, which goes to `loaded`: an engine that the page does
-/// not dare to start can still hand out what is stored.
-const GameState& currentState(GameState& loaded) {
+/// The running career, or the one in the rows that were handed in: an engine that the page does not dare to start can
+/// still hand out what is stored.
+const GameState& currentState() {
   Door& here = door();
   if (here.session) return here.session->game().state;
-  SaveFile(here.store).load(loaded);
-  return loaded;
+  if (!here.stored) {
+    here.stored = std::make_unique<GameState>();
+    SaveFile(here.store).load(*here.stored);
+  }
+  return *here.stored;
 }
 
 std::string importAsJson(const ImportedCareer& career) {
@@ -92,6 +96,7 @@ extern "C" {
   auto& here = door();
   here.session = std::make_unique<backbeat::Session>(here.store, here.platform, number,
                                                      backbeat::dateFrom(backbeat::nextPart(text)));
+  here.store.dropRows();
   backbeat::answer();
 }
 
@@ -109,14 +114,11 @@ extern "C" {
 }
 
 [[clang::export_name("bb_export")]] void bb_export() {
-  backbeat::GameState loaded;
-  const backbeat::GameState& state = backbeat::currentState(loaded);
-  door().answer = backbeat::exportCareer(state);
+  door().answer = backbeat::exportCareer(backbeat::currentState());
 }
 
 [[clang::export_name("bb_export_name")]] void bb_export_name() {
-  backbeat::GameState loaded;
-  door().answer = backbeat::exportFileName(backbeat::currentState(loaded));
+  door().answer = backbeat::exportFileName(backbeat::currentState());
 }
 
 [[clang::export_name("bb_import")]] void bb_import(const char* bytes, uint32_t size) {
@@ -124,8 +126,7 @@ extern "C" {
   auto& here = door();
   here.answer = backbeat::importAsJson(career);
   if (!career.state) return;
-  backbeat::GameState loaded;
-  backbeat::keepSnapshot(here.store, backbeat::SnapshotKind::import, backbeat::currentState(loaded));
+  backbeat::keepSnapshot(here.store, backbeat::SnapshotKind::import, backbeat::currentState());
   here.store.commit(backbeat::rowsOf(*career.state));
   here.batch = here.store.takeBatch();
 }
