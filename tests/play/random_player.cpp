@@ -174,7 +174,8 @@ TraceEvent RandomPlayer::unknownPress() {
   }
   const std::array<std::string, 5> keys = {std::to_string(shown.key), std::to_string(shown.key), "alert", "tabs",
                                            absurdValue()};
-  return actEvent(now_, random_.element(keys), {id, absurdValue()});
+  const std::string& key = random_.element(keys);  // drawn before the value, whatever the compiler evaluates first
+  return actEvent(now_, key, {id, absurdValue()});
 }
 
 void RandomPlayer::note(const Shown& shown, const std::vector<Pressable>& offered) {

@@ -89,7 +89,7 @@ void signedArtist(GameState& state) {
   label.labelPercentageRate = 0.4;
   label.labelStreamingRate = 0.004;
   label.contractStartWeek = 25;
-  label.contractEndWeek = 33;
+  label.contractEndWeek = 31;
   label.albumPricing = 8.99;
   label.featureDiscounts = 0.8;
   state.saveAllContractLabelList.append(label);
