@@ -86,7 +86,7 @@ GameState heavyCareer(int64_t weeks) {
 
 size_t recordsIn(const GameState& state) {
   size_t records = 0;
-  forEachField<GameState>([&](const auto& field) { records += (state.*field.member).size(); });
+  for (const auto& [key, list] : listsOf(state)) records += list.size();
   return records;
 }
 

@@ -43,11 +43,11 @@ void SavedWorld::commitWholeLists() {
     std::set<std::string> keys;
     for (const Write& write : writes) keys.insert(write.key);
     std::vector<Write> whole;
-    forEachField<GameState>([&](const auto& field) {
-      if (!keys.contains(std::string(field.key))) return;
-      const auto& records = (recorded_.game.state.*field.member).all();
-      whole.push_back({std::string(field.key), wholeRow, encodeValue(writer, records)});
-    });
+    for (const auto& [key, list] : listsOf(recorded_.game.state)) {
+      if (!keys.contains(std::string(key))) continue;
+      const auto all = RecordEncoder(writer).value(list.type(), list.records());
+      whole.push_back({std::string(key), wholeRow, writer.finish(all)});
+    }
     for (const Write& write : writes) {
       if (write.chunk == wholeRow) whole.push_back(write);
     }

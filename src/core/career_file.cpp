@@ -30,8 +30,9 @@ class CareerReader {
       std::visit([&](auto member) { take(scalar.key, [&](auto ref) { return readScalar(ref, state_.*member); }); },
                  scalar.member);
     }
-    forEachField<GameState>(
-        [&](const auto& field) { take(field.key, [&](auto ref) { return readList(ref, state_.*field.member); }); });
+    for (const auto& [key, list] : listsOf(state_)) {
+      take(key, [&](auto ref) { return readList(ref, list); });
+    }
     if (!problem_.empty()) return refusal(problem_);
     if (missing_.size() == scalars.size() + fieldCount<GameState>) {
       return refusal(noCareer);
@@ -91,11 +92,10 @@ class CareerReader {
     return decoder_.read(ref, out);
   }
 
-  template <class T>
-  bool readList(PropertyListReader::Ref ref, RecordList<T>& out) {
-    std::vector<T> records;
-    if (!decoder_.read(ref, records)) return false;
-    out.assign(std::move(records));
+  bool readList(PropertyListReader::Ref ref, ChunkedList& out) {
+    const std::shared_ptr<void> records = out.type().make();
+    if (!decoder_.read(ref, out.type(), records.get())) return false;
+    out.replaceWith(records.get());
     return true;
   }
 
@@ -130,10 +130,10 @@ Bytes exportCareer(const GameState& state) {
     keys.push_back(writer.text(scalar.key));
     values.push_back(std::visit([&](auto member) { return encoder.value(state.*member); }, scalar.member));
   }
-  forEachField<GameState>([&](const auto& field) {
-    keys.push_back(writer.text(field.key));
-    values.push_back(encoder.value((state.*field.member).all()));
-  });
+  for (const auto& [key, list] : listsOf(state)) {
+    keys.push_back(writer.text(key));
+    values.push_back(encoder.value(list.type(), list.records()));
+  }
   return writer.finish(writer.dictionary(keys, values));
 }
 
@@ -157,7 +157,7 @@ std::vector<Write> rowsOf(GameState& state) {
   RowCollector collector;
   SaveFile file(collector);
   for (const Scalar& scalar : scalars) file.writeScalar(state, scalar);
-  forEachField<GameState>([&](const auto& field) { file.writeList(field.key, state.*field.member); });
+  for (const auto& [key, list] : listsOf(state)) file.writeList(key, list);
   file.commit();
   return std::move(collector.rows);
 }

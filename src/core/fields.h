@@ -1,6 +1,7 @@
 // The field table: the one place that says how a record is stored, compared, dumped and reset.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <type_traits>
@@ -28,6 +29,9 @@ template <class T, class Visit>
 constexpr void forEachField(Visit&& visit) {
   fieldsOf<T>([&](const auto&... field) { (visit(field), ...); });
 }
+
+template <class T>
+inline constexpr size_t fieldCount = fieldsOf<T>([](const auto&... field) { return sizeof...(field); });
 
 /// An instant, in seconds since 1970-01-01 00:00 UTC. Stored as a property-list date.
 struct Date {

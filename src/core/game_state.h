@@ -30,6 +30,14 @@ inline constexpr ListLayout sorted{8, ListLayout::Order::slots};
 
 /// Flags are whole numbers, 0 or 1, and are compared as "at least 1". Money is in dollars, energy and weeks are whole.
 struct GameState {
+  // With so many members, compiled once.
+  GameState();
+  GameState(const GameState&);
+  GameState(GameState&&) noexcept;
+  GameState& operator=(const GameState&);
+  GameState& operator=(GameState&&) noexcept;
+  ~GameState();
+
   // Calendar and artist.
   std::string myArtistsName;  ///< empty until the first name is saved
   int64_t weekNumber = 1;     ///< week of the year, 1 to 52; reaching 53 rolls the year
@@ -461,5 +469,16 @@ inline constexpr auto fieldsOf<GameState> = [](auto&& take) {
       Field{"AllFeaturedArtists", &GameState::AllFeaturedArtists},
       Field{"AllCelebrityCameos", &GameState::AllCelebrityCameos});
 };
+
+/// A list of a state, whatever it holds, and the key under which it is stored.
+template <class List>
+struct NamedList {
+  std::string_view key;
+  List& list;
+};
+
+/// Every list of a state, in loading order.
+std::vector<NamedList<ChunkedList>> listsOf(GameState& state);
+std::vector<NamedList<const ChunkedList>> listsOf(const GameState& state);
 
 }  // namespace backbeat

@@ -18,7 +18,7 @@ constexpr size_t keptTableSize = 1 << 14;  // larger ones are given back: a chun
 // The upper half of an object's marker byte.
 enum Kind : uint8_t {
   plain = 0x0,
-  wholeNumber = 0x1,
+  integral = 0x1,
   floating = 0x2,
   instant = 0x3,
   bytes = 0x4,
@@ -72,7 +72,7 @@ uint64_t loadWord(const char* at) {
 }
 
 // Only tells texts of one writer apart, so its value may differ between machines.
-uint64_t hashOf(std::string_view text) {
+uint64_t textHash(std::string_view text) {
   const char* at = text.data();
   size_t left = text.size();
   uint64_t hash = mixed(0, left);
@@ -120,7 +120,7 @@ PropertyListWriter::Ref PropertyListWriter::newScalar() {
 }
 
 PropertyListWriter::Ref PropertyListWriter::integer(int64_t value) {
-  return number(static_cast<uint64_t>(value), wholeNumber);
+  return number(static_cast<uint64_t>(value), integral);
 }
 
 PropertyListWriter::Ref PropertyListWriter::real(double value) {
@@ -148,10 +148,10 @@ PropertyListWriter::Ref PropertyListWriter::number(uint64_t bits, uint8_t kind) 
       out[0] = static_cast<char>(bits ? trueMarker : falseMarker);
       width = 0;
       break;
-    case wholeNumber:
+    case integral:
       // Widths below eight bytes hold no sign.
       width = widthOf(bits);
-      out[0] = static_cast<char>(wholeNumber << 4 | std::countr_zero(width));
+      out[0] = static_cast<char>(integral << 4 | std::countr_zero(width));
       break;
     default: out[0] = static_cast<char>(kind << 4 | 3);
   }
@@ -174,7 +174,7 @@ void PropertyListWriter::growNumbers() {
 }
 
 PropertyListWriter::Ref PropertyListWriter::text(std::string_view utf8) {
-  const uint64_t hash = hashOf(utf8);
+  const uint64_t hash = textHash(utf8);
   const size_t last = texts_.size() - 1;
   size_t place = static_cast<size_t>(hash) & last;
   for (; texts_[place].round == round_; place = (place + 1) & last) {
@@ -207,8 +207,7 @@ void PropertyListWriter::putMarker(uint8_t kind, size_t count) {
     return;
   }
   const size_t width = widthOf(count);
-  char out[10] = {static_cast<char>(kind << 4 | longCount),
-                  static_cast<char>(wholeNumber << 4 | std::countr_zero(width))};
+  char out[10] = {static_cast<char>(kind << 4 | longCount), static_cast<char>(integral << 4 | std::countr_zero(width))};
   writeBigEndian(out + 2, count, width);
   scalars_.append(out, 2 + width);
 }
@@ -301,7 +300,7 @@ void PropertyListWriter::writeContainers(Bytes& file, size_t refSize) {
     } else {
       const size_t width = widthOf(container.count);
       *out++ = static_cast<char>(kind << 4 | longCount);
-      *out++ = static_cast<char>(wholeNumber << 4 | std::countr_zero(width));
+      *out++ = static_cast<char>(integral << 4 | std::countr_zero(width));
       out = writeBigEndian(out, container.count, width);
     }
     const size_t refCount = container.isDictionary ? size_t{container.count} * 2 : container.count;
@@ -380,7 +379,7 @@ std::optional<size_t> PropertyListReader::count(const Object& object, size_t& bo
   if (body >= objectsEnd_) return {};
   const uint8_t marker = static_cast<uint8_t>(bytes_[body++]);
   const size_t width = size_t{1} << (marker & 0xF);
-  if (marker >> 4 != wholeNumber || (marker & 0xF) > 3 || width > objectsEnd_ - body) return {};
+  if (marker >> 4 != integral || (marker & 0xF) > 3 || width > objectsEnd_ - body) return {};
   const uint64_t result = readBigEndian(bytes_.data() + body, width);
   body += width;
   if (result > objectsEnd_) return {};
@@ -397,7 +396,7 @@ std::optional<std::string_view> PropertyListReader::counted(const Object& object
 
 std::optional<int64_t> PropertyListReader::integer(Ref ref) const {
   const std::optional<Object> found = object(ref);
-  if (!found || found->marker >> 4 != wholeNumber || (found->marker & 0xF) > 4) return {};
+  if (!found || found->marker >> 4 != integral || (found->marker & 0xF) > 4) return {};
   const size_t width = size_t{1} << (found->marker & 0xF);
   if (width > objectsEnd_ - found->body) return {};
   const char* body = bytes_.data() + found->body;

@@ -10,25 +10,18 @@
 #include <utility>
 #include <vector>
 
-namespace backbeat {
+#include "core/chunked_list.h"
 
-/// How a list is cut for storage.
-struct ListLayout {
-  uint32_t chunkSize = 128;  ///< records a chunk: 128 for lists that grow, 8 for lists edited in place
-  enum class Order { back, front, slots } order = Order::back;
-  ///< back: chunks count from the start. front: the list grows at its head, chunks count from the end.
-  ///< slots: the list is sorted in place; each record keeps a stable slot, and the order is a row of its own.
-};
+namespace backbeat {
 
 /// Specialised for record types whose rows are looked up by an id in a long list.
 template <class T>
 inline constexpr int64_t T::*historyKeyOf = nullptr;
 
 template <class T>
-class RecordList {
+class RecordList final : public ChunkedList {
  public:
-  RecordList() = default;
-  explicit RecordList(ListLayout layout) : layout_(layout) {}
+  explicit RecordList(ListLayout layout = {}) : ChunkedList(layout) {}
   RecordList(const RecordList&) = default;
   RecordList(RecordList&&) = default;
   ~RecordList() = default;
@@ -38,8 +31,7 @@ class RecordList {
     return *this;
   }
 
-  const ListLayout& layout() const { return layout_; }
-  size_t size() const { return records_.size(); }
+  size_t size() const override { return records_.size(); }
   bool empty() const { return records_.empty(); }
   const T& operator[](size_t i) const { return records_[i]; }
   const T& back() const { return records_.back(); }
@@ -58,7 +50,7 @@ class RecordList {
   std::span<const uint32_t> historyOf(int64_t id) const {
     const auto found = history_.find(id);
     if (found == history_.end()) return {};
-    if (layout_.order != ListLayout::Order::slots) return found->second;
+    if (!hasSlots()) return found->second;
     found_.clear();
     for (const uint32_t slot : found->second) found_.push_back(static_cast<uint32_t>(positionOfPlace(slot)));
     std::sort(found_.begin(), found_.end());
@@ -70,11 +62,11 @@ class RecordList {
       history_[record.*historyKeyOf<T>].push_back(static_cast<uint32_t>(records_.size()));
     }
     records_.push_back(std::move(record));
-    if (layout_.order == ListLayout::Order::slots) {
+    if (hasSlots()) {
       slots_.push_back(static_cast<uint32_t>(records_.size() - 1));
-      orderChanged_ = true;
+      markOrder();
     }
-    if (layout_.order == ListLayout::Order::front) {
+    if (layout().order == ListLayout::Order::front) {
       markAll();
     } else {
       markRecord(records_.size() - 1);
@@ -83,11 +75,11 @@ class RecordList {
 
   void insertFront(T record) {
     records_.insert(records_.begin(), std::move(record));
-    if (layout_.order == ListLayout::Order::slots) {
+    if (hasSlots()) {
       slots_.insert(slots_.begin(), static_cast<uint32_t>(records_.size() - 1));
-      orderChanged_ = true;
+      markOrder();
     }
-    if (layout_.order == ListLayout::Order::back) {
+    if (layout().order == ListLayout::Order::back) {
       markAll();
     } else {
       markRecord(0);
@@ -136,12 +128,7 @@ class RecordList {
     if (kept == before) return 0;
     records_.resize(kept);
     if (!slots_.empty()) slots_.resize(kept);
-    shrunk_ = true;
-    switch (layout_.order) {
-      case ListLayout::Order::back: markPlacesFrom(firstGone); break;
-      case ListLayout::Order::front: markPlacesFrom(before - 1 - lastGone); break;
-      case ListLayout::Order::slots: closeSlots(freeSlots); break;
-    }
+    markGone(firstGone, lastGone, before, freeSlots);
     rebuildHistory();
     return before - kept;
   }
@@ -151,7 +138,7 @@ class RecordList {
   /// Replaces the whole list, as after loading or restart; every chunk counts as changed.
   void assign(std::vector<T> records) {
     records_ = std::move(records);
-    slots_.resize(layout_.order == ListLayout::Order::slots ? records_.size() : 0);
+    slots_.resize(hasSlots() ? records_.size() : 0);
     std::iota(slots_.begin(), slots_.end(), 0u);
     rebuildHistory();
     forgetChanges();
@@ -168,119 +155,39 @@ class RecordList {
     if (std::is_sorted(order.begin(), order.end(), greater)) return;
     sortMostlySorted(order);
     for (uint32_t i = 0; i < order.size(); ++i) moveCycle(order, i);
-    if (layout_.order == ListLayout::Order::slots) {
-      orderChanged_ = true;
+    if (hasSlots()) {
+      markOrder();
     } else {
       rebuildHistory();
     }
   }
 
-  // For the save file only: what is stored how.
+  // For the save file only.
 
-  /// How many chunks the list takes.
-  uint32_t chunkCount() const {
-    return static_cast<uint32_t>((records_.size() + layout_.chunkSize - 1) / layout_.chunkSize);
-  }
-  /// The records of chunk `number`, below `chunkCount()` or 0, in the order in which they are stored.
-  std::vector<const T*> chunk(uint32_t number) const {
-    std::vector<const T*> result;
-    const size_t first = size_t{number} * layout_.chunkSize;
-    const size_t last = std::min(first + layout_.chunkSize, records_.size());
-    result.reserve(last - first);
-    for (size_t place = first; place < last; ++place) result.push_back(&records_[positionOfPlace(place)]);
-    return result;
-  }
-  /// The slot of each record in list order; empty unless the layout is `slots`.
-  const std::vector<uint32_t>& slots() const { return slots_; }
-  /// Takes a list as it was stored: places in their order, and for `slots` the slot of each position. False, and the
-  /// list is empty, when `slots` is no permutation.
-  bool restore(std::vector<T> places, std::vector<uint32_t> slots) {
+  const ValueType& type() const override { return typeOf<std::vector<T>>(); }
+  const void* records() const override { return &records_; }
+  void replaceWith(void* records) override { assign(std::move(*static_cast<std::vector<T>*>(records))); }
+  bool holdsSame(const ChunkedList& other) const override { return *this == static_cast<const RecordList&>(other); }
+  bool restore(void* stored, std::vector<uint32_t> slots) override {
+    std::vector<T>& places = *static_cast<std::vector<T>*>(stored);
     clear();
-    if (layout_.order == ListLayout::Order::slots) {
+    if (hasSlots()) {
       if (!isPermutation(slots, places.size())) return false;
       records_.reserve(places.size());
       for (const uint32_t slot : slots) records_.push_back(std::move(places[slot]));
       slots_ = std::move(slots);
     } else {
-      if (layout_.order == ListLayout::Order::front) std::reverse(places.begin(), places.end());
+      if (layout().order == ListLayout::Order::front) std::reverse(places.begin(), places.end());
       records_ = std::move(places);
     }
     rebuildHistory();
     forgetChanges();
     return true;
   }
-  /// Each once, in no order; some may lie past the last chunk, when the list got shorter.
-  const std::vector<uint32_t>& changedChunks() const { return changed_; }
-  bool orderChanged() const { return orderChanged_; }
-  bool shrunk() const { return shrunk_; }
-  void forgetChanges() {
-    for (const uint32_t number : changed_) isChanged_[number] = false;
-    changed_.clear();
-    orderChanged_ = false;
-    shrunk_ = false;
-  }
-  void markAll() {
-    for (uint32_t number = 0; number < chunkCount(); ++number) mark(number);
-    orderChanged_ = layout_.order == ListLayout::Order::slots;
-    shrunk_ = true;
-  }
 
   friend bool operator==(const RecordList& a, const RecordList& b) { return a.records_ == b.records_; }
 
  private:
-  size_t positionOfPlace(size_t place) const {
-    switch (layout_.order) {
-      case ListLayout::Order::back: return place;
-      case ListLayout::Order::front: return records_.size() - 1 - place;
-      case ListLayout::Order::slots: break;
-    }
-    if (places_.size() != slots_.size() || places_[place] >= slots_.size() || slots_[places_[place]] != place) {
-      rebuildPlaces();
-    }
-    return places_[place];
-  }
-  void rebuildPlaces() const {
-    places_.resize(slots_.size());
-    for (uint32_t i = 0; i < slots_.size(); ++i) places_[slots_[i]] = i;
-  }
-  void markRecord(size_t i) {
-    switch (layout_.order) {
-      case ListLayout::Order::back: mark(static_cast<uint32_t>(i / layout_.chunkSize)); break;
-      case ListLayout::Order::front: mark(static_cast<uint32_t>((records_.size() - 1 - i) / layout_.chunkSize)); break;
-      case ListLayout::Order::slots: mark(slots_[i] / layout_.chunkSize); break;
-    }
-  }
-  void mark(uint32_t number) {
-    if (number >= isChanged_.size()) isChanged_.resize(number + 1);
-    if (isChanged_[number]) return;
-    isChanged_[number] = true;
-    changed_.push_back(number);
-  }
-  void markPlacesFrom(size_t first) {
-    for (uint32_t number = static_cast<uint32_t>(first / layout_.chunkSize); number < chunkCount(); ++number) {
-      mark(number);
-    }
-  }
-  // After records went: those whose slots lie beyond the shorter list move into the slots that came free.
-  void closeSlots(const std::vector<uint32_t>& freeSlots) {
-    for (const uint32_t slot : freeSlots) mark(slot / layout_.chunkSize);
-    auto next = freeSlots.begin();
-    for (uint32_t& slot : slots_) {
-      if (slot < slots_.size()) continue;
-      mark(slot / layout_.chunkSize);
-      while (*next >= slots_.size()) ++next;
-      slot = *next++;
-    }
-    orderChanged_ = true;
-  }
-  static bool isPermutation(const std::vector<uint32_t>& slots, size_t size) {
-    std::vector<bool> seen(size);
-    for (const uint32_t slot : slots) {
-      if (slot >= size || seen[slot]) return false;
-      seen[slot] = true;
-    }
-    return slots.size() == size;
-  }
   // Entries (key, position), greatest key first and equal ones by position. Takes out the few that break the order,
   // sorts those, and merges.
   template <class Entry>
@@ -346,16 +253,9 @@ class RecordList {
     }
   }
 
-  ListLayout layout_;
   std::vector<T> records_;
-  std::vector<uint32_t> slots_;           // slot of the record at each position
-  mutable std::vector<uint32_t> places_;  // position of each slot, made when asked for
   std::unordered_map<int64_t, std::vector<uint32_t>> history_;
   mutable std::vector<uint32_t> found_;  // the last answer of historyOf
-  std::vector<bool> isChanged_;
-  std::vector<uint32_t> changed_;
-  bool orderChanged_ = false;
-  bool shrunk_ = false;
 };
 
 }  // namespace backbeat

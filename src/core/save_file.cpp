@@ -32,28 +32,18 @@ Bytes encodeOrder(PropertyListWriter& writer, const std::vector<uint32_t>& slots
 /// Takes the rows of one list as the store yields them.
 class ListLoader {
  public:
-  virtual ~ListLoader() = default;
-  virtual void take(int32_t chunk, const Value& value) = 0;
-  /// Puts the list into the state; false, and the state is as it was, when its rows are no whole list.
-  virtual bool finish(GameState& state) = 0;
+  explicit ListLoader(ChunkedList& list) : list_(list) {}
 
-  StoredList stored;
-};
-
-template <class T>
-class LoaderOf final : public ListLoader {
- public:
-  LoaderOf(RecordList<T> GameState::*member, ListLayout layout) : member_(member), layout_(layout) {}
-
-  void take(int32_t chunk, const Value& value) override {
+  void take(int32_t chunk, const Value& value) {
     stored.leftovers.push_back(chunk);
     const Bytes* row = std::get_if<Bytes>(&value);
     damaged_ = damaged_ || row == nullptr || !(chunk == orderRow ? takeOrder(*row) : takeChunk(chunk, *row));
   }
 
-  bool finish(GameState& state) override {
+  /// Fills the list; false, and the list is as it was, when its rows are no whole list.
+  bool finish() {
     if (stored.leftovers.empty()) return true;
-    const bool whole = !damaged_ && stored.chunks > 0 && (state.*member_).restore(std::move(places_), slots_);
+    const bool whole = !damaged_ && stored.chunks > 0 && list_.restore(places_.get(), std::move(slots_));
     if (!whole) {
       stored.chunks = 0;
       return false;
@@ -63,10 +53,12 @@ class LoaderOf final : public ListLoader {
     return true;
   }
 
+  StoredList stored;
+
  private:
   bool takeOrder(const Bytes& row) {
     auto order = decodeOrder(row);
-    if (!order || layout_.order != ListLayout::Order::slots) return false;
+    if (!order || list_.layout().order != ListLayout::Order::slots) return false;
     slots_ = std::move(*order);
     return true;
   }
@@ -74,16 +66,18 @@ class LoaderOf final : public ListLoader {
   bool takeChunk(int32_t chunk, const Bytes& row) {
     if (chunk < 0 || static_cast<uint32_t>(chunk) != stored.chunks) return false;
     // Rows of another size come from a version that cut the list otherwise; the next save cuts it anew.
-    if (places_.size() != size_t{stored.chunks} * layout_.chunkSize) cutOtherwise_ = true;
+    const size_t chunkSize = list_.layout().chunkSize;
+    if (placeCount() != stored.chunks * chunkSize) cutOtherwise_ = true;
     ++stored.chunks;
-    if (!RecordDecoder(row).append(places_)) return false;
-    if (places_.size() > size_t{stored.chunks} * layout_.chunkSize) cutOtherwise_ = true;
+    if (!RecordDecoder(row).append(list_.type(), places_.get())) return false;
+    if (placeCount() > stored.chunks * chunkSize) cutOtherwise_ = true;
     return true;
   }
 
-  RecordList<T> GameState::*member_;
-  ListLayout layout_;
-  std::vector<T> places_;
+  size_t placeCount() const { return list_.type().count(places_.get()); }
+
+  ChunkedList& list_;
+  std::shared_ptr<void> places_ = list_.type().make();
   std::vector<uint32_t> slots_;
   bool damaged_ = false;
   bool cutOtherwise_ = false;
@@ -116,7 +110,7 @@ void loadScalar(GameState& state, T GameState::*member, const Value& value) {
 class Loader {
  public:
   explicit Loader(GameState& state) : state_(state) {
-    forEachField<GameState>([&](const auto& field) { lists_[field.key] = loaderOf(field.member); });
+    for (const auto& [key, list] : listsOf(state)) lists_.emplace(key, list);
     for (const Scalar& scalar : scalars) scalars_[scalar.key] = &scalar;
   }
 
@@ -127,23 +121,18 @@ class Loader {
   /// Ends the loading; keys of damaged lists, in the order of the table.
   std::vector<std::string> finish() {
     std::vector<std::string> damaged;
-    forEachField<GameState>([&](const auto& field) {
-      if (!lists_[field.key]->finish(state_)) damaged.emplace_back(field.key);
-    });
+    for (const auto& [key, list] : listsOf(state_)) {
+      if (!lists_.at(key).finish()) damaged.emplace_back(key);
+    }
     return damaged;
   }
 
-  const StoredList& stored(std::string_view key) { return lists_[key]->stored; }
+  const StoredList& stored(std::string_view key) const { return lists_.at(key).stored; }
   std::map<std::string, Bytes, std::less<>> otherObjects;
 
  private:
-  template <class T>
-  std::unique_ptr<ListLoader> loaderOf(RecordList<T> GameState::*member) const {
-    return std::make_unique<LoaderOf<T>>(member, (state_.*member).layout());
-  }
-
   void take(std::string_view key, int32_t chunk, const Value& value) {
-    if (const auto list = lists_.find(key); list != lists_.end()) return list->second->take(chunk, value);
+    if (const auto list = lists_.find(key); list != lists_.end()) return list->second.take(chunk, value);
     if (chunk != wholeRow) return;
     if (const auto scalar = scalars_.find(key); scalar != scalars_.end()) {
       if (scalar->second->loading == Loading::writeOnly) return;
@@ -154,7 +143,7 @@ class Loader {
   }
 
   GameState& state_;
-  std::map<std::string_view, std::unique_ptr<ListLoader>> lists_;
+  std::map<std::string_view, ListLoader> lists_;
   std::map<std::string_view, const Scalar*> scalars_;
 };
 
@@ -171,7 +160,7 @@ LoadReport SaveFile::load(GameState& state) {
   }
   report.damagedLists = loader.finish();
   lists_.clear();
-  forEachField<GameState>([&](const auto& field) { lists_.emplace(field.key, loader.stored(field.key)); });
+  for (const auto& [key, list] : listsOf(state)) lists_.emplace(key, loader.stored(key));
   otherObjects_ = std::move(loader.otherObjects);
   for (const std::string& key : report.damagedLists) store_.quarantine(key);
   return report;
@@ -220,22 +209,23 @@ void SaveFile::writeScalar(const GameState& state, const Scalar& scalar) {
   std::visit(write, scalar.member);
 }
 
-template <class T>
-void SaveFile::writeList(std::string_view key, RecordList<T>& list) {
+void SaveFile::writeList(std::string_view key, ChunkedList& list) {
   if (writes()) {
     StoredList& stored = lists_.try_emplace(std::string(key)).first->second;
     if (!stored.current) list.markAll();
     putRemovals(key, stored, list.chunkCount());
-    const auto putChunk = [&](uint32_t number) {
-      put(key, static_cast<int32_t>(number), encodeRecords<T>(writer_, list.chunk(number)));
-    };
     for (const uint32_t number : list.changedChunks()) {
-      if (number < list.chunkCount()) putChunk(number);
+      if (number < list.chunkCount()) putChunk(key, list, number);
     }
-    if (list.empty() && list.shrunk()) putChunk(0);
+    if (list.size() == 0 && list.shrunk()) putChunk(key, list, 0);
     if (list.orderChanged()) putOrder(key, list.slots());
   }
   list.forgetChanges();
+}
+
+void SaveFile::putChunk(std::string_view key, const ChunkedList& list, uint32_t number) {
+  RecordEncoder encoder(writer_);
+  put(key, static_cast<int32_t>(number), writer_.finish(encoder.records(*list.type().item, list.chunk(number))));
 }
 
 void SaveFile::putOrder(std::string_view key, const std::vector<uint32_t>& slots) {
@@ -277,7 +267,9 @@ std::vector<std::string> differencesFromStore(const GameState& state, Store& sto
     const bool isNew = std::find(different.begin(), different.end(), key) == different.end();
     if ((differs || !readable) && isNew) different.emplace_back(key);
   };
-  forEachField<GameState>([&](const auto& field) { add(field.key, state.*field.member != stored.*field.member); });
+  const auto storedLists = listsOf(std::as_const(stored));
+  const auto lists = listsOf(state);
+  for (size_t i = 0; i < lists.size(); ++i) add(lists[i].key, !lists[i].list.holdsSame(storedLists[i].list));
   for (const Scalar& scalar : scalars) {
     if (scalar.loading == Loading::writeOnly) continue;
     const auto differs = [&](auto member) { return state.*member != stored.*member; };
@@ -285,42 +277,5 @@ std::vector<std::string> differencesFromStore(const GameState& state, Store& sto
   }
   return different;
 }
-
-// The lists of GameState.
-template void SaveFile::writeList(std::string_view, RecordList<Album>&);
-template void SaveFile::writeList(std::string_view, RecordList<AlbumCover>&);
-template void SaveFile::writeList(std::string_view, RecordList<Award>&);
-template void SaveFile::writeList(std::string_view, RecordList<BillboardSong>&);
-template void SaveFile::writeList(std::string_view, RecordList<CelebrityCameo>&);
-template void SaveFile::writeList(std::string_view, RecordList<Child>&);
-template void SaveFile::writeList(std::string_view, RecordList<Chirp>&);
-template void SaveFile::writeList(std::string_view, RecordList<ContractLabel>&);
-template void SaveFile::writeList(std::string_view, RecordList<CreatedArtist>&);
-template void SaveFile::writeList(std::string_view, RecordList<Employee>&);
-template void SaveFile::writeList(std::string_view, RecordList<FeaturedArtist>&);
-template void SaveFile::writeList(std::string_view, RecordList<FeaturedOn>&);
-template void SaveFile::writeList(std::string_view, RecordList<FeaturedOnWeeklySongListens>&);
-template void SaveFile::writeList(std::string_view, RecordList<Festival>&);
-template void SaveFile::writeList(std::string_view, RecordList<InvestmentProperty>&);
-template void SaveFile::writeList(std::string_view, RecordList<Legacy>&);
-template void SaveFile::writeList(std::string_view, RecordList<Matches>&);
-template void SaveFile::writeList(std::string_view, RecordList<Merch>&);
-template void SaveFile::writeList(std::string_view, RecordList<MerchWeeklySales>&);
-template void SaveFile::writeList(std::string_view, RecordList<MusicTour>&);
-template void SaveFile::writeList(std::string_view, RecordList<MusicVideo>&);
-template void SaveFile::writeList(std::string_view, RecordList<SignedArtist>&);
-template void SaveFile::writeList(std::string_view, RecordList<SignedArtistAlbum>&);
-template void SaveFile::writeList(std::string_view, RecordList<SignedArtistSong>&);
-template void SaveFile::writeList(std::string_view, RecordList<SignedArtistWeeklyAlbumSales>&);
-template void SaveFile::writeList(std::string_view, RecordList<SignedArtistWeeklySongListens>&);
-template void SaveFile::writeList(std::string_view, RecordList<Song>&);
-template void SaveFile::writeList(std::string_view, RecordList<SongGenre>&);
-template void SaveFile::writeList(std::string_view, RecordList<Transportation>&);
-template void SaveFile::writeList(std::string_view, RecordList<Venture>&);
-template void SaveFile::writeList(std::string_view, RecordList<WeeklyAlbumSales>&);
-template void SaveFile::writeList(std::string_view, RecordList<WeeklyLineItem>&);
-template void SaveFile::writeList(std::string_view, RecordList<WeeklySongListens>&);
-template void SaveFile::writeList(std::string_view, RecordList<WeeklyTourSales>&);
-template void SaveFile::writeList(std::string_view, RecordList<WeeklyVideoViews>&);
 
 }  // namespace backbeat

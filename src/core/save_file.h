@@ -50,8 +50,7 @@ class SaveFile {
 
   /// Writes one scalar, or what changed of one list, under its key.
   void writeScalar(const GameState& state, const Scalar& scalar);
-  template <class T>
-  void writeList(std::string_view key, RecordList<T>& list);  ///< for the lists of GameState
+  void writeList(std::string_view key, ChunkedList& list);
 
   /// Ends the transaction: everything written since the last call becomes durable at once. After a failure the writes
   /// are kept, the last one of each row, and tried again with the next transaction. True when nothing is left to write.
@@ -76,6 +75,7 @@ class SaveFile {
  private:
   bool writes() const { return keeping_ && store_.keeps(); }
   void put(std::string_view key, int32_t chunk, std::optional<Value> value);
+  void putChunk(std::string_view key, const ChunkedList& list, uint32_t number);
   void putOrder(std::string_view key, const std::vector<uint32_t>& slots);
   void putRemovals(std::string_view key, StoredList& stored, uint32_t chunks);
 

@@ -2,9 +2,12 @@
 #include <cmath>
 
 #include "core/save_file.h"
+#include "core/value_type.h"
 
 namespace backbeat {
 namespace {
+
+using Kind = ValueType::Kind;
 
 class Hasher {
  public:
@@ -30,14 +33,9 @@ class Hasher {
     }
   }
   void add(const std::string& text) { add(std::string_view(text)); }
-  template <Record T>
-  void add(const T& record) {
-    forEachField<T>([&](const auto& field) { add(record.*field.member); });
-  }
   template <class T>
   void add(const std::vector<T>& items) {
-    add(uint64_t{items.size()});
-    for (const T& item : items) add(item);
+    add(typeOf<std::vector<T>>(), &items);
   }
   void add(const std::map<std::string, std::string>& texts) {
     add(uint64_t{texts.size()});
@@ -47,9 +45,30 @@ class Hasher {
     }
   }
 
+  void add(const ValueType& type, const void* value) {
+    switch (type.kind) {
+      case Kind::flag: return add(*static_cast<const bool*>(value));
+      case Kind::integer: return add(*static_cast<const int64_t*>(value));
+      case Kind::real: return add(*static_cast<const double*>(value));
+      case Kind::date: return add(*static_cast<const Date*>(value));
+      case Kind::text: return add(*static_cast<const std::string*>(value));
+      case Kind::texts: return add(*static_cast<const std::map<std::string, std::string>*>(value));
+      case Kind::list: return addItems(type, value);
+      case Kind::record: break;
+    }
+    for (const FieldType& field : type.fields) add(field.type, static_cast<const char*>(value) + field.offset);
+  }
+
   uint64_t result() const { return hash_; }
 
  private:
+  void addItems(const ValueType& type, const void* list) {
+    const size_t count = type.count(list);
+    const char* item = static_cast<const char*>(type.items(list));
+    add(uint64_t{count});
+    for (size_t i = 0; i < count; ++i, item += type.item->size) add(*type.item, item);
+  }
+
   uint64_t hash_ = 0;
 };
 
@@ -61,10 +80,10 @@ uint64_t stateHash(const GameState& state) {
     hasher.add(scalar.key);
     std::visit([&](auto member) { hasher.add(state.*member); }, scalar.member);
   }
-  forEachField<GameState>([&](const auto& field) {
-    hasher.add(field.key);
-    hasher.add((state.*field.member).all());
-  });
+  for (const auto& [key, list] : listsOf(state)) {
+    hasher.add(key);
+    hasher.add(list.type(), list.records());
+  }
   return hasher.result();
 }
 

@@ -33,9 +33,12 @@ std::set<std::string> keysThatDiffer(const GameState& a, const GameState& b) {
         },
         scalar.member);
   }
-  forEachField<GameState>([&](const auto& field) {
-    if (!(a.*field.member == b.*field.member)) keys.emplace(field.key);
-  });
+  const auto listsOfB = listsOf(b);
+  for (const auto& [key, list] : listsOf(a)) {
+    const auto same =
+        std::find_if(listsOfB.begin(), listsOfB.end(), [&](const auto& other) { return other.key == key; });
+    if (!list.holdsSame(same->list)) keys.emplace(key);
+  }
   return keys;
 }
 

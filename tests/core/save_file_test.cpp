@@ -19,7 +19,7 @@ using testing::IsEmpty;
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 void writeAll(SaveFile& saveFile, GameState& state) {
-  forEachField<GameState>([&](const auto& field) { saveFile.writeList(field.key, state.*field.member); });
+  for (const auto& [key, list] : listsOf(state)) saveFile.writeList(key, list);
   for (const Scalar& scalar : scalars) saveFile.writeScalar(state, scalar);
 }
 

@@ -97,7 +97,7 @@ GameState career() {
 
 bool saveAll(Store& store, GameState& state) {
   SaveFile saveFile(store);
-  forEachField<GameState>([&](const auto& field) { saveFile.writeList(field.key, state.*field.member); });
+  for (const auto& [key, list] : listsOf(state)) saveFile.writeList(key, list);
   for (const Scalar& scalar : scalars) saveFile.writeScalar(state, scalar);
   return saveFile.commit();
 }

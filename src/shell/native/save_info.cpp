@@ -38,10 +38,10 @@ std::string saveInfo(Store& store) {
                                       [](const Song& song) { return song.isReleased; });
   add(text, "Songs",
       withCommas(static_cast<int64_t>(state.saveAllSongList.size())) + ", " + withCommas(released) + " released");
-  forEachField<GameState>([&](const auto& field) {
-    const size_t rows = (state.*field.member).size();
-    if (rows > 0) add(text, "  " + std::string(field.key), counted(static_cast<int64_t>(rows), "row"));
-  });
+  for (const auto& [key, list] : listsOf(state)) {
+    const auto rows = static_cast<int64_t>(list.size());
+    if (rows > 0) add(text, "  " + std::string(key), counted(rows, "row"));
+  }
   for (const std::string& key : report.damagedLists) add(text, "  " + key, "DAMAGED: cannot be read");
   return text;
 }
