@@ -8,6 +8,9 @@ out=build/wasm
 traps=signed-integer-overflow,integer-divide-by-zero,float-cast-overflow,bounds,return,unreachable
 flags=(-std=c++20 -Oz -fno-exceptions -fno-rtti -ffp-contract=off -Wall -Wextra -Werror -Wshadow
   "-fsanitize=$traps" -fsanitize-trap=all -D_LIBCPP_HARDENING_MODE=_LIBCPP_HARDENING_MODE_FAST -I../../src)
+# What nearly every source reads, parsed once. Without the time of the parsing in it, ccache knows it again.
+common=(algorithm array functional map optional string unordered_map variant vector core/game.h core/screen.h)
+parsed=(-fpch-instantiate-templates -Xclang -fno-pch-timestamp)
 # The stack lies below the data, so that running out of it is a trap. No -O here: it would run whatever optimiser is
 # installed, and the module would differ from machine to machine.
 link_flags=(-mexec-model=reactor "-Wl,--stack-first" "-Wl,-z,stack-size=1048576" "-Wl,--strip-all")
@@ -18,11 +21,16 @@ sources() {
 }
 
 ninja_file() {
-  local launcher source objects=()
+  local launcher source objects=() compiler
   launcher=$(command -v ccache || true)
+  compiler="$launcher clang++-19 --target=wasm32-wasi -stdlib=libc++ ${flags[*]} ${parsed[*]} -MD -MF \$out.d"
   cat <<END
+rule pch
+  command = $compiler -x c++-header \$in -o \$out
+  depfile = \$out.d
+  deps = gcc
 rule cxx
-  command = $launcher clang++-19 --target=wasm32-wasi -stdlib=libc++ ${flags[*]} -MD -MF \$out.d -c \$in -o \$out
+  command = $compiler -include-pch common.pch -c \$in -o \$out
   description = \$in
   depfile = \$out.d
   deps = gcc
@@ -32,11 +40,12 @@ rule link
   command = clang++-19 --target=wasm32-wasi ${link_flags[*]} \$in -o \$out
 rule checked
   command = node ../../scripts/check_wasm.mjs \$in && mkdir -p ../../src/shell/web/public && cp \$in \$out
+build common.pch: pch common.h
 build rt_stub.o: c ../../src/shell/wasm/rt_stub.c
 END
   while read -r source; do
     objects+=("${source%.cpp}.o")
-    echo "build ${source%.cpp}.o: cxx ../../$source"
+    echo "build ${source%.cpp}.o: cxx ../../$source | common.pch"
   done < <(sources)
   cat <<END
 build engine.wasm: link ${objects[*]} rt_stub.o
@@ -44,8 +53,14 @@ build ../../src/shell/web/public/engine.wasm: checked engine.wasm | ../../script
 END
 }
 
+# into FILE: what it reads, when that differs from the file.
+into() {
+  cat >"$1.new"
+  cmp -s "$1.new" "$1" || cp "$1.new" "$1"
+}
+
 cd "$house"
 mkdir -p "$out"
-ninja_file >"$out/build.ninja.new"
-cmp -s "$out/build.ninja.new" "$out/build.ninja" || cp "$out/build.ninja.new" "$out/build.ninja"
+printf '#include <%s>\n' "${common[@]}" | into "$out/common.h"
+ninja_file | into "$out/build.ninja"
 exec ninja -C "$out" -j "$(jobs_at_once)" --quiet

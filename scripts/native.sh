@@ -4,55 +4,46 @@
 
 check_build="$house/build/check"
 sanitize_build="$house/build/sanitize"
+bench_build="$house/build/bench"
 
-# Sets what CMake needs to use ccache, once that is installed.
-find_launcher() {
-  launcher=()
-  if ! command -v ccache >/dev/null; then return 0; fi
-  launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
-  # Without it nothing that uses the tests' parsed headers is ever found again.
+# native_folder NAME FOLDER OPTION...: a build folder, made when it is not there.
+native_folder() {
+  local name=$1 folder=$2 launcher=()
+  shift 2
+  if command -v ccache >/dev/null; then launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache); fi
+  # Without it nothing that uses parsed headers is ever found again.
   export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros}
+  if [[ -f $folder/build.ninja ]]; then return 0; fi
+  logged "cmake-$name" cmake -S "$house" -B "$folder" -G Ninja -DCMAKE_CXX_COMPILER=clang++-19 "${launcher[@]}" "$@"
 }
 
-# build_native: the game as players get it. What an optimiser of another version warns of does not keep anybody from
+compile() { logged "$1" ninja -C "$2" -j "$(jobs_at_once)" "${@:3}"; }
+
+# build_native: the game as players get it. What a compiler of another version warns of does not keep anybody from
 # playing.
 build_native() {
-  find_launcher
-  if [[ ! -f $native_build/build.ninja ]]; then
-    logged cmake cmake -S "$house" -B "$native_build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-      -DBACKBEAT_TESTS=OFF -DBACKBEAT_STRICT=OFF "${launcher[@]}" || return 1
-  fi
-  logged native ninja -C "$native_build" -j "$(jobs_at_once)" backbeat
+  native_folder native "$native_build" -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+    -DBACKBEAT_TESTS=OFF -DBACKBEAT_STRICT=OFF -DBACKBEAT_PARSED_HEADERS=ON || return 1
+  compile native "$native_build" backbeat
 }
 
 # build_tests: the game and its tests, optimised a little: less would take longer to test, more longer to build.
 build_tests() {
-  find_launcher
-  if [[ ! -f $check_build/build.ninja ]]; then
-    logged cmake-check cmake -S "$house" -B "$check_build" -G Ninja -DCMAKE_BUILD_TYPE=Debug \
-      -DCMAKE_CXX_FLAGS_DEBUG=-O1 "${launcher[@]}" || return 1
-  fi
-  logged check ninja -C "$check_build" -j "$(jobs_at_once)" all
+  native_folder check "$check_build" -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O1 \
+    -DBACKBEAT_PARSED_HEADERS=ON || return 1
+  compile check "$check_build" all
 }
 
-# build_bench: the benchmarks, in a folder of their own.
-bench_build="$house/build/bench"
+# build_bench: the benchmarks.
 build_bench() {
-  find_launcher
-  if [[ ! -f $bench_build/build.ninja ]]; then
-    logged cmake-bench cmake -S "$house" -B "$bench_build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-      -DBACKBEAT_TESTS=OFF -DBACKBEAT_BENCH=ON "${launcher[@]}" || return 1
-  fi
-  logged bench ninja -C "$bench_build" -j "$(jobs_at_once)" backbeat_bench
+  native_folder bench "$bench_build" -DCMAKE_BUILD_TYPE=RelWithDebInfo -DBACKBEAT_TESTS=OFF -DBACKBEAT_BENCH=ON \
+    -DBACKBEAT_PARSED_HEADERS=ON || return 1
+  compile bench "$bench_build" backbeat_bench
 }
 
-# build_sanitized TARGET...
+# build_sanitized TARGET...: every header is parsed where it is included, so that a missing include is seen.
 build_sanitized() {
-  find_launcher
-  if [[ ! -f $sanitize_build/build.ninja ]]; then
-    logged cmake-sanitize cmake -S "$house" -B "$sanitize_build" -G Ninja -DCMAKE_CXX_COMPILER=clang++-19 \
-      -DCMAKE_BUILD_TYPE=Debug "-DCMAKE_CXX_FLAGS_DEBUG=-O1 -g1" \
-      -DBACKBEAT_SANITIZE=ON -DBACKBEAT_FUZZ=ON "${launcher[@]}" || return 1
-  fi
-  logged sanitize ninja -C "$sanitize_build" -j "$(jobs_at_once)" "$@"
+  native_folder sanitize "$sanitize_build" -DCMAKE_BUILD_TYPE=Debug "-DCMAKE_CXX_FLAGS_DEBUG=-O1 -g1" \
+    -DBACKBEAT_SANITIZE=ON -DBACKBEAT_FUZZ=ON || return 1
+  compile sanitize "$sanitize_build" "$@"
 }
