@@ -20,18 +20,8 @@ constexpr std::array<std::string_view, lifestyleCategories.size()> lifestyleButt
 constexpr std::array<const char*, lifestyleCategories.size()> lifestyleTitles = {"Food", "Fashion", "Health", "Home",
                                                                                  "Transportation"};
 
-Row entry(std::string id, std::string glyph, std::string title, std::string subtitle) {
-  Row row;
-  row.id = std::move(id);
-  row.picture = icon(std::move(glyph));
-  row.title = std::move(title);
-  row.subtitle = std::move(subtitle);
-  row.opens = true;
-  return row;
-}
-
 Row jobRow(const GameState& state) {
-  Row row = entry("goToJobBoardButton", "briefcase", "Job Board", "Work that pays weekly");
+  Row row = wayTo("goToJobBoardButton", "briefcase", "Job Board", "Work that pays weekly");
   if (state.weeklyJobContractRemaining > 0) {
     row.subtitle =
         currency(state.weeklyJobIncome) + "/week · " + counted(state.weeklyJobContractRemaining, "week") + " left";
@@ -43,7 +33,7 @@ Row jobRow(const GameState& state) {
 Row lifestyleRow(const GameState& state, size_t number) {
   const LifestyleCategory& category = lifestyleCategories[number];
   const auto chosen = lifestyleEntry(state, category);
-  Row row = entry(std::string(lifestyleButtons[number]), std::string(category.icon), lifestyleTitles[number],
+  Row row = wayTo(std::string(lifestyleButtons[number]), std::string(category.icon), lifestyleTitles[number],
                   chosen ? chosen->title : "Nothing chosen yet");
   if (chosen) {
     row.value = "-" + currency(chosen->amount);
@@ -94,12 +84,12 @@ View DailyLifeViewController::view() const {
 
 void DailyLifeViewController::describeSkills(View& view) const {
   view.add(Heading{"Get better", {}});
-  Row studio = entry("goToMyStudio", "studio", "My Studio", "Where you record for free");
+  Row studio = wayTo("goToMyStudio", "studio", "My Studio", "Where you record for free");
   studio.value = std::to_string(studioRating(state()));
   studio.note = "rating";
-  view.add(Rows{{entry("goToMyMusic", "mic", "Traits", bestTrait(state())), std::move(studio)}, "", 0, 0});
+  view.add(Rows{{wayTo("goToMyMusic", "mic", "Traits", bestTrait(state())), std::move(studio)}});
   view.add(Heading{"Work", {}});
-  view.add(Rows{{jobRow(state())}, "", 0, 0});
+  view.add(Rows{{jobRow(state())}});
 }
 
 void DailyLifeViewController::describeLifestyle(View& view) const {
@@ -111,11 +101,11 @@ void DailyLifeViewController::describeLifestyle(View& view) const {
 
 void DailyLifeViewController::describeAccounts(View& view) const {
   view.add(Heading{"Next week", {}});
-  Row energy = entry("goToEnergyTransparency", "bolt", "Energy", "After standing costs");
+  Row energy = wayTo("goToEnergyTransparency", "bolt", "Energy", "After standing costs");
   energy.value = std::to_string(nextWeeksEnergy(state()));
-  Row expenses = entry("goToExpenseScreen", "cash", "Living", "Lifestyle and basic needs");
+  Row expenses = wayTo("goToExpenseScreen", "cash", "Living", "Lifestyle and basic needs");
   expenses.value = currency(-livingExpenses(state()));
-  view.add(Rows{{std::move(energy), std::move(expenses)}, "", 0, 0});
+  view.add(Rows{{std::move(energy), std::move(expenses)}});
 }
 
 }  // namespace backbeat

@@ -69,7 +69,7 @@ View LifestyleChoicesViewController::view() const {
   }
   view.title = category_->title;
   view.subtitle = category_->description;
-  view.add(Rows{{currentRow(state(), *category_)}, "", 0, 0});
+  view.add(Rows{{currentRow(state(), *category_)}});
   view.add(Heading{"Options", {}});
   const auto entry = lifestyleEntry(state(), *category_);
   Rows rows;

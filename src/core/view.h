@@ -101,11 +101,22 @@ struct Row {
   std::string id;
   std::vector<RowAction> actions;
 };
+/// A row with a drawn picture that leads to another screen.
+inline Row wayTo(std::string id, std::string glyph, std::string title, std::string subtitle = {}) {
+  Row row;
+  row.id = std::move(id);
+  row.picture = icon(std::move(glyph));
+  row.title = std::move(title);
+  row.subtitle = std::move(subtitle);
+  row.opens = true;
+  return row;
+}
+
 /// A grouped list. A long list is windowed: `items` are the rows from `from` of `total` in all, and a press of `id`
 /// with a row number as value moves the window there. A list with `total` 0 is whole.
 struct Rows {
   std::vector<Row> items;
-  std::string id;
+  std::string id = {};
   int64_t total = 0;
   int64_t from = 0;
   std::vector<std::string> columns = {};  ///< heads of note and value, which then stand side by side

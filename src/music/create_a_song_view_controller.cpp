@@ -134,17 +134,13 @@ View CreateASongViewController::view() const {
     view.add(describe(list, listOf(options_, list), chosen_[list]));
   }
   view.add(Heading{"Guests", {}});
-  Row guests;
-  guests.id = "goToFeaturedArtists";
-  guests.picture = icon("guest");
-  guests.title = "Featured artists";
-  guests.opens = true;
+  Row guests = wayTo("goToFeaturedArtists", "guest", "Featured artists");
   for (const int64_t id : song.guests) {
     Guest guest;
     if (guestFor(state(), id, guest)) guests.subtitle += (guests.subtitle.empty() ? "feat. " : ", ") + guest.name;
   }
   if (guests.subtitle.empty()) guests.subtitle = "Nobody yet: going alone";
-  view.add(Rows{{std::move(guests)}, "", 0, 0});
+  view.add(Rows{{std::move(guests)}});
   view.add(Heading{"Details", {}});
   Choice album;
   album.id = "album";

@@ -40,16 +40,6 @@ std::vector<size_t> releasedSongs(const GameState& state) {
   return positions;
 }
 
-Row link(const char* id, const char* glyph, const char* title, const char* subtitle) {
-  Row row;
-  row.id = id;
-  row.picture = icon(glyph);
-  row.title = title;
-  row.subtitle = subtitle;
-  row.opens = true;
-  return row;
-}
-
 }  // namespace
 
 Outcome MusicViewController::open() {
@@ -167,11 +157,11 @@ void MusicViewController::describeAlbums(View& view) const {
 void MusicViewController::describeReach(View& view) const {
   view.add(Heading{"Reach", {}});
   Rows rows;
-  rows.items.push_back(link("goToMonthlyListenerDetail", "headphones", "Monthly Listeners", ""));
+  rows.items.push_back(wayTo("goToMonthlyListenerDetail", "headphones", "Monthly Listeners"));
   rows.items.back().value = withCommas(state().totalFans);
-  rows.items.push_back(link("goToBillboard", "chart", "Billboard 100", "The chart of the week"));
-  rows.items.push_back(link("goToCertification", "trophy", "Certifications", "From bronze to diamond"));
-  rows.items.push_back(link("goToArtistProfile", "person", "Artist Profile", "What your listeners see"));
+  rows.items.push_back(wayTo("goToBillboard", "chart", "Billboard 100", "The chart of the week"));
+  rows.items.push_back(wayTo("goToCertification", "trophy", "Certifications", "From bronze to diamond"));
+  rows.items.push_back(wayTo("goToArtistProfile", "person", "Artist Profile", "What your listeners see"));
   view.add(std::move(rows));
 }
 

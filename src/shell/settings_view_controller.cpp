@@ -18,16 +18,6 @@ constexpr std::array<Appearance, 3> appearances = {{{"system", "System"}, {"dark
 
 constexpr const char* confirmedRestart = "restartConfirmed";
 
-Row wayTo(std::string segue, std::string glyph, std::string title, std::string subtitle) {
-  Row row;
-  row.id = std::move(segue);
-  row.picture = icon(std::move(glyph));
-  row.title = std::move(title);
-  row.subtitle = std::move(subtitle);
-  row.opens = true;
-  return row;
-}
-
 }  // namespace
 
 Outcome SettingsViewController::act(const Action& action) {

@@ -12,13 +12,8 @@ namespace backbeat {
 namespace {
 
 Row account(std::string id, std::string glyph, std::string title, std::string subtitle, std::string value) {
-  Row row;
-  row.id = std::move(id);
-  row.picture = icon(std::move(glyph));
-  row.title = std::move(title);
-  row.subtitle = std::move(subtitle);
+  Row row = wayTo(std::move(id), std::move(glyph), std::move(title), std::move(subtitle));
   row.value = std::move(value);
-  row.opens = true;
   return row;
 }
 
@@ -49,7 +44,7 @@ View FinancialViewController::view() const {
   standing.value = currency(net);
   standing.note = "a week";
   standing.tone = toneOfAmount(net);
-  view.add(Rows{{std::move(standing)}, "", 0, 0});
+  view.add(Rows{{std::move(standing)}});
   view.add(Heading{"Accounts", {}});
   const IncomeStatement statement = incomeStatement(state());
   view.add(Rows{
@@ -57,10 +52,7 @@ View FinancialViewController::view() const {
                currency(-livingExpenses(state()))),
        account("goToBalanceSheet", "document", "Income Statement", "Week " + std::to_string(reportedWeek(state()).week),
                currency(statement.income() - statement.expenses())),
-       account("goToNetWorth", "trend", "Net Worth", "Everything you own", currency(netAssets(state())))},
-      "",
-      0,
-      0});
+       account("goToNetWorth", "trend", "Net Worth", "Everything you own", currency(netAssets(state())))}});
   return view;
 }
 

@@ -37,10 +37,7 @@ View NetWorthViewController::view() const {
   view.add(Rows{{possession("cash", "Cash ", state().totalCashAvailable, totalNetWorth),
                  possession("house", "Property ", propertiesValue(state()), totalNetWorth),
                  possession("spark", "Venture ", venturesValue(state()), totalNetWorth),
-                 possession("car", "Garage ", transportationValue(state()), totalNetWorth)},
-                "",
-                0,
-                0});
+                 possession("car", "Garage ", transportationValue(state()), totalNetWorth)}});
   return view;
 }
 

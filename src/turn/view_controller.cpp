@@ -36,17 +36,13 @@ const char* contractSegue(const GameState& state) {
 
 Row contractRow(const Game& game) {
   const GameState& state = game.state;
-  Row row;
-  row.id = "labelContract";
-  row.picture = icon("document");
-  row.title = "Label contract";
+  Row row = wayTo("labelContract", "document", "Label contract");
   row.subtitle = game.launch.contractOfferState >= 1 ? "An offer waits" : "No offer";
   if (state.underContract >= 1) {
     const size_t running = runningContract(state);
     const bool stands = running != state.saveAllContractLabelList.size();
     row.subtitle = stands ? contractOutlook(state, state.saveAllContractLabelList[running]) : "Signed";
   }
-  row.opens = true;
   return row;
 }
 
@@ -79,32 +75,18 @@ View ViewController::view() const {
   describeStanding(view);
   describeWeek(view);
   describeMusic(view);
-  Row settings;
-  settings.id = "goToSettings";
-  settings.picture = icon("settings");
-  settings.title = "Settings";
-  settings.opens = true;
   view.add(Heading{"More", {}});
-  Row profile;
-  profile.id = "goToArtistProfile";
-  profile.picture = icon("person");
-  profile.title = "Artist profile";
-  profile.subtitle = "What your listeners see";
-  profile.opens = true;
-  view.add(Rows{{std::move(profile), contractRow(game_), std::move(settings)}, "", 0, 0});
+  view.add(Rows{{wayTo("goToArtistProfile", "person", "Artist profile", "What your listeners see"), contractRow(game_),
+                 wayTo("goToSettings", "settings", "Settings")}});
   return view;
 }
 
 void ViewController::describeStanding(View& view) const {
   if (game_.launch.contractOfferState >= 1) {
-    Row offer;
-    offer.id = "goToContractOffer";
-    offer.picture = icon("label");
-    offer.title = "A record label wants to talk";
-    offer.subtitle = "The offer waits until the week ends";
+    Row offer =
+        wayTo("goToContractOffer", "label", "A record label wants to talk", "The offer waits until the week ends");
     offer.badge = "!";
-    offer.opens = true;
-    view.add(Rows{{std::move(offer)}, "", 0, 0});
+    view.add(Rows{{std::move(offer)}});
   }
   Chart listeners;
   listeners.id = "goToMonthlyListenerDetail";
@@ -131,12 +113,7 @@ void ViewController::describeStanding(View& view) const {
 
 void ViewController::describeWeek(View& view) const {
   view.add(Heading{"Next week", {}});
-  Row energy;
-  energy.id = "goToEnergyTransparency";
-  energy.picture = icon("bolt");
-  energy.title = "Energy";
-  energy.subtitle = "After standing costs";
-  energy.opens = true;
+  Row energy = wayTo("goToEnergyTransparency", "bolt", "Energy", "After standing costs");
   energy.value = std::to_string(nextWeeksEnergy(state()));
   Row money;
   money.picture = icon("cash");
@@ -146,7 +123,7 @@ void ViewController::describeWeek(View& view) const {
   money.subtitle = needsWork ? "No job: the Job Board in Life has one" : "Job and weekly entries";
   money.value = currency(net);
   money.tone = net < 0 ? Tone::bad : Tone::good;
-  view.add(Rows{{std::move(energy), std::move(money)}, "", 0, 0});
+  view.add(Rows{{std::move(energy), std::move(money)}});
 }
 
 void ViewController::describeMusic(View& view) const {
