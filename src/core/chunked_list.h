@@ -40,7 +40,8 @@ class ChunkedList {
   /// The slot of each record in list order; empty unless the layout is `slots`.
   const std::vector<uint32_t>& slots() const { return slots_; }
   /// Takes a list as it was stored: `places`, a vector of type `type()`, in their order, and for `slots` the slot of
-  /// each position. False, and the list is empty, when `slots` is no permutation.
+  /// each position; slots that are not named follow as they are. False, and the list is empty, when `slots` is no
+  /// permutation or missing.
   virtual bool restore(void* places, std::vector<uint32_t> slots) = 0;
 
   /// Each once, in no order; some may lie past the last chunk, when the list got shorter.

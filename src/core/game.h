@@ -27,7 +27,7 @@ struct MilestoneSnapshot {
     int64_t albumId = 0;
     int64_t tier = 0;
   };
-  std::vector<SongStanding> songs;    ///< by id
+  std::vector<SongStanding> songs;    ///< in the order of the list then
   std::vector<AlbumStanding> albums;  ///< all, in the order of the list, which no turn changes
 };
 

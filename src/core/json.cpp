@@ -46,18 +46,18 @@ JsonWriter& JsonWriter::key(std::string_view name) {
 JsonWriter& JsonWriter::text(std::string_view utf8) {
   separate();
   out_ += '"';
-  for (const char c : utf8) {
-    if (c == '"' || c == '\\') {
-      out_ += '\\';
-      out_ += c;
-    } else if (static_cast<unsigned char>(c) < 0x20) {
-      char escape[8];
-      std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(c));
-      out_ += escape;
-    } else {
-      out_ += c;
-    }
+  size_t plain = 0;  // where the stretch begins that stands as it is
+  for (size_t i = 0; i < utf8.size(); ++i) {
+    const char c = utf8[i];
+    const bool control = static_cast<unsigned char>(c) < 0x20;
+    if (c != '"' && c != '\\' && !control) continue;
+    out_ += utf8.substr(plain, i - plain);
+    plain = control ? i + 1 : i;
+    char escape[8] = "\\";
+    if (control) std::snprintf(escape, sizeof escape, "\\u%04x", static_cast<unsigned>(c));
+    out_ += escape;
   }
+  out_ += utf8.substr(plain);
   out_ += '"';
   return *this;
 }

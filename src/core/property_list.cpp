@@ -94,6 +94,15 @@ bool isAscii(std::string_view text) {
   return (seen & 0x8080808080808080u) == 0;
 }
 
+void putNumber(Bytes& out, uint64_t bits, uint8_t kind) {
+  if (kind == plain) return out.push_back(static_cast<char>(bits ? trueMarker : falseMarker));
+  const size_t width = kind == integral ? widthOf(bits) : 8;  // widths below eight bytes hold no sign
+  char object[9] = {static_cast<char>(kind << 4 | std::countr_zero(width))};
+  writeBigEndian<8>(object + 1, bits << (64 - 8 * width));
+  out.append(object, sizeof object);
+  out.resize(out.size() - 8 + width);  // a fixed size and a cut are quicker than a varying size
+}
+
 std::string utf8FromUtf16(std::string_view bigEndian) {
   std::string result;
   result.reserve(bigEndian.size());
@@ -141,22 +150,7 @@ PropertyListWriter::Ref PropertyListWriter::number(uint64_t bits, uint8_t kind) 
   }
   const Ref ref = newScalar();
   numbers_[place] = {bits, round_, kind, ref};
-  char out[9];
-  size_t width = 8;
-  switch (kind) {
-    case plain:
-      out[0] = static_cast<char>(bits ? trueMarker : falseMarker);
-      width = 0;
-      break;
-    case integral:
-      // Widths below eight bytes hold no sign.
-      width = widthOf(bits);
-      out[0] = static_cast<char>(integral << 4 | std::countr_zero(width));
-      break;
-    default: out[0] = static_cast<char>(kind << 4 | 3);
-  }
-  if (width > 0) writeBigEndian(out + 1, bits, width);
-  scalars_.append(out, width + 1);
+  putNumber(scalars_, bits, kind);
   if (++numberCount_ * 2 > numbers_.size()) growNumbers();
   return ref;
 }

@@ -64,7 +64,8 @@ class RecordList final : public ChunkedList {
     records_.push_back(std::move(record));
     if (hasSlots()) {
       slots_.push_back(static_cast<uint32_t>(records_.size() - 1));
-      markOrder();
+      // Behind the stored order stands what came since; only the first record needs one.
+      if (records_.size() == 1) markOrder();
     }
     if (layout().order == ListLayout::Order::front) {
       markAll();
@@ -172,6 +173,8 @@ class RecordList final : public ChunkedList {
     std::vector<T>& places = *static_cast<std::vector<T>*>(stored);
     clear();
     if (hasSlots()) {
+      if (slots.empty()) return places.empty();
+      for (size_t slot = slots.size(); slot < places.size(); ++slot) slots.push_back(static_cast<uint32_t>(slot));
       if (!isPermutation(slots, places.size())) return false;
       records_.reserve(places.size());
       for (const uint32_t slot : slots) records_.push_back(std::move(places[slot]));

@@ -77,9 +77,13 @@ std::vector<AlbumMeans> sumsOfAllAlbums(const GameState& state) {
   for (size_t i = 0; i < albums.size(); ++i) positions.emplace_back(albums[i].albumId, i);
   std::sort(positions.begin(), positions.end());
   std::vector<AlbumMeans> sums(albums.size());
+  auto found = positions.cend();
   for (const Song& song : state.saveAllSongList) {
-    const auto found = std::lower_bound(positions.begin(), positions.end(), std::pair(song.albumId, size_t{0}));
-    if (found != positions.end() && found->first == song.albumId) addSong(sums[found->second], song);
+    // The songs of an album mostly stand together.
+    if (found == positions.cend() || found->first != song.albumId) {
+      found = std::lower_bound(positions.cbegin(), positions.cend(), std::pair(song.albumId, size_t{0}));
+    }
+    if (found != positions.cend() && found->first == song.albumId) addSong(sums[found->second], song);
   }
   return sums;
 }

@@ -29,8 +29,8 @@ Picture coverOf(const GameState& state, const Album& album) { return coverFor(st
 Picture coverOf(const GameState& state, const Song& song) { return coverFor(state, song.albumId, song.title); }
 
 Picture coverOfSong(const GameState& state, int64_t songId, const std::string& title) {
-  const size_t found = state.saveAllSongList.find([&](const Song& song) { return song.songId == songId; });
-  return found == state.saveAllSongList.size() ? cover(title) : coverOf(state, state.saveAllSongList[found]);
+  const auto found = state.saveAllSongList.historyOf(songId);
+  return found.empty() ? cover(title) : coverOf(state, state.saveAllSongList[found.front()]);
 }
 
 }  // namespace backbeat

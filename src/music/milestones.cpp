@@ -20,12 +20,21 @@ Milestone ofAlbum(Kind kind, int64_t albumId, std::string text) { return {kind, 
 
 std::string quoted(const std::string& title) { return "“" + title + "”"; }
 
-/// The standing of a song, or nullptr when it was not among those that can move.
-template <class Songs>
-auto* standingOf(Songs& songs, int64_t songId) {
-  const auto found = std::lower_bound(songs.begin(), songs.end(), songId,
-                                      [](const SongStanding& song, int64_t id) { return song.songId < id; });
-  return found == songs.end() || found->songId != songId ? nullptr : &*found;
+/// A song that can move, and where it stands in a list that knows its records by the song.
+struct Place {
+  uint32_t position;
+  const SongStanding* before;
+};
+
+/// The places of the songs that can move, in the order of the list.
+template <class T>
+std::vector<Place> placesOf(const std::vector<SongStanding>& songs, const RecordList<T>& list) {
+  std::vector<Place> places;
+  for (const SongStanding& song : songs) {
+    for (const uint32_t position : list.historyOf(song.songId)) places.push_back({position, &song});
+  }
+  std::sort(places.begin(), places.end(), [](const Place& a, const Place& b) { return a.position < b.position; });
+  return places;
 }
 
 void addChartMilestone(std::vector<Milestone>& milestones, const SongStanding& before, const BillboardSong& row) {
@@ -79,13 +88,12 @@ MilestoneSnapshot milestoneSnapshot(const GameState& state) {
     if (!song.isReleased || !(remainingLife(state, song) > 0)) continue;
     snapshot.songs.push_back({song.songId, songCertificationTier(song.totalListen), 0, false});
   }
-  std::sort(snapshot.songs.begin(), snapshot.songs.end(),
-            [](const SongStanding& a, const SongStanding& b) { return a.songId < b.songId; });
-  for (const BillboardSong& row : state.saveAllBillboardSongList) {
-    SongStanding* song = standingOf(snapshot.songs, row.songId);
-    if (!song) continue;
-    song->peak = row.peakPosition;
-    song->wasFirst = row.weeksAtOne > 0;
+  const RecordList<BillboardSong>& rows = state.saveAllBillboardSongList;
+  for (SongStanding& song : snapshot.songs) {
+    for (const uint32_t position : rows.historyOf(song.songId)) {
+      song.peak = rows[position].peakPosition;
+      song.wasFirst = rows[position].weeksAtOne > 0;
+    }
   }
   for (const Album& album : state.saveAllAlbumList) {
     snapshot.albums.push_back({album.albumId, albumCertificationTier(album)});
@@ -95,14 +103,15 @@ MilestoneSnapshot milestoneSnapshot(const GameState& state) {
 
 std::vector<Milestone> milestonesSince(const MilestoneSnapshot& before, const GameState& after, CalendarWeek week) {
   std::vector<Milestone> milestones;
-  for (const BillboardSong& row : after.saveAllBillboardSongList) {
-    const SongStanding* song = row.isOnCharts ? standingOf(before.songs, row.songId) : nullptr;
-    if (song) addChartMilestone(milestones, *song, row);
+  const RecordList<BillboardSong>& rows = after.saveAllBillboardSongList;
+  for (const Place& place : placesOf(before.songs, rows)) {
+    const BillboardSong& row = rows[place.position];
+    if (row.isOnCharts) addChartMilestone(milestones, *place.before, row);
   }
-  for (const Song& song : after.saveAllSongList) {
-    const SongStanding* standing = standingOf(before.songs, song.songId);
+  for (const Place& place : placesOf(before.songs, after.saveAllSongList)) {
+    const Song& song = after.saveAllSongList[place.position];
     const int64_t tier = songCertificationTier(song.totalListen);
-    if (standing && tier > standing->tier) {
+    if (tier > place.before->tier) {
       milestones.push_back(ofSong(Kind::certification, song.songId, certified(song.title, tier)));
     }
   }

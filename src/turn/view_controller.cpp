@@ -133,8 +133,11 @@ void ViewController::describeMusic(View& view) const {
   }
   if (!songs.empty()) {
     const size_t shown = std::min(topSongs, songs.size());
-    std::stable_sort(songs.begin(), songs.end(),
-                     [](const Song* a, const Song* b) { return a->totalListen > b->totalListen; });
+    // Of equal ones the first in the list; the others need no order.
+    std::partial_sort(songs.begin(), songs.begin() + static_cast<std::ptrdiff_t>(shown), songs.end(),
+                      [](const Song* a, const Song* b) {
+                        return a->totalListen != b->totalListen ? a->totalListen > b->totalListen : a < b;
+                      });
     view.add(Heading{"Top songs", {}});
     Rows rows;
     for (size_t i = 0; i < shown; ++i) rows.items.push_back(songRow(state(), *songs[i]));

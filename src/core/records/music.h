@@ -49,6 +49,10 @@ inline constexpr auto fieldsOf<Song> = [](auto&& take) {
               Field{"streamPayRate", &Song::streamPayRate}, Field{"percentageOfEarnings", &Song::percentageOfEarnings});
 };
 
+/// A song is found by its id.
+template <>
+inline constexpr int64_t Song::*historyKeyOf<Song> = &Song::songId;
+
 /// One album of the player; the built-in "Single" has id 0 and is never released.
 struct Album {
   int64_t albumId = 0;  ///< 0 for the built-in "Single"
