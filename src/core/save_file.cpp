@@ -21,10 +21,10 @@ std::optional<std::vector<uint32_t>> decodeOrder(std::string_view propertyList) 
 }
 
 Bytes encodeOrder(PropertyListWriter& writer, const std::vector<uint32_t>& slots) {
-  Bytes bytes;
-  bytes.reserve(slots.size() * 4);
+  Bytes bytes(slots.size() * 4, '\0');
+  char* out = bytes.data();
   for (const uint32_t slot : slots) {
-    for (int shift = 0; shift < 32; shift += 8) bytes.push_back(static_cast<char>(slot >> shift));
+    for (int shift = 0; shift < 32; shift += 8) *out++ = static_cast<char>(slot >> shift);
   }
   return writer.finish(writer.data(bytes));
 }
