@@ -128,7 +128,7 @@ export class Game implements Player {
 
   /** The names of the kept copies, the newest first. */
   async copies(): Promise<string[]> {
-    return (await this.save.load()).copies.reverse();
+    return (await this.save.copies()).reverse();
   }
 
   /** Resolves with true once everything is stored, and with false while writing fails. */
@@ -206,7 +206,10 @@ export class Game implements Player {
   }
 
   private async engineOnShelf(): Promise<Engine> {
-    return Engine.holding(this.module, await this.save.load());
+    const engine = await Engine.create(this.module);
+    const [copies] = await Promise.all([this.save.copies(), this.save.read((rows) => engine.hold(rows))]);
+    engine.holdCopies(copies);
+    return engine;
   }
 
   private take({ answer, batch }: Reply): void {
