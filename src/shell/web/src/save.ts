@@ -53,13 +53,13 @@ export class Save {
    * Hands over what is stored, with what is still waiting to be written laid over it: in pieces, each as soon as it is
    * read, in no order.
    */
-  async read(take: (rows: StoredRow[]) => void): Promise<void> {
+  async read(take: (rows: StoredRow[]) => void | Promise<void>): Promise<void> {
     const waiting = lastOfEach(this.waitingRows().filter((row) => !isOrder(row)));
     const outdated = new Set(waiting.map(identity));
     await readRows(this.db.transaction(rowStore).store, (rows) =>
       take(outdated.size > 0 ? rows.filter((row) => !outdated.has(identity(row))) : rows),
     );
-    take(waiting.filter((row): row is StoredRow => row.value !== null));
+    await take(waiting.filter((row): row is StoredRow => row.value !== null));
   }
 
   /** The names of the kept copies, the oldest first. */
@@ -265,9 +265,9 @@ interface Readable {
 }
 
 /** Reads all rows in pieces: the first are worked on while the last are still on their way. */
-async function readRows(store: Readable, take: (rows: StoredRow[]) => void): Promise<void> {
+async function readRows(store: Readable, take: (rows: StoredRow[]) => unknown): Promise<void> {
   const keys = (await store.getAllKeys()) as Key[];
-  const pieces: Promise<void>[] = [];
+  const pieces: Promise<unknown>[] = [];
   for (let from = 0; from < keys.length; from += pieceLength) {
     const own = keys.slice(from, from + pieceLength);
     const values = store.getAll(IDBKeyRange.bound(own[0], own.at(-1)));
