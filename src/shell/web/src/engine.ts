@@ -1,6 +1,5 @@
 import type { Answer, PressScreen } from "./protocol";
-import { decodeBatch, encodeRow, type Row } from "./rows";
-import type { Stored } from "./save";
+import { decodeBatch, encodedSize, encodeRow, type Row, type StoredRow } from "./rows";
 
 interface Exports {
   memory: WebAssembly.Memory;
@@ -65,14 +64,23 @@ export class Engine {
     return engine;
   }
 
-  /** A fresh instance that has been handed what is stored, and is not started. */
-  static async holding(module: WebAssembly.Module, { rows, copies }: Stored): Promise<Engine> {
-    const engine = await Engine.create(module);
-    engine.guard(() => {
-      for (const { key, chunk, value } of rows) engine.pass(encodeRow(key, chunk, value), engine.door.bb_row);
-      for (const name of copies) engine.pass(encoder.encode(name), engine.door.bb_snapshot);
+  /** Before `start`: takes rows that are stored. */
+  hold(rows: StoredRow[]): void {
+    this.guard(() => {
+      for (const { key, chunk, value } of rows) {
+        const name = encoder.encode(key);
+        const room = this.room(encodedSize(name, value));
+        encodeRow(room, name, chunk, value);
+        this.door.bb_row(room.byteOffset, room.length);
+      }
     });
-    return engine;
+  }
+
+  /** Before `start`: takes the names of the kept copies. */
+  holdCopies(names: string[]): void {
+    this.guard(() => {
+      for (const name of names) this.pass(encoder.encode(name), this.door.bb_snapshot);
+    });
   }
 
   /** Begins the launch. `seed` is a 64-bit number as decimal text. */
@@ -120,9 +128,15 @@ export class Engine {
   }
 
   private pass(input: Uint8Array, entry: (address: number, size: number) => void): void {
-    const address = this.door.bb_alloc(input.length) >>> 0;
-    new Uint8Array(this.door.memory.buffer, address, input.length).set(input);
-    entry(address, input.length);
+    const room = this.room(input.length);
+    room.set(input);
+    entry(room.byteOffset, room.length);
+  }
+
+  /** Room in the engine's memory for the next call's input. */
+  private room(size: number): Uint8Array {
+    const address = this.door.bb_alloc(size) >>> 0;
+    return new Uint8Array(this.door.memory.buffer, address, size);
   }
 
   // A copy, because the memory grows and moves under the next call.

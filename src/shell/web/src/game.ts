@@ -43,7 +43,7 @@ export class Game implements Player {
   private engine: Engine | null = null;
 
   private constructor(
-    private readonly module: WebAssembly.Module,
+    private readonly module: Promise<WebAssembly.Module>,
     private readonly save: Save,
     private readonly seed: () => string,
   ) {
@@ -57,10 +57,11 @@ export class Game implements Player {
     });
   }
 
-  /** Loads engine and save. `seed` gives the seed of each start of the engine. */
+  /** Opens the save; the engine is still on its way. `seed` gives the seed of each start of the engine. */
   static async open(seed: () => string): Promise<Game> {
-    const [module, save] = await Promise.all([loadEngineModule("./engine.wasm"), Save.open()]);
-    return new Game(module, save, seed);
+    const module = loadEngineModule("./engine.wasm");
+    module.catch(() => {}); // whoever needs the engine hears of it
+    return new Game(module, await Save.open(), seed);
   }
 
   /** Begins a launch. False when the engine has stopped too often in a row for another try. */
@@ -128,7 +129,7 @@ export class Game implements Player {
 
   /** The names of the kept copies, the newest first. */
   async copies(): Promise<string[]> {
-    return (await this.save.load()).copies.reverse();
+    return (await this.save.copies()).reverse();
   }
 
   /** Resolves with true once everything is stored, and with false while writing fails. */
@@ -193,7 +194,7 @@ export class Game implements Player {
     this.engine = null;
     try {
       const { bytes } = engine.careerFile();
-      const { batch } = (await Engine.create(this.module)).import(bytes);
+      const { batch } = (await this.freshEngine()).import(bytes);
       this.save.write(batch.filter((row) => row.value));
     } catch (fault) {
       return this.onBroken(fault);
@@ -206,7 +207,19 @@ export class Game implements Player {
   }
 
   private async engineOnShelf(): Promise<Engine> {
-    return Engine.holding(this.module, await this.save.load());
+    // The save is read while the engine is still being made.
+    const making = this.freshEngine();
+    const [engine, copies] = await Promise.all([
+      making,
+      this.save.copies(),
+      this.save.read(async (rows) => (await making).hold(rows)),
+    ]);
+    engine.holdCopies(copies);
+    return engine;
+  }
+
+  private async freshEngine(): Promise<Engine> {
+    return Engine.create(await this.module);
   }
 
   private take({ answer, batch }: Reply): void {

@@ -25,14 +25,21 @@ export function forgetsCopy(row: Row): boolean {
   return row.chunk === forgetCopy;
 }
 
+export function isOrder(row: Row): boolean {
+  return keepsCopy(row) || forgetsCopy(row);
+}
+
+export function identity({ key, chunk }: Row): string {
+  return `${chunk} ${key}`;
+}
+
 /** The last write of each row, in the order in which the rows first appear. */
 export function lastOfEach(rows: Row[]): Row[] {
   const last = new Map<string, Row>();
-  for (const row of rows) last.set(`${row.chunk} ${row.key}`, row);
+  for (const row of rows) last.set(identity(row), row);
   return [...last.values()];
 }
 
-const encoder = new TextEncoder();
 const decoder = new TextDecoder();
 
 /** Reads a batch that the engine hands out; the values are views into `bytes`. */
@@ -61,15 +68,18 @@ export function decodeBatch(bytes: Uint8Array): Row[] {
   return rows;
 }
 
+/** How many bytes one stored row takes in the form of a batch of one; `name` is its key in UTF-8. */
+export function encodedSize(name: Uint8Array, value: Uint8Array): number {
+  return 13 + name.length + value.length;
+}
+
 /** Writes one stored row in the form of a batch of one. */
-export function encodeRow(key: string, chunk: number, value: Uint8Array): Uint8Array {
-  const name = encoder.encode(key);
-  const bytes = new Uint8Array(13 + name.length + value.length);
-  const view = new DataView(bytes.buffer);
+export function encodeRow(bytes: Uint8Array, name: Uint8Array, chunk: number, value: Uint8Array): void {
+  const view = new DataView(bytes.buffer, bytes.byteOffset, bytes.byteLength);
   view.setUint32(0, name.length, true);
   bytes.set(name, 4);
   view.setInt32(4 + name.length, chunk, true);
+  view.setUint8(8 + name.length, 0);
   view.setUint32(9 + name.length, value.length, true);
   bytes.set(value, 13 + name.length);
-  return bytes;
 }

@@ -1,11 +1,12 @@
 import { openDB, type IDBPDatabase, type IDBPTransaction } from "idb";
-import { forgetsCopy, keepsCopy, lastOfEach, type Row, type StoredRow } from "./rows";
+import { forgetsCopy, identity, isOrder, keepsCopy, lastOfEach, type Row, type StoredRow } from "./rows";
 
 const rowStore = "rows";
 const copyStore = "copies";
 const quarantinePrefix = "quarantine/";
 const firstPause = 1000;
 const longestPause = 30_000;
+const pieceLength = 256;
 
 type Key = [key: string, chunk: number];
 type Database = IDBPDatabase;
@@ -18,12 +19,6 @@ interface Batch {
 
 /** Why writing fails for the moment; "" while it works. */
 export type Trouble = "" | "full" | "failing";
-
-/** Everything that a fresh engine is handed: the stored rows and the names of the kept copies. */
-export interface Stored {
-  rows: StoredRow[];
-  copies: string[];
-}
 
 /**
  * The save on this device. Every batch goes into a transaction of its own that is started at once: the database keeps
@@ -54,18 +49,28 @@ export class Save {
     return save;
   }
 
-  /** What is stored, with what is still waiting to be written laid over it. */
-  async load(): Promise<Stored> {
-    const tx = this.db.transaction([rowStore, copyStore], "readonly");
-    const copies = new Set((await tx.objectStore(copyStore).getAllKeys()) as string[]);
-    const stored: Row[] = await allRows(tx.objectStore(rowStore));
-    const waiting = this.unconfirmed.flatMap((batch) => batch.rows);
+  /**
+   * Hands over what is stored, with what is still waiting to be written laid over it: in pieces, each as soon as it is
+   * read, in no order.
+   */
+  async read(take: (rows: StoredRow[]) => void | Promise<void>): Promise<void> {
+    const waiting = lastOfEach(this.waitingRows().filter((row) => !isOrder(row)));
+    const outdated = new Set(waiting.map(identity));
+    await readRows(this.db.transaction(rowStore).store, (rows) =>
+      take(outdated.size > 0 ? rows.filter((row) => !outdated.has(identity(row))) : rows),
+    );
+    await take(waiting.filter((row): row is StoredRow => row.value !== null));
+  }
+
+  /** The names of the kept copies, the oldest first. */
+  async copies(): Promise<string[]> {
+    const waiting = this.waitingRows();
+    const names = new Set((await this.db.getAllKeys(copyStore)) as string[]);
     for (const row of waiting) {
-      if (keepsCopy(row)) copies.add(row.key);
-      if (forgetsCopy(row)) copies.delete(row.key);
+      if (keepsCopy(row)) names.add(row.key);
+      if (forgetsCopy(row)) names.delete(row.key);
     }
-    const rows = lastOfEach([...stored, ...waiting.filter((row) => !keepsCopy(row) && !forgetsCopy(row))]);
-    return { rows: rows.filter((row): row is StoredRow => row.value !== null), copies: [...copies].sort() };
+    return [...names].sort();
   }
 
   /** Stores one batch, all or nothing. Returns at once. */
@@ -79,7 +84,6 @@ export class Save {
 
   /** Puts `batch` in the place of every row, its orders first; all or nothing, and not tried again. */
   replace(batch: Row[]): Promise<boolean> {
-    const isOrder = (row: Row): boolean => keepsCopy(row) || forgetsCopy(row);
     return this.exchange(async (tx) => {
       await put(tx, batch.filter(isOrder));
       await tx.objectStore(rowStore).clear();
@@ -114,6 +118,10 @@ export class Save {
     this.closed = true;
     clearTimeout(this.timer);
     this.db.close();
+  }
+
+  private waitingRows(): Row[] {
+    return this.unconfirmed.flatMap((batch) => batch.rows);
   }
 
   private async store(batches: Batch[]): Promise<void> {
@@ -168,7 +176,7 @@ export class Save {
 
   private fail(problem: unknown): void {
     // Only the last write of each row is kept, so that a long failure does not fill the memory.
-    this.unconfirmed = [{ rows: folded(this.unconfirmed.flatMap((batch) => batch.rows)), confirmed: false }];
+    this.unconfirmed = [{ rows: folded(this.waitingRows()), confirmed: false }];
     clearTimeout(this.timer);
     this.timer = window.setTimeout(() => this.retry(), this.pause);
     this.pause = Math.min(this.pause * 2, longestPause);
@@ -246,21 +254,30 @@ async function put(tx: Writing, rows: Row[]): Promise<void> {
 }
 
 async function rowsToCopy(tx: Writing): Promise<StoredRow[]> {
-  const rows = await allRows(tx.objectStore(rowStore));
-  return rows.filter(({ key }) => !key.startsWith(quarantinePrefix));
+  const all: StoredRow[] = [];
+  await readRows(tx.objectStore(rowStore), (rows) => all.push(...rows));
+  return all.filter(({ key }) => !key.startsWith(quarantinePrefix));
 }
 
 interface Readable {
   getAllKeys(): Promise<IDBValidKey[]>;
-  getAll(): Promise<unknown[]>;
+  getAll(range: IDBKeyRange): Promise<unknown[]>;
 }
 
-async function allRows(store: Readable): Promise<StoredRow[]> {
-  const [keys, values] = await Promise.all([store.getAllKeys(), store.getAll()]);
-  return keys.map((at, i) => {
-    const [key, chunk] = at as Key;
-    return { key, chunk, value: values[i] as Uint8Array };
-  });
+/** Reads all rows in pieces: the first are worked on while the last are still on their way. */
+async function readRows(store: Readable, take: (rows: StoredRow[]) => unknown): Promise<void> {
+  const keys = (await store.getAllKeys()) as Key[];
+  const pieces: Promise<unknown>[] = [];
+  for (let from = 0; from < keys.length; from += pieceLength) {
+    const own = keys.slice(from, from + pieceLength);
+    const values = store.getAll(IDBKeyRange.bound(own[0], own.at(-1)));
+    pieces.push(values.then((values) => take(own.map(([key, chunk], i) => storedRow(key, chunk, values[i])))));
+  }
+  await Promise.all(pieces);
+}
+
+function storedRow(key: string, chunk: number, value: unknown): StoredRow {
+  return { key, chunk, value: value as Uint8Array };
 }
 
 function abort(tx: Writing): void {

@@ -1,41 +1,56 @@
 /**
- * What a press costs the page's main thread until its result is painted, in milliseconds of processor time: that does
- * not depend on what else the machine is doing. `press` is a function for the page that presses something.
+ * What presses cost the page's main thread until their result is painted, in milliseconds of processor time: that does
+ * not depend on what else the machine is doing. The count begins here; `end` gives its sums.
  */
-export async function costOfPress(browser, page, press) {
+export async function countCosts(browser, page) {
   const tracer = await browser.newBrowserCDPSession();
   const events = [];
+  const names = [];
   tracer.on("Tracing.dataCollected", ({ value }) => events.push(...value));
   await tracer.send("Tracing.start", {
     transferMode: "ReportEvents",
     traceConfig: { includedCategories: ["blink.user_timing", "toplevel", "__metadata"] },
   });
-  await page.evaluate(
-    (press) =>
-      new Promise((painted) => {
-        // The first message behind the frame comes when the frame is made.
-        const { port1, port2 } = new MessageChannel();
-        port1.onmessage = () => {
-          performance.mark("painted");
-          painted();
-        };
-        performance.mark("press");
-        new Function(`return (${press})()`)();
-        requestAnimationFrame(() => port2.postMessage(null));
-      }),
-    String(press),
-  );
-  await page.waitForTimeout(200);
-  const complete = new Promise((done) => tracer.once("Tracing.tracingComplete", done));
-  await tracer.send("Tracing.end");
-  await complete;
-  await tracer.detach();
-  return mainThreadTime(events);
+
+  /** `act` is a function for the page that presses something; `name` is what kind of press it is. */
+  async function press(name, act, ...values) {
+    names.push(name);
+    await page.evaluate(pressAndPaint, [names.length - 1, String(act), values]);
+  }
+
+  /** The costs of the presses of each name. */
+  async function end() {
+    const complete = new Promise((done) => tracer.once("Tracing.tracingComplete", done));
+    await tracer.send("Tracing.end");
+    await complete;
+    await tracer.detach();
+    const costs = {};
+    for (const [i, name] of names.entries()) (costs[name] ??= []).push(mainThreadTime(events, i));
+    return costs;
+  }
+
+  return { press, end };
 }
 
-function mainThreadTime(events) {
+async function pressAndPaint([number, act, values]) {
+  await new Promise((painted) => {
+    // The first message behind the frame comes when the frame is made.
+    const { port1, port2 } = new MessageChannel();
+    port1.onmessage = () => {
+      performance.mark(`painted ${number}`);
+      painted();
+    };
+    performance.mark(`press ${number}`);
+    new Function(`return (${act})`)()(...values);
+    requestAnimationFrame(() => port2.postMessage(null));
+  });
+  // What the press left to do for later belongs to no press.
+  await new Promise((idle) => requestIdleCallback(idle));
+}
+
+function mainThreadTime(events, number) {
   const mark = (name) => events.find((event) => event.name === name && event.cat.includes("blink.user_timing"));
-  const [press, painted] = [mark("press"), mark("painted")];
+  const [press, painted] = [mark(`press ${number}`), mark(`painted ${number}`)];
   const tasks = events.filter(
     ({ name, ph, pid, tid, ts, dur, tdur }) =>
       name.endsWith("RunTask") &&

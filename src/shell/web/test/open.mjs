@@ -1,33 +1,20 @@
-import { mkdtemp, rm } from "node:fs/promises";
-import { tmpdir } from "node:os";
-import { join, resolve } from "node:path";
-import { build } from "vite";
 import { launchBrowser } from "../tools/browser.mjs";
 import { serve } from "../tools/serve.mjs";
+import { builtFolder } from "./built.mjs";
 
-const here = import.meta.dirname;
-
-/** Builds the test stage into a folder of its own and serves it. */
-export function openStage() {
-  return buildAndOpen({ root: resolve(here, "stage"), publicDir: false });
+/** The test stage, served, and a browser on it. */
+export async function openStage() {
+  return openHouse(await builtFolder("stage"));
 }
 
-/** Builds the real page with the real engine into a folder of its own and serves it. */
-export function openGame() {
-  return buildAndOpen({ root: resolve(here, "..") });
-}
-
-async function buildAndOpen(what) {
-  const folder = await mkdtemp(join(tmpdir(), "backbeat-page-"));
-  const configFile = resolve(here, "../vite.config.ts");
-  await build({ ...what, configFile, logLevel: "warn", build: { outDir: folder, emptyOutDir: true } });
-  const house = await openHouse(folder);
-  return { ...house, folder, close: () => house.close().then(() => rm(folder, { recursive: true })) };
+/** The real page with the real engine, served, and a browser on it. */
+export async function openGame() {
+  return openHouse(await builtFolder("page"));
 }
 
 /** Serves a built folder and opens a browser on it; `open` gives pages that note every fault. */
-export async function openHouse(root) {
-  const server = await serve({ root });
+export async function openHouse(folder) {
+  const server = await serve({ root: folder });
   const browser = await launchBrowser();
   const home = `http://127.0.0.1:${server.address().port}/`;
 
@@ -64,5 +51,5 @@ export async function openHouse(root) {
     server.closeAllConnections();
   }
 
-  return { home, browser, open, unplug, close };
+  return { home, folder, browser, open, unplug, close };
 }

@@ -230,8 +230,7 @@ test("figures count up together and any tap shows them finished", async () => {
 
   await answerNext(answer([{ ...figures, items: [{ label: "Streams", value: "$9,000", amount: 9000 }] }]));
   await page.getByRole("button", { name: "Home" }).click();
-  await page.waitForTimeout(700);
-  assert.equal(await shown(), "$9,000");
+  await page.waitForFunction(() => document.querySelector(".figure-value").textContent === "$9,000");
   await close();
 });
 

@@ -24,7 +24,7 @@ await rm(values.out, { recursive: true, force: true });
 await mkdir(values.out, { recursive: true });
 const server = await serve({ root: values.root });
 const home = `http://127.0.0.1:${server.address().port}/`;
-const browser = await launchBrowser();
+const browser = await launchBrowser({ forPictures: true });
 const shots = [];
 const faults = [];
 try {

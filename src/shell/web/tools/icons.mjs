@@ -17,7 +17,7 @@ const icons = [
   ["apple-touch-icon.png", square, 180],
 ];
 
-const browser = await launchBrowser();
+const browser = await launchBrowser({ forPictures: true });
 try {
   for (const [name, drawing, size] of icons) {
     const page = await browser.newPage({ viewport: { width: size, height: size } });

@@ -22,7 +22,7 @@ const { values, positionals: presses } = parseArgs({
 });
 
 const server = values.url ? null : await serve({ root: values.root });
-const browser = await launchBrowser();
+const browser = await launchBrowser({ forPictures: true });
 try {
   const page = await browser.newPage({
     viewport: { width: Number(values.width), height: Number(values.height) },

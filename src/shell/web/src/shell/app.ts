@@ -258,6 +258,8 @@ class AppElement extends LitElement {
   /** After a step: the focus as it was, then the movement; at its end the leaving screen goes. */
   private async settle(step: Step): Promise<void> {
     if (step.motion === "none") return;
+    // Before anything asks where things lie: what the class shows is then styled with all the rest.
+    this.classList.add("moving");
     const top = this.stack.top!;
     const element = this.querySelector<HTMLElement>(".layer.top")!;
     await element.querySelector<LitElement>("bb-blocks")!.updateComplete;
@@ -265,7 +267,6 @@ class AppElement extends LitElement {
     const focused = top.focus?.isConnected ? top.focus : element.querySelector<HTMLElement>("h1");
     focused?.focus({ preventScroll: true });
     const [beneath, leaving] = [".beneath", ".leaving"].map((place) => this.querySelector<HTMLElement>(place));
-    this.classList.add("moving");
     this.moving = play(step.motion, { top: element, beneath, leaving }, this.pulledShare);
     this.pull(0);
     await Promise.all(this.moving.map((animation) => animation.finished)).catch(() => {});
