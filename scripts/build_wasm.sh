@@ -6,8 +6,12 @@ set -euo pipefail
 
 out=build/wasm
 traps=signed-integer-overflow,integer-divide-by-zero,float-cast-overflow,bounds,return,unreachable
-flags=(-std=c++20 -Oz -fno-exceptions -fno-rtti -ffp-contract=off -Wall -Wextra -Werror -Wshadow
+flags=(-std=c++20 -fno-exceptions -fno-rtti -ffp-contract=off -mbulk-memory -Wall -Wextra -Werror -Wshadow
   "-fsanitize=$traps" -fsanitize-trap=all -D_LIBCPP_HARDENING_MODE=_LIBCPP_HARDENING_MODE_FAST -I../../src)
+# Where a week spends its time; everything else is to be small.
+quick=(core/chunked_list core/json core/money core/numbers core/property_list core/random core/record_codec
+  core/save_file core/text music/album_sales music/chart music/listeners music/milestones music/streaming
+  shell/page_store shell/shown_json turn/week_cycle turn/weekly_report)
 # What nearly every source reads, parsed once. Without the time of the parsing in it, ccache knows it again.
 common=(algorithm array functional map optional string unordered_map variant vector core/game.h core/screen.h)
 parsed=(-fpch-instantiate-templates -Xclang -fno-pch-timestamp)
@@ -21,16 +25,16 @@ sources() {
 }
 
 ninja_file() {
-  local launcher source objects=() compiler
+  local launcher compiler source name how objects=()
   launcher=$(command -v ccache || true)
-  compiler="$launcher clang++-19 --target=wasm32-wasi -stdlib=libc++ ${flags[*]} ${parsed[*]} -MD -MF \$out.d"
+  compiler="$launcher clang++-19 --target=wasm32-wasi -stdlib=libc++ ${flags[*]} ${parsed[*]} \$how -MD -MF \$out.d"
   cat <<END
 rule pch
   command = $compiler -x c++-header \$in -o \$out
   depfile = \$out.d
   deps = gcc
 rule cxx
-  command = $compiler -include-pch common.pch -c \$in -o \$out
+  command = $compiler -include-pch common\$how.pch -c \$in -o \$out
   description = \$in
   depfile = \$out.d
   deps = gcc
@@ -40,12 +44,18 @@ rule link
   command = clang++-19 --target=wasm32-wasi ${link_flags[*]} \$in -o \$out
 rule checked
   command = node ../../scripts/check_wasm.mjs \$in && mkdir -p ../../src/shell/web/public && cp \$in \$out
-build common.pch: pch common.h
+build common-Oz.pch: pch common.h
+  how = -Oz
+build common-O2.pch: pch common.h
+  how = -O2
 build rt_stub.o: c ../../src/shell/wasm/rt_stub.c
 END
   while read -r source; do
-    objects+=("${source%.cpp}.o")
-    echo "build ${source%.cpp}.o: cxx ../../$source | common.pch"
+    name=${source#src/} name=${name%.cpp}
+    objects+=("src/$name.o")
+    how=-Oz
+    if [[ " ${quick[*]} " == *" $name "* ]]; then how=-O2; fi
+    printf 'build src/%s.o: cxx ../../%s | common%s.pch\n  how = %s\n' "$name" "$source" "$how" "$how"
   done < <(sources)
   cat <<END
 build engine.wasm: link ${objects[*]} rt_stub.o
@@ -61,6 +71,7 @@ into() {
 
 cd "$house"
 mkdir -p "$out"
+for name in "${quick[@]}"; do [[ -f src/$name.cpp ]] || fail "src/$name.cpp, which is to be quick, is not there"; done
 printf '#include <%s>\n' "${common[@]}" | into "$out/common.h"
 ninja_file | into "$out/build.ninja"
 exec ninja -C "$out" -j "$(jobs_at_once)" --quiet
