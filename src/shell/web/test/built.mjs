@@ -2,7 +2,7 @@
 import { createHash } from "node:crypto";
 import { existsSync } from "node:fs";
 import { mkdir, mkdtemp, readdir, readFile, rename, rm } from "node:fs/promises";
-import { join, relative, resolve, sep } from "node:path";
+import { basename, join, relative, resolve, sep } from "node:path";
 
 const web = resolve(import.meta.dirname, "..");
 const shelf = resolve(web, "../../../build/page-tests");
@@ -27,7 +27,7 @@ export async function builtFolder(name) {
 
 async function buildInto(folder, name) {
   await mkdir(shelf, { recursive: true });
-  const old = (await readdir(shelf)).filter((other) => other.startsWith(`${name}-`));
+  const old = (await readdir(shelf)).filter((other) => other.startsWith(`${name}-`) && other !== basename(folder));
   await Promise.all(old.map((other) => rm(join(shelf, other), { recursive: true, force: true })));
   const { build } = await import("vite");
   const unfinished = await mkdtemp(join(shelf, "unfinished-"));
