@@ -132,7 +132,7 @@ Bytes exportCareer(const GameState& state) {
   }
   for (const auto& [key, list] : listsOf(state)) {
     keys.push_back(writer.text(key));
-    values.push_back(encoder.value(list.type(), list.records()));
+    values.push_back(encoder.records(*list.type().item, list.records()));
   }
   return writer.finish(writer.dictionary(keys, values));
 }

@@ -10,14 +10,25 @@ uint32_t ChunkedList::chunkCount() const {
   return static_cast<uint32_t>((size() + layout_.chunkSize - 1) / layout_.chunkSize);
 }
 
+std::vector<const void*> ChunkedList::records() const {
+  const char* first = static_cast<const char*>(memory());
+  const size_t itemSize = type().item->size;
+  std::vector<const void*> result(size());
+  for (size_t i = 0; i < result.size(); ++i) result[i] = first + (hasSlots() ? slots_[i] : i) * itemSize;
+  return result;
+}
+
 std::vector<const void*> ChunkedList::chunk(uint32_t number) const {
-  const char* items = static_cast<const char*>(type().items(records()));
+  const char* items = static_cast<const char*>(memory());
   const size_t itemSize = type().item->size;
   const size_t first = size_t{number} * layout_.chunkSize;
   const size_t last = std::min(first + layout_.chunkSize, size());
+  const bool backwards = layout_.order == Order::front;
   std::vector<const void*> result;
   result.reserve(last - first);
-  for (size_t place = first; place < last; ++place) result.push_back(items + positionOfPlace(place) * itemSize);
+  for (size_t place = first; place < last; ++place) {
+    result.push_back(items + (backwards ? size() - 1 - place : place) * itemSize);
+  }
   return result;
 }
 
@@ -34,21 +45,14 @@ void ChunkedList::markAll() {
   shrunk_ = true;
 }
 
-size_t ChunkedList::positionOfPlace(size_t place) const {
-  switch (layout_.order) {
-    case Order::back: return place;
-    case Order::front: return size() - 1 - place;
-    case Order::slots: break;
+size_t ChunkedList::positionOfSlot(uint32_t slot) const {
+  const bool known =
+      positions_.size() == slots_.size() && positions_[slot] < slots_.size() && slots_[positions_[slot]] == slot;
+  if (!known) {
+    positions_.resize(slots_.size());
+    for (uint32_t i = 0; i < slots_.size(); ++i) positions_[slots_[i]] = i;
   }
-  if (places_.size() != slots_.size() || places_[place] >= slots_.size() || slots_[places_[place]] != place) {
-    rebuildPlaces();
-  }
-  return places_[place];
-}
-
-void ChunkedList::rebuildPlaces() const {
-  places_.resize(slots_.size());
-  for (uint32_t i = 0; i < slots_.size(); ++i) places_[slots_[i]] = i;
+  return positions_[slot];
 }
 
 void ChunkedList::mark(uint32_t number) {
@@ -66,13 +70,9 @@ void ChunkedList::markRecord(size_t position) {
   }
 }
 
-void ChunkedList::markGone(size_t first, size_t last, size_t before, const std::vector<uint32_t>& freeSlots) {
+void ChunkedList::markGone(size_t first, size_t last, size_t before) {
   shrunk_ = true;
-  switch (layout_.order) {
-    case Order::back: return markPlacesFrom(first);
-    case Order::front: return markPlacesFrom(before - 1 - last);
-    case Order::slots: return closeSlots(freeSlots);
-  }
+  markPlacesFrom(layout_.order == Order::front ? before - 1 - last : first);
 }
 
 void ChunkedList::markPlacesFrom(size_t first) {
@@ -81,17 +81,20 @@ void ChunkedList::markPlacesFrom(size_t first) {
   }
 }
 
-// Records whose slots lie beyond the shorter list move into the slots that came free.
-void ChunkedList::closeSlots(const std::vector<uint32_t>& freeSlots) {
+std::vector<std::pair<uint32_t, uint32_t>> ChunkedList::closeSlots(const std::vector<uint32_t>& freeSlots) {
+  std::vector<std::pair<uint32_t, uint32_t>> moves;
   for (const uint32_t slot : freeSlots) mark(slot / layout_.chunkSize);
   auto next = freeSlots.begin();
   for (uint32_t& slot : slots_) {
     if (slot < slots_.size()) continue;
     mark(slot / layout_.chunkSize);
     while (*next >= slots_.size()) ++next;
+    moves.emplace_back(slot, *next);
     slot = *next++;
   }
+  shrunk_ = true;
   orderChanged_ = true;
+  return moves;
 }
 
 bool ChunkedList::isPermutation(const std::vector<uint32_t>& slots, size_t size) {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 #include "core/value_type.h"
@@ -25,9 +26,10 @@ class ChunkedList {
   const ListLayout& layout() const { return layout_; }
 
   virtual size_t size() const = 0;
-  /// The type of `records()`: a vector.
+  /// The type of a vector of the list's records.
   virtual const ValueType& type() const = 0;
-  virtual const void* records() const = 0;
+  /// The records, in the order of the list.
+  std::vector<const void*> records() const;
   /// Takes all of `records`, a vector of type `type()`; every chunk counts as changed.
   virtual void replaceWith(void* records) = 0;
   /// Whether `other`, a list of the same records, holds the same.
@@ -59,23 +61,26 @@ class ChunkedList {
   ~ChunkedList() = default;
 
   bool hasSlots() const { return layout_.order == ListLayout::Order::slots; }
-  size_t positionOfPlace(size_t place) const;
+  size_t positionOfSlot(uint32_t slot) const;
   void mark(uint32_t number);
   void markRecord(size_t position);
-  /// After records went, whose slots were `freeSlots`, from between positions `first` and `last` of `before` records.
-  void markGone(size_t first, size_t last, size_t before, const std::vector<uint32_t>& freeSlots);
+  /// After records went from between positions `first` and `last` of `before` records; not with slots.
+  void markGone(size_t first, size_t last, size_t before);
+  /// After records went whose slots were `freeSlots`: those in slots beyond the shorter list get the free ones. Returns
+  /// who moves, from slot to slot.
+  std::vector<std::pair<uint32_t, uint32_t>> closeSlots(const std::vector<uint32_t>& freeSlots);
   void markOrder() { orderChanged_ = true; }
   static bool isPermutation(const std::vector<uint32_t>& slots, size_t size);
 
   std::vector<uint32_t> slots_;  // slot of the record at each position
 
  private:
-  void rebuildPlaces() const;
+  /// Where the records lie in memory: one after the other, by slot where there are slots, else in list order.
+  virtual const void* memory() const = 0;
   void markPlacesFrom(size_t first);
-  void closeSlots(const std::vector<uint32_t>& freeSlots);
 
   ListLayout layout_;
-  mutable std::vector<uint32_t> places_;  // position of each slot, made when asked for
+  mutable std::vector<uint32_t> positions_;  // of each slot, made when asked for
   std::vector<bool> isChanged_;
   std::vector<uint32_t> changed_;
   bool orderChanged_ = false;

@@ -82,7 +82,9 @@ uint64_t stateHash(const GameState& state) {
   }
   for (const auto& [key, list] : listsOf(state)) {
     hasher.add(key);
-    hasher.add(list.type(), list.records());
+    const std::vector<const void*> records = list.records();
+    hasher.add(uint64_t{records.size()});
+    for (const void* record : records) hasher.add(*list.type().item, record);
   }
   return hasher.result();
 }

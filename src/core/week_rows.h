@@ -26,7 +26,7 @@ std::span<const T> rowsOfWeek(const RecordList<T>& list, CalendarWeek week) {
   while (end > 0 && before(week, weekOf(list[end - 1]))) --end;
   size_t begin = end;
   while (begin > 0 && weekOf(list[begin - 1]) == week) --begin;
-  return std::span<const T>(list.all()).subspan(begin, end - begin);
+  return list.stretch(begin, end);
 }
 
 }  // namespace backbeat

@@ -127,20 +127,21 @@ void ViewController::describeWeek(View& view) const {
 }
 
 void ViewController::describeMusic(View& view) const {
-  std::vector<const Song*> songs;
-  for (const Song& song : state().saveAllSongList) {
-    if (song.isReleased) songs.push_back(&song);
+  const RecordList<Song>& all = state().saveAllSongList;
+  std::vector<size_t> songs;
+  for (size_t i = 0; i < all.size(); ++i) {
+    if (all[i].isReleased) songs.push_back(i);
   }
   if (!songs.empty()) {
     const size_t shown = std::min(topSongs, songs.size());
     // Of equal ones the first in the list; the others need no order.
-    std::partial_sort(songs.begin(), songs.begin() + static_cast<std::ptrdiff_t>(shown), songs.end(),
-                      [](const Song* a, const Song* b) {
-                        return a->totalListen != b->totalListen ? a->totalListen > b->totalListen : a < b;
-                      });
+    std::partial_sort(
+        songs.begin(), songs.begin() + static_cast<std::ptrdiff_t>(shown), songs.end(), [&](size_t a, size_t b) {
+          return all[a].totalListen != all[b].totalListen ? all[a].totalListen > all[b].totalListen : a < b;
+        });
     view.add(Heading{"Top songs", {}});
     Rows rows;
-    for (size_t i = 0; i < shown; ++i) rows.items.push_back(songRow(state(), *songs[i]));
+    for (size_t i = 0; i < shown; ++i) rows.items.push_back(songRow(state(), all[songs[i]]));
     view.add(std::move(rows));
   }
   if (!state().saveAllChirpList.empty()) {

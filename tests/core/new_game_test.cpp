@@ -20,7 +20,7 @@ void enrich(GameState& state) {
   for (const Scalar& scalar : scalars) std::visit([&](auto member) { enrich(state.*member); }, scalar.member);
   forEachField<GameState>([&](const auto& field) {
     auto& list = state.*field.member;
-    list.append(std::decay_t<decltype(list.all()[0])>());
+    list.append(std::decay_t<decltype(list[0])>());
   });
 }
 

@@ -231,7 +231,7 @@ TEST_F(SaveFileTest, TheHashSeesEveryValueAndNotHowItIsStored) {
   EXPECT_EQ(std::adjacent_find(hashes.begin(), hashes.end()), hashes.end());
 
   GameState sameInOtherSlots = state;
-  sameInOtherSlots.saveAllSongList.assign(state.saveAllSongList.all());
+  sameInOtherSlots.saveAllSongList.assign({state.saveAllSongList.begin(), state.saveAllSongList.end()});
   EXPECT_EQ(stateHash(sameInOtherSlots), hash);
   state.totalCashAvailable = notANumber;
   const uint64_t withNan = stateHash(state);
