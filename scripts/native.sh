@@ -6,15 +6,17 @@ check_build="$house/build/check"
 sanitize_build="$house/build/sanitize"
 bench_build="$house/build/bench"
 
-# native_folder NAME FOLDER OPTION...: a build folder, made when it is not there.
+# native_folder NAME FOLDER OPTION...: a build folder, made when it is not there or was made with other options.
 native_folder() {
   local name=$1 folder=$2 launcher=()
   shift 2
   if command -v ccache >/dev/null; then launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache); fi
   # Without it nothing that uses parsed headers is ever found again.
   export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros}
-  if [[ -f $folder/build.ninja ]]; then return 0; fi
-  logged "cmake-$name" cmake -S "$house" -B "$folder" -G Ninja -DCMAKE_CXX_COMPILER=clang++-19 "${launcher[@]}" "$@"
+  set -- -DCMAKE_CXX_COMPILER=clang++-19 "${launcher[@]}" "$@"
+  if [[ -f $folder/build.ninja && -f $folder/options && $(<"$folder/options") == "$*" ]]; then return 0; fi
+  rm -rf "$folder"
+  logged "cmake-$name" cmake -S "$house" -B "$folder" -G Ninja "$@" && printf '%s' "$*" >"$folder/options"
 }
 
 compile() { logged "$1" ninja -C "$2" -j "$(jobs_at_once)" "${@:3}"; }
@@ -27,10 +29,11 @@ build_native() {
   compile native "$native_build" backbeat
 }
 
-# build_tests: the game and its tests, optimised a little: less would take longer to test, more longer to build.
+# build_tests: the game, its tests and the fuzzer that needs the whole game, optimised a little: less would take longer
+# to test, more longer to build.
 build_tests() {
   native_folder check "$check_build" -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O1 \
-    -DBACKBEAT_PARSED_HEADERS=ON || return 1
+    -DBACKBEAT_PARSED_HEADERS=ON -DBACKBEAT_FUZZ=presses || return 1
   compile check "$check_build" all
 }
 
@@ -44,6 +47,6 @@ build_bench() {
 # build_sanitized TARGET...: every header is parsed where it is included, so that a missing include is seen.
 build_sanitized() {
   native_folder sanitize "$sanitize_build" -DCMAKE_BUILD_TYPE=Debug "-DCMAKE_CXX_FLAGS_DEBUG=-O1 -g1" \
-    -DBACKBEAT_SANITIZE=ON -DBACKBEAT_FUZZ=ON || return 1
+    -DBACKBEAT_SANITIZE=ON "-DBACKBEAT_FUZZ=property_list;career_import;presses" || return 1
   compile sanitize "$sanitize_build" "$@"
 }
