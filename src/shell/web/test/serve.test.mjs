@@ -32,7 +32,7 @@ after(async () => {
 /** Asks for a raw path: a client that tidies addresses up would never send the wicked ones. */
 function ask(path) {
   return new Promise((done, failed) => {
-    request({ port: server.address().port, path }, (response) => {
+    request({ host: "127.0.0.1", port: server.address().port, path }, (response) => {
       let body = "";
       response.on("data", (piece) => (body += piece));
       response.on("end", () => done({ status: response.statusCode, headers: response.headers, body }));
