@@ -47,9 +47,11 @@ function findingsIn(file) {
 
 const objects = filesByObject();
 const commands = JSON.parse(readFileSync(join(build, 'compile_commands.json'), 'utf8'));
+const objectOf = ({ command }) => / -o (\S+)/.exec(command)[1];
 const sources = commands
-  .filter(({ file }) => file.startsWith(join(house, 'src/')))
-  .map((command) => ({ file: command.file, key: keyOf(command, objects.get(command.output) ?? []) }));
+  .filter((command) => command.file.startsWith(join(house, 'src/')) && objects.has(objectOf(command)))
+  .map((command) => ({ file: command.file, key: keyOf(command, objects.get(objectOf(command))) }));
+if (sources.length === 0) throw new Error('no source was built');
 const due = sources.filter(({ key }) => !existsSync(join(memory, key)));
 
 mkdirSync(memory, { recursive: true });
