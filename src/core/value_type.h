@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <map>
 #include <memory>
-#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -34,10 +33,10 @@ struct ValueType {
   enum class Kind { flag, integer, real, date, text, texts, list, record };
 
   Kind kind;
-  size_t size;                         ///< bytes in memory
-  std::vector<FieldType> fields = {};  ///< of a record, in the order of its table
-  const ValueType* item = nullptr;     ///< what a list holds; the following functions are a list's, too
-  std::shared_ptr<void> (*make)() = nullptr;
+  size_t size;                                ///< bytes in memory
+  std::vector<FieldType> fields = {};         ///< of a record, in the order of its table
+  const ValueType* item = nullptr;            ///< what a list holds; the following functions are a list's, too
+  std::shared_ptr<void> (*make)() = nullptr;  ///< an empty one
   size_t (*count)(const void* list) = nullptr;
   const void* (*items)(const void* list) = nullptr;    ///< the first of them; they lie `item->size` apart
   void* (*add)(void* list) = nullptr;                  ///< one more item, on its defaults
