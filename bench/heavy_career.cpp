@@ -5,8 +5,8 @@
 
 #include "music/streaming.h"
 #include "social/chirps.h"
+#include "turn/screens/weekly_summary_view_controller.h"
 #include "turn/week_cycle.h"
-#include "turn/weekly_summary_view_controller.h"
 
 namespace backbeat {
 

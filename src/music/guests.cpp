@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "career/skill.h"
 #include "core/numbers.h"
 
 namespace backbeat {
@@ -81,18 +82,6 @@ bool rename(std::vector<Row> table, RecordList<Row>& kept, int64_t id, const std
   return true;
 }
 
-int64_t signedArtistRating(const SignedArtist& artist) {
-  const int64_t weakest =
-      std::min({artist.songwriting, artist.vocals, artist.rhythm, artist.charisma, artist.virality});
-  return (artist.songwriting + artist.vocals + artist.rhythm + artist.charisma + artist.virality +
-          std::min(weakest, int64_t{100})) /
-         6;
-}
-
-int64_t sumOfTraits(const GameState& state) {
-  return state.songWriting + state.vocalRange + state.rhythm + state.charisma + state.virality;
-}
-
 }  // namespace
 
 std::vector<FeaturedArtist> guestTable(const GameState& state) {
@@ -123,17 +112,6 @@ void renameCameo(Game& game, int64_t id, const std::string& name) {
   game.save(&GameState::AllCelebrityCameos, &GameState::celebrityCameoNamedChanges);
 }
 
-int64_t overallSkillRating(const GameState& state) {
-  const int64_t best =
-      std::max({state.songWriting, state.vocalRange, state.rhythm, state.charisma, state.virality, int64_t{1}});
-  return (sumOfTraits(state) + best) / 6;
-}
-
-int64_t talent(const GameState& state) {
-  const int64_t weakest = std::min({state.songWriting, state.vocalRange, state.rhythm, state.charisma, state.virality});
-  return (sumOfTraits(state) + std::min(weakest, int64_t{110})) / 6;
-}
-
 bool guestFor(const GameState& state, int64_t pickedId, Guest& guest) {
   if (pickedId < firstSignedArtistPick) {
     for (const FeaturedArtist& row : guestTable(state)) {
@@ -149,7 +127,7 @@ bool guestFor(const GameState& state, int64_t pickedId, Guest& guest) {
       artists.find([&](const SignedArtist& artist) { return artist.artistId == pickedId - firstSignedArtistPick; });
   if (found == artists.size()) return false;
   guest = {artists[found].name, static_cast<double>(artists[found].virality),
-           static_cast<double>(signedArtistRating(artists[found])), 0};
+           static_cast<double>(artistRating(artists[found])), 0};
   return true;
 }
 

@@ -19,12 +19,6 @@ inline constexpr int64_t firstSignedArtistPick = 50;
 void renameGuest(Game& game, int64_t id, const std::string& name);
 void renameCameo(Game& game, int64_t id, const std::string& name);
 
-/// The artist's skill as others see it: the five traits and the best of them again, over 6. The best counts twice.
-int64_t overallSkillRating(const GameState& state);
-
-/// The artist's talent when no guest helps: the five traits and the weakest of them again, that one up to 110, over 6.
-int64_t talent(const GameState& state);
-
 /// One guest as the song sees it.
 struct Guest {
   std::string name;

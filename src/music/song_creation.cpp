@@ -4,6 +4,7 @@
 #include <array>
 
 #include "career/label_contract.h"
+#include "career/skill.h"
 #include "core/calendar.h"
 #include "core/case_folding.h"
 #include "core/numbers.h"

@@ -13,7 +13,7 @@
 #include "music/listeners.h"
 #include "music/milestones.h"
 #include "music/streaming.h"
-#include "music/videos.h"
+#include "video/weekly_views.h"
 #include "wealth/real_estate_index.h"
 
 namespace backbeat {

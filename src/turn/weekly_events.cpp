@@ -4,6 +4,7 @@
 #include <array>
 #include <vector>
 
+#include "career/skill.h"
 #include "core/bands.h"
 #include "core/calendar.h"
 #include "core/case_folding.h"

@@ -1,7 +1,7 @@
 #include "career/energy.h"
 
-#include "career/energy_transparency_view_controller.h"
 #include "career/job_board.h"
+#include "career/screens/energy_transparency_view_controller.h"
 #include "support/views.h"
 #include "support/world.h"
 

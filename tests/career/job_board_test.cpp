@@ -1,7 +1,7 @@
 #include "career/job_board.h"
 
-#include "career/daily_life_view_controller.h"
-#include "career/job_board_view_controller.h"
+#include "career/screens/daily_life_view_controller.h"
+#include "career/screens/job_board_view_controller.h"
 #include "support/views.h"
 #include "support/world.h"
 

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "career/contract_end.h"
-#include "career/contract_offer_view_controller.h"
 #include "career/contract_offers.h"
-#include "career/signed_contract_view_controller.h"
+#include "career/screens/contract_offer_view_controller.h"
+#include "career/screens/signed_contract_view_controller.h"
 #include "support/world.h"
 
 namespace backbeat {

@@ -1,6 +1,6 @@
 #include "career/lifestyle.h"
 
-#include "career/lifestyle_choices_view_controller.h"
+#include "career/screens/lifestyle_choices_view_controller.h"
 #include "support/views.h"
 #include "support/world.h"
 

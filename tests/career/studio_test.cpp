@@ -1,6 +1,6 @@
 #include "career/studio.h"
 
-#include "career/my_studio_view_controller.h"
+#include "career/screens/my_studio_view_controller.h"
 #include "support/views.h"
 #include "support/world.h"
 

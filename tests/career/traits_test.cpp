@@ -1,6 +1,6 @@
 #include "career/traits.h"
 
-#include "career/my_music_view_controller.h"
+#include "career/screens/my_music_view_controller.h"
 #include "support/views.h"
 #include "support/world.h"
 

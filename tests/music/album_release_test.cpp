@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "music/add_to_album_view_controller.h"
 #include "music/album_creation.h"
 #include "music/marketing_plans.h"
-#include "music/music_view_controller.h"
+#include "music/screens/add_to_album_view_controller.h"
+#include "music/screens/music_view_controller.h"
+#include "music/screens/song_detail_view_controller.h"
 #include "music/song_creation.h"
-#include "music/song_detail_view_controller.h"
 #include "support/world.h"
 
 namespace backbeat {

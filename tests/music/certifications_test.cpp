@@ -4,7 +4,7 @@
 
 #include "core/own_photo.h"
 #include "music/milestones.h"
-#include "music/statistics.h"
+#include "music/screens/statistics.h"
 #include "support/world.h"
 
 namespace backbeat {

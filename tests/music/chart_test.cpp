@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "music/billboard_view_controller.h"
+#include "music/screens/billboard_view_controller.h"
 #include "support/world.h"
 
 namespace backbeat {

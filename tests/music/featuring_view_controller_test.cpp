@@ -1,9 +1,9 @@
-#include "music/featuring_view_controller.h"
+#include "music/screens/featuring_view_controller.h"
 
 #include <gtest/gtest.h>
 
-#include "music/change_names_view_controllers.h"
 #include "music/guests.h"
+#include "music/screens/change_names_view_controllers.h"
 #include "support/world.h"
 
 namespace backbeat {

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "music/create_a_song_view_controller.h"
 #include "music/guests.h"
 #include "music/production_options.h"
+#include "music/screens/create_a_song_view_controller.h"
 #include "music/song_release.h"
 #include "support/world.h"
 

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "social/create_twitter_message_view_controller.h"
-#include "social/twitter_profile_view_controller.h"
+#include "social/screens/create_twitter_message_view_controller.h"
+#include "social/screens/twitter_profile_view_controller.h"
 #include "support/world.h"
 
 namespace backbeat {

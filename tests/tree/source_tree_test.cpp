@@ -67,6 +67,7 @@ TEST(SourceTree, SeesEachBrokenRule) {
       {"src/core/a.h", once + "#include \"music/songs.h\"\n"},
       {"src/turn/a.cpp", "#include \"shell/registry.h\"\n"},
       {"src/core/a.h", once + "#include \"a.h\"\n"},
+      {"src/turn/a.cpp", "#include \"music/screens/song_rows.h\"\n"},
       {"src/attic/a.cpp", ""},
       {"src/music/a.cpp", "std::normal_distribution<double> d;\n"},
       {"src/music/a.cpp", "std::shuffle(a.begin(), a.end(), g);\n"},
@@ -100,6 +101,7 @@ TEST(SourceTree, LeavesHarmlessTextsAlone) {
   const std::string once = "#pragma once\n";
   const std::vector<Sample> harmless = {
       {"src/turn/a.cpp", "#include \"life/dating.h\"\n#include <vector>\n#include \"turn/a.h\"\n"},
+      {"src/turn/screens/a.cpp", "#include \"music/screens/song_rows.h\"\n"},
       {"src/shell/a.cpp", "auto now = std::chrono::system_clock::now();\nstd::unordered_map<int, int> m;\n"},
       {"src/music/a.cpp", "// time(nullptr), std::shuffle\nnote(\"std::pow(2, 3) \\\" rand()\");\n"},
       {"src/music/a.cpp",

@@ -2,9 +2,9 @@
 
 #include "support/views.h"
 #include "support/world.h"
-#include "turn/balance_sheet_view_controller.h"
-#include "turn/expense_view_controller.h"
-#include "turn/financial_view_controller.h"
+#include "turn/screens/balance_sheet_view_controller.h"
+#include "turn/screens/expense_view_controller.h"
+#include "turn/screens/financial_view_controller.h"
 #include "turn/weekly_report.h"
 
 namespace backbeat {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/world.h"
-#include "turn/data_view_controller.h"
+#include "turn/screens/data_view_controller.h"
 
 namespace backbeat {
 namespace {

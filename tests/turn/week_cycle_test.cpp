@@ -6,7 +6,7 @@
 #include <set>
 
 #include "support/world.h"
-#include "turn/weekly_summary_view_controller.h"
+#include "turn/screens/weekly_summary_view_controller.h"
 
 namespace backbeat {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "support/world.h"
 #include "turn/event_rewards.h"
-#include "turn/weekly_summary_view_controller.h"
+#include "turn/screens/weekly_summary_view_controller.h"
 
 namespace backbeat {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "support/views.h"
 #include "support/world.h"
-#include "turn/net_worth_view_controller.h"
+#include "turn/screens/net_worth_view_controller.h"
 
 namespace backbeat {
 namespace {

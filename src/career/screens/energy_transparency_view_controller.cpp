@@ -1,0 +1,110 @@
+#include "career/screens/energy_transparency_view_controller.h"
+
+#include <algorithm>
+
+#include "career/energy.h"
+#include "career/ledger.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr int64_t firstYear = 2023;
+constexpr int64_t lastLifestyle = 9;
+
+/// Only lines with a value are told.
+void addLine(Rows& rows, std::string glyph, std::string title, int64_t amount) {
+  if (amount == 0) return;
+  Row row;
+  row.picture = icon(std::move(glyph));
+  row.title = std::move(title);
+  row.value = (amount > 0 ? "+" : "") + std::to_string(amount);
+  row.tone = amount < 0 ? Tone::bad : Tone::good;
+  rows.items.push_back(std::move(row));
+}
+
+Rows weeklyCosts(const GameState& state) {
+  Rows rows;
+  if (!state.saveAllChildList.empty()) addLine(rows, "people", "Children ", -state.childEnergyCost);
+  if (state.weeklyEnergyCost >= 1) {
+    const int64_t weeks = state.weeklyJobContractRemaining;
+    addLine(rows, "briefcase", "Job (" + std::to_string(weeks) + (weeks <= 1 ? " week left) " : " weeks left) "),
+            -state.weeklyEnergyCost);
+  }
+  addLine(rows, "cart", "Merch ", -state.merchEnergyCost);
+  addLine(rows, "ticket", "On Tour ", -state.onTourEnergyCost);
+  addLine(rows, "label", "Record Label ", -state.openLabelEnergyCost);
+  return rows;
+}
+
+/// Years since the career began; with an inheritance, since this generation took over. A takeover without a year counts
+/// from the very beginning.
+int64_t yearsAged(const GameState& state) {
+  const bool heir = !state.saveAllLegacyList.empty() && state.ageAtTakeover != 0;
+  return state.yearNumber - (heir ? state.ageAtTakeover : firstYear);
+}
+
+Rows ceilingLosses(const GameState& state) {
+  Rows rows;
+  addLine(rows, "calendar", "Aging (-1/yr) ", -yearsAged(state));
+  addLine(rows, "health", "Annual Checkup ", std::min(state.annualCheckupTotal, int64_t{0}));
+  addLine(rows, "heart", "Breakup Drama ", -state.energyLossExDrama);
+  addLine(rows, "people", "Child Abandonment ", -state.childAbandonmentEnergyLoss);
+  return rows;
+}
+
+/// Fashion counts with the others, though its bonus is virality and never moved the ceiling: intended.
+int64_t lifestyleBoost(const GameState& state) {
+  int64_t sum = 0;
+  for (const WeeklyLineItem& item : state.saveAllWeeklyLineItems) {
+    const int64_t code = item.typeOfExpense;
+    if (code <= lastLifestyle || (code >= expense::firstProperty && code <= expense::lastProperty)) {
+      sum += item.energyBoost;
+    }
+  }
+  return sum;
+}
+
+Rows ceilingGains(const GameState& state) {
+  Rows rows;
+  addLine(rows, "health", "Annual Checkup ", std::max(state.annualCheckupTotal, int64_t{0}));
+  addLine(rows, "life", "Lifestyle ", lifestyleBoost(state));
+  int64_t relationship = 0;
+  for (const Matches& match : state.saveAllMatchesList) {
+    if (match.relationshipState >= 1) relationship += match.energyBonus;
+  }
+  addLine(rows, "heart", "Relationship ", relationship);
+  return rows;
+}
+
+void describe(View& view, std::string heading, Rows rows, std::string none) {
+  view.add(Heading{std::move(heading), {}});
+  if (rows.items.empty()) {
+    view.add(Text{std::move(none), Tone::plain, Text::Style::caption});
+  } else {
+    view.add(std::move(rows));
+  }
+}
+
+}  // namespace
+
+View EnergyTransparencyViewController::view() const {
+  View view;
+  view.title = "Energy";
+  Tiles tiles;
+  tiles.items.push_back({"bolt", "Now", std::to_string(state().totalEnergyAvailable), "this week", Tone::plain, ""});
+  tiles.items.push_back({"trend", "Ceiling", std::to_string(state().totalEnergyMax), "max energy", Tone::plain, ""});
+  tiles.items.push_back(
+      {"calendar", "Next week", std::to_string(nextWeeksEnergy(state())), "after costs", Tone::plain, ""});
+  view.add(std::move(tiles));
+  describe(view, "ENERGY COSTS (WEEKLY)", weeklyCosts(state()), "Nothing takes energy from you every week.");
+  describe(view, "MAX ENERGY LOSS", ceilingLosses(state()), "Nothing has worn you out yet.");
+  describe(view, "MAX ENERGY GAIN", ceilingGains(state()), "Eat, rest and move better to raise your ceiling.");
+  view.help = Help{"Energy",
+                   "Every week your energy refills to the ceiling, less what your duties cost. What you do not use is "
+                   "gone; only energy above the ceiling stays.\n\nEach birthday takes one point of ceiling. A better "
+                   "life gives some back."};
+  return view;
+}
+
+}  // namespace backbeat

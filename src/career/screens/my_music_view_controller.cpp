@@ -1,0 +1,71 @@
+#include "career/screens/my_music_view_controller.h"
+
+#include <algorithm>
+
+#include "career/traits.h"
+
+namespace backbeat {
+
+namespace {
+
+Row traitRow(const GameState& state, const Trait& trait) {
+  Row row;
+  const int64_t level = state.*trait.level;
+  row.id = "levelUpTrait:" + std::string(trait.key);
+  row.picture = icon(std::string(trait.icon));
+  row.title = trait.title;
+  row.subtitle = trait.effect;
+  if (trait.level == &GameState::virality && state.fashionViralityBonus > 0) {
+    row.subtitle = "+" + std::to_string(state.fashionViralityBonus) + " from your style";
+  }
+  row.value = std::to_string(level);
+  row.share = std::clamp(static_cast<double>(level) / static_cast<double>(trait.highestLevel), 0.0, 1.0);
+  if (trait.needsLabel && state.isLabelLaunched < 1) row.tone = Tone::locked;
+  if (isFinished(state, trait)) {
+    row.badge = "MAX";
+    return row;
+  }
+  row.note = "next " + std::to_string(nextLevel(state, trait));
+  row.price = Price{state.*trait.cost, 0};
+  return row;
+}
+
+Rows traitRows(const GameState& state, bool business) {
+  Rows rows;
+  for (const Trait& trait : traits) {
+    if (trait.needsLabel == business) rows.items.push_back(traitRow(state, trait));
+  }
+  return rows;
+}
+
+}  // namespace
+
+Outcome MyMusicViewController::act(const Action& action) {
+  if (action.verb() != "levelUpTrait") return {};
+  const Trait* trait = traitNamed(action.argument());
+  return trait ? levelUpTrait(game_, *trait) : Outcome{};
+}
+
+View MyMusicViewController::view() const {
+  View view;
+  view.title = "Traits";
+  view.subtitle = "Energy makes you better";
+  view.add(Heading{"ARTIST TRAITS", {}});
+  view.add(traitRows(state(), false));
+  view.add(Heading{"BUSINESS TRAITS", {}});
+  if (state().isLabelLaunched < 1) {
+    view.add(Text{"These wait for the day you launch your own record label.", Tone::locked, Text::Style::caption});
+  }
+  view.add(traitRows(state(), true));
+  view.help = Help{
+      "Traits",
+      "\nArtist Traits determine the rating of your songs and albums. Level up your traits to 100 to earn more streams "
+      "and album sales.\n\nVirality costs twice the energy but can help your music reach larger audiences which means "
+      "more 💰 in your pockets.\n\nBUSINESS TRAITS\nUnlock business traits once you launch your own record label. These "
+      "level twice as fast as your artist traits.\n\nEach trait is related to a department of your label and helps you "
+      "attract talent, increase revenue, recruit staff and lead your label to success. Leadership helps improve your "
+      "staff's happiness and energy."};
+  return view;
+}
+
+}  // namespace backbeat

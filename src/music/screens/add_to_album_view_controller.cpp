@@ -1,0 +1,51 @@
+#include "music/screens/add_to_album_view_controller.h"
+
+#include "music/album_release.h"
+#include "music/screens/album_rows.h"
+#include "music/song_release.h"
+
+namespace backbeat {
+
+Outcome AddToAlbumViewController::act(const Action& action) {
+  if (action.id == "albums") albums_.moveTo(action.value);
+  if (action.verb() != "album") return {};
+  const auto id = wholeNumber(action.argument());
+  for (const size_t position : offered()) {
+    const Album& album = state().saveAllAlbumList[position];
+    if (album.albumId == id) return addSongToAlbum(game_, songId_, album.title);
+  }
+  return {};
+}
+
+std::vector<size_t> AddToAlbumViewController::offered() const {
+  std::vector<size_t> positions = albumsInProduction(state());
+  const auto song = songPosition(state(), songId_);
+  if (!song) return {};
+  std::erase_if(positions, [&](size_t position) {
+    return state().saveAllAlbumList[position].albumId == state().saveAllSongList[*song].albumId;
+  });
+  return positions;
+}
+
+View AddToAlbumViewController::view() const {
+  View view;
+  view.title = "Add to Album";
+  const auto song = songPosition(state(), songId_);
+  if (song) view.subtitle = state().saveAllSongList[*song].title;
+  const std::vector<size_t> positions = offered();
+  if (positions.empty()) {
+    view.add(EmptyHint{"album", "The song is on the only album in production. Create another one on the Music tab."});
+    return view;
+  }
+  view.add(windowedRows("albums", albums_, static_cast<int64_t>(positions.size()), [&](size_t i) {
+    Row row = albumRow(state(), state().saveAllAlbumList[positions[i]]);
+    row.opens = false;
+    return row;
+  }));
+  view.help = Help{"Songs and albums",
+                   "A song moves to the album you press and comes out with it at the latest. You can still release it "
+                   "as a single before."};
+  return view;
+}
+
+}  // namespace backbeat

@@ -1,0 +1,110 @@
+#include "music/screens/album_detail_view_controller.h"
+
+#include <algorithm>
+
+#include "core/money.h"
+#include "music/album_creation.h"
+#include "music/album_release.h"
+#include "music/covers.h"
+#include "music/screens/album_rows.h"
+#include "music/screens/song_rows.h"
+#include "music/screens/statistics.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr size_t weeksOnGraph = 26;
+
+Button button(std::string id, std::string label) {
+  Button shown;
+  shown.id = std::move(id);
+  shown.label = std::move(label);
+  return shown;
+}
+
+}  // namespace
+
+Outcome AlbumDetailViewController::act(const Action& action) {
+  const auto position = albumPosition(state(), albumId_);
+  if (!position) return {};
+  const std::string id = std::to_string(albumId_);
+  const bool isReleased = state().saveAllAlbumList[*position].isReleased;
+  if (action.id == "releaseButton") return releaseAlbum(game_, albumId_);
+  if (action.id == "pricingButton" && !isReleased) return goTo("goToSetAlbumPricing", id);
+  // What markets an album in production tells of its sales once it is out.
+  if (action.id == "marketingButton") return goTo(isReleased ? "goToAlbumChartDetail" : "goToSetAlbumMarketing", id);
+  if (action.verb() == "song") return goTo("goToSongDetail", std::string(action.argument()));
+  if (action.id == "songs") songs_.moveTo(action.value);
+  return {};
+}
+
+View AlbumDetailViewController::view() const {
+  View view;
+  const auto position = albumPosition(state(), albumId_);
+  if (!position) {
+    view.title = "Album";
+    view.add(EmptyHint{"album", "This album is no longer there."});
+    return view;
+  }
+  const Album& album = state().saveAllAlbumList[*position];
+  view.title = album.title;
+  Cover head;
+  head.picture = coverOf(state(), album);
+  head.title = album.title;
+  head.text = albumFormat(album);
+  head.text += album.isReleased ? "\nReleased in " + std::to_string(album.releaseYear) : "\nIn Production";
+  view.add(std::move(head));
+  if (album.isReleased) {
+    describeReleased(view, album);
+  } else {
+    describeProduction(view, album);
+  }
+  describeSongs(view);
+  return view;
+}
+
+void AlbumDetailViewController::describeProduction(View& view, const Album& album) const {
+  view.add(Meter{"Production rating", withDecimals(album.productionRating, 2),
+                 std::clamp(album.productionRating / 100, 0.0, 1.0), Tone::plain});
+  view.add(Heading{"Before the release", {}});
+  if (const int64_t missing = fewestSongsOnAlbum - album.songCount; missing > 0) {
+    view.add(Text{counted(missing, "more song") + " and it can come out.", Tone::warning, Text::Style::body});
+  }
+  view.add(button("pricingButton", "SET PRICING (" + price(album.price) + ")"));
+  view.add(button("marketingButton", "MARKETING"));
+  Button release = button("releaseButton", "RELEASE");
+  release.price = Price{albumReleaseEnergyCost, 0};
+  release.style = Button::Style::primary;
+  view.mainAction = std::move(release);
+  view.help = Help{"Before the release",
+                   "Three songs make an album. With six it is an LP, with fewer an EP.\n\nThe songs that are not out "
+                   "yet come out with it, for the 10 energy of one release. Price and marketing can only be set "
+                   "before."};
+}
+
+void AlbumDetailViewController::describeReleased(View& view, const Album& album) const {
+  view.add(salesChart(state(), album, weeksOnGraph));
+  view.add(albumCertificationMeter(album));
+  const WeeklyFigures figures = albumFigures(state(), album.albumId);
+  Tiles tiles;
+  tiles.items.push_back({"star", "Rating", withDecimals(album.productionRating, 1), "", Tone::plain, ""});
+  tiles.items.push_back({"cash", "Earned", "$" + abbreviated(figures.earned), "", Tone::plain, ""});
+  tiles.items.push_back({"cart", "Price", price(album.price), "", Tone::plain, ""});
+  view.add(std::move(tiles));
+  view.add(Text{"RELEASED ", Tone::good, Text::Style::caption});
+  view.add(button("marketingButton", "Statistics"));
+}
+
+void AlbumDetailViewController::describeSongs(View& view) const {
+  view.add(Heading{"Songs", {}});
+  const std::vector<size_t> positions = songsOnAlbum(state(), albumId_);
+  if (positions.empty()) {
+    view.add(EmptyHint{"note", "No songs yet. Pick this album when you create a song, or add one from its own page."});
+    return;
+  }
+  view.add(windowedRows("songs", songs_, static_cast<int64_t>(positions.size()),
+                        [&](size_t i) { return songRow(state(), state().saveAllSongList[positions[i]]); }));
+}
+
+}  // namespace backbeat

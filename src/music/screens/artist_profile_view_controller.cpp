@@ -1,0 +1,112 @@
+#include "music/screens/artist_profile_view_controller.h"
+
+#include <algorithm>
+
+#include "core/money.h"
+#include "core/own_photo.h"
+#include "core/text.h"
+#include "music/screens/album_rows.h"
+#include "music/screens/song_rows.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr size_t popularShown = 5;
+constexpr size_t longestAbout = 600;
+
+}  // namespace
+
+Outcome ArtistProfileViewController::act(const Action& action) {
+  if (action.verb() == "song") return goTo("goToSongDetail", std::string(action.argument()));
+  if (action.verb() == "album") return goTo("goToAlbumDetail", std::string(action.argument()));
+  if (action.id == "goToMonthlyListenerDetail" || action.id == "goToCertification") return goTo(action.id);
+  if (action.id == "albums") albums_.moveTo(action.value);
+  if (action.id == "about") return writeAbout(action.value);
+  if (action.id == "photo") return takePhoto(action.value);
+  if (action.id == "removePhoto") return takePhoto("");
+  return {};
+}
+
+Outcome ArtistProfileViewController::writeAbout(const std::string& text) {
+  game_.state.aboutDescription = firstCharacters(text, longestAbout);
+  game_.save(&GameState::aboutDescription);
+  return {};
+}
+
+Outcome ArtistProfileViewController::takePhoto(const std::string& address) {
+  if (!address.empty()) {
+    if (auto refusal = photoRefusal(address)) return *refusal;
+  }
+  game_.state.twitterProfileImage = address;
+  game_.save(&GameState::twitterProfileImage);
+  return success();
+}
+
+View ArtistProfileViewController::view() const {
+  View view;
+  view.title = "Artist Profile";
+  Cover head;
+  head.picture = artistPicture(state());
+  head.title = state().myArtistsName;
+  head.text = withCommas(state().totalFans) + " monthly listeners";
+  view.add(std::move(head));
+  describePopular(view);
+  describeAlbums(view);
+  view.add(Heading{"About", {}});
+  TextField about;
+  about.id = "about";
+  about.label = "In your own words";
+  about.value = state().aboutDescription;
+  about.placeholder = "Tell your listeners who you are";
+  about.maxLength = static_cast<int64_t>(longestAbout);
+  about.multiline = true;
+  view.add(std::move(about));
+  view.add(photoField(state().twitterProfileImage));
+  if (!state().twitterProfileImage.empty()) {
+    Button remove;
+    remove.id = "removePhoto";
+    remove.label = "Remove Photo";
+    remove.style = Button::Style::destructive;
+    view.add(std::move(remove));
+  }
+  return view;
+}
+
+void ArtistProfileViewController::describePopular(View& view) const {
+  std::vector<const Song*> songs;
+  for (const Song& song : state().saveAllSongList) {
+    if (song.isReleased) songs.push_back(&song);
+  }
+  if (songs.empty()) {
+    view.add(EmptyHint{"note", "Your page is empty. Release a song and the world can press play."});
+    return;
+  }
+  std::stable_sort(songs.begin(), songs.end(),
+                   [](const Song* a, const Song* b) { return a->totalListen > b->totalListen; });
+  view.add(Heading{"Popular", Link{"goToCertification", "Certifications"}});
+  Rows rows;
+  for (size_t i = 0; i < std::min(popularShown, songs.size()); ++i) {
+    Row row = songRow(state(), *songs[i]);
+    row.subtitle = std::to_string(i + 1) + " · " + songs[i]->album;
+    rows.items.push_back(std::move(row));
+  }
+  view.add(std::move(rows));
+}
+
+void ArtistProfileViewController::describeAlbums(View& view) const {
+  const RecordList<Album>& albums = state().saveAllAlbumList;
+  std::vector<size_t> released;
+  for (size_t i = albums.size(); i-- > 0;) {
+    if (albums[i].isReleased) released.push_back(i);
+  }
+  if (released.empty()) return;
+  view.add(Heading{"Albums", {}});
+  view.add(windowedRows("albums", albums_, static_cast<int64_t>(released.size()), [&](size_t i) {
+    Row row = albumRow(state(), albums[released[i]]);
+    row.subtitle = std::to_string(albums[released[i]].releaseYear) + " · " + albumFormat(albums[released[i]]);
+    return row;
+  }));
+}
+
+}  // namespace backbeat

@@ -1,0 +1,97 @@
+#include "music/screens/change_names_view_controllers.h"
+
+#include <algorithm>
+
+#include "core/money.h"
+#include "core/text.h"
+#include "music/guests.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr int64_t longestName = 40;
+
+}  // namespace
+
+Outcome ChangeNamesViewController::open() {
+  for (const Person& person : people()) {
+    if (person.id == id_) typed_ = person.name;
+  }
+  return {};
+}
+
+Outcome ChangeNamesViewController::act(const Action& action) {
+  if (action.id == "name") typed_ = action.value;
+  if (action.id == "saveButton") return saveButton();
+  if (action.verb() == "person") return goTo(ownSegue(), std::string(action.argument()));
+  return {};
+}
+
+Outcome ChangeNamesViewController::saveButton() {
+  const std::string name = firstCharacters(trimmed(typed_), longestName);
+  if (name.empty()) return alert("🎤 Name Needed 🎤", "\nEverybody in this business needs a name.");
+  rename(id_, name);
+  Outcome outcome = success();
+  outcome += closeScreen();
+  return outcome;
+}
+
+View ChangeNamesViewController::view() const {
+  View view;
+  view.title = title();
+  const std::vector<Person> all = people();
+  const auto chosen = std::find_if(all.begin(), all.end(), [&](const Person& one) { return one.id == id_; });
+  if (chosen == all.end()) {
+    view.subtitle = "Give them other names";
+    Rows rows;
+    for (const Person& one : all) {
+      Row row;
+      row.id = "person:" + std::to_string(one.id);
+      row.picture = person(one.name);
+      row.title = one.name;
+      row.value = currency(static_cast<double>(one.cost));
+      row.opens = true;
+      rows.items.push_back(std::move(row));
+    }
+    view.add(std::move(rows));
+    return view;
+  }
+  view.picture = person(typed_);
+  view.subtitle = chosen->name;
+  TextField field;
+  field.id = "name";
+  field.label = "Name";
+  field.value = typed_;
+  field.placeholder = chosen->name;
+  field.maxLength = longestName;
+  view.add(std::move(field));
+  view.add(Text{"Cost and talent stay as they are. Songs that are made already keep the old name.", Tone::plain,
+                Text::Style::caption});
+  Button save;
+  save.id = "saveButton";
+  save.label = "Save the name";
+  save.style = Button::Style::primary;
+  view.mainAction = std::move(save);
+  return view;
+}
+
+std::vector<ChangeNamesViewController::Person> ChangeFeaturedArtistNameViewController::people() const {
+  std::vector<Person> people;
+  for (const FeaturedArtist& guest : guestTable(state())) people.push_back({guest.id, guest.name, guest.cost});
+  return people;
+}
+
+void ChangeFeaturedArtistNameViewController::rename(int64_t id, const std::string& name) {
+  renameGuest(game_, id, name);
+}
+
+std::vector<ChangeNamesViewController::Person> ChangeCameoNamesViewController::people() const {
+  std::vector<Person> people;
+  for (const CelebrityCameo& cameo : cameoTable(state())) people.push_back({cameo.id, cameo.name, cameo.cost});
+  return people;
+}
+
+void ChangeCameoNamesViewController::rename(int64_t id, const std::string& name) { renameCameo(game_, id, name); }
+
+}  // namespace backbeat

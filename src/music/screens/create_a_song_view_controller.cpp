@@ -1,0 +1,173 @@
+#include "music/screens/create_a_song_view_controller.h"
+
+#include <algorithm>
+
+#include "core/case_folding.h"
+#include "core/money.h"
+#include "core/random.h"
+#include "music/covers.h"
+#include "music/genres.h"
+#include "music/guests.h"
+#include "music/title_pools.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr int64_t songsThatFillAnAlbum = 20;
+constexpr std::array<const char*, 3> choiceIds = {"writing", "musicality", "studio"};
+constexpr std::array<const char*, 3> choiceLabels = {"Songwriting", "Musicality", "Studio"};
+
+/// Ratings are coloured below 25, 50, 80 and above.
+Tone toneOfRating(int64_t rating) {
+  if (rating < 25) return Tone::bad;
+  if (rating < 50) return Tone::warning;
+  if (rating < 80) return Tone::plain;
+  return Tone::good;
+}
+
+Choice describe(size_t list, const std::vector<ProductionOption>& options, size_t chosen) {
+  Choice choice;
+  choice.id = choiceIds[list];
+  choice.label = choiceLabels[list];
+  choice.selected = static_cast<int64_t>(chosen);
+  for (const ProductionOption& option : options) {
+    Option shown;
+    shown.label = option.name;
+    shown.note = "Rating | " + std::to_string(option.rating);
+    shown.tone = toneOfRating(option.rating);
+    if (option.cost > 0) shown.price = Price{0, static_cast<double>(option.cost)};
+    choice.options.push_back(std::move(shown));
+  }
+  return choice;
+}
+
+const std::vector<ProductionOption>& listOf(const ProductionOptions& options, size_t list) {
+  return list == 0 ? options.writing : list == 1 ? options.musicality : options.studio;
+}
+
+}  // namespace
+
+Outcome CreateASongViewController::open() {
+  options_ = drawProductionOptions(game_);
+  genre_ = std::clamp<int64_t>(state().saveGenreForNextTime, 0, static_cast<int64_t>(genres.size()) - 1);
+  for (size_t list = 0; list < chosen_.size(); ++list) {
+    chosen_[list] = std::min(game_.launch.lastProductionChoices[list], listOf(options_, list).size() - 1);
+  }
+  ensureSingleAlbum(game_);
+  return {};
+}
+
+Outcome CreateASongViewController::act(const Action& action) {
+  if (action.id == "createSongButton") return createSongButton();
+  if (action.id == "goToFeaturedArtists") return goTo(action.id);
+  if (action.id == "title") title_ = action.value;
+  if (action.id == "dice") title_ = suggestedTitle(hashOf(std::to_string(state().songId), ++diceThrows_));
+  if (action.id == "explicit") isExplicit_ = action.value == "1";
+  for (size_t list = 0; list < choiceIds.size(); ++list) {
+    if (action.id != choiceIds[list]) continue;
+    if (const auto number = optionNumber(action.value, listOf(options_, list).size())) chosen_[list] = *number;
+    game_.launch.lastProductionChoices = chosen_;
+  }
+  if (action.id == "genre") {
+    if (const auto number = optionNumber(action.value, genres.size())) genre_ = static_cast<int64_t>(*number);
+  }
+  if (action.id == "album") {
+    const std::vector<std::string> labels = albumPicker();
+    if (const auto number = optionNumber(action.value, labels.size())) albumLabel_ = labels[*number];
+  }
+  return {};
+}
+
+Outcome CreateASongViewController::createSongButton() {
+  Outcome outcome = createSong(game_, draft());
+  const bool refusedTitle = !outcome.alerts.empty() && outcome.alerts.front().title.find("Title") != std::string::npos;
+  if (refusedTitle) title_.clear();
+  return outcome;
+}
+
+std::vector<std::string> CreateASongViewController::albumPicker() const {
+  std::vector<std::string> labels = {"Single"};
+  for (const Album& album : state().saveAllAlbumList) {
+    if (album.isReleased || album.albumId == 0 || album.songCount >= songsThatFillAnAlbum) continue;
+    const std::string label = album.title + " (" + std::to_string(album.songCount) + ")";
+    if (std::find(labels.begin(), labels.end(), label) == labels.end()) labels.push_back(label);
+  }
+  return labels;
+}
+
+SongDraft CreateASongViewController::draft() const {
+  SongDraft draft;
+  draft.title = title_;
+  const ProductionOption& writing = options_.writing[chosen_[0]];
+  const ProductionOption& musicality = options_.musicality[chosen_[1]];
+  const ProductionOption& studio = options_.studio[chosen_[2]];
+  draft.finalSongWritingRating = writing.rating;
+  draft.finalMusicalityRating = musicality.rating;
+  draft.finalStudioRating = studio.rating;
+  draft.productionCost = writing.cost + musicality.cost + studio.cost;
+  draft.album = albumLabel_.substr(0, albumLabel_.find(" ("));
+  draft.guests = game_.launch.selectedFeaturedArtists;
+  draft.isExplicit = isExplicit_;
+  draft.genre = genre_;
+  return draft;
+}
+
+View CreateASongViewController::view() const {
+  View view;
+  view.title = "Create a Song";
+  const SongDraft song = draft();
+  Cover head;
+  head.picture = cover(title_.empty() ? "Untitled" : title_);
+  head.title = title_.empty() ? "Untitled song" : title_;
+  head.text = std::string(genres[static_cast<size_t>(genre_)]) + " · " + song.album;
+  view.add(std::move(head));
+  TextField field;
+  field.id = "title";
+  field.label = "Title";
+  field.value = title_;
+  field.placeholder = "Name your song";
+  field.suggest = "dice";
+  view.add(std::move(field));
+  view.add(Heading{"Production", {}});
+  for (size_t list = 0; list < choiceIds.size(); ++list) {
+    view.add(describe(list, listOf(options_, list), chosen_[list]));
+  }
+  view.add(Heading{"Guests", {}});
+  Row guests = wayTo("goToFeaturedArtists", "guest", "Featured artists");
+  for (const int64_t id : song.guests) {
+    Guest guest;
+    if (guestFor(state(), id, guest)) guests.subtitle += (guests.subtitle.empty() ? "feat. " : ", ") + guest.name;
+  }
+  if (guests.subtitle.empty()) guests.subtitle = "Nobody yet: going alone";
+  view.add(Rows{{std::move(guests)}});
+  view.add(Heading{"Details", {}});
+  Choice album;
+  album.id = "album";
+  album.label = "Album";
+  const std::vector<std::string> labels = albumPicker();
+  for (const std::string& label : labels) album.options.push_back({label, "", Tone::plain, {}});
+  album.selected = std::max<int64_t>(std::find(labels.begin(), labels.end(), albumLabel_) - labels.begin(), 0);
+  if (album.selected == static_cast<int64_t>(labels.size())) album.selected = 0;
+  view.add(std::move(album));
+  Choice genre;
+  genre.id = "genre";
+  genre.label = "Genre";
+  for (const std::string_view name : genres) genre.options.push_back({std::string(name), "", Tone::plain, {}});
+  genre.selected = genre_;
+  view.add(std::move(genre));
+  view.add(Toggle{"explicit", "Explicit", isExplicit_, "Carries the \"E\" mark"});
+  Button create;
+  create.id = "createSongButton";
+  create.label = "Create Song";
+  create.price = Price{songEnergyCost, static_cast<double>(costToProduceSong(state(), song))};
+  create.style = Button::Style::primary;
+  view.mainAction = std::move(create);
+  view.help = Help{"How a song turns out",
+                   "The rating is nearly the mean of songwriting, musicality, studio, your charisma and a roll of your "
+                   "virality, with some luck on top. One weak input drags the song down.\n\nThe rating is also the "
+                   "number of weeks the song lives. A guest lends half of what they have."};
+  return view;
+}
+
+}  // namespace backbeat

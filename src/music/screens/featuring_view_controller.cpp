@@ -1,0 +1,132 @@
+#include "music/screens/featuring_view_controller.h"
+
+#include <algorithm>
+
+#include "career/skill.h"
+#include "core/money.h"
+#include "core/numbers.h"
+#include "music/guests.h"
+
+namespace backbeat {
+
+namespace {
+
+bool holds(const std::vector<int64_t>& ids, int64_t id) { return std::find(ids.begin(), ids.end(), id) != ids.end(); }
+
+/// The skill that a guest asks for; signed artists ask for none.
+int64_t minimumRatingOf(const GameState& state, int64_t pickedId) {
+  for (const FeaturedArtist& row : guestTable(state)) {
+    if (row.id == pickedId) return row.minimumRating;
+  }
+  return 0;
+}
+
+}  // namespace
+
+Outcome FeaturingViewController::open() {
+  std::vector<int64_t>& selected = game_.launch.selectedFeaturedArtists;
+  std::erase_if(selected, [&](int64_t pickedId) {
+    Guest guest;
+    return !guestFor(state(), pickedId, guest);
+  });
+  addedBefore_ = selected;
+  return {};
+}
+
+Outcome FeaturingViewController::act(const Action& action) {
+  const auto pickedId = wholeNumber(action.argument());
+  if (!pickedId) return {};
+  if (action.verb() == "add") return addButton(*pickedId);
+  if (action.verb() == "changeName") return changeNameButton(*pickedId);
+  return {};
+}
+
+Outcome FeaturingViewController::addButton(int64_t pickedId) {
+  std::vector<int64_t>& selected = game_.launch.selectedFeaturedArtists;
+  Guest guest;
+  if (!guestFor(state(), pickedId, guest)) return {};
+  if (isOnTheSong(pickedId)) {
+    std::erase(selected, pickedId);
+    return {};
+  }
+  if (selected.size() >= mostGuestsOnASong) {
+    return alert("🎤 Featured Limit Reached 🎤", "\nYou can only feature up to 3 artists on a track.");
+  }
+  const int64_t asked = minimumRatingOf(state(), pickedId);
+  if (asked > overallSkillRating(state())) {
+    return alert("🎤 Not Yet 🎤", "\n" + guest.name + " only records with artists of a skill rating of " +
+                                    std::to_string(asked) + ". Yours is " +
+                                    std::to_string(overallSkillRating(state())) + ".");
+  }
+  selected.push_back(pickedId);
+  return success();
+}
+
+Outcome FeaturingViewController::changeNameButton(int64_t pickedId) {
+  Guest guest;
+  if (!guestFor(state(), pickedId, guest)) return {};
+  if (pickedId >= firstSignedArtistPick) {
+    return alert("🎤 Signed Artist🎤", "\nYou can't change the name of signed or created artists at this time.");
+  }
+  return goTo("goToChangeFeaturedArtistName", std::to_string(pickedId));
+}
+
+bool FeaturingViewController::isOnTheSong(int64_t pickedId) const {
+  return holds(game_.launch.selectedFeaturedArtists, pickedId);
+}
+
+Row FeaturingViewController::describe(int64_t pickedId, const std::string& name, double rating, double virality) const {
+  Row row;
+  row.id = "add:" + std::to_string(pickedId);
+  row.picture = person(name);
+  row.title = name;
+  row.subtitle = "Rating " + withDecimals(rating, 0) + " · Virality " + withDecimals(virality, 0);
+  row.actions.push_back({"changeName:" + std::to_string(pickedId), "Change the name", Tone::plain});
+  if (isOnTheSong(pickedId)) {
+    row.selected = true;
+    row.note = holds(addedBefore_, pickedId) ? "Already Added" : "Added";
+  }
+  return row;
+}
+
+View FeaturingViewController::view() const {
+  View view;
+  view.title = "FEATURED ARTISTS";
+  const size_t selected = game_.launch.selectedFeaturedArtists.size();
+  const int64_t skill = overallSkillRating(state());
+  view.subtitle = std::to_string(selected) + " of " + std::to_string(mostGuestsOnASong) + " added";
+  Tiles tiles;
+  tiles.items.push_back({"star", "Your skill rating", std::to_string(skill), "", Tone::plain, ""});
+  view.add(std::move(tiles));
+  if (!state().saveAllSignedArtistList.empty()) {
+    view.add(Heading{"Your label", {}});
+    Rows artists;
+    for (const SignedArtist& artist : state().saveAllSignedArtistList) {
+      const int64_t pickedId = firstSignedArtistPick + artist.artistId;
+      Guest guest;
+      if (!guestFor(state(), pickedId, guest)) continue;
+      artists.items.push_back(describe(pickedId, guest.name, guest.rating, guest.virality));
+    }
+    view.add(std::move(artists));
+    view.add(Heading{"For hire", {}});
+  }
+  Rows guests;
+  for (const FeaturedArtist& guest : guestTable(state())) {
+    Row row = describe(guest.id, guest.name, guest.rating, guest.virality);
+    row.price =
+        Price{0, static_cast<double>(truncate(static_cast<double>(guest.cost) * state().contractFeatureDiscount))};
+    if (guest.minimumRating > skill) {
+      row.tone = Tone::locked;
+      row.note = "Skill " + std::to_string(guest.minimumRating);
+    }
+    guests.items.push_back(std::move(row));
+  }
+  view.add(std::move(guests));
+  view.help = Help{"Guests",
+                   "A guest lends the song half of their rating and half of their virality; several guests lend the "
+                   "mean of theirs. They are paid when the song is made.\n\nYour skill rating opens doors: each star "
+                   "asks for a certain one. Artists of your own label sing for free."};
+  return view;
+}
+
+}  // namespace backbeat

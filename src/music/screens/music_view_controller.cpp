@@ -1,0 +1,168 @@
+#include "music/screens/music_view_controller.h"
+
+#include <algorithm>
+
+#include "career/ledger.h"
+#include "core/money.h"
+#include "core/own_photo.h"
+#include "core/record_codec.h"
+#include "music/album_release.h"
+#include "music/screens/album_rows.h"
+#include "music/screens/song_rows.h"
+#include "music/song_creation.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr std::string_view oldSongListKey = "AllSongList";
+
+constexpr std::string_view segues[] = {"goToBillboard", "goToMonthlyListenerDetail", "goToCertification",
+                                       "goToArtistProfile"};
+
+template <class T>
+std::vector<size_t> positionsWhere(const RecordList<T>& list, bool released) {
+  std::vector<size_t> positions;
+  for (size_t i = 0; i < list.size(); ++i) {
+    if (list[i].isReleased == released) positions.push_back(i);
+  }
+  return positions;
+}
+
+std::vector<size_t> releasedAlbums(const GameState& state) { return positionsWhere(state.saveAllAlbumList, true); }
+
+/// The latest release first; the list itself is in the order of virality.
+std::vector<size_t> releasedSongs(const GameState& state) {
+  const RecordList<Song>& songs = state.saveAllSongList;
+  std::vector<size_t> positions = positionsWhere(songs, true);
+  const auto age = [&](size_t i) { return std::pair(songs[i].releaseWeek, songs[i].songId); };
+  std::sort(positions.begin(), positions.end(), [&](size_t a, size_t b) { return age(a) > age(b); });
+  return positions;
+}
+
+}  // namespace
+
+Outcome MusicViewController::open() {
+  if (game_.launch.musicScreenLoaded) return {};
+  game_.launch.musicScreenLoaded = true;
+  ensureBasicNeeds(game_);
+  if (const auto blob = game_.saveFile.object(oldSongListKey)) {
+    if (auto songs = decodeRecords<Song>(*blob)) game_.state.saveAllSongList.assign(std::move(*songs));
+  }
+  return {};
+}
+
+Outcome MusicViewController::appear() {
+  if (game_.state.promptToEnterName == 0) return goTo("goToEnterName");
+  return {};
+}
+
+Outcome MusicViewController::act(const Action& action) {
+  if (action.id == "createSongButton") return createSongButton();
+  if (action.id == "createAlbumButton") return createAlbumButton();
+  if (action.verb() == "song") return goTo("goToSongDetail", std::string(action.argument()));
+  if (action.verb() == "album") return goTo("goToAlbumDetail", std::string(action.argument()));
+  if (action.id == "released") released_.moveTo(action.value);
+  if (action.id == "releasedAlbums") releasedAlbums_.moveTo(action.value);
+  if (action.id == "kind") {
+    if (const auto number = optionNumber(action.value, 2)) showsAlbums_ = *number == 1;
+  }
+  if (std::find(std::begin(segues), std::end(segues), action.id) != std::end(segues)) return goTo(action.id);
+  return {};
+}
+
+Outcome MusicViewController::createSongButton() {
+  game_.state.songId += 1;
+  game_.state.albumId += 1;
+  game_.state.loginCount = 1;
+  game_.save(&GameState::songId, &GameState::albumId, &GameState::loginCount);
+  return goTo("goToCreateASong");
+}
+
+Outcome MusicViewController::createAlbumButton() const { return goTo("goToCreateAnAlbum"); }
+
+View MusicViewController::view() const {
+  View view;
+  view.title = "Music";
+  view.subtitle = counted(static_cast<int64_t>(releasedSongs(state()).size()), "song") + " and " +
+                  counted(static_cast<int64_t>(releasedAlbums(state()).size()), "album") + " released";
+  view.picture = artistPicture(state());
+  Button song;
+  song.id = "createSongButton";
+  song.label = "Create a Song";
+  song.price = Price{songEnergyCost, 0};
+  song.pulse = state().loginCount == 0;
+  song.style = Button::Style::primary;
+  view.add(std::move(song));
+  Button album;
+  album.id = "createAlbumButton";
+  album.label = "Create an Album";
+  view.add(std::move(album));
+  Choice kind;
+  kind.id = "kind";
+  kind.label = "Your music";
+  kind.style = Choice::Style::segments;
+  kind.options = {{"Songs", "", Tone::plain, {}}, {"Albums", "", Tone::plain, {}}};
+  kind.selected = showsAlbums_ ? 1 : 0;
+  view.add(std::move(kind));
+  if (showsAlbums_) {
+    describeAlbums(view);
+  } else {
+    describeSongs(view);
+  }
+  describeReach(view);
+  return view;
+}
+
+void MusicViewController::describeSongs(View& view) const {
+  const RecordList<Song>& songs = state().saveAllSongList;
+  const std::vector<size_t> inProduction = positionsWhere(songs, false);
+  const std::vector<size_t> released = releasedSongs(state());
+  if (songs.empty()) {
+    view.add(EmptyHint{"note", "No songs yet. Write one, release it, and end the week to hear what the world says."});
+  }
+  if (!inProduction.empty()) {
+    view.add(Heading{"In production", {}});
+    Rows rows;
+    for (const size_t i : inProduction) rows.items.push_back(songRow(state(), songs[i]));
+    view.add(std::move(rows));
+  }
+  if (!released.empty()) {
+    view.add(Heading{"Released", {}});
+    view.add(windowedRows("released", released_, static_cast<int64_t>(released.size()),
+                          [&](size_t i) { return songRow(state(), songs[released[i]]); }));
+  }
+}
+
+void MusicViewController::describeAlbums(View& view) const {
+  const RecordList<Album>& albums = state().saveAllAlbumList;
+  const std::vector<size_t> inProduction = albumsInProduction(state());
+  const std::vector<size_t> released = releasedAlbums(state());
+  if (inProduction.empty() && released.empty()) {
+    view.add(EmptyHint{"album", "No albums yet. Create one, put three songs on it, and give it a price."});
+  }
+  if (!inProduction.empty()) {
+    view.add(Heading{"In production", {}});
+    Rows rows;
+    for (const size_t i : inProduction) rows.items.push_back(albumRow(state(), albums[i]));
+    view.add(std::move(rows));
+  }
+  if (!released.empty()) {
+    view.add(Heading{"Released", {}});
+    view.add(windowedRows("releasedAlbums", releasedAlbums_, static_cast<int64_t>(released.size()),
+                          [&](size_t i) { return albumRow(state(), albums[released[released.size() - 1 - i]]); }));
+  }
+}
+
+void MusicViewController::describeReach(View& view) const {
+  view.add(Heading{"Reach", {}});
+  Rows rows;
+  rows.items.push_back(wayTo("goToMonthlyListenerDetail", "headphones", "Monthly Listeners"));
+  rows.items.back().value = withCommas(state().totalFans);
+  rows.items.push_back(wayTo("goToBillboard", "chart", "Billboard 100", "The chart of the week"));
+  rows.items.push_back(wayTo("goToCertification", "trophy", "Certifications", "From bronze to diamond"));
+  rows.items.push_back(wayTo("goToArtistProfile", "person", "Artist Profile", "What your listeners see"));
+  view.add(std::move(rows));
+}
+
+}  // namespace backbeat

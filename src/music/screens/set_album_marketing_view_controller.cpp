@@ -1,0 +1,80 @@
+#include "music/screens/set_album_marketing_view_controller.h"
+
+#include "music/album_creation.h"
+#include "music/song_release.h"
+
+namespace backbeat {
+
+namespace {
+
+struct PlanText {
+  const char* icon;
+  const char* title;
+};
+constexpr std::array<PlanText, marketingPlans.size()> planTexts = {{
+    {"ticket", "Flyers and friends"},
+    {"radio", "Local radio"},
+    {"megaphone", "City campaign"},
+    {"flame", "National campaign"},
+    {"globe", "World campaign"},
+}};
+
+std::string titleOf(const GameState& state, const MarketingTarget& target) {
+  if (target.kind == MarketingTarget::Kind::album) {
+    const auto position = albumPosition(state, target.id);
+    return position ? state.saveAllAlbumList[*position].title : "";
+  }
+  const auto position = songPosition(state, target.id);
+  return position ? state.saveAllSongList[*position].title : "";
+}
+
+}  // namespace
+
+Outcome SetAlbumMarketingViewController::act(const Action& action) {
+  if (action.id == "setMarketingButton") return setMarketingButton();
+  if (action.verb() == "plan") {
+    if (const auto tier = optionNumber(action.argument(), marketingPlans.size())) return selectButton(*tier);
+  }
+  return {};
+}
+
+Outcome SetAlbumMarketingViewController::selectButton(size_t tier) {
+  tier_ = tier;
+  plan_ = selectMarketingPlan(game_.random, tier);
+  return {};
+}
+
+Outcome SetAlbumMarketingViewController::setMarketingButton() { return applyMarketingPlan(game_, target_, plan_); }
+
+View SetAlbumMarketingViewController::view() const {
+  View view;
+  view.title = "Set Marketing";
+  view.subtitle = titleOf(state(), target_);
+  Rows rows;
+  for (size_t tier = 0; tier < marketingPlans.size(); ++tier) {
+    const MarketingPlan& plan = marketingPlans[tier];
+    Row row;
+    row.id = "plan:" + std::to_string(tier);
+    row.picture = icon(planTexts[tier].icon);
+    row.title = planTexts[tier].title;
+    row.subtitle = "Marketing " + std::to_string(plan.leastScore) + " to " + std::to_string(plan.greatestScore);
+    row.price = Price{0, static_cast<double>(plan.cost)};
+    row.selected = tier_ == tier;
+    rows.items.push_back(std::move(row));
+  }
+  view.add(std::move(rows));
+  Button set;
+  set.id = "setMarketingButton";
+  set.label = tier_ ? "Set Marketing" : "Leave It As It Is";
+  if (tier_) set.price = Price{0, static_cast<double>(plan_.cost)};
+  set.style = Button::Style::primary;
+  view.mainAction = std::move(set);
+  view.help = Help{"What marketing does",
+                   "Marketing brings listeners who have never heard of you, and keeps a release in its strong weeks "
+                   "until it is used up. How much a plan brings is luck within its range.\n\nA plan replaces whatever "
+                   "marketing there was. An album's plan counts for each of its songs as well, and the album gains "
+                   "a little more with each song on it."};
+  return view;
+}
+
+}  // namespace backbeat

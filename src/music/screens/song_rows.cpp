@@ -1,0 +1,48 @@
+#include "music/screens/song_rows.h"
+
+#include <cmath>
+
+#include "core/money.h"
+#include "core/numbers.h"
+#include "music/covers.h"
+#include "music/streaming.h"
+
+namespace backbeat {
+
+int64_t latestWeeklyStreams(const GameState& state, const Song& song) {
+  const auto weeks = state.saveAllWeeklySongListens.historyOf(song.songId);
+  return weeks.empty() ? 0 : state.saveAllWeeklySongListens[weeks.back()].songListens;
+}
+
+std::string lifeLeft(const GameState& state, const Song& song) {
+  const double life = remainingLife(state, song);
+  if (!(life > 0)) return "Silent";
+  return counted(truncate(std::ceil(life)), "week") + " left";
+}
+
+Row songRow(const GameState& state, const Song& song) {
+  Row row;
+  row.id = "song:" + std::to_string(song.songId);
+  row.opens = true;
+  row.picture = coverOf(state, song);
+  row.title = song.title;
+  row.subtitle = song.album;
+  if (song.isExplicit >= 1) row.badge = "E";
+  if (!song.isReleased) {
+    row.value = withDecimals(song.productionRating, 1);
+    row.note = "rating";
+    return row;
+  }
+  row.subtitle += " · " + lifeLeft(state, song);
+  row.value = abbreviated(static_cast<double>(song.totalListen));
+  if (song.chartRanking > 0) {
+    row.note = rank(song.chartRanking);
+    row.tone = Tone::warning;
+  } else if (remainingLife(state, song) > 0) {
+    row.note = "+" + abbreviated(static_cast<double>(latestWeeklyStreams(state, song)));
+    row.tone = Tone::good;
+  }
+  return row;
+}
+
+}  // namespace backbeat

@@ -1,0 +1,116 @@
+#include "music/screens/statistics.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "core/money.h"
+#include "music/certifications.h"
+#include "music/screens/album_rows.h"
+#include "music/screens/song_rows.h"
+
+namespace backbeat {
+
+namespace {
+
+int64_t countOf(const WeeklySongListens& week) { return week.songListens; }
+int64_t countOf(const WeeklyAlbumSales& week) { return week.albumSales; }
+double dollarsOf(const WeeklySongListens& week) { return week.totalStreamRevenue; }
+double dollarsOf(const WeeklyAlbumSales& week) { return week.albumRevenue; }
+
+template <class T>
+WeeklyFigures figuresOf(const RecordList<T>& list, int64_t id) {
+  WeeklyFigures figures;
+  for (const uint32_t position : list.historyOf(id)) {
+    const T& week = list[position];
+    figures.weeks += 1;
+    figures.latest = countOf(week);
+    figures.best = std::max(figures.best, figures.latest);
+    figures.earned += dollarsOf(week);
+  }
+  return figures;
+}
+
+template <class T>
+void addWeeks(Chart& chart, const RecordList<T>& list, int64_t id, size_t mostWeeks) {
+  const auto weeks = list.historyOf(id);
+  for (const uint32_t position : weeks.subspan(weeks.size() - std::min(mostWeeks, weeks.size()))) {
+    chart.points.push_back(static_cast<double>(countOf(list[position])));
+    chart.labels.push_back("W" + std::to_string(list[position].weekNumber));
+  }
+}
+
+template <class T>
+Table weeksTable(const RecordList<T>& list, int64_t id, const char* counted, size_t mostWeeks) {
+  Table table;
+  table.columns = {"Week", counted, "Earned"};
+  const auto weeks = list.historyOf(id);
+  for (size_t i = 0; i < std::min(mostWeeks, weeks.size()); ++i) {
+    const T& week = list[weeks[weeks.size() - 1 - i]];
+    table.rows.push_back({std::to_string(week.weekNumber) + ", " + std::to_string(week.yearNumber),
+                          withCommas(countOf(week)), price(dollarsOf(week))});
+  }
+  return table;
+}
+
+Meter certificationMeter(int64_t tier, int64_t total, std::optional<int64_t> next) {
+  Meter meter;
+  meter.label = tier == 0 ? "Not certified yet" : "Certified " + std::string(certificationName(tier));
+  if (tier > 0) meter.tone = Tone::good;
+  if (!next) {
+    meter.value = "The highest there is";
+    meter.share = 1;
+    return meter;
+  }
+  meter.value = std::string(certificationName(tier + 1)) + " at " + withCommas(*next);
+  meter.share = std::clamp(static_cast<double>(total) / static_cast<double>(*next), 0.0, 1.0);
+  return meter;
+}
+
+}  // namespace
+
+WeeklyFigures songFigures(const GameState& state, int64_t songId) {
+  return figuresOf(state.saveAllWeeklySongListens, songId);
+}
+
+WeeklyFigures albumFigures(const GameState& state, int64_t albumId) {
+  return figuresOf(state.saveAllWeeklyAlbumSales, albumId);
+}
+
+Chart streamsChart(const GameState& state, const Song& song, size_t mostWeeks) {
+  Chart chart;
+  chart.title = "Streams";
+  chart.value = withCommas(song.totalListen);
+  chart.note = lifeLeft(state, song);
+  chart.style = Chart::Style::bars;
+  addWeeks(chart, state.saveAllWeeklySongListens, song.songId, mostWeeks);
+  return chart;
+}
+
+Chart salesChart(const GameState& state, const Album& album, size_t mostWeeks) {
+  Chart chart;
+  chart.title = "Sold";
+  chart.value = withCommas(album.albumsSold);
+  chart.note = lifeLeft(state, album);
+  chart.style = Chart::Style::bars;
+  addWeeks(chart, state.saveAllWeeklyAlbumSales, album.albumId, mostWeeks);
+  return chart;
+}
+
+Meter songCertificationMeter(const Song& song) {
+  return certificationMeter(songCertificationTier(song.totalListen), song.totalListen,
+                            nextSongCertification(song.totalListen));
+}
+
+Meter albumCertificationMeter(const Album& album) {
+  return certificationMeter(albumCertificationTier(album), album.albumsSold, nextAlbumCertification(album));
+}
+
+Table streamsTable(const GameState& state, int64_t songId, size_t mostWeeks) {
+  return weeksTable(state.saveAllWeeklySongListens, songId, "Streams", mostWeeks);
+}
+
+Table salesTable(const GameState& state, int64_t albumId, size_t mostWeeks) {
+  return weeksTable(state.saveAllWeeklyAlbumSales, albumId, "Sold", mostWeeks);
+}
+
+}  // namespace backbeat

@@ -1,9 +1,0 @@
-#include "music/videos.h"
-
-namespace backbeat {
-
-void simulateWeeklyVideoViews(Game& /*game*/) {
-  // No video can be made yet, so the list is empty and the week passes it by.
-}
-
-}  // namespace backbeat

@@ -1,0 +1,68 @@
+#include "shell/screens/restore_view_controller.h"
+
+#include <algorithm>
+
+#include "shell/navigator.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr std::string_view askVerb = "ask";
+constexpr std::string_view restoreVerb = "restore";
+
+}  // namespace
+
+Outcome RestoreViewController::act(const Action& action) {
+  if (!isKept(action.argument())) return {};
+  if (action.verb() == askVerb) return ask(action.argument());
+  if (action.verb() == restoreVerb) return restore(action.argument());
+  return {};
+}
+
+bool RestoreViewController::isKept(std::string_view name) const {
+  const std::vector<Snapshot> kept = game_.saveFile.snapshots();
+  return std::any_of(kept.begin(), kept.end(), [&](const Snapshot& snapshot) { return snapshot.name == name; });
+}
+
+Outcome RestoreViewController::ask(std::string_view name) {
+  const Snapshot snapshot = *readSnapshotName(name);
+  Outcome question = alert("Restore?", "\nYou go back to \"" + snapshot.title + "\": " + snapshot.about +
+                                           ".\n\nToday's career is kept aside as \"Before going back\".");
+  question.alerts.front().buttons = {
+      {"Close", {}, AlertButton::Style::cancel},
+      {"Restore", {std::string(restoreVerb) + ":" + std::string(name), ""}, AlertButton::Style::destructive}};
+  return question;
+}
+
+Outcome RestoreViewController::restore(std::string_view name) {
+  if (!game_.saveFile.keepSnapshot(SnapshotKind::restore, state(), name)) {
+    return alert("Nothing Changed", "\nToday's career could not be kept aside, so nothing was restored.");
+  }
+  return goTo(std::string(restoreSegue), std::string(name));
+}
+
+View RestoreViewController::view() const {
+  View view;
+  view.title = "Restore";
+  Rows rows;
+  for (const Snapshot& snapshot : game_.saveFile.snapshots()) {
+    Row row;
+    row.picture = icon(snapshot.kind == SnapshotKind::newYear ? "calendar" : "restart");
+    row.title = snapshot.title;
+    row.subtitle = snapshot.about;
+    row.id = std::string(askVerb) + ":" + snapshot.name;
+    rows.items.push_back(std::move(row));
+  }
+  if (rows.items.empty()) {
+    view.add(EmptyHint{"hourglass",
+                       "At each New Year the game keeps a copy of your career. The first one is still to come."});
+    return view;
+  }
+  view.add(std::move(rows));
+  view.add(Text{"The last three New Years are kept, and what was there before a restart, an import and a way back.",
+                Tone::plain, Text::Style::caption});
+  return view;
+}
+
+}  // namespace backbeat

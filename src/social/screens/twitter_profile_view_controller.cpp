@@ -1,0 +1,141 @@
+#include "social/screens/twitter_profile_view_controller.h"
+
+#include <algorithm>
+
+#include "core/case_folding.h"
+#include "core/money.h"
+#include "social/chirps.h"
+
+namespace backbeat {
+
+namespace {
+
+/// The glyph of the pin stands on the blanks.
+constexpr const char* pinnedMark = "    Pinned Chirp";
+
+/// "@paperlanterns": the name without blanks, small.
+std::string handleOf(const std::string& name) {
+  std::string handle = "@";
+  for (const char c : foldCase(name)) {
+    if (c != ' ') handle += c;
+  }
+  return handle == "@" ? "@nobody" : handle;
+}
+
+Picture portraitOf(const Chirp& chirp) {
+  return chirp.typeOfAccount == account::company ? icon("business") : person(chirp.artistName);
+}
+
+std::string count(int64_t number) { return abbreviated(static_cast<double>(number)); }
+
+Post describe(const GameState& state, const Chirp& chirp, Date now) {
+  const std::string id = std::to_string(chirp.id);
+  Post post;
+  post.picture = portraitOf(chirp);
+  post.name = chirp.artistName;
+  post.handle = handleOf(chirp.artistName);
+  post.age = chirpAge(chirp, now);
+  post.message = chirp.message;
+  post.comments = count(chirp.commentCount);
+  post.reChirps = count(chirp.reChirpCount);
+  post.likes = count(chirp.likeCount);
+  if (chirp.isPinned >= 1) {
+    post.pinned = pinnedMark;
+    post.actions.push_back({"unpin:" + id, "Unpin from profile", Tone::plain});
+  } else {
+    post.actions.push_back({"pin:" + id, "Pin to your profile", Tone::plain});
+  }
+  if (chirpDeletable(state, chirp)) post.actions.push_back({"delete:" + id, "Delete Chirp", Tone::bad});
+  return post;
+}
+
+Button turnPage(int64_t from, std::string label) {
+  Button button;
+  button.id = "feed:" + std::to_string(from);
+  button.label = std::move(label);
+  return button;
+}
+
+}  // namespace
+
+Outcome TwitterProfileViewController::appear() {
+  seedFollowers(game_);
+  pulses_ = state().savePulse == 0;
+  if (pulses_) {
+    game_.state.savePulse += 1;
+    game_.save(&GameState::savePulse);
+  }
+  return {};
+}
+
+Outcome TwitterProfileViewController::act(const Action& action) {
+  if (action.id == "goToCreateTwitterMessage") return goTo(action.id);
+  if (action.id == "followButton") return followButton();
+  if (action.verb() == "feed") feed_.moveTo(action.argument());
+  const auto chirp = wholeNumber(action.argument());
+  if (!chirp) return {};
+  if (action.verb() == "pin") return pinChirp(game_, *chirp);
+  if (action.verb() == "unpin") return unpinChirp(game_, *chirp);
+  if (action.verb() == "delete") return deleteChirp(game_, *chirp);
+  return {};
+}
+
+Outcome TwitterProfileViewController::followButton() {
+  pulses_ = false;
+  return alert("🐥 That's You 🐥", "\nYou can't follow yourself. Make the others want to.");
+}
+
+View TwitterProfileViewController::view() const {
+  View view;
+  view.title = "Chirp";
+  view.theme = Theme::chirp;
+  describeProfile(view);
+  describeFeed(view);
+  Button compose;
+  compose.id = "goToCreateTwitterMessage";
+  compose.label = "Chirp";
+  compose.price = Price{chirpEnergyCost, 0};
+  compose.style = Button::Style::primary;
+  view.mainAction = std::move(compose);
+  view.help = Help{"Chirp",
+                   "Followers come and go with your monthly listeners, and they are the ones who like, comment and "
+                   "re-chirp.\n\nA song in production can be announced from its own page, once: that gives it a "
+                   "little virality."};
+  return view;
+}
+
+void TwitterProfileViewController::describeProfile(View& view) const {
+  Cover profile;
+  profile.picture = person(state().myArtistsName);
+  profile.title = state().myArtistsName;
+  profile.text = handleOf(state().myArtistsName) + "\n" + withCommas(state().followerCount) + " followers";
+  view.add(std::move(profile));
+  Button follow;
+  follow.id = "followButton";
+  follow.label = "Follow";
+  follow.pulse = pulses_;
+  view.add(std::move(follow));
+  view.add(
+      Text{"🎶 New music whenever it is ready, not a day sooner.\n📍 Somewhere between the studio and the "
+           "stage.\n💌 Reads everything, answers at night.",
+           Tone::plain, Text::Style::caption});
+}
+
+void TwitterProfileViewController::describeFeed(View& view) const {
+  const std::vector<size_t> order = chirpsInOrder(state());
+  if (order.empty()) {
+    view.add(EmptyHint{"chirp", "Nothing has been said yet. Chirp something: the first post is the hardest."});
+    return;
+  }
+  const auto total = static_cast<int64_t>(order.size());
+  const int64_t first = feed_.first(total);
+  const int64_t last = feed_.last(total);
+  if (first > 0) view.add(turnPage(std::max(first - ListWindow::pageSize, int64_t{0}), "Newer Chirps"));
+  for (int64_t i = first; i < last; ++i) {
+    const Chirp& chirp = state().saveAllChirpList[order[static_cast<size_t>(i)]];
+    view.add(describe(state(), chirp, game_.clock.now()));
+  }
+  if (last < total) view.add(turnPage(last, "Older Chirps"));
+}
+
+}  // namespace backbeat

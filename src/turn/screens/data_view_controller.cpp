@@ -1,0 +1,81 @@
+#include "turn/screens/data_view_controller.h"
+
+#include "core/money.h"
+#include "turn/pruning.h"
+
+namespace backbeat {
+
+namespace {
+
+/// An alert whose one way on is destructive, and whose other way is out.
+Outcome confirmation(std::string title, std::string message, std::string label, std::string action) {
+  Outcome outcome = alert(std::move(title), std::move(message));
+  AlertButton close;
+  close.label = "Close";
+  close.style = AlertButton::Style::cancel;
+  AlertButton confirm;
+  confirm.label = std::move(label);
+  confirm.action.id = std::move(action);
+  confirm.style = AlertButton::Style::destructive;
+  outcome.alerts.front().buttons = {std::move(close), std::move(confirm)};
+  return outcome;
+}
+
+Row row(const char* id, const char* glyph, const char* title, std::string subtitle) {
+  Row shown;
+  shown.id = id;
+  shown.picture = icon(glyph);
+  shown.title = title;
+  shown.subtitle = std::move(subtitle);
+  return shown;
+}
+
+}  // namespace
+
+Outcome DataViewController::act(const Action& action) {
+  if (action.id == "optimizeButton") return optimizeButton();
+  if (action.id == "resetStartupsButton") return resetStartupsButton();
+  if (action.id == "optimize") return optimize(game_);
+  if (action.id == "resetStartups") return resetStartups(game_);
+  return {};
+}
+
+Outcome DataViewController::optimizeButton() const {
+  const PruningCounts counts = countForPruning(state());
+  const std::string message =
+      "\nIf you are experiencing slowness, optimizing will remove\n\nSONG + ALBUM\ndata for:\n\nSIGNED "
+      "ARTISTS\nSongs/albums released before " +
+      std::to_string(counts.signedYear) + "\n" + withCommas(counts.signedSongs) + " songs to remove\n" +
+      withCommas(counts.signedAlbums) + " albums to remove\n\n" + state().myArtistsName +
+      "\nSongs/albums released before " + std::to_string(counts.ownYear) + "\n" + withCommas(counts.songs) +
+      " songs to remove\n" + withCommas(counts.albums) + " albums to remove\n\nAre you sure you want to optimize?";
+  return confirmation("🚀 Optimize? 🚀", message, "Yes, Optimize", "optimize");
+}
+
+Outcome DataViewController::resetStartupsButton() const {
+  return confirmation("🔄 Reset Startups? 🔄",
+                      "\nIntended for those who have invested and exited ALL venture investments.\n\nThis will remove "
+                      "previous investments from your portfolio and allow all companies to become investable again "
+                      "through Pitch Deck. Your biggest exit on Farbes will not be reset.\n\nAre you sure you want to "
+                      "reset?",
+                      "Reset Startups", "resetStartups");
+}
+
+View DataViewController::view() const {
+  View view;
+  view.title = "Data";
+  const PruningCounts counts = countForPruning(state());
+  const int64_t songs = counts.songs + counts.signedSongs;
+  const int64_t albums = counts.albums + counts.signedAlbums;
+  const std::string found = songs + albums == 0 ? "Nothing is old enough to remove"
+                                                : counted(songs, "old song") + ", " + counted(albums, "old album");
+  Rows rows;
+  rows.items.push_back(row("optimizeButton", "spark", "Optimize", found));
+  rows.items.push_back(row("resetStartupsButton", "restart", "Reset Startups",
+                           counted(static_cast<int64_t>(state().saveAllVentureInvestments.size()), "investment")));
+  view.add(std::move(rows));
+  view.add(Text{"Both ask before they remove anything, and neither can be undone.", Tone::plain, Text::Style::caption});
+  return view;
+}
+
+}  // namespace backbeat

@@ -1,0 +1,292 @@
+#include "turn/screens/weekly_summary_view_controller.h"
+
+#include <algorithm>
+
+#include "career/contract_end.h"
+#include "core/calendar.h"
+#include "core/money.h"
+#include "label/weekly_label_updates.h"
+#include "life/children_events.h"
+#include "life/relationship_events.h"
+#include "music/covers.h"
+#include "recognition/music_awards.h"
+#include "turn/screens/money_figures.h"
+#include "wealth/weekly_ventures.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr int64_t ratingOfferWeek = 31;
+constexpr int64_t ratingOfferEnergy = 250;
+constexpr size_t mostListed = 5;
+constexpr const char* ratingAnswer = "ratingAnswer:";
+
+void addIncome(Figures& figures, std::string label, double amount, std::string note = {}) {
+  if (amount != 0) figures.items.push_back(dollars(std::move(label), amount, Tone::good, std::move(note)));
+}
+
+void addExpense(Figures& figures, std::string label, double amount) {
+  if (amount != 0) figures.items.push_back(dollars(std::move(label), -amount, Tone::bad));
+}
+
+Figures incomeOf(const WeeklyReport& report) {
+  Figures income;
+  income.title = "Income";
+  const std::string top = report.weeklySongListens.empty() ? "" : report.weeklySongListens.front().songTitle;
+  addIncome(income, "Streams", report.streams, top);
+  addIncome(income, "Albums", report.totalAlbumRevenue);
+  addIncome(income, "Videos", report.videos);
+  addIncome(income, "Touring", std::max(report.tour, 0.0));
+  addIncome(income, "Festival", report.festivalPayment);
+  addIncome(income, "Featured on", report.featured);
+  if (report.merch > 0) addIncome(income, "MERCH SALES", report.merch, counted(report.merchUnits, "unit"));
+  addIncome(income, "My label", report.label);
+  addIncome(income, "Job", report.job);
+  addIncome(income, "Standing income", report.standingIncome);
+  income.total = dollars("Total revenue", report.totalRevenue, Tone::plain);
+  return income;
+}
+
+Figures expensesOf(const WeeklyReport& report) {
+  Figures expenses;
+  expenses.title = "Cost";
+  addExpense(expenses, "Standing expenses", report.standingExpenses);
+  addExpense(expenses, "Family", report.family);
+  addExpense(expenses, "Touring", std::max(-report.tour, 0.0));
+  addExpense(expenses, "Office", report.labelExpenses);
+  expenses.total = dollars("Total cost", -report.totalExpenses, Tone::plain);
+  return expenses;
+}
+
+/// The word for a row's badge.
+const char* badgeFor(Milestone::Kind kind) {
+  switch (kind) {
+    case Milestone::Kind::numberOne: return "#1";
+    case Milestone::Kind::certification: return "CERTIFIED";
+    case Milestone::Kind::chartDebut: return "DEBUT";
+    case Milestone::Kind::newPeak: return "PEAK";
+    case Milestone::Kind::recordWeek: return "RECORD";
+  }
+  return "";
+}
+
+Card celebration(const GameState& state, const Milestone& milestone) {
+  Card card;
+  card.picture = icon("trophy");
+  for (const Song& song : state.saveAllSongList) {
+    if (song.songId == milestone.songId) card.picture = coverOf(state, song);
+  }
+  for (const Album& album : state.saveAllAlbumList) {
+    if (album.albumId == milestone.albumId) card.picture = coverOf(state, album);
+  }
+  card.title = "🎉 " + milestone.text;
+  card.tone = Tone::good;
+  return card;
+}
+
+/// The greatest milestone of a song or an album this week, as a badge; empty without one.
+std::string badgeOf(const std::vector<Milestone>& milestones, int64_t Milestone::*id, int64_t wanted) {
+  const auto found = std::find_if(milestones.begin(), milestones.end(),
+                                  [&](const Milestone& milestone) { return milestone.*id == wanted; });
+  return found == milestones.end() ? "" : badgeFor(found->kind);
+}
+
+Rows songsOf(const GameState& state, const WeeklyReport& report, const std::vector<Milestone>& milestones) {
+  Rows rows;
+  for (size_t i = 0; i < std::min(mostListed, report.weeklySongListens.size()); ++i) {
+    const WeeklySongListens& week = report.weeklySongListens[i];
+    Row row;
+    row.picture = coverOfSong(state, week.songId, week.songTitle);
+    row.badge = badgeOf(milestones, &Milestone::songId, week.songId);
+    row.title = week.songTitle;
+    row.subtitle = week.albumTitle;
+    row.value = withCommas(week.songListens);
+    row.note = "streams";
+    rows.items.push_back(std::move(row));
+  }
+  return rows;
+}
+
+Rows albumsOf(const GameState& state, const WeeklyReport& report, const std::vector<Milestone>& milestones) {
+  std::vector<WeeklyAlbumSales> sales = report.weeklyAlbumSales;
+  std::stable_sort(sales.begin(), sales.end(),
+                   [](const auto& a, const auto& b) { return a.albumSales > b.albumSales; });
+  Rows rows;
+  for (size_t i = 0; i < std::min(mostListed, sales.size()); ++i) {
+    if (sales[i].albumSales < 1) break;
+    Row row;
+    const size_t found =
+        state.saveAllAlbumList.find([&](const Album& album) { return album.albumId == sales[i].albumId; });
+    row.picture = found == state.saveAllAlbumList.size() ? cover(sales[i].albumTitle)
+                                                         : coverOf(state, state.saveAllAlbumList[found]);
+    row.title = sales[i].albumTitle;
+    row.badge = badgeOf(milestones, &Milestone::albumId, sales[i].albumId);
+    row.value = withCommas(sales[i].albumSales);
+    row.note = "sold";
+    rows.items.push_back(std::move(row));
+  }
+  return rows;
+}
+
+/// The show of the week and the festival played, with what the papers said.
+Rows showsOf(const WeeklyReport& report) {
+  Rows rows;
+  if (!report.weeklyTourSales.empty()) {
+    const std::vector<WeeklyTourSales>& shows = report.weeklyTourSales;
+    const auto soldOut =
+        std::find_if(shows.begin(), shows.end(), [](const WeeklyTourSales& show) { return show.soldOut == 1; });
+    const WeeklyTourSales& show = soldOut == shows.end() ? shows.front() : *soldOut;
+    Row row;
+    row.picture = icon("ticket");
+    row.title = soldOut == shows.end() ? show.tourStadium : "Sold Out Show 🔥";
+    row.subtitle = show.tourLocation;
+    row.value = withCommas(show.seatsSold);
+    row.note = "seats";
+    rows.items.push_back(std::move(row));
+  }
+  if (report.festival) {
+    Row row;
+    row.picture = icon("star");
+    row.title = report.festival->festivalName;
+    row.subtitle = report.festival->topReview;
+    for (int64_t i = 0; i < festivalStars(report.festival->reviewStars); ++i) row.value += "★";
+    rows.items.push_back(std::move(row));
+  }
+  return rows;
+}
+
+}  // namespace
+
+Outcome WeeklySummaryViewController::open() {
+  cashBefore_ = state().totalCashAvailable;
+  report_ = buildWeeklyReport(game_);
+  settleWeeklyCash(game_, report_);
+  updateVentureValuations(game_);
+  drawWeeklyEventCount(game_, events_);
+  resolveVentureExits(game_);
+  updateEmployeesWeekly(game_);
+  updateSignedArtistsWeekly(game_);
+  showAwardButton(game_);
+  milestones_ = milestonesSince(game_.turn.before, state(), report_.week);
+  return {};
+}
+
+Outcome WeeklySummaryViewController::appear() {
+  if (hasAppeared_) return {};
+  hasAppeared_ = true;
+  Outcome outcome = offerEnergyForRating();
+  outcome += checkContractDeadlines(game_);
+  outcome += runRelationshipEvents(game_);
+  return outcome;
+}
+
+Outcome WeeklySummaryViewController::act(const Action& action) {
+  if (action.id == "closeButton") return closeButton();
+  if (action.id == "eventButton1") return eventButton1();
+  if (action.id == "eventButton2") return eventButton2();
+  if (action.id == "eventButton3") return eventButton3();
+  if (action.verb() == "ratingAnswer") {
+    if (const auto answer = optionNumber(action.argument(), 4)) return answerRatingOffer(static_cast<int64_t>(*answer));
+  }
+  return {};
+}
+
+Outcome WeeklySummaryViewController::offerEnergyForRating() const {
+  if (state().weekNumber != ratingOfferWeek || state().writtenReview != 0) return {};
+  Outcome outcome =
+      alert("🔥 FREE ENERGY 🔥",
+            "Hey, you! Answer a quick question and you'll gain +250 ENERGY!\n\nHow would you describe our "
+            "app so far?");
+  outcome.feedback = Feedback::none;
+  std::vector<AlertButton>& buttons = outcome.alerts.front().buttons;
+  buttons.clear();
+  for (const char* label : {"It's Awesome! 🥳", "It's Great 😁", "It's Good 🙂", "It's Okay 😬"}) {
+    const std::string number = std::to_string(buttons.size());
+    buttons.push_back({label, {ratingAnswer + number, ""}});
+  }
+  return outcome;
+}
+
+Outcome WeeklySummaryViewController::answerRatingOffer(int64_t answer) {
+  game_.state.writtenReview += 1;
+  game_.state.totalEnergyAvailable += ratingOfferEnergy;
+  game_.save(&GameState::writtenReview, &GameState::totalEnergyAvailable);
+  if (answer == 0) game_.platform.requestReview();
+  stateChanged(game_);
+  return success();
+}
+
+Outcome WeeklySummaryViewController::closeButton() {
+  Outcome outcome = runChildrenAnnualEvents(game_);
+  outcome += closeScreen();
+  return outcome;
+}
+
+void WeeklySummaryViewController::describeEvents(View& view) const {
+  const std::pair<const EventButton*, const char*> buttons[] = {
+      {&events_.buttonEvent1, "eventButton1"},
+      {&events_.buttonEvent2, "eventButton2"},
+      {&events_.buttonEvent3, "eventButton3"},
+  };
+  if (events_.buttonEvent1.id == 0) return;
+  view.add(Heading{"This week's chances", {}});
+  Tiles means;
+  means.items.push_back({"bolt", "Energy", std::to_string(state().totalEnergyAvailable),
+                         "of " + std::to_string(state().totalEnergyMax), Tone::plain, ""});
+  means.items.push_back({"cash", "Cash", currency(state().totalCashAvailable), "",
+                         state().totalCashAvailable < 0 ? Tone::bad : Tone::plain, ""});
+  view.add(std::move(means));
+  for (const auto& [button, press] : buttons) {
+    if (button->shown()) view.add(eventCard(*button, press));
+  }
+}
+
+View WeeklySummaryViewController::view() const {
+  View view;
+  view.theme = Theme::report;
+  view.title = "Week " + std::to_string(report_.week.week);
+  view.subtitle = std::to_string(report_.week.year) + " · Weekly report";
+  view.picture = person(state().myArtistsName);
+  const double net = report_.totalRevenue - report_.totalExpenses;
+  Figures headline;
+  headline.style = Figures::Style::large;
+  headline.items.push_back(dollars("Net", net, net < 0 ? Tone::bad : Tone::good,
+                                   "Cash " + currency(cashBefore_) + " → " + currency(cashBefore_ + net)));
+  const int64_t change = game_.launch.weeklyFanChange;
+  Figure fan;
+  fan.label = "Listeners";
+  fan.value = (change > 0 ? "+" : "") + withCommas(change) + " FANS";
+  fan.amount = static_cast<double>(change);
+  fan.tone = change < 0 ? Tone::bad : change > 0 ? Tone::good : Tone::plain;
+  fan.note = withCommas(state().totalFans) + " monthly listeners";
+  headline.items.push_back(std::move(fan));
+  view.add(std::move(headline));
+  if (!milestones_.empty()) view.add(celebration(state(), milestones_.front()));
+  describeEvents(view);
+  if (!report_.weeklySongListens.empty()) {
+    view.add(Heading{"POPULAR SONGS", {}});
+    view.add(songsOf(state(), report_, milestones_));
+  }
+  if (Rows albums = albumsOf(state(), report_, milestones_); !albums.items.empty()) {
+    view.add(Heading{"ALBUM SALES", {}});
+    view.add(std::move(albums));
+  }
+  if (Rows shows = showsOf(report_); !shows.items.empty()) {
+    view.add(Heading{"ON STAGE", {}});
+    view.add(std::move(shows));
+  }
+  if (report_.weeklySongListens.empty() && report_.weeklyAlbumSales.empty()) {
+    view.add(EmptyHint{"headphones", "Nobody heard anything new from you this week. Release a song to change that."});
+  }
+  view.add(incomeOf(report_));
+  view.add(expensesOf(report_));
+  Button close;
+  close.id = "closeButton";
+  close.label = "Continue";
+  close.style = Button::Style::primary;
+  view.mainAction = std::move(close);
+  return view;
+}
+
+}  // namespace backbeat
