@@ -99,8 +99,8 @@ struct Meter {
   std::string label = {};
   std::string value = {};
   double share = 0;
-  int64_t steps = 0;
   Tone tone = Tone::plain;
+  int64_t steps = 0;
 };
 
 /// A further action on a row or post, offered behind a menu.
@@ -115,9 +115,8 @@ struct Row {
   Picture picture = {};
   std::string title = {};
   std::string subtitle = {};
-  std::string value = {};           ///< at the right, prominent
-  std::string note = {};            ///< under the value
-  std::vector<double> points = {};  ///< a small line before the value
+  std::string value = {};  ///< at the right, prominent
+  std::string note = {};   ///< under the value
   Tone tone = Tone::plain;
   std::string badge = {};
   std::optional<Price> price = {};
@@ -126,6 +125,7 @@ struct Row {
   bool opens = false;                ///< leads to another screen
   std::string id = {};
   std::vector<RowAction> actions = {};
+  std::vector<double> points = {};  ///< a small line before the value
 };
 /// A row with a drawn picture that leads to another screen.
 inline Row wayTo(std::string id, std::string glyph, std::string title, std::string subtitle = {}) {

@@ -13,6 +13,7 @@ const char* nameOf(Tone tone) {
     case Tone::good: return "good";
     case Tone::bad: return "bad";
     case Tone::warning: return "warning";
+    case Tone::fair: return "fair";
     case Tone::locked: return "locked";
   }
   return "plain";
@@ -46,6 +47,14 @@ const char* nameOf(Theme theme) {
     case Theme::chirp: return "chirp";
     case Theme::report: return "report";
     case Theme::bank: return "bank";
+    case Theme::live: return "live";
+    case Theme::merch: return "merch";
+    case Theme::video: return "video";
+    case Theme::label: return "label";
+    case Theme::gala: return "gala";
+    case Theme::love: return "love";
+    case Theme::family: return "family";
+    case Theme::estate: return "estate";
   }
   return "plain";
 }
@@ -57,6 +66,10 @@ const char* nameOf(Picture::Kind kind) {
     case Picture::Kind::person: return "person";
     case Picture::Kind::icon: return "icon";
     case Picture::Kind::photo: return "photo";
+    case Picture::Kind::object: return "object";
+    case Picture::Kind::scene: return "scene";
+    case Picture::Kind::still: return "still";
+    case Picture::Kind::mark: return "mark";
   }
   return "none";
 }

@@ -24,6 +24,7 @@ const char* colourOf(Tone tone) {
     case Tone::good: return "\x1b[32m";
     case Tone::bad: return "\x1b[31m";
     case Tone::warning: return "\x1b[33m";
+    case Tone::fair: return "\x1b[33m";
     case Tone::locked: return "\x1b[2m";
   }
   return "";
