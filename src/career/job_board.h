@@ -6,10 +6,11 @@
 
 #include "core/game.h"
 #include "core/outcome.h"
+#include "core/price.h"
 
 namespace backbeat {
 
-inline constexpr int64_t jobBoardEnergyCost = 5;  ///< of each visit
+inline constexpr Price jobBoardCost = {.energy = 5};  ///< of each visit
 
 /// A kind of job.
 struct JobList {
@@ -23,6 +24,9 @@ struct JobOffer {
   JobList job;
   int64_t weeks = 0;  ///< length of the contract, 4 to 20
 };
+
+/// Goes to the board, for its price. Without the energy the energy figure shakes.
+Outcome visitJobBoard(Game& game);
 
 /// Draws a board of no to five jobs; two rows can offer the same kind. For each row its job is drawn, then its length.
 std::vector<JobOffer> drawJobBoard(Random& random);

@@ -12,7 +12,6 @@ class DailyLifeViewController final : public Screen {
   View view() const override;
 
   /// Opens the job board. Each visit costs 5 energy; with less, the energy figure shakes.
-  Outcome goToJobBoardButton();
 
  private:
   void describeSkills(View& view) const;
