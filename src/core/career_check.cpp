@@ -43,7 +43,7 @@ constexpr NamedBounds boundsOfFields[] = {
     {"weekNumber", {0, 5'200'000}},
     {"releaseWeek", {0, 5'200'000}},
     {"productionRating", {-1e4, 1e4}},
-    {"viralityScore", {-1e4, 1e4}},
+    {"viralityScore", {-300, 300}},
     {"marketingScore", {-1e4, 1e4}},
     {"streamPayRate", {-1e3, 1e3}},
     {"percentageOfEarnings", {-1e3, 1e3}},
@@ -188,14 +188,17 @@ void reconcileIds(GameState& state, const Ids<T>& ids, Reconciled& found) {
   found.mended.push_back(std::string("The counter of the ") + ids.what + " stood behind them and was raised.");
 }
 
-/// An album in production holds the songs that are on it. What is out may have lost songs to Optimize.
+/// An album in production holds the songs that are on it, and may count singles that were made when no other album was
+/// there. What is out may have lost songs to Optimize.
 void countSongs(GameState& state, Reconciled& found) {
   std::map<int64_t, int64_t> songs;
   for (const Song& song : state.saveAllSongList) songs[song.albumId] += 1;
+  const auto all = static_cast<int64_t>(state.saveAllSongList.size());
   for (size_t i = 0; i < state.saveAllAlbumList.size(); ++i) {
     const Album& album = state.saveAllAlbumList[i];
     const int64_t counted = songs[album.albumId];
-    if (album.isReleased || album.albumId == 0 || album.songCount == counted) continue;
+    const bool possible = album.songCount >= counted && album.songCount <= all;
+    if (album.isReleased || album.albumId == 0 || possible) continue;
     found.mended.push_back("The songs on " + album.title + " were counted anew: " + std::to_string(counted) + ".");
     state.saveAllAlbumList.update(i, [&](Album& changed) { changed.songCount = counted; });
   }
