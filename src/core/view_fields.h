@@ -292,4 +292,11 @@ inline constexpr auto viewFields<View> = std::to_array(
      viewField("theme", &View::theme), viewField("blocks", &View::blocks), viewField("totals", &View::totals),
      viewField("mainAction", &View::mainAction), viewField("aside", &View::aside), viewField("help", &View::help)});
 
+/// The name of an enumeration's value.
+std::string_view nameOf(const ViewType& type, const void* value);
+
+/// True when a member need not be told: it stands on its standard, or it is an empty text or list, a price of nothing
+/// or a picture of nothing.
+bool saysNothing(const ViewType& type, const void* value, const void* standard);
+
 }  // namespace backbeat

@@ -10,20 +10,17 @@ namespace {
 
 using Visit = std::function<void(const ViewType&, const void*)>;
 
-/// The first of the items whose `member` is that text.
-template <class Item>
-const Item* firstOf(const std::vector<Item>& items, std::string Item::*member, std::string_view text) {
-  for (const Item& item : items) {
-    if (item.*member == text) return &item;
+/// The first item of all blocks of that kind whose `member` is that text.
+template <class Kind, class Item>
+Item firstOf(const View& view, std::string Item::*member, std::string_view text) {
+  for (const Block& block : view.blocks) {
+    const Kind* kind = std::get_if<Kind>(&block);
+    if (!kind) continue;
+    for (const Item& item : kind->items) {
+      if (item.*member == text) return item;
+    }
   }
-  return nullptr;
-}
-
-const Row* rowWith(const View& view, std::string Row::*member, std::string_view text) {
-  for (const Rows* rows : findBlocks<Rows>(view)) {
-    if (const Row* found = firstOf(rows->items, member, text)) return found;
-  }
-  return nullptr;
+  return {};
 }
 
 void walk(const ViewType& type, const void* value, const Visit& visit) {
@@ -49,43 +46,47 @@ void walk(const ViewType& type, const void* value, const Visit& visit) {
 
 }  // namespace
 
-std::vector<const Row*> findRows(const View& view) {
-  std::vector<const Row*> found;
-  for (const Rows* rows : findBlocks<Rows>(view)) {
-    for (const Row& row : rows->items) found.push_back(&row);
-  }
-  return found;
+std::vector<Row> rowsOf(const View& view) {
+  std::vector<Row> all;
+  for (const Rows& rows : blocksOf<Rows>(view)) all.insert(all.end(), rows.items.begin(), rows.items.end());
+  return all;
 }
 
-const Row* findRow(const View& view, std::string_view id) { return rowWith(view, &Row::id, id); }
-const Row* findRowTitled(const View& view, std::string_view title) { return rowWith(view, &Row::title, title); }
+Row rowWithId(const View& view, std::string_view id) { return firstOf<Rows>(view, &Row::id, id); }
 
-const Figure* findFigure(const View& view, std::string_view label) {
-  for (const Figures* figures : findBlocks<Figures>(view)) {
-    if (const Figure* found = firstOf(figures->items, &Figure::label, label)) return found;
-    if (figures->total && figures->total->label == label) return &*figures->total;
+Row rowTitled(const View& view, std::string_view title) { return firstOf<Rows>(view, &Row::title, title); }
+
+Button buttonWithId(const View& view, std::string_view id) {
+  for (const std::optional<Button>& pinned : {view.mainAction, view.aside}) {
+    if (pinned && pinned->id == id) return *pinned;
   }
-  return nullptr;
+  for (const Card& card : blocksOf<Card>(view)) {
+    for (const Button& button : card.buttons) {
+      if (button.id == id) return button;
+    }
+  }
+  return blockWithId<Button>(view, id);
 }
 
-const Tile* findTile(const View& view, std::string_view label) {
-  for (const Tiles* tiles : findBlocks<Tiles>(view)) {
-    if (const Tile* found = firstOf(tiles->items, &Tile::label, label)) return found;
+Tile tileLabelled(const View& view, std::string_view label) { return firstOf<Tiles>(view, &Tile::label, label); }
+
+Gauge gaugeLabelled(const View& view, std::string_view label) { return firstOf<Gauges>(view, &Gauge::label, label); }
+
+Figure figureLabelled(const View& view, std::string_view label) {
+  for (const Figures& figures : blocksOf<Figures>(view)) {
+    for (const Figure& figure : figures.items) {
+      if (figure.label == label) return figure;
+    }
+    if (figures.total && figures.total->label == label) return *figures.total;
   }
-  return nullptr;
+  return {};
 }
 
-const Total* findTotal(const View& view, std::string_view label) { return firstOf(view.totals, &Total::label, label); }
-
-const Button* findButton(const View& view, std::string_view id) {
-  for (const std::optional<Button>* pinned : {&view.mainAction, &view.aside}) {
-    if (*pinned && (*pinned)->id == id) return &**pinned;
+Total totalLabelled(const View& view, std::string_view label) {
+  for (const Total& total : view.totals) {
+    if (total.label == label) return total;
   }
-  if (const Button* found = findBlock<Button>(view, id)) return found;
-  for (const Card* card : findBlocks<Card>(view)) {
-    if (const Button* found = firstOf(card->buttons, &Button::id, id)) return found;
-  }
-  return nullptr;
+  return {};
 }
 
 void forEachRecord(const View& view, const Visit& visit) { walk(viewType<View>, &view, visit); }

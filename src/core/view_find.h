@@ -1,4 +1,5 @@
 // Looking things up in what a screen says of itself: what a test, a strategy or a walk through the game asks of a view.
+// Answers are copies, so that the view may be gone; what is not there is answered by a thing without any text.
 #pragma once
 
 #include <functional>
@@ -11,44 +12,45 @@
 
 namespace backbeat {
 
-/// The first block of that kind; nullptr for none.
-template <class Kind>
-const Kind* findBlock(const View& view) {
-  for (const Block& block : view.blocks) {
-    if (const Kind* found = std::get_if<Kind>(&block)) return found;
-  }
-  return nullptr;
-}
-/// The first block of that kind with that id: a field, choice, toggle, slider, stepper or chart, or a window of rows.
-template <class Kind>
-const Kind* findBlock(const View& view, std::string_view id) {
-  for (const Block& block : view.blocks) {
-    const Kind* found = std::get_if<Kind>(&block);
-    if (found && found->id == id) return found;
-  }
-  return nullptr;
-}
 /// All blocks of that kind, in reading order.
 template <class Kind>
-std::vector<const Kind*> findBlocks(const View& view) {
-  std::vector<const Kind*> found;
+std::vector<Kind> blocksOf(const View& view) {
+  std::vector<Kind> found;
   for (const Block& block : view.blocks) {
-    if (const Kind* wanted = std::get_if<Kind>(&block)) found.push_back(wanted);
+    if (const Kind* wanted = std::get_if<Kind>(&block)) found.push_back(*wanted);
   }
   return found;
 }
+/// The first block of that kind.
+template <class Kind>
+Kind blockOf(const View& view) {
+  for (const Block& block : view.blocks) {
+    if (const Kind* wanted = std::get_if<Kind>(&block)) return *wanted;
+  }
+  return {};
+}
+/// The block of that kind and id: a field, choice, toggle, slider, stepper or chart, or a window of rows.
+template <class Kind>
+Kind blockWithId(const View& view, std::string_view id) {
+  for (const Block& block : view.blocks) {
+    const Kind* wanted = std::get_if<Kind>(&block);
+    if (wanted && wanted->id == id) return *wanted;
+  }
+  return {};
+}
 
 /// Every row of every list, in reading order.
-std::vector<const Row*> findRows(const View& view);
-/// The first row of that id, or title; nullptr for none. So it is with the others.
-const Row* findRow(const View& view, std::string_view id);
-const Row* findRowTitled(const View& view, std::string_view title);
-/// Totals of figures included.
-const Figure* findFigure(const View& view, std::string_view label);
-const Tile* findTile(const View& view, std::string_view label);
-const Total* findTotal(const View& view, std::string_view label);
+std::vector<Row> rowsOf(const View& view);
+Row rowWithId(const View& view, std::string_view id);
+Row rowTitled(const View& view, std::string_view title);
 /// A button of its own, of a card, or one that is pinned.
-const Button* findButton(const View& view, std::string_view id);
+Button buttonWithId(const View& view, std::string_view id);
+Tile tileLabelled(const View& view, std::string_view label);
+Gauge gaugeLabelled(const View& view, std::string_view label);
+/// Of all figures, totals included.
+Figure figureLabelled(const View& view, std::string_view label);
+/// Of those pinned above the main button.
+Total totalLabelled(const View& view, std::string_view label);
 
 /// Calls `visit` for each word of the view that has members, from the outside in: the view, a block, its rows, their
 /// pictures.

@@ -91,6 +91,18 @@ inline constexpr ViewType viewType = view_type::make<T>();
 
 namespace view_type {
 
+struct Anything {
+  template <class T>
+  operator T() const;
+};
+
+/// How many members a word has: what it can be begun with.
+template <class T, class... Taken>
+consteval size_t memberCount() {
+  if constexpr (requires { T{Taken{}..., Anything{}}; }) return memberCount<T, Taken..., Anything>();
+  return sizeof...(Taken);
+}
+
 template <class T>
 constexpr ViewType make() {
   using enum ViewType::Kind;
@@ -121,6 +133,7 @@ constexpr ViewType make() {
           return Items{held.data(), held.size()};
         }};
   } else {
+    static_assert(viewFields<T>.size() == memberCount<T>(), "the table lacks a member");
     return {.kind = record, .size = sizeof(T), .fields = viewFields<T>, .standard = &standard<T>.value};
   }
 }

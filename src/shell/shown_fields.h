@@ -16,9 +16,6 @@ template <>
 inline constexpr auto viewNames<AlertButton::Style> = std::to_array<std::string_view>({"normal", "cancel",
                                                                                        "destructive"});
 template <>
-inline constexpr auto viewFields<AlertButton> = std::to_array({viewField("label", &AlertButton::label),
-                                                               viewField("style", &AlertButton::style)});
-template <>
 inline constexpr auto viewFields<Header> = std::to_array(
     {viewField("cash", &Header::cash), viewField("cashTone", &Header::cashTone), viewField("energy", &Header::energy),
      viewField("energyShare", &Header::energyShare), viewField("date", &Header::date)});

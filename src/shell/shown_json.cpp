@@ -1,7 +1,5 @@
 #include "shell/shown_json.h"
 
-#include <cstring>
-
 #include "core/json.h"
 #include "core/money.h"
 #include "shell/shown_fields.h"
@@ -14,14 +12,6 @@ template <class T>
 const T& as(const void* value) {
   return *static_cast<const T*>(value);
 }
-
-int numberOf(const void* enumerator) {
-  int number = 0;
-  std::memcpy(&number, enumerator, sizeof number);
-  return number;
-}
-
-bool isFree(const Price& price) { return price.energy == 0 && price.dollars == 0; }
 
 /// Writes any word of a screen: walks its table and leaves out what stands on its default.
 class ViewWriter {
@@ -43,36 +33,8 @@ class ViewWriter {
   void members(const T& owner) {
     members(viewType<T>, &owner);
   }
-  template <class T>
-  void write(const T& value) {
-    write(viewType<T>, &value);
-  }
 
  private:
-  static bool saysNothing(const ViewType& type, const void* value, const void* standard) {
-    using enum ViewType::Kind;
-    switch (type.kind) {
-      case flag: return as<bool>(value) == as<bool>(standard);
-      case integer: return as<int64_t>(value) == as<int64_t>(standard);
-      case real: return as<double>(value) == as<double>(standard);
-      case text: return as<std::string>(value).empty();
-      case name: return numberOf(value) == numberOf(standard);
-      case price: return isFree(as<Price>(value));
-      case list: return type.items(value).count == 0;
-      case optional: {
-        const ViewType::Items held = type.items(value);
-        return held.count == 0 || (type.item->kind == price && saysNothing(*type.item, held.first, nullptr));
-      }
-      case record:
-        for (const ViewField& field : type.fields) {
-          if (!saysNothing(*field.type, type.valueOf(field, value), field.standard)) return false;
-        }
-        return true;
-      case block: return false;
-    }
-    return false;
-  }
-
   void write(const ViewType& type, const void* value) {
     using enum ViewType::Kind;
     switch (type.kind) {
@@ -80,7 +42,7 @@ class ViewWriter {
       case integer: json_.number(as<int64_t>(value)); break;
       case real: json_.number(as<double>(value)); break;
       case text: json_.text(as<std::string>(value)); break;
-      case name: json_.text(type.names[static_cast<size_t>(numberOf(value))]); break;
+      case name: json_.text(nameOf(type, value)); break;
       case price: writePrice(as<Price>(value)); break;
       case list: writeItems(type, value); break;
       case optional: write(*type.item, type.items(value).first); break;
@@ -137,8 +99,7 @@ void writeTabs(JsonWriter& json, const Shown& shown) {
   json.key("tab").number(static_cast<int64_t>(shown.tab));
 }
 
-void writeAlert(ViewWriter& writer, const std::optional<Shown::ShownAlert>& shown) {
-  JsonWriter& json = writer.json();
+void writeAlert(JsonWriter& json, const std::optional<Shown::ShownAlert>& shown) {
   json.key("alert");
   if (!shown) {
     json.null();
@@ -148,8 +109,14 @@ void writeAlert(ViewWriter& writer, const std::optional<Shown::ShownAlert>& show
   json.key("key").number(shown->key);
   json.key("title").text(shown->alert.title);
   json.key("message").text(shown->alert.message);
-  json.key("buttons");
-  writer.write(shown->alert.buttons);
+  json.key("buttons").beginArray();
+  for (const AlertButton& button : shown->alert.buttons) {
+    json.beginObject();
+    json.key("label").text(button.label);
+    json.key("style").text(nameOf(button.style));
+    json.endObject();
+  }
+  json.endArray();
   json.endObject();
 }
 
@@ -170,7 +137,7 @@ std::string shownAsJson(const Navigator& navigator, const Shown& shown) {
   json.key("endWeek").flag(shown.endWeek);
   json.key("appearance").text(shown.appearance);
   json.key("feedback").text(nameOf(shown.feedback));
-  writeAlert(writer, shown.alert);
+  writeAlert(json, shown.alert);
   json.key("notice").text(shown.notice);
   json.key("request").text(nameOf(shown.request.kind));
   if (!shown.request.snapshot.empty()) json.key("snapshot").text(shown.request.snapshot);

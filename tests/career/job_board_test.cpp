@@ -2,7 +2,7 @@
 
 #include "career/screens/daily_life_view_controller.h"
 #include "career/screens/job_board_view_controller.h"
-#include "support/views.h"
+#include "core/view_find.h"
 #include "support/world.h"
 
 namespace backbeat {

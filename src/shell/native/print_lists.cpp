@@ -47,7 +47,7 @@ Inked sideBySideOf(PrintedPage& page, const std::string& note, const std::string
 
 void print(PrintedPage& page, const Row& row, bool underHeads) {
   if (underHeads) {
-    page.put(titleOf(page, row, valuesBegin), sideBySideOf(page, row.note, row.value, row.tone), valuesBegin);
+    page.put(titleOf(page, row, valuesBegin - 2), sideBySideOf(page, row.note, row.value, row.tone), valuesBegin);
   } else {
     page.put(titleOf(page, row, pageWidth), endsOf(page, row), valuesBegin);
   }
@@ -171,6 +171,7 @@ void print(PrintedPage& page, const PictureGrid& grid) {
 }
 
 void print(PrintedPage& page, const Tree& tree) {
+  page.line("");
   std::vector<int64_t> generations;
   for (const Tree::Person& person : tree.people) generations.push_back(person.generation);
   std::sort(generations.begin(), generations.end());
