@@ -42,12 +42,8 @@ std::optional<Outcome> photoRefusal(std::string_view address) {
   return std::nullopt;
 }
 
-TextField photoField(const std::string& taken) {
-  TextField field;
-  field.id = "photo";
-  field.label = "Your own photo";
-  field.placeholder = taken.empty() ? "Paste a picture as a data: address" : "Your photo is set. Paste another one";
-  return field;
+PhotoField photoField(const std::string& taken) {
+  return {.id = "photo", .label = "Your own photo", .taken = !taken.empty()};
 }
 
 Picture artistPicture(const GameState& state) {

@@ -16,9 +16,8 @@ inline constexpr size_t largestPhoto = 204'800;  ///< bytes of the whole address
 /// save. Nothing when it can.
 std::optional<Outcome> photoRefusal(std::string_view address);
 
-/// The field that takes a photo; its press, "photo", carries the address, or nothing to do without one. It does not
-/// show the address of a photo already taken: that is what a cover is for.
-TextField photoField(const std::string& taken);
+/// The field that takes a photo; its press, "photo", carries the address, or nothing to do without one.
+PhotoField photoField(const std::string& taken);
 
 /// The artist's portrait: the player's own photo, or one drawn after the name.
 Picture artistPicture(const GameState& state);

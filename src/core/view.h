@@ -423,8 +423,9 @@ struct Tree {
   std::vector<Person> people = {};
 };
 
-using Block = std::variant<Heading, Text, Tiles, Meter, Rows, Table, PictureGrid, Button, TextField, Choice, Toggle,
-                           Chart, Post, Card, Cover, Figures, EmptyHint>;
+using Block = std::variant<Heading, Text, Tiles, Meter, Rows, Table, PictureGrid, Button, TextField, PhotoField, Choice,
+                           Toggle, Slider, Stepper, Chart, Post, Card, Cover, Figures, EmptyHint, Poster, Bill,
+                           Obituary, Story, Gauges, Deck, Tree>;
 
 /// The face of an in-game app.
 enum class Theme { plain, chart, chirp, report, bank, live, merch, video, label, gala, love, family, estate };

@@ -7,7 +7,7 @@
 
 namespace backbeat {
 
-/// The JSON of docs/page-protocol.md. Members that say nothing (an empty text, an empty list, false) are left out.
+/// The JSON of docs/page-protocol.md. Members that stand on their default are left out.
 std::string shownAsJson(const Navigator& navigator, const Shown& shown);
 
 }  // namespace backbeat

@@ -2,7 +2,7 @@
 
 #include "career/job_board.h"
 #include "career/screens/energy_transparency_view_controller.h"
-#include "support/views.h"
+#include "core/view_find.h"
 #include "support/world.h"
 
 namespace backbeat {

@@ -1,7 +1,7 @@
 #include "career/job_board.h"
 
 #include "career/screens/job_board_view_controller.h"
-#include "support/views.h"
+#include "core/view_find.h"
 #include "support/world.h"
 
 namespace backbeat {

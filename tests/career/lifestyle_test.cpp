@@ -1,7 +1,7 @@
 #include "career/lifestyle.h"
 
 #include "career/screens/lifestyle_choices_view_controller.h"
-#include "support/views.h"
+#include "core/view_find.h"
 #include "support/world.h"
 
 namespace backbeat {

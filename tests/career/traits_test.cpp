@@ -1,7 +1,7 @@
 #include "career/traits.h"
 
 #include "career/screens/my_music_view_controller.h"
-#include "support/views.h"
+#include "core/view_find.h"
 #include "support/world.h"
 
 namespace backbeat {

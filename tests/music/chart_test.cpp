@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/view_find.h"
 #include "music/screens/billboard_view_controller.h"
 #include "support/world.h"
 
@@ -137,13 +138,7 @@ TEST(Billboard, ShowsTheChartByRankAndTheHistoryByWeeksAtOne) {
   world.state.saveAllFeaturedOnList.append(verse);
   BillboardViewController screen(world.game);
   screen.open();
-  const auto rows = [&] {
-    const View view = screen.view();
-    for (const Block& block : view.blocks) {
-      if (const auto* list = std::get_if<Rows>(&block)) return list->items;
-    }
-    return std::vector<Row>();
-  };
+  const auto rows = [&] { return rowsOf(screen.view()); };
   ASSERT_EQ(rows().size(), 2u);
   EXPECT_EQ(rows()[0].value, "▼ 2");
   EXPECT_EQ(rows()[0].tone, Tone::bad);

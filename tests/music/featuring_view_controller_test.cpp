@@ -2,20 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "core/view_find.h"
 #include "music/guests.h"
 #include "music/screens/change_names_view_controllers.h"
 #include "support/world.h"
 
 namespace backbeat {
 namespace {
-
-std::vector<Row> rowsOf(const View& view) {
-  std::vector<Row> rows;
-  for (const Block& block : view.blocks) {
-    if (const auto* list = std::get_if<Rows>(&block)) rows.insert(rows.end(), list->items.begin(), list->items.end());
-  }
-  return rows;
-}
 
 TEST(Featuring, ThreeGuestsAreEnoughAndStarsAskForSkill) {
   World world;

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "core/icons.h"
+#include "core/view_fields.h"
+#include "core/view_find.h"
 #include "shell/native/terminal_text.h"
 #include "shell/native/view_printer.h"
 #include "shell/shown_json.h"
@@ -13,35 +15,22 @@ namespace {
 
 bool isKnown(const std::string& name) { return std::find(icons.begin(), icons.end(), name) != icons.end(); }
 
-/// The first icon that nobody draws in a block, its items and their pictures; new kinds of block are looked into as
-/// they come.
-template <class Part>
-std::string unknownIcon(const Part& part) {
-  if constexpr (requires { part.icon; }) {
-    if (!part.icon.empty() && !isKnown(part.icon)) return part.icon;
-  }
-  if constexpr (requires { part.picture; }) {
-    if (part.picture.kind == Picture::Kind::icon && !isKnown(part.picture.name)) return part.picture.name;
-  }
-  if constexpr (requires { part.items; }) {
-    for (const auto& item : part.items) {
-      if (std::string found = unknownIcon(item); !found.empty()) return found;
-    }
-  }
-  return {};
-}
-
+/// The last icon that nobody draws, wherever in the view it is named; "" when all are known.
 std::string unknownIconOf(const View& view) {
-  std::string found = unknownIcon(view);
-  for (const Block& block : view.blocks) {
-    if (!found.empty()) break;
-    found = std::visit([](const auto& b) { return unknownIcon(b); }, block);
-  }
+  std::string found;
+  forEachRecord(view, [&](const ViewType& type, const void* record) {
+    const std::string* icon = textOf(type, record, "icon");
+    if (&type == &viewType<Picture>) {
+      const Picture& picture = *static_cast<const Picture*>(record);
+      if (picture.kind == Picture::Kind::icon) icon = &picture.name;
+    }
+    if (icon && !icon->empty() && !isKnown(*icon)) found = *icon;
+  });
   return found;
 }
 
 std::string tooWideLine(const std::string& text) {
-  constexpr size_t widest = 120;  // rows with every member in use run over; nothing may run away
+  constexpr size_t widest = 80;
   for (size_t begin = 0; begin < text.size();) {
     const size_t end = std::min(text.find('\n', begin), text.size());
     const std::string line = text.substr(begin, end - begin);

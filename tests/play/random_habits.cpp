@@ -25,6 +25,9 @@ const std::array<std::string, 18> absurdTexts = {"",
                                                  "Single",
                                                  "%s%n ${x} '; DROP TABLE kv; --"};
 
+const std::array<std::string, 2> photos = {"data:image/png;base64,iVBORw0KGgo=",
+                                           "data:image/jpeg;base64,/9j/4AAQSkZJRg=="};
+
 const std::vector<std::vector<Wish>> errands = {
     {{"Home"}, {"goToSettings"}, {"restartButton"}, {"Restart"}},
     {{"Home"}, {"goToSettings"}, {"goToRestore"}, {"ask"}, {"Restore"}},

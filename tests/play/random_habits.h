@@ -10,6 +10,7 @@ namespace backbeat {
 
 extern const std::array<std::string, 6> sensibleTexts;
 extern const std::array<std::string, 18> absurdTexts;
+extern const std::array<std::string, 2> photos;
 
 /// One press of an errand: a tab, the part of an action before its colon, or a label; and what goes with it, when it
 /// matters.

@@ -147,6 +147,7 @@ std::string RandomPlayer::valueFor(const Pressable& pressable) {
   if (pressable.screenKey != "alert" && random_.integer(1, 100) <= absurdIn100_) return absurdValue();
   switch (pressable.takes) {
     case Pressable::Takes::text: return random_.element(sensibleTexts);
+    case Pressable::Takes::photo: return random_.element(photos);
     case Pressable::Takes::option:
       return std::to_string(random_.integer(0, std::max<int64_t>(pressable.options, 1) - 1));
     case Pressable::Takes::nothing:

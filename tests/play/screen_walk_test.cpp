@@ -9,6 +9,7 @@
 #include "core/icons.h"
 #include "core/memory_store.h"
 #include "play/glass.h"
+#include "play/random_habits.h"
 #include "play/worlds.h"
 #include "shell/native/view_printer.h"
 #include "shell/registry.h"
@@ -40,6 +41,7 @@ bool leadsSomewhere(const Go& go) {
 /// The values that a press of it may carry.
 std::vector<std::string> valuesFor(const Pressable& pressable) {
   if (pressable.takes == Pressable::Takes::text) return {"Something Else"};
+  if (pressable.takes == Pressable::Takes::photo) return {photos.front()};
   if (pressable.takes != Pressable::Takes::option) return {pressable.action.value};
   std::vector<std::string> options;
   for (int64_t option = 0; option < pressable.options; ++option) options.push_back(std::to_string(option));

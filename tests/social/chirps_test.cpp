@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/view_find.h"
 #include "social/screens/create_twitter_message_view_controller.h"
 #include "social/screens/twitter_profile_view_controller.h"
 #include "support/world.h"
@@ -12,14 +13,6 @@ namespace {
 /// The counts of a post: likes, comments, re-chirps.
 void drawCounts(World& world) {
   world.random.doubleIs(0.005, 0.02, 0.01).doubleIs(0.05, 0.2, 0.2).doubleIs(0.05, 0.2, 0.1);
-}
-
-std::vector<Post> postsOf(const View& view) {
-  std::vector<Post> posts;
-  for (const Block& block : view.blocks) {
-    if (const auto* post = std::get_if<Post>(&block)) posts.push_back(*post);
-  }
-  return posts;
 }
 
 Chirp chirpOf(int64_t id) {
@@ -89,7 +82,7 @@ TEST(Chirps, AnAnnouncementLiftsItsSongOnceAndStaysUntilTheRelease) {
   EXPECT_DOUBLE_EQ(world.state.saveAllSongList[0].viralityScore, 6);
   deleteChirp(world.game, 1);
   EXPECT_EQ(world.state.saveAllChirpList.size(), 2u);
-  const std::vector<Post> posts = postsOf(TwitterProfileViewController(world.game).view());
+  const std::vector<Post> posts = blocksOf<Post>(TwitterProfileViewController(world.game).view());
   EXPECT_EQ(posts[0].actions.size(), 2u);
   EXPECT_EQ(posts[1].actions.size(), 1u) << "the announcement cannot be deleted yet";
   world.expectSaved();
@@ -106,18 +99,18 @@ TEST(Profile, ShowsThePinnedPostFirstAndSixtyAtATime) {
   screen.act({"pin:110", ""});
   screen.act({"pin:105", ""});
   screen.act({"pin:999", ""});
-  std::vector<Post> posts = postsOf(screen.view());
+  std::vector<Post> posts = blocksOf<Post>(screen.view());
   ASSERT_EQ(posts.size(), 60u);
   EXPECT_EQ(posts[0].pinned, "    Pinned Chirp");
   EXPECT_EQ(posts[0].actions[0].id, "unpin:105") << "only the last pin counts";
   EXPECT_EQ(posts[1].actions[0].id, "pin:171");
   screen.act({"feed:60", ""});
-  posts = postsOf(screen.view());
+  posts = blocksOf<Post>(screen.view());
   ASSERT_EQ(posts.size(), 10u);
   EXPECT_EQ(posts.back().actions[0].id, "pin:102");
   screen.act({"unpin:105", ""});
   screen.act({"feed:0", ""});
-  EXPECT_EQ(postsOf(screen.view())[0].pinned, "");
+  EXPECT_EQ(blocksOf<Post>(screen.view())[0].pinned, "");
   world.expectSaved();
 }
 
@@ -125,13 +118,7 @@ TEST(Profile, TheFollowButtonPulsesOnceInASave) {
   World world;
   world.state.totalFans = 100;
   world.settle();
-  const auto pulses = [](const Screen& screen) {
-    const View view = screen.view();
-    for (const Block& block : view.blocks) {
-      if (const auto* button = std::get_if<Button>(&block)) return button->pulse;
-    }
-    return false;
-  };
+  const auto pulses = [](const Screen& screen) { return blockOf<Button>(screen.view()).pulse; };
   world.random.doubleIs(0.3, 0.6, 0.5);
   TwitterProfileViewController screen(world.game);
   screen.appear();

@@ -1,6 +1,6 @@
 #include "turn/income_statement.h"
 
-#include "support/views.h"
+#include "core/view_find.h"
 #include "support/world.h"
 #include "turn/screens/balance_sheet_view_controller.h"
 #include "turn/screens/expense_view_controller.h"

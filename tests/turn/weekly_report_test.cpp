@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "career/ledger.h"
+#include "core/view_find.h"
 #include "support/world.h"
 #include "turn/screens/weekly_summary_view_controller.h"
 
@@ -55,22 +56,11 @@ struct ReportWorld : World {
   }
 };
 
-bool shows(const View& view, const std::string& title) {
-  for (const Block& block : view.blocks) {
-    if (const Rows* rows = std::get_if<Rows>(&block)) {
-      for (const Row& row : rows->items) {
-        if (row.title == title) return true;
-      }
-    }
-  }
-  return false;
-}
+bool shows(const View& view, const std::string& title) { return rowTitled(view, title).title == title; }
 
 std::vector<std::string> cardPresses(const View& view) {
   std::vector<std::string> presses;
-  for (const Block& block : view.blocks) {
-    if (const Card* card = std::get_if<Card>(&block)) presses.push_back(card->buttons.at(0).id);
-  }
+  for (const Card& card : blocksOf<Card>(view)) presses.push_back(card.buttons.at(0).id);
   return presses;
 }
 

@@ -1,6 +1,6 @@
 #include "wealth/net_assets.h"
 
-#include "support/views.h"
+#include "core/view_find.h"
 #include "support/world.h"
 #include "turn/screens/net_worth_view_controller.h"
 

@@ -128,6 +128,10 @@ void ConsolePlayer::pressNumber(size_t number, std::string_view value) {
       action.value =
           chosen.maxLength > 0 ? firstCharacters(value, static_cast<size_t>(chosen.maxLength)) : std::string(value);
       break;
+    case Pressable::Takes::photo:
+      if (value.empty()) return say("Paste the picture behind the number: " + name + " data:image/png;base64,...");
+      action.value = value;
+      break;
     case Pressable::Takes::option: {
       const auto option = wholeNumber(value);
       if (!option || *option < 1 || *option > chosen.options) {

@@ -14,7 +14,8 @@ struct Pressable {
   enum class Takes {
     nothing,
     text,    ///< whatever is typed
-    option,  ///< the number of an option, from 0
+    photo,   ///< the address of a picture
+    option,  ///< the number of an option, or a position, from 0
     flag,    ///< "1" or "0"
     row,     ///< the first row to show of a long list
   };
@@ -22,7 +23,7 @@ struct Pressable {
   Action action;  ///< as sent when nothing more is told: the other position of a toggle, the next rows of a list
   Takes takes = Takes::nothing;
   std::string label;
-  int64_t options = 0;    ///< of a choice
+  int64_t options = 0;    ///< of a choice or slider
   int64_t maxLength = 0;  ///< of a text, 0 for no limit
   bool earlier = false;   ///< leads to earlier rows of a long list; one that takes a row and is not, to later ones
 };

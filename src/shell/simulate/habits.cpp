@@ -8,6 +8,7 @@
 #include "career/job_board.h"
 #include "career/lifestyle.h"
 #include "career/studio.h"
+#include "core/view_find.h"
 #include "music/album_release.h"
 #include "music/marketing_plans.h"
 #include "music/song_creation.h"
@@ -34,27 +35,27 @@ int64_t numberIn(std::string_view text) {
 double dollarsOf(const std::optional<Price>& price) { return price ? price->dollars : 0; }
 
 /// Of the rows `prefix`0, `prefix`1 and so on, each dearer than the one before: the last one that `budget` pays;
-/// nullptr when it pays none.
-const Row* dearestRow(Player& player, const std::string& prefix, double budget) {
-  const Row* best = nullptr;
+/// an empty one when it pays none.
+Row dearestRow(Player& player, const std::string& prefix, double budget) {
+  Row best;
   for (size_t i = 0;; ++i) {
-    const Row* row = player.row(prefix + std::to_string(i));
-    if (!row) return best;
-    if (dollarsOf(row->price) <= budget) best = row;
+    const Row row = rowWithId(player.view(), prefix + std::to_string(i));
+    if (row.id.empty()) return best;
+    if (dollarsOf(row.price) <= budget) best = row;
   }
 }
 
 /// Takes the option with the best rating that `budget` pays; what it costs.
 double chooseBest(Player& player, const std::string& list, double budget) {
-  const Choice* choice = player.choice(list);
-  if (!choice) return 0;
+  const Choice choice = blockWithId<Choice>(player.view(), list);
+  if (choice.id.empty()) return 0;
   size_t best = 0;
-  for (size_t i = 1; i < choice->options.size(); ++i) {
-    const Option& option = choice->options[i];
+  for (size_t i = 1; i < choice.options.size(); ++i) {
+    const Option& option = choice.options[i];
     if (dollarsOf(option.price) > budget) continue;
-    if (numberIn(option.note) > numberIn(choice->options[best].note)) best = i;
+    if (numberIn(option.note) > numberIn(choice.options[best].note)) best = i;
   }
-  const double cost = dollarsOf(choice->options[best].price);
+  const double cost = dollarsOf(choice.options[best].price);
   player.press(list, std::to_string(best));
   return cost;
 }
@@ -65,16 +66,12 @@ void chooseGuest(Player& player, double budget) {
   std::vector<std::string> toPress;
   std::string best;
   int64_t bestRating = 0;
-  for (const Block& block : player.seen().view.blocks) {
-    const auto* rows = std::get_if<Rows>(&block);
-    if (!rows) continue;
-    for (const Row& row : rows->items) {
-      if (row.selected) toPress.push_back(row.id);
-      const int64_t rating = numberIn(row.subtitle);
-      if (row.tone == Tone::locked || dollarsOf(row.price) > budget || rating <= bestRating) continue;
-      best = row.id;
-      bestRating = rating;
-    }
+  for (const Row& row : rowsOf(player.view())) {
+    if (row.selected) toPress.push_back(row.id);
+    const int64_t rating = numberIn(row.subtitle);
+    if (row.tone == Tone::locked || dollarsOf(row.price) > budget || rating <= bestRating) continue;
+    best = row.id;
+    bestRating = rating;
   }
   if (!best.empty()) toPress.push_back(best);
   for (const std::string& guest : toPress) player.press(guest);
@@ -97,20 +94,20 @@ void openAlbum(Player& player, int64_t albumId) {
 void market(Player& player, double budget) {
   if (budget < marketingPlans.front().cost.dollars) return;
   player.press("marketingButton");
-  player.press(dearestRow(player, "plan:", budget)->id);
+  player.press(dearestRow(player, "plan:", budget).id);
   player.press("setMarketingButton");
 }
 
 void boost(Player& player, int64_t times) {
   for (int64_t i = 0; i < times; ++i) {
-    const Button* button = player.button("boostProduction");
-    if (!button || !hasEnergy(player, button->price->energy + releaseCost.energy)) return;
+    const Button button = buttonWithId(player.view(), "boostProduction");
+    if (!button.price || !hasEnergy(player, button.price->energy + releaseCost.energy)) return;
     player.press("boostProduction");
   }
 }
 
 void announce(Player& player) {
-  if (!hasEnergy(player, player.button("announceButton")->price->energy + releaseCost.energy)) return;
+  if (!hasEnergy(player, buttonWithId(player.view(), "announceButton").price->energy + releaseCost.energy)) return;
   player.press("announceButton");
   player.tryPress("chirpButton");
   player.settle();
@@ -133,12 +130,12 @@ void lookForWork(Player& player, double enoughCash) {
   std::string best;
   double bestPay = 0;
   for (int64_t i = 1; i <= mostJobs; ++i) {
-    const Row* row = player.row("jobButton" + std::to_string(i));
-    if (!row) break;
-    const auto energy = static_cast<double>(numberIn(row->value));
-    const double pay = static_cast<double>(numberIn(row->subtitle)) / std::max(energy, 1.0);
+    const Row row = rowWithId(player.view(), "jobButton" + std::to_string(i));
+    if (row.id.empty()) break;
+    const auto energy = static_cast<double>(numberIn(row.value));
+    const double pay = static_cast<double>(numberIn(row.subtitle)) / std::max(energy, 1.0);
     if (pay <= bestPay) continue;
-    best = row->id;
+    best = row.id;
     bestPay = pay;
   }
   if (!best.empty()) player.press(best);
@@ -162,7 +159,8 @@ void makeSong(Player& player, const SongPlan& plan) {
   left -= chooseBest(player, "studio", left / 3);
   left -= chooseBest(player, "musicality", left / 2);
   chooseBest(player, "writing", left);
-  if (plan.forAlbum) player.press("album", std::to_string(player.choice("album")->options.size() - 1));
+  if (plan.forAlbum)
+    player.press("album", std::to_string(blockWithId<Choice>(player.view(), "album").options.size() - 1));
   player.press("createSongButton");
   player.settle();
 }
@@ -214,10 +212,10 @@ void practise(Player& player, std::span<const std::string_view> traits, int64_t 
     std::string cheapest;
     int64_t least = player.state().totalEnergyAvailable - energyKept + 1;
     for (const std::string_view trait : traits) {
-      const Row* row = player.row("levelUpTrait:" + std::string(trait));
-      if (!row || !row->price || row->price->energy >= least) continue;
-      cheapest = row->id;
-      least = row->price->energy;
+      const Row row = rowWithId(player.view(), "levelUpTrait:" + std::string(trait));
+      if (!row.price || row.price->energy >= least) continue;
+      cheapest = row.id;
+      least = row.price->energy;
     }
     if (cheapest.empty()) return;
     player.press(cheapest);
@@ -231,10 +229,10 @@ void improveStudio(Player& player, double budget) {
     std::string cheapest;
     double price = budget;
     for (const StudioPart& part : studioParts) {
-      const Row* row = player.row("upgradeStudio:" + std::string(part.key));
-      if (!row || !row->price || row->price->dollars > price) continue;
-      cheapest = row->id;
-      price = row->price->dollars;
+      const Row row = rowWithId(player.view(), "upgradeStudio:" + std::string(part.key));
+      if (!row.price || row.price->dollars > price) continue;
+      cheapest = row.id;
+      price = row.price->dollars;
     }
     if (cheapest.empty()) return;
     player.press(cheapest);
@@ -246,11 +244,11 @@ void chooseLifestyles(Player& player, double weekly) {
   for (const char* category : lifestyleButtons) {
     player.tab(lifeTab);
     player.press(category);
-    const Row* best = dearestRow(player, "option:", weekly);
-    if (best && !best->selected) {
-      player.press(best->id);
+    const Row best = dearestRow(player, "option:", weekly);
+    if (!best.id.empty() && !best.selected) {
+      player.press(best.id);
       player.answer(1);
-    } else if (!best) {
+    } else if (best.id.empty()) {
       player.press("clearExpense");
       player.answer(1);
     }

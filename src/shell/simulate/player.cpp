@@ -13,24 +13,6 @@ constexpr int64_t betweenPresses = 7'000;
 constexpr int mostReportPresses = 20;
 constexpr int mostQuestions = 100;
 
-/// The first of `items` with that id.
-template <class Items>
-auto withId(const Items& items, std::string_view id) -> decltype(&*items.begin()) {
-  for (const auto& item : items) {
-    if (item.id == id) return &item;
-  }
-  return nullptr;
-}
-
-template <class Block>
-const Block* blockWithId(const View& view, std::string_view id) {
-  for (const auto& block : view.blocks) {
-    const auto* wanted = std::get_if<Block>(&block);
-    if (wanted && wanted->id == id) return wanted;
-  }
-  return nullptr;
-}
-
 }  // namespace
 
 Player::Player(uint64_t seed, std::vector<std::string>& problems)
@@ -43,22 +25,6 @@ Player::Player(uint64_t seed, std::vector<std::string>& problems)
 const Shown& Player::seen() {
   if (!seen_) seen_ = career_.session().shown();
   return *seen_;
-}
-
-const Row* Player::row(std::string_view id) {
-  for (const Block& block : seen().view.blocks) {
-    const auto* rows = std::get_if<Rows>(&block);
-    if (!rows) continue;
-    if (const Row* found = withId(rows->items, id)) return found;
-  }
-  return nullptr;
-}
-
-const Choice* Player::choice(std::string_view id) { return blockWithId<Choice>(seen().view, id); }
-
-const Button* Player::button(std::string_view id) {
-  const std::optional<Button>& main = seen().view.mainAction;
-  return main && main->id == id ? &*main : blockWithId<Button>(seen().view, id);
 }
 
 void Player::press(const std::string& id, const std::optional<std::string>& value) {

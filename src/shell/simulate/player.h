@@ -22,10 +22,8 @@ class Player {
   const Launch& launch() { return career_.session().game().launch; }
   /// What is on the glass; until the next press.
   const Shown& seen();
-  /// The row, button, choice or other thing of kind `Block` with that id on the screen; nullptr when there is none.
-  const Row* row(std::string_view id);
-  const Choice* choice(std::string_view id);
-  const Button* button(std::string_view id);
+  /// The screen that is seen, to look things up in; core/view_find.h has how.
+  const View& view() { return seen().view; }
 
   /// Presses what has the id; a step that finds nothing to press is a problem.
   void press(const std::string& id, const std::optional<std::string>& value = std::nullopt);

@@ -1,0 +1,117 @@
+// How views look in a terminal, and what can be pressed there.
+#include "shell/native/view_printer.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "core/view_find.h"
+#include "shell/native/terminal_text.h"
+#include "support/every_block.h"
+#include "support/world.h"
+
+namespace backbeat {
+namespace {
+
+using ::testing::HasSubstr;
+
+struct Printed : World {
+  Navigator navigator{game};
+
+  Printed() { navigator.start({}); }
+  PrintedScreen print(View view, bool colour = false) {
+    Shown shown = navigator.shown();
+    shown.view = std::move(view);
+    shown.alert.reset();
+    return printScreen(navigator, shown, colour);
+  }
+};
+
+std::vector<std::string> linesOf(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) lines.push_back(line);
+  return lines;
+}
+
+/// The same view with every text of it made as long as nobody would write it.
+View longWinded(View view) {
+  forEachRecord(view, [](const ViewType& type, const void* record) {
+    for (const ViewField& field : type.fields) {
+      if (field.type->kind != ViewType::Kind::text || field.name == "id" || field.name == "suggest") continue;
+      // The view is this function's own.
+      std::string& text = *static_cast<std::string*>(const_cast<void*>(type.valueOf(field, record)));
+      for (int i = 0; i < 3; ++i) text += " 日本語 and on and on " + text;
+    }
+  });
+  return view;
+}
+
+TEST(ViewPrinter, OffersEveryPressOfEveryBlockWithinEightyColumns) {
+  Printed printed;
+  for (const View& view : {everyBlock(), barestBlocks(), longWinded(everyBlock())}) {
+    const PrintedScreen screen = printed.print(view);
+    for (const std::string& line : linesOf(screen.text)) EXPECT_LE(columnsOf(line), 80u) << line;
+    std::vector<std::string> offered;
+    for (const Pressable& pressable : screen.pressables) {
+      const std::string& id = pressable.action.id;
+      if (std::find(offered.begin(), offered.end(), id) == offered.end()) offered.push_back(id);
+    }
+    std::vector<std::string> shown = pressableIds(view);
+    std::erase(shown, "songs");  // a stepper at both its ends
+    if (!shown.empty()) EXPECT_THAT(offered, ::testing::UnorderedElementsAreArray(shown));
+  }
+}
+
+TEST(ViewPrinter, ColoursTakeNoColumns) {
+  Printed printed;
+  std::string painted = printed.print(everyBlock(), true).text;
+  while (painted.find('\x1b') != std::string::npos) {
+    const size_t code = painted.find('\x1b');
+    painted.erase(code, painted.find('m', code) + 1 - code);
+  }
+  EXPECT_EQ(painted, printed.print(everyBlock()).text);
+}
+
+TEST(ViewPrinter, ColumnsStandUnderTheirHeadsAndPeakAndWeeksStayWhole) {
+  Printed printed;
+  View view;
+  Row row = {.title = std::string(80, 'x'),
+             .subtitle = std::string(90, 'y') + "\nPeak 3 · 112 weeks",
+             .value = "▲ 12",
+             .note = "100"};
+  row.id = "song:1";
+  view.add(Rows{.items = {row}, .columns = {"LAST\nWEEK", "THIS\nWEEK"}});
+  const std::vector<std::string> lines = linesOf(printed.print(view).text);
+  const auto endOf = [&](const std::string& text) {
+    for (const std::string& line : lines) {
+      if (const size_t at = line.find(text); at != line.npos) return columnsOf(line.substr(0, at + text.size()));
+    }
+    return size_t{0};
+  };
+  EXPECT_GT(endOf("LAST WEEK"), 0u);
+  EXPECT_EQ(endOf("100"), endOf("LAST WEEK"));
+  EXPECT_EQ(endOf("▲ 12"), endOf("THIS WEEK"));
+  EXPECT_THAT(lines, ::testing::Contains("      Peak 3 · 112 weeks"));
+}
+
+TEST(ViewPrinter, ControlsPressWhatTheySay) {
+  Printed printed;
+  const std::vector<Pressable> offered = printed.print(everyBlock()).pressables;
+  std::vector<std::string> steps;
+  for (const Pressable& pressable : offered) {
+    if (pressable.action.id == "royalties") steps.push_back(pressable.action.value);
+    if (pressable.action.id == "price") {
+      EXPECT_EQ(pressable.takes, Pressable::Takes::option);
+      EXPECT_EQ(pressable.options, 12);
+    }
+    if (pressable.action.id == "photo") EXPECT_EQ(pressable.takes, Pressable::Takes::photo);
+    if (pressable.action.id == "plan") EXPECT_EQ(pressable.options, 2);
+  }
+  EXPECT_EQ(steps, (std::vector<std::string>{"-1", "1"}));
+  EXPECT_THAT(printed.print(everyBlock()).text, HasSubstr("10⚡ $1,125,000 ✗"));
+}
+
+}  // namespace
+}  // namespace backbeat
