@@ -192,6 +192,12 @@ bool Navigator::affordable(const Price& price) const {
          (price.dollars <= 0 || price.dollars <= game_.state.totalCashAvailable);
 }
 
+/// Home tells first of what waits for the player.
+std::string Navigator::badgeOf(TabNumber tab) const {
+  const std::string waits = tab == homeTab ? needsBadge(game_) : "";
+  return waits.empty() ? menuBadge(game_, tab) : waits;
+}
+
 Shown Navigator::shown() const {
   const GameState& state = game_.state;
   Shown shown;
@@ -203,7 +209,7 @@ Shown Navigator::shown() const {
         static_cast<double>(state.totalEnergyAvailable) / static_cast<double>(state.totalEnergyMax), 0.0, 1.0);
   }
   shown.header.date = "Week " + std::to_string(state.weekNumber) + ", " + std::to_string(state.yearNumber);
-  if (game_.launch.contractOfferState >= 1) shown.badges[homeTab] = "!";
+  for (size_t tab = 0; tab < tabCount; ++tab) shown.badges[tab] = badgeOf(static_cast<TabNumber>(tab));
   shown.tab = tab_;
   for (const Open& open : stacks_[tab_]) shown.stack.push_back(open.key);
   for (const Open& open : modals_) shown.stack.push_back(open.key);
