@@ -27,22 +27,10 @@ void Navigator::openFirstScreens() {
 }
 
 void Navigator::startOver() {
-  dropEverything();
-  openFirstScreens();
-}
-
-/// Screens are told that they go; what they answer belongs to a life that is over.
-void Navigator::dropEverything() {
-  const auto drop = [](std::vector<Open>& stack) {
-    while (!stack.empty()) {
-      const std::shared_ptr<Screen> gone = std::move(stack.back().screen);
-      stack.pop_back();
-      gone->close();
-    }
-  };
-  drop(modals_);
-  for (std::vector<Open>& stack : stacks_) drop(stack);
+  modals_.clear();
+  for (std::vector<Open>& stack : stacks_) stack.clear();
   alerts_.clear();
+  openFirstScreens();
 }
 
 void Navigator::press(std::string_view screenKey, const Action& action) {
@@ -99,19 +87,13 @@ void Navigator::selectTab(size_t number) {
 
 /// Closes every pushed screen of a tab; the root stays.
 void Navigator::closeToRoot(std::vector<Open>& stack) {
-  while (stack.size() > 1) {
-    const std::shared_ptr<Screen> gone = std::move(stack.back().screen);
-    stack.pop_back();
-    follow(gone, gone->close());
-  }
+  while (stack.size() > 1) stack.pop_back();
 }
 
 void Navigator::closeTop() {
   std::vector<Open>& stack = stackOfTop();
   const bool report = stack.back().segue->name == "goToWeeklySummary";
-  const std::shared_ptr<Screen> gone = std::move(stack.back().screen);
   stack.pop_back();
-  follow(gone, gone->close());
   if (report) return selectTab(homeTab);
   appear();
 }

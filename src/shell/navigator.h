@@ -109,7 +109,6 @@ class Navigator {
 
   void openFirstScreens();
   void startOver();
-  void dropEverything();
   const Open& top() const;
   std::vector<Open>& stackOfTop();
   std::string badgeOf(TabNumber tab) const;

@@ -32,7 +32,7 @@ int64_t bestChart(const GameState& state) {
 }  // namespace
 
 Outcome ViewController::open() {
-  refreshHomeHeader(game_);
+  rollCalendar(game_);
   return {};
 }
 
