@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/case_folding.h"
+#include "core/menu.h"
 #include "core/money.h"
 #include "social/chirps.h"
 
@@ -72,12 +73,12 @@ Outcome TwitterProfileViewController::act(const Action& action) {
   if (action.id == "goToCreateTwitterMessage") return goTo(action.id);
   if (action.id == "followButton") return followButton();
   if (action.verb() == "feed") feed_.moveTo(action.argument());
-  const auto chirp = wholeNumber(action.argument());
-  if (!chirp) return {};
-  if (action.verb() == "pin") return pinChirp(game_, *chirp);
-  if (action.verb() == "unpin") return unpinChirp(game_, *chirp);
-  if (action.verb() == "delete") return deleteChirp(game_, *chirp);
-  return {};
+  if (const auto chirp = wholeNumber(action.argument())) {
+    if (action.verb() == "pin") return pinChirp(game_, *chirp);
+    if (action.verb() == "unpin") return unpinChirp(game_, *chirp);
+    if (action.verb() == "delete") return deleteChirp(game_, *chirp);
+  }
+  return followMenu(game_, socialTab, action);
 }
 
 Outcome TwitterProfileViewController::followButton() {
@@ -90,6 +91,7 @@ View TwitterProfileViewController::view() const {
   view.title = "Chirp";
   view.theme = Theme::chirp;
   describeProfile(view);
+  addMenu(view, game_, socialTab);
   describeFeed(view);
   Button compose;
   compose.id = "goToCreateTwitterMessage";
