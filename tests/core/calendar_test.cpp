@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "music/builders.h"
 #include "recognition/leaderboards.h"
 #include "support/world.h"
 

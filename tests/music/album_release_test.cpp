@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "music/album_creation.h"
+#include "music/builders.h"
 #include "music/marketing_plans.h"
 #include "music/screens/add_to_album_view_controller.h"
 #include "music/screens/music_view_controller.h"

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "music/builders.h"
 #include "music/screens/monthly_listener_detail_view_controller.h"
 #include "support/world.h"
 

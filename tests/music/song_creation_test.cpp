@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "music/builders.h"
 #include "music/guests.h"
 #include "music/production_options.h"
 #include "music/screens/create_a_song_view_controller.h"

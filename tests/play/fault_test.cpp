@@ -72,7 +72,7 @@ TEST(Fault, AnImportThatFailsAnywhereChangesNothingAndSaysSo) {
   writeFile(file, exportCareer(other));
   for (int64_t n = 1;; ++n) {
     FailingStore store(n, 1);
-    settleInto(store.inner, namedWorlds()[1]);
+    settleInto(store.inner, namedWorld("rich"));
     const MemoryStore::Rows before = store.inner.rows;
     const FileImport import = importFromFile(file, store);
     if (store.failed() == 0) {

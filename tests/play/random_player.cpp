@@ -46,11 +46,12 @@ RandomPlayer::RandomPlayer(uint64_t seed)
                  random_.integer(1, 6),    rarely(), rarely(), rarely()};
   if (std::getenv("BACKBEAT_CHECK_ALL")) checkEvery_ = 1;
   settleInto(store_, world_);
+  now_ = timeIn(store_);
   launch();
 }
 
 std::string RandomPlayer::whereabouts() const {
-  return "seed " + std::to_string(seed_) + ", world \"" + world_.name + "\", step " + std::to_string(stepsDone_) +
+  return "seed " + std::to_string(seed_) + ", world \"" + std::string(world_.name) + "\", step " + std::to_string(stepsDone_) +
          ": " + lastLine_ + "\nagain: BACKBEAT_SEED=" + std::to_string(seed_) +
          " BACKBEAT_SEEDS=1 BACKBEAT_CHECK_ALL=1 backbeat_tests --gtest_filter='RandomPlayer*'\n";
 }
@@ -84,7 +85,7 @@ std::string RandomPlayer::step() {
     case Weights::tab: play(actEvent(now_, "tabs", {"tab", std::to_string(random_.integer(0, tabCount))})); break;
     case Weights::endWeek: play(actEvent(now_, "nav", {"endTheWeekButton", ""})); break;
     case Weights::errand: {
-      const std::vector<Wish>& chosen = random_.element(errands);
+      const std::vector<Wish>& chosen = random_.element(errands()).wishes;
       errand_.assign(chosen.begin(), chosen.end());
       play(nextOfErrand(shown, offered));
       break;

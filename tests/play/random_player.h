@@ -15,7 +15,7 @@
 #include "core/memory_store.h"
 #include "core/random.h"
 #include "play/career_invariants.h"
-#include "play/random_habits.h"
+#include "play/errands.h"
 #include "play/worlds.h"
 #include "shell/native/view_printer.h"
 #include "shell/trace.h"
@@ -90,7 +90,7 @@ class RandomPlayer {
   bool hugeTexts_;
   int64_t checkEvery_;       ///< what is dear to check is checked every so often
   std::deque<Wish> errand_;  ///< what is still to press of it
-  int64_t now_ = 1'672'660'800'000;
+  int64_t now_ = 0;          ///< unix milliseconds
   int64_t stepsDone_ = 0;
   bool justLaunched_ = true;
   std::set<std::string_view> seen_;  ///< segues

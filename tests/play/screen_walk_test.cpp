@@ -8,6 +8,7 @@
 
 #include "core/icons.h"
 #include "core/memory_store.h"
+#include "music/builders.h"
 #include "play/glass.h"
 #include "play/worlds.h"
 #include "shell/native/view_printer.h"

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "music/builders.h"
 #include "social/screens/create_twitter_message_view_controller.h"
 #include "social/screens/twitter_profile_view_controller.h"
 #include "support/world.h"

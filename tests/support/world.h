@@ -45,11 +45,4 @@ struct World {
   void settle();
 };
 
-/// A released song with sensible values; change what the test is about.
-Song releasedSong(int64_t songId, const std::string& title);
-/// A song in production.
-Song songInProduction(int64_t songId, const std::string& title);
-/// A released album.
-Album releasedAlbum(int64_t albumId, const std::string& title);
-
 }  // namespace backbeat

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "music/builders.h"
 #include "support/world.h"
 #include "turn/screens/data_view_controller.h"
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <set>
 
+#include "music/builders.h"
 #include "support/world.h"
 #include "turn/screens/weekly_summary_view_controller.h"
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "music/builders.h"
 #include "support/world.h"
 #include "turn/event_rewards.h"
 #include "turn/screens/weekly_summary_view_controller.h"

@@ -1,0 +1,42 @@
+#include "play/errands.h"
+
+namespace backbeat {
+namespace {
+
+const RoomErrands errands({
+    {"sign with a label",
+     {"rich", "long ago", "talkative"},
+     {{"Home"}, {"goToContractOffer", "", 400}, {"signContract"}, {"Home"}, {"labelContract"}, {"endContract"}}},
+    {"leave a label that is owed something",
+     {"signed"},
+     {{"Home"}, {"labelContract"}, {"endContract"}, {"Cancel Contract?"}, {"endContract"}, {"Yes, Cancel"}}},
+    {"leave a label at peace",
+     {"mid-career"},
+     {{"Home"}, {"labelContract"}, {"endContract"}, {"End Partnership?"}, {"endContract"}, {"Yes, Cancel"}}},
+    {"be thrown out by a label", {"signed"}, {{"❌ Terminated ❌", "", 10}}},
+    {"take two jobs",
+     {"new", "rich", "signed", "long ago"},
+     {{"Life"},
+      {"goToJobBoardButton"},
+      {"jobButton1"},
+      {"Life"},
+      {"goToJobBoardButton"},
+      {"jobButton1"},
+      {"⏳ Contract Signed ⏳"}}},
+    {"take the last job of a long board",
+     {"rich"},
+     {{"Life"}, {"goToJobBoardButton"}, {"jobButton4"}, {"Life"}, {"goToJobBoardButton"}, {"jobButton5"}}},
+    {"live well and go back to little",
+     {"rich", "mid-career"},
+     {{"Life"},
+      {"goToFoodButton"},
+      {"option:1"},
+      {"Confirm"},
+      {"clearExpense"},
+      {"Remove"},
+      {"clearExpense"},
+      {"No Expense Found"}}},
+});
+
+}  // namespace
+}  // namespace backbeat
