@@ -51,7 +51,7 @@ const RoomErrands errands({
       {"🎤 Featured Limit Reached 🎤"}}},
     {"ask a star too early",
      {"new"},
-     {{"Music"}, {"createSongButton"}, {"goToFeaturedArtists"}, {"add"}, {"🎤 Not Yet 🎤"}}},
+     {{"Music"}, {"createSongButton"}, {"goToFeaturedArtists"}, {"add:24"}, {"🎤 Not Yet 🎤"}}},
     {"write a song, then one of the same title",
      {"new", "rich", "mid-career"},
      {{"Music"},

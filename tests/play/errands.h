@@ -16,13 +16,13 @@ namespace backbeat {
 struct Wish {
   std::string_view what;
   std::string value = {};
-  int64_t weeks = 0;  ///< so many may end in the hope that it is offered
 };
 
 struct Errand {
   std::string_view name;
   std::vector<std::string_view> worlds;  ///< in which it gets to its end
   std::vector<Wish> wishes;              ///< what to press one after the other
+  int64_t weeks = 0;                     ///< it is begun anew so many times, a week later each, when it gets stuck
 };
 
 /// A room's errands, among those of all rooms from the start of the program on: one constant in its `errands.cpp`.
