@@ -42,7 +42,19 @@ void hasBeen(GameState& state) {
   state.totalEnergyAvailable = state.totalEnergyMax = 90;
 }
 
-const RoomWorlds worlds({{"mid-career", midCareer}, {"long ago", hasBeen}});
+/// Fame and skill that keep a song about the last place of the chart once its first fire is out.
+void star(GameState& state) {
+  setDate(state, 260);
+  furnishCareer(state, 2, 10);
+  for (int64_t* skill : {&state.rhythm, &state.charisma, &state.vocalRange, &state.songWriting, &state.virality}) {
+    *skill = 95;
+  }
+  state.totalFans = 48'000'000;
+  state.totalCashAvailable = 500'000'000;
+  state.totalEnergyAvailable = state.totalEnergyMax = 2'000;
+}
+
+const RoomWorlds worlds({{"mid-career", midCareer}, {"long ago", hasBeen}, {"star", star}});
 
 }  // namespace
 }  // namespace backbeat

@@ -14,7 +14,7 @@ namespace {
 constexpr size_t presses = 60;  // songs, boosts and the first weeks of the golden year
 
 std::vector<TraceEvent> someWeeks() {
-  std::vector<TraceEvent> events = readTrace(contentOf(goldenTraceFile("golden_year"))).events;
+  std::vector<TraceEvent> events = goldenCareer("golden_year").events;
   events.resize(std::min(events.size(), presses));
   return events;
 }
