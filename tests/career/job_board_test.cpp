@@ -17,7 +17,6 @@ TEST(JobBoard, EachVisitCostsEnergyAndWithTooLittleTheDoorStaysShut) {
   ASSERT_TRUE(opened.go.has_value());
   EXPECT_EQ(opened.go->segue, "goToJobBoard");
   EXPECT_EQ(world.state.totalEnergyAvailable, 4);
-  world.expectSaved();
   const Outcome refused = life.act({"goToJobBoardButton", ""});
   EXPECT_EQ(refused.feedback, Feedback::energyBounce);
   EXPECT_FALSE(refused.go.has_value());
@@ -46,7 +45,6 @@ TEST(JobBoard, AJobTakenRunsAndAnotherIsRefused) {
   EXPECT_DOUBLE_EQ(world.state.weeklyJobIncome, 400);
   EXPECT_EQ(world.state.weeklyJobContractRemaining, 7);
   EXPECT_TRUE(rowsOf(screen.view())[0].selected);
-  world.expectSaved();
 
   const Outcome refused = screen.act({"jobButton2", ""});
   ASSERT_EQ(refused.alerts.size(), 1u);
