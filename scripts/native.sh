@@ -29,13 +29,17 @@ build_native() {
   compile native "$native_build" backbeat
 }
 
-# build_tests: the game, its tests and the fuzzer that needs the whole game, optimised a little: less would take longer
-# to test, more longer to build.
-build_tests() {
+# Optimised a little: less would take longer to test, more longer to build.
+check_folder() {
   native_folder check "$check_build" -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O1 \
-    -DBACKBEAT_PARSED_HEADERS=ON -DBACKBEAT_FUZZ=presses || return 1
-  compile check "$check_build" all
+    -DBACKBEAT_PARSED_HEADERS=ON -DBACKBEAT_FUZZ=presses
 }
+
+# build_tests: the game, its tests, the fuzzer that needs the whole game, and the careers that the page's tests begin from.
+build_tests() { check_folder && compile check "$check_build" all careers; }
+
+# build_careers: those careers alone, in build/check/careers.
+build_careers() { check_folder && compile careers "$check_build" careers; }
 
 # build_bench: the benchmarks.
 build_bench() {

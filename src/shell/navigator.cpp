@@ -125,7 +125,7 @@ void Navigator::appear() {
 }
 
 void Navigator::follow(const std::shared_ptr<Screen>& from, Outcome outcome) {
-  for (Alert& alert : outcome.alerts) alerts_.push_back({++lastKey_, std::move(alert), from});
+  for (Alert& alert : outcome.alerts) alerts_.push_back({++lastAlertKey_, std::move(alert), from});
   if (outcome.feedback != Feedback::none) feedback_ = outcome.feedback;
   if (!outcome.go) return;
   if (outcome.go->segue.empty()) {

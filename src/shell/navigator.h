@@ -133,7 +133,8 @@ class Navigator {
   std::vector<Open> modals_;
   std::deque<QueuedAlert> alerts_;
   size_t tab_ = homeTab;
-  int64_t lastKey_ = 0;
+  int64_t lastKey_ = 0;       ///< of a screen
+  int64_t lastAlertKey_ = 0;  ///< counted by itself, so that what is asked moves no screen's key
   Feedback feedback_ = Feedback::none;
   Result result_ = Result::done;
   std::string notice_;

@@ -43,6 +43,7 @@ TEST(Energy, RefillsToTheCeilingLessDutiesAndKeepsWhatLiesAbove) {
 
   state.totalEnergyAvailable = 0;
   state.onTourEnergyCost = 200;
+  world.settle();
   applyWeeklyEnergy(world.game);
   EXPECT_EQ(state.totalEnergyAvailable, 0);
 }

@@ -13,7 +13,6 @@ TEST(JobBoard, EachVisitCostsEnergyAndWithTooLittleTheDoorStaysShut) {
   world.settle();
   EXPECT_EQ(enterJobBoard(world.game).feedback, Feedback::none);
   EXPECT_EQ(world.state.totalEnergyAvailable, 4);
-  world.expectSaved();
   EXPECT_EQ(enterJobBoard(world.game).feedback, Feedback::energyBounce);
   EXPECT_EQ(world.state.totalEnergyAvailable, 4);
 
@@ -40,7 +39,6 @@ TEST(JobBoard, AJobTakenRunsAndAnotherIsRefused) {
   EXPECT_DOUBLE_EQ(world.state.weeklyJobIncome, 400);
   EXPECT_EQ(world.state.weeklyJobContractRemaining, 7);
   EXPECT_TRUE(rowsOf(screen.view())[0].selected);
-  world.expectSaved();
 
   const Outcome refused = screen.act({"jobButton2", ""});
   ASSERT_EQ(refused.alerts.size(), 1u);

@@ -137,7 +137,6 @@ TEST(ContractOffers, TermsAreDrawnOnceAndSigningPutsThemIntoForce) {
   EXPECT_EQ(contract.contractStartWeek, 31);
   EXPECT_EQ(contract.contractEndWeek, 119);
   EXPECT_DOUBLE_EQ(contract.tourTicketCost, 115);
-  world.expectSaved();
 
   again.act({"signContract", ""});
   EXPECT_EQ(world.state.saveAllContractLabelList.size(), 1u) << "signed once";
@@ -168,7 +167,6 @@ TEST(ContractDeadline, ADealIsLostTheWeekAfterItsLastUnlessItsTermsAreMet) {
   EXPECT_NE(outcome.alerts[0].message.find("pay back $150,000."), std::string::npos);
   EXPECT_DOUBLE_EQ(world.state.totalCashAvailable, -149'990);
   expectFree(world.state);
-  world.expectSaved();
 }
 
 TEST(ContractDeadline, ATourIsCalledOffWithTheDeal) {
@@ -188,7 +186,6 @@ TEST(ContractDeadline, ATourIsCalledOffWithTheDeal) {
   EXPECT_EQ(world.state.onTour + world.state.onTourEnergyCost, 0);
   EXPECT_EQ(world.state.timeUntilNextTour, 61);
   expectFree(world.state);
-  world.expectSaved();
 }
 
 TEST(ContractEnd, ByChoiceItCostsTheAdvanceOnlyWhileTermsAreOpen) {
@@ -206,7 +203,6 @@ TEST(ContractEnd, ByChoiceItCostsTheAdvanceOnlyWhileTermsAreOpen) {
   screen.act(question.alerts.at(0).buttons.at(1).action);
   EXPECT_DOUBLE_EQ(world.state.totalCashAvailable, 100);
   expectFree(world.state);
-  world.expectSaved();
 
   OfferWorld fulfilled;
   fulfilled.sign();
@@ -216,7 +212,6 @@ TEST(ContractEnd, ByChoiceItCostsTheAdvanceOnlyWhileTermsAreOpen) {
   other.act({"confirmEndContract", ""});
   EXPECT_DOUBLE_EQ(fulfilled.state.totalCashAvailable, 150'100);
   expectFree(fulfilled.state);
-  fulfilled.expectSaved();
 }
 
 }  // namespace

@@ -26,6 +26,7 @@ TEST(Studio, EachLevelCostsTheLevelSoFarTimesTheBasePrice) {
 
   world.state.studioBooth = 20;
   world.state.totalCashAvailable = 1e9;
+  world.settle();
   EXPECT_EQ(upgradeStudio(world.game, booth).alerts.size(), 1u) << "a finished part gives the same answer";
   EXPECT_EQ(rowTitled(MyStudioViewController(world.game).view(), "Booth").badge, "MAX");
 }

@@ -70,6 +70,7 @@ TEST(Traits, BusinessTraitsAskForALabelThenEnergyThenTheirEnd) {
   world.expectSaved();
 
   world.state.businessTrait5 = 50;
+  world.settle();
   EXPECT_EQ(levelUpTrait(world.game, sales).feedback, Feedback::none);
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "music/builders.h"
 #include "support/world.h"
 
 namespace backbeat {
@@ -48,7 +49,6 @@ TEST(AlbumSales, ALaunchWeekSellsEarnsAndLosesMarketing) {
   EXPECT_EQ(world.state.saveAllWeeklyAlbumSales[0].weekNumber, 3);
   EXPECT_EQ(world.game.turn.weeklyMarketingPoolTotal, 45) << "the pool is opened anew";
   EXPECT_EQ(world.game.turn.weeklyMarketingPoolCount, 1);
-  world.expectSaved();
 }
 
 TEST(AlbumSales, ALaunchWeekWithoutBuyersIsRecordedAndEndsTheLaunch) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/own_photo.h"
+#include "music/builders.h"
 #include "music/milestones.h"
 #include "music/screens/statistics.h"
 #include "support/world.h"

@@ -14,7 +14,7 @@ namespace {
 constexpr size_t presses = 60;  // songs, boosts and the first weeks of the golden year
 
 std::vector<TraceEvent> someWeeks() {
-  std::vector<TraceEvent> events = readTrace(contentOf(goldenTraceFile("golden_year"))).events;
+  std::vector<TraceEvent> events = goldenCareer("golden_year").events;
   events.resize(std::min(events.size(), presses));
   return events;
 }
@@ -72,7 +72,7 @@ TEST(Fault, AnImportThatFailsAnywhereChangesNothingAndSaysSo) {
   writeFile(file, exportCareer(other));
   for (int64_t n = 1;; ++n) {
     FailingStore store(n, 1);
-    settleInto(store.inner, namedWorlds()[1]);
+    settleInto(store.inner, namedWorld("rich"));
     const MemoryStore::Rows before = store.inner.rows;
     ImportedCareer career = readCareer(file);
     const std::string problem = putInPlace(career, store);

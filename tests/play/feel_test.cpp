@@ -9,6 +9,7 @@
 #include "core/clock.h"
 #include "core/game.h"
 #include "core/platform.h"
+#include "music/builders.h"
 #include "music/streaming.h"
 #include "support/world.h"
 #include "turn/week_cycle.h"

@@ -1,32 +1,47 @@
-// Careers whose end is known: fixed presses, kept as traces, and the fingerprint of where each ends in
-// golden_hashes.txt. Every build has to get there.
+// Careers whose end is known: fixed presses, and a summary of where each ends in golden_*.txt. Every build has to get
+// there.
 #pragma once
 
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "core/memory_store.h"
+#include "shell/simulate/player.h"
 #include "shell/trace.h"
 
 namespace backbeat {
 
 struct GoldenCareer {
-  const char* name;  ///< of its trace file, and in golden_hashes.txt
-  /// The lines of the trace, as played by the screens of today. `problems` gets the steps that could not be made.
-  std::vector<std::string> (*play)(std::vector<std::string>& problems);
+  std::string_view name;  ///< of its summary's file
+  uint64_t seed;
+  std::string_view world;  ///< that it begins in; empty for a new life
+  void (*play)(Player& player);
 };
 
 /// One artist's first 52 weeks: songs, boosts, announcements, a job, traits, chirps.
-std::vector<std::string> playGoldenYear(std::vector<std::string>& problems);
+void playGoldenYear(Player& player);
 /// Ten years of a keen artist: songs, albums, traits, the week's chances, and a contract with a label.
-std::vector<std::string> playGoldenDecade(std::vector<std::string>& problems);
+void playGoldenDecade(Player& player);
+/// A year and a half of a star: songs that enter the chart, climb, leave it and come back.
+void playGoldenHits(Player& player);
 
 std::span<const GoldenCareer> goldenCareers();
 
-/// What somebody types into the console to make the presses of a trace with one launch.
-std::string typedFor(const Trace& trace);
+/// A golden career as the screens of today play it.
+struct PlayedCareer {
+  std::string trace;  ///< its text
+  std::vector<TraceEvent> events;
+  std::vector<std::string> problems;  ///< the steps that could not be made
+  MemoryStore::Rows beginning;        ///< what the store holds before the first launch
+  GameState end;
+};
 
-std::string goldenTraceFile(const std::string& name);
-std::string goldenHashFile();
+/// Played when first asked for.
+const PlayedCareer& goldenCareer(std::string_view name);
+
+/// What somebody types into the console to make the presses of a career with one launch.
+std::string typedFor(const PlayedCareer& career);
 
 }  // namespace backbeat

@@ -2,15 +2,12 @@
 
 #include <algorithm>
 
-#include "core/memory_store.h"
-#include "shell/native/view_printer.h"
 #include "shell/simulate/player.h"
 
 namespace backbeat {
 
 namespace {
 
-constexpr uint64_t seed = 20230102;
 constexpr int64_t weeks = 52;
 
 void beginCareer(Player& player) {
@@ -71,8 +68,7 @@ void liveTheWeek(Player& player, int64_t week) {
 
 }  // namespace
 
-std::vector<std::string> playGoldenYear(std::vector<std::string>& problems) {
-  Player player(seed, problems);
+void playGoldenYear(Player& player) {
   beginCareer(player);
   for (int64_t week = 1; week <= weeks; ++week) {
     if (week % 3 == 1) makeSong(player, week);
@@ -81,36 +77,6 @@ std::vector<std::string> playGoldenYear(std::vector<std::string>& problems) {
     player.tab(homeTab);
     player.endTheWeek();
   }
-  return player.lines();
-}
-
-std::string typedFor(const Trace& trace) {
-  MemoryStore store;
-  QuietPlatform platform;
-  TraceRecorder career(store, platform);
-  std::string typed;
-  for (const TraceEvent& event : trace.events) {
-    if (event.screenKey == "tabs") {
-      typed += std::string(tabs()[static_cast<size_t>(wholeNumber(event.action.value).value_or(0))].label) + "\n";
-    } else if (event.screenKey == "nav") {
-      typed += event.action.id == "back" ? "back\n" : "end\n";
-    } else if (event.kind == TraceEvent::Kind::act) {
-      const Shown shown = career.session().shown();
-      const std::vector<Pressable> offered = printScreen(career.session().navigator(), shown, false).pressables;
-      const auto chosen = std::find_if(offered.begin(), offered.end(), [&](const Pressable& each) {
-        const bool sameButton = each.screenKey != "alert" || each.action.value == event.action.value;
-        return each.screenKey == event.screenKey && each.action.id == event.action.id && sameButton;
-      });
-      typed += std::to_string(chosen - offered.begin() + 1);
-      if (chosen != offered.end() && chosen->takes == Pressable::Takes::text) typed += " " + event.action.value;
-      if (chosen != offered.end() && chosen->takes == Pressable::Takes::option) {
-        typed += " " + std::to_string(wholeNumber(event.action.value).value_or(0) + 1);
-      }
-      typed += "\n";
-    }
-    career.play(event);
-  }
-  return typed;
 }
 
 }  // namespace backbeat

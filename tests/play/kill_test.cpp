@@ -74,7 +74,7 @@ int64_t wholeLife(const std::string& seed, const std::string& typed) {
 }
 
 TEST(Kill, LeavesAWholeStepWheneverItComes) {
-  const Trace golden = readTrace(contentOf(goldenTraceFile("golden_year")));
+  const PlayedCareer& golden = goldenCareer("golden_year");
   const std::string seed = std::to_string(golden.events.at(0).seed);
   const std::string typed = typedFor(golden).substr(0, 60'000);  // what a pipe holds; the rest would wait
   const char* asked = std::getenv("BACKBEAT_KILLS");

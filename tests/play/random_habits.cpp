@@ -28,29 +28,4 @@ const std::array<std::string, 18> absurdTexts = {"",
 const std::array<std::string, 2> photos = {"data:image/png;base64,iVBORw0KGgo=",
                                            "data:image/jpeg;base64,/9j/4AAQSkZJRg=="};
 
-const std::vector<std::vector<Wish>> errands = {
-    {{"Home"}, {"goToSettings"}, {"restartButton"}, {"Restart"}},
-    {{"Home"}, {"goToSettings"}, {"goToRestore"}, {"ask"}, {"Restore"}},
-    {{"Home"}, {"goToSettings"}, {"exportCareer"}},
-    {{"Home"}, {"goToSettings"}, {"goToChangeCameoNames"}, {"person"}, {"name", " "}, {"saveButton"}},
-    {{"Home"}, {"goToSettings"}, {"importCareer"}},
-    {{"Home"}, {"goToContractOffer"}},
-    {{"Home"}, {"goToSignedContract"}, {"endContract"}},
-    {{"Home"}, {"goToArtistProfile"}, {"photo", "data:image/png;base64,iVBORw0KGgo="}, {"removePhoto"}},
-    {{"Home"}, {"goToArtistProfile"}, {"photo", "data:image/png;base64," + std::string(300'000, 'A')}},
-    {{"Music"}, {"createAlbumButton"}, {"title", "Night (Live)"}, {"createAlbumButton"}},
-    {{"Music"}, {"createAlbumButton"}, {"title"}, {"createAlbumButton"}},
-    {{"Music"}, {"createSongButton"}, {"goToFeaturedArtists"}, {"add"}, {"add"}, {"add"}, {"add"}, {"add"}},
-    {{"Music"}, {"createSongButton"}, {"title"}, {"album"}, {"createSongButton"}},
-    {{"Music"}, {"kind", "0"}, {"song"}, {"marketingButton"}, {"plan"}, {"setMarketingButton"}},
-    {{"Music"}, {"kind", "0"}, {"song"}, {"announceButton"}, {"message"}, {"chirpButton"}, {"announceButton"}},
-    {{"Music"}, {"createSongButton"}, {"title"}, {"createSongButton"}, {"Music"}, {"song"}, {"addToAlbumButton"}},
-    {{"Life"}, {"goToJobBoardButton"}, {"jobButton4"}},
-    {{"Life"}, {"goToJobBoardButton"}, {"jobButton5"}},
-    {{"Music"}, {"kind", "0"}, {"song"}, {"releaseButton"}},
-    {{"Music"}, {"kind", "1"}, {"album"}, {"pricingButton"}, {"price"}, {"setPricingButton"}},
-    {{"Music"}, {"kind", "1"}, {"album"}, {"marketingButton"}, {"plan"}, {"setMarketingButton"}},
-    {{"Music"}, {"kind", "1"}, {"album"}, {"releaseButton"}},
-};
-
 }  // namespace backbeat

@@ -25,7 +25,7 @@ constexpr const char* careerFile = "career_1.plist";
 void playInto(Store& store) {
   QuietPlatform platform;
   TraceRecorder career(store, platform);
-  for (const TraceEvent& event : readTrace(contentOf(goldenTraceFile("golden_year"))).events) {
+  for (const TraceEvent& event : goldenCareer("golden_year").events) {
     career.play(event);
     if (career.session().game().state.weekNumberForTracking > 12) break;
   }

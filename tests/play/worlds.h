@@ -1,7 +1,10 @@
-// Named careers to begin from, built in code.
+// Named careers to begin from, built in code. Each room has a `worlds.cpp` with its own.
 #pragma once
 
+#include <cstdint>
+#include <initializer_list>
 #include <span>
+#include <string_view>
 
 #include "core/game.h"
 #include "core/store.h"
@@ -9,19 +12,25 @@
 namespace backbeat {
 
 struct NamedWorld {
-  const char* name;
+  std::string_view name;
   void (*furnish)(GameState& state);
   bool large = false;                   ///< long lists: what looks at all of them is asked less often
   void (*afterwards)(Game&) = nullptr;  ///< what else happened, once the furnished career was saved
 };
 
-/// One line each in the table: a life that newer rules make possible is one line more.
+/// A room's worlds, among those of all rooms from the start of the program on: one constant in its `worlds.cpp`.
+struct RoomWorlds {
+  RoomWorlds(std::initializer_list<NamedWorld> worlds);
+};
+
+/// Those of all rooms, by name.
 std::span<const NamedWorld> namedWorlds();
+const NamedWorld& namedWorld(std::string_view name);
 
 /// Saves the world into an empty store, as the game that played so far would have.
 void settleInto(Store& store, const NamedWorld& world);
 
-/// The songs of every world but the new one: released ones from this id on, three apart, as the game numbers them.
-inline constexpr int64_t firstWorldSong = 12;
+/// The hour at which somebody plays on in what the store holds, so that posts and calendar agree; unix milliseconds.
+int64_t timeIn(Store& store);
 
 }  // namespace backbeat

@@ -27,8 +27,6 @@ class RecordingPlatform final : public Platform {
 };
 
 struct World {
-  World();
-
   MemoryStore store;
   ScriptedRandom random;
   SetClock clock;
@@ -36,22 +34,20 @@ struct World {
   Game game{store, random, clock, platform};
   GameState& state = game.state;
 
-  /// Ends the transaction, and fails the test when a changed key was not saved. Call after the operation under test, in
-  /// a world whose set-up was saved by `settle()`.
-  void expectSaved() {
-    game.saveFile.commit();
-    EXPECT_TRUE(differencesFromStore(state, store).empty())
-        << "not saved: " << ::testing::PrintToString(differencesFromStore(state, store));
-  }
-  /// Saves the whole state, as the starting point of a test.
-  void settle();
-};
+  World();
+  World(const World&) = delete;
+  World& operator=(const World&) = delete;
+  /// A test that has settled fails when something that changed since was not saved at its end.
+  ~World();
 
-/// A released song with sensible values; change what the test is about.
-Song releasedSong(int64_t songId, const std::string& title);
-/// A song in production.
-Song songInProduction(int64_t songId, const std::string& title);
-/// A released album.
-Album releasedAlbum(int64_t albumId, const std::string& title);
+  /// Saves the whole state, as the starting point of a test: from here on the rules have to save what they change.
+  /// Called again after the test has changed something by its own hand.
+  void settle();
+  /// The same check in the middle of a test, before it changes the world by its own hand.
+  void expectSaved();
+
+ private:
+  bool settled_ = false;
+};
 
 }  // namespace backbeat

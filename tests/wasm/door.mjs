@@ -110,6 +110,20 @@ export class Launch {
   }
 }
 
+/** The rows of a save that holds the career of such a file. */
+export function importedRows(file) {
+  const door = new WebAssembly.Instance(module, {}).exports;
+  const bytes = (address, size) => new Uint8Array(door.memory.buffer, address >>> 0, size >>> 0);
+  door._initialize();
+  const address = door.bb_alloc(file.length);
+  bytes(address, file.length).set(file);
+  door.bb_import(address, file.length);
+  const { problem } = JSON.parse(decoder.decode(bytes(door.bb_out(), door.bb_out_size())));
+  if (problem) throw new Error(problem);
+  const batch = decodeBatch(bytes(door.bb_batch(), door.bb_batch_size()).slice());
+  return new Map(batch.filter(({ remove }) => !remove).map((row) => [`${row.key}\0${row.chunk}`, row]));
+}
+
 /** Types a name on the first screen and begins the career, as a new player does. */
 export function beginCareer(launch, name) {
   const field = launch.answer.view.blocks.find(({ kind }) => kind === 'field');
@@ -134,24 +148,4 @@ export function endTheWeek(launch) {
   settle(launch);
   launch.press('nav', 'endTheWeekButton');
   return settle(launch);
-}
-
-const unescaped = (text) => (text === '%' ? '' : decodeURIComponent(text));
-
-/** Plays a golden career to its end or for some weeks; each of its launches goes on with what the one before it stored. */
-export function playGolden(name, weeks = Infinity) {
-  const trace = readFileSync(new URL(`../play/${name}.trace`, import.meta.url), 'utf8');
-  let launch;
-  let left = weeks;
-  for (const line of trace.split('\n').filter(Boolean)) {
-    const [kind, ...rest] = line.split(' ');
-    if (kind === 'launch') {
-      launch = new Launch({ seed: rest[0], now: Number(rest[1]), rows: launch?.rows });
-    } else {
-      const [now, ...press] = rest;
-      if (press[1] === 'endTheWeekButton' && (left -= 1) < 0) break;
-      launch.pressAt(Number(now), ...press.map(unescaped));
-    }
-  }
-  return launch;
 }

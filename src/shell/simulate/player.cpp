@@ -16,8 +16,11 @@ constexpr int mostQuestions = 100;
 }  // namespace
 
 Player::Player(uint64_t seed, std::vector<std::string>& problems)
-    : now_(newYear2023),
-      career_(store_, platform_, [this](const std::string& line) { lines_.push_back(line); }),
+    : Player(keepsNothing_, newYear2023, seed, problems) {}
+
+Player::Player(Store& store, int64_t unixMilliseconds, uint64_t seed, std::vector<std::string>& problems)
+    : now_(unixMilliseconds),
+      career_(store, platform_, [this](const std::string& line) { lines_.push_back(line); }),
       problems_(problems) {
   career_.play(launchEvent(now_, seed));
 }

@@ -15,6 +15,8 @@ class Player {
  public:
   /// Launches a career that no store keeps. `problems` gets the steps that could not be made.
   Player(uint64_t seed, std::vector<std::string>& problems);
+  /// Goes on with the career that `store` holds, at that time.
+  Player(Store& store, int64_t unixMilliseconds, uint64_t seed, std::vector<std::string>& problems);
 
   /// The trace so far.
   const std::vector<std::string>& lines() const { return lines_; }
@@ -48,8 +50,8 @@ class Player {
   void backToRoot();
   void act(const std::string& screenKey, const Action& action);
 
+  NullStore keepsNothing_;
   int64_t now_;
-  NullStore store_;
   QuietPlatform platform_;
   std::vector<std::string> lines_;
   TraceRecorder career_;

@@ -4,7 +4,7 @@ import { readdir, readFile } from "node:fs/promises";
 import { join } from "node:path";
 import { after, before, test } from "node:test";
 import { gzipSync } from "node:zlib";
-import { century, openWorld, worlds } from "../tools/worlds.mjs";
+import { century, openWorld, world } from "../tools/worlds.mjs";
 import { countCosts, median } from "./cost.mjs";
 import { openGame } from "./open.mjs";
 
@@ -41,7 +41,7 @@ test("the page stays light on the line", async () => {
 
 test("a press is painted and a report shown at once", async () => {
   const { page, context, faults } = await game.open({ address: "about:blank" });
-  await openWorld(page, game.home, worlds.decade());
+  await openWorld(page, game.home, world("golden_decade"));
   const count = await countCosts(game.browser, page);
   const tab = (n) => count.press("press", (n) => document.querySelectorAll(".tab-bar button")[n].click(), n);
   const button = (name, label) =>

@@ -1,6 +1,6 @@
 /** What tests of the whole game do as a player would. */
 import { spawnSync } from "node:child_process";
-import { playGolden } from "../../../../tests/wasm/door.mjs";
+import { careerFile } from "../../../../tests/wasm/careers.mjs";
 
 export const press = (page, name) => page.locator(".layer.top, .tab-bar").getByRole("button", { name }).first().click();
 
@@ -62,7 +62,7 @@ export async function downloaded(page, ask) {
 }
 
 /** A career that was played to its end without a page, as a file. */
-export const playedCareer = (name = "golden_year") => playGolden(name).careerFile();
+export const playedCareer = (name = "golden_year") => careerFile(name);
 
 /** The file as another program writes it anew, after `change` (a line of Python over the dictionary `career`). */
 export function rewritten(bytes, change = "pass") {

@@ -7,7 +7,7 @@ import { parseArgs } from "node:util";
 import { launchBrowser } from "./browser.mjs";
 import { serve } from "./serve.mjs";
 import { walk } from "./walk.mjs";
-import { openWorld, worlds } from "./worlds.mjs";
+import { openWorld, world, worldNames } from "./worlds.mjs";
 
 const { values } = parseArgs({
   options: {
@@ -18,7 +18,7 @@ const { values } = parseArgs({
   },
 });
 const themes = values.theme ? [values.theme] : ["dark", "light"];
-const names = values.world ? [values.world] : Object.keys(worlds);
+const names = values.world ? [values.world] : worldNames;
 
 await rm(values.out, { recursive: true, force: true });
 await mkdir(values.out, { recursive: true });
@@ -28,10 +28,7 @@ const browser = await launchBrowser({ forPictures: true });
 const shots = [];
 const faults = [];
 try {
-  for (const world of names) {
-    const rows = worlds[world]();
-    for (const theme of themes) await take(world, rows, theme);
-  }
+  for (const name of names) for (const theme of themes) await take(name, theme);
 } finally {
   await browser.close();
   server.close();
@@ -41,19 +38,19 @@ console.log(`${shots.length} pictures: ${join(values.out, "index.html")}`);
 for (const fault of faults) console.error(fault);
 process.exitCode = faults.length > 0 ? 1 : 0;
 
-async function take(world, rows, theme) {
+async function take(career, theme) {
   const context = await browser.newContext({
     viewport: { width: 390, height: 844 },
     colorScheme: theme,
     reducedMotion: "reduce",
   });
   const page = await context.newPage();
-  page.on("console", (message) => message.type() === "error" && faults.push(`${world}: ${message.text()}`));
-  page.on("pageerror", (error) => faults.push(`${world}: ${error}`));
-  await openWorld(page, home, rows);
+  page.on("console", (message) => message.type() === "error" && faults.push(`${career}: ${message.text()}`));
+  page.on("pageerror", (error) => faults.push(`${career}: ${error}`));
+  await openWorld(page, home, world(career));
   await walk(page, async (name) => {
     await stillness(page);
-    await shoot(page, world, theme, name);
+    await shoot(page, career, theme, name);
     const scrolls = await page.evaluate(() => {
       const scroll = document.querySelector(".layer.top .scroll");
       const more = scroll.scrollHeight > scroll.clientHeight + 60 && !document.querySelector("dialog[open]");
@@ -62,16 +59,16 @@ async function take(world, rows, theme) {
     });
     if (!scrolls) return;
     await stillness(page);
-    await shoot(page, world, theme, `${name}, below`);
+    await shoot(page, career, theme, `${name}, below`);
     await page.evaluate(() => (document.querySelector(".layer.top .scroll").scrollTop = 0));
   });
   await context.close();
 }
 
-async function shoot(page, world, theme, name) {
-  const file = `${world}-${theme}-${name}`.replace(/[^\w]+/g, "-") + ".jpg";
+async function shoot(page, career, theme, name) {
+  const file = `${career}-${theme}-${name}`.replace(/[^\w]+/g, "-") + ".jpg";
   await page.screenshot({ path: join(values.out, file), type: "jpeg", quality: 80 });
-  shots.push({ world, theme, name, file });
+  shots.push({ career, theme, name, file });
 }
 
 /** Waits until nothing moves and every picture is there. */
@@ -87,12 +84,12 @@ async function stillness(page) {
 }
 
 function page() {
-  const figure = ({ world, theme, name, file }) =>
-    `<figure><img src="${file}" loading="lazy" width="390" height="844" alt=""><figcaption>${name}<br>${world}, ${theme}</figcaption></figure>`;
-  const rows = names.flatMap((world) =>
+  const figure = ({ career, theme, name, file }) =>
+    `<figure><img src="${file}" loading="lazy" width="390" height="844" alt=""><figcaption>${name}<br>${career}, ${theme}</figcaption></figure>`;
+  const rows = names.flatMap((career) =>
     themes.map((theme) => {
-      const own = shots.filter((shot) => shot.world === world && shot.theme === theme);
-      return `<h2>${world}, ${theme}</h2><div>${own.map(figure).join("")}</div>`;
+      const own = shots.filter((shot) => shot.career === career && shot.theme === theme);
+      return `<h2>${career}, ${theme}</h2><div>${own.map(figure).join("")}</div>`;
     }),
   );
   return `<!doctype html><meta charset="utf-8"><title>Backbeat, every screen</title>

@@ -1,0 +1,23 @@
+#include "play/errands.h"
+
+namespace backbeat {
+namespace {
+
+const RoomErrands errands({
+    {"restart and go back",
+     {"rich", "mid-career", "in debt"},
+     {{"Home"},
+      {"goToSettings"},
+      {"restartButton"},
+      {"Restart"},
+      {"Home"},
+      {"goToSettings"},
+      {"goToRestore"},
+      {"ask"},
+      {"Restore"}}},
+    {"carry the career over", {"new", "talkative"}, {{"Home"}, {"goToSettings"}, {"exportCareer"}}},
+    {"bring a career in", {"new", "signed"}, {{"Home"}, {"goToSettings"}, {"importCareer"}}},
+});
+
+}  // namespace
+}  // namespace backbeat

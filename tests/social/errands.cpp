@@ -1,0 +1,28 @@
+#include "play/errands.h"
+
+namespace backbeat {
+namespace {
+
+const RoomErrands errands({
+    {"chirp nothing",
+     {"new", "rich"},
+     {{"Social"}, {"goToCreateTwitterMessage"}, {"chirpButton"}, {"🐥 Chirp Needed 🐥"}}},
+    {"chirp when tired",
+     {"in debt", "edges"},
+     {{"Social"}, {"goToCreateTwitterMessage"}, {"message"}, {"chirpButton"}, {"⚡️ Not Enough Energy ⚡️"}}},
+    {"announce a song twice",
+     {"rich", "signed", "mid-career"},
+     {{"Music"},
+      {"Second Wind, Part 1"},
+      {"announceButton"},
+      {"message"},
+      {"chirpButton"},
+      {"announceButton"},
+      {"🐥 Announcement Made 🐥"}}},
+    {"read old chirps",
+     {"talkative"},
+     {{"Social"}, {"unpin"}, {"Older Chirps"}, {"Newer Chirps"}, {"pin"}, {"delete"}}},
+});
+
+}  // namespace
+}  // namespace backbeat

@@ -1,0 +1,85 @@
+// Writes the careers that the tests begin from and the golden ones into a folder, for whoever is not written in C++:
+//   backbeat_careers FOLDER
+// careers.json names them: each is a career file, with the hour at which it goes on; a golden one has its trace and the
+// hash of its end too, and the career that it began with, if it was no new life.
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include "core/json.h"
+#include "play/golden_careers.h"
+#include "play/worlds.h"
+#include "shell/native/career_transfer.h"
+#include "support/dates.h"
+
+namespace backbeat {
+namespace {
+
+class Careers {
+ public:
+  explicit Careers(std::string folder) : folder_(std::move(folder)) { json_.beginObject(); }
+
+  void add(const NamedWorld& world) {
+    MemoryStore store;
+    settleInto(store, world);
+    GameState state;
+    SaveFile(store).load(state);
+    begin(world.name, state, noonOf(state));
+    json_.key("large").flag(world.large);
+    json_.endObject();
+  }
+
+  void add(const GoldenCareer& golden) {
+    const PlayedCareer& career = goldenCareer(golden.name);
+    const std::string trace = fileName(golden.name) + ".trace";
+    std::ofstream(folder_ + "/" + trace, std::ios::binary) << career.trace;
+    begin(golden.name, career.end, career.events.back().unixMilliseconds);
+    json_.key("large").flag(false);
+    json_.key("trace").text(trace);
+    json_.key("hash").text(hashText(stateHash(career.end)));
+    json_.key("world").text(golden.world);
+    json_.endObject();
+  }
+
+  bool finish() {
+    json_.endObject();
+    std::ofstream file(folder_ + "/careers.json", std::ios::binary);
+    file << json_.str() << '\n';
+    return problem_.empty() && file.good();
+  }
+
+ private:
+  static std::string fileName(std::string_view name) {
+    std::string file(name);
+    std::replace(file.begin(), file.end(), ' ', '-');
+    return file;
+  }
+
+  void begin(std::string_view name, const GameState& state, int64_t now) {
+    const std::string file = fileName(name) + ".plist";
+    if (problem_.empty()) problem_ = exportToFile(state, folder_ + "/" + file);
+    json_.key(name).beginObject();
+    json_.key("file").text(file);
+    json_.key("now").number(now);
+  }
+
+  std::string folder_;
+  std::string problem_;
+  JsonWriter json_;
+};
+
+}  // namespace
+}  // namespace backbeat
+
+int main(int count, char** words) {
+  using namespace backbeat;
+  if (count != 2) return 2;
+  std::error_code problem;
+  std::filesystem::create_directories(words[1], problem);
+  Careers careers(words[1]);
+  for (const NamedWorld& world : namedWorlds()) careers.add(world);
+  for (const GoldenCareer& golden : goldenCareers()) careers.add(golden);
+  return careers.finish() ? 0 : 1;
+}
