@@ -22,6 +22,14 @@ constexpr int64_t longestContract = 20;
 
 }  // namespace
 
+Outcome enterJobBoard(Game& game) {
+  if (game.state.totalEnergyAvailable < jobBoardEnergyCost) return bounce();
+  game.state.totalEnergyAvailable -= jobBoardEnergyCost;
+  game.save(&GameState::totalEnergyAvailable);
+  stateChanged(game);
+  return {};
+}
+
 std::vector<JobOffer> drawJobBoard(Random& random) {
   std::vector<JobOffer> board;
   const int64_t count = random.integer(0, mostJobs);

@@ -18,6 +18,9 @@ struct JobList {
   double jobPay = 0;       ///< dollars a week
 };
 
+/// The door of the board, where each visit is paid. Refused with too little energy: the energy figure shakes.
+Outcome enterJobBoard(Game& game);
+
 /// One row of the board.
 struct JobOffer {
   JobList job;

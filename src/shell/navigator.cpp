@@ -148,9 +148,19 @@ void Navigator::follow(const std::shared_ptr<Screen>& from, Outcome outcome) {
     unknownSegues_.push_back(outcome.go->segue);
     return;
   }
+  if (!admitted(*segue, from)) return;
   const bool modal = segue->presentation == Segue::Presentation::modal || !modals_.empty();
   open(modal ? modals_ : stacks_[tab_], *segue, outcome.go->argument);
   appear();
+}
+
+/// Asks at the door of a screen, and tells the player what it answers.
+bool Navigator::admitted(const Segue& segue, const std::shared_ptr<Screen>& from) {
+  if (!segue.enter) return true;
+  Outcome answer = segue.enter(game_);
+  const bool open = answer.alerts.empty() && answer.feedback == Feedback::none;
+  follow(from, std::move(answer));
+  return open;
 }
 
 /// The ways that lead to no screen.

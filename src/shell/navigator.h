@@ -122,6 +122,7 @@ class Navigator {
   void endTheWeek();
   void open(std::vector<Open>& stack, const Segue& segue, std::string_view argument);
   void follow(const std::shared_ptr<Screen>& from, Outcome outcome);
+  bool admitted(const Segue& segue, const std::shared_ptr<Screen>& from);
   void appear();
   bool followReserved(const Go& go);
 
