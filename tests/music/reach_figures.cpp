@@ -1,0 +1,145 @@
+#include "core/money.h"
+#include "music/certifications.h"
+#include "music/figures.h"
+#include "music/song_creation.h"
+#include "turn/week_cycle.h"
+
+namespace backbeat {
+
+namespace {
+
+/// What the tab tells whether it lists songs or albums.
+Standings tabFigures(const GameState& state) {
+  return {{"subtitle", "6 songs and 2 albums released"},
+          {"Create a Song: price", priceText({songEnergyCost, 0})},
+          {"Monthly Listeners", withCommas(state.totalFans), "goToMonthlyListenerDetail"},
+          {"Billboard 100", "", "goToBillboard"},
+          {"Certifications", "", "goToCertification"},
+          {"Artist Profile", "", "goToArtistProfile"}};
+}
+
+Standings songTabFigures(Game& twin) {
+  const GameState& state = twin.state;
+  return tabFigures(state) + songFigures(state, "Paper Boats") + songFigures(state, "Glass Harbour") +
+         songFigures(state, "Low Tide") + songFigures(state, "Night Bus") + songFigures(state, "Fever Line") +
+         songFigures(state, "Tin Roof") + songFigures(state, "Small Hours");
+}
+
+Standings albumTabFigures(Game& twin) {
+  const GameState& state = twin.state;
+  return tabFigures(state) + albumFigures(state, "First Light") + albumFigures(state, "Second Wind") +
+         albumFigures(state, "Old Coats") + albumFigures(state, "Third Rail");
+}
+
+Standings certificationsFigures(Game& twin) {
+  const GameState& state = twin.state;
+  const CertificationCounts counts = countCertifications(state);
+  Standings standings = {
+      {"Diamond", withCommas(counts.diamondAlbums)},    {"Platinum", withCommas(counts.platinumAlbums)},
+      {"Gold", withCommas(counts.goldAlbums)},          {"Silver", withCommas(counts.silverAlbums)},
+      {"Bronze", withCommas(counts.bronzeAlbums)},      {"Black", withCommas(counts.blackAlbums)},
+      {"Diamond (2)", withCommas(counts.diamondSongs)}, {"Platinum (2)", withCommas(counts.platinumSongs)},
+      {"Gold (2)", withCommas(counts.goldSongs)},       {"Silver (2)", withCommas(counts.silverSongs)},
+      {"Bronze (2)", withCommas(counts.bronzeSongs)},   {"Black (2)", withCommas(counts.blackSongs)}};
+  return standings + certificationFigures("Tin Roof", songTitled(state, "Tin Roof").totalListen, "Silver", 37'500'150) +
+         certificationFigures("Glass Harbour", songTitled(state, "Glass Harbour").totalListen, "Gold", 75'000'150) +
+         certificationFigures("Fever Line", songTitled(state, "Fever Line").totalListen, "Platinum", 150'000'150);
+}
+
+Standings profileFigures(Game& twin) {
+  const GameState& state = twin.state;
+  Standings standings = {{"cover: text", withCommas(state.totalFans) + " monthly listeners"},
+                         {"In your own words", state.aboutDescription},
+                         {"Certifications", "", "goToCertification"}};
+  int64_t place = 0;
+  for (const char* title : {"Paper Boats", "Fever Line", "Glass Harbour", "Tin Roof", "Low Tide"}) {
+    Standings song = songFigures(state, title);
+    song[1].says = std::to_string(++place) + " · " + songTitled(state, title).album;
+    standings = standings + song;
+  }
+  for (const char* title : {"First Light", "Old Coats"}) {
+    const Album& album = albumTitled(state, title);
+    Standings row = albumFigures(state, title);
+    row[1].says = std::to_string(album.releaseYear) + (album.songCount < 6 ? " · EP · " : " · LP · ") +
+                  counted(album.songCount, "song");
+    standings = standings + row;
+  }
+  return standings;
+}
+
+Standings listenerFigures(Game& twin) {
+  const std::vector<int64_t>& data = twin.state.monthlyListenerData;
+  const int64_t change = data[2] - data[1];
+  const double percent = static_cast<double>(change) / static_cast<double>(data[1]) * 100;
+  return {{"Listeners", withCommas(twin.state.totalFans)},
+          {"Listeners: note", withCommas(change) + " new listeners this week (" + withDecimals(percent, 2) + "%)"},
+          {"Monthly Listeners: note", withCommas(data[2] - data[0]) + " in the past six months"},
+          {"Monthly Listeners: points", pointsText({data.begin(), data.end()})}};
+}
+
+/// A row of the chart: its ranks, its record, who sings, and where it leads.
+Standings chartFigures(const BillboardSong& row, const std::string& artists, const std::string& arrow) {
+  const std::string own = row.songId < 1'000'000 ? "goToSongDetail " + std::to_string(row.songId) : "";
+  Standings standings = {{row.songTitle, arrow + std::to_string(row.rankThisWeek), own},
+                         {row.songTitle + ": subtitle", artists + "\nPeak " + std::to_string(row.peakPosition) + " · " +
+                                                            counted(row.weeksOnChart, "week")},
+                         {row.songTitle + ": note", row.rankLastWeek == 0 ? "–" : std::to_string(row.rankLastWeek)}};
+  if (row.rankLastWeek == 0) standings.push_back({row.songTitle + ": badge", "NEW"});
+  return standings;
+}
+
+Standings billboardFigures(Game& twin) {
+  const GameState& state = twin.state;
+  return Standings{{"subtitle", "Week " + std::to_string(state.weekNumber) + ", " + std::to_string(state.yearNumber)}} +
+         chartFigures(chartRowTitled(state, "Glass Harbour"), "Mara Voss\nfeat. Bo Crow, Cy Dell", "▲ ") +
+         chartFigures(chartRowTitled(state, "Rosewater"), "Nova Reed", "▼ ") +
+         chartFigures(chartRowTitled(state, "Borrowed Time"), "Gil Ives", "");
+}
+
+/// After the week in which two songs of the residual phase enter the chart: their rows name the first guest alone.
+Standings nextBillboardFigures(Game& twin) {
+  const GameState& state = twin.state;
+  return Standings{{"subtitle", "Week " + std::to_string(state.weekNumber) + ", " + std::to_string(state.yearNumber)}} +
+         chartFigures(chartRowTitled(state, "Paper Boats"), "Mara Voss\nfeat. Ann Bright", "") +
+         chartFigures(chartRowTitled(state, "Fever Line"), "Mara Voss\nfeat. Ed Gray", "") +
+         chartFigures(chartRowTitled(state, "Glass Harbour"), "Mara Voss\nfeat. Bo Crow, Cy Dell", "▲ ") +
+         chartFigures(chartRowTitled(state, "Rosewater"), "Nova Reed", "▼ ") +
+         chartFigures(chartRowTitled(state, "Borrowed Time"), "Gil Ives", "");
+}
+
+Standings historyFigures(Game& twin) {
+  Standings standings;
+  const std::pair<const char*, const char*> rows[] = {{"Borrowed Time", "Gil Ives"},
+                                                      {"Glass Harbour", "Mara Voss\nfeat. Bo Crow, Cy Dell"},
+                                                      {"Low Tide", "Mara Voss"},
+                                                      {"Rosewater", "Nova Reed"}};
+  for (const auto& [title, artists] : rows) {
+    const BillboardSong& row = chartRowTitled(twin.state, title);
+    Standings one = chartFigures(row, artists, "");
+    one.resize(3);
+    one[0].says = std::to_string(row.yearDebut);
+    one[2].says = std::to_string(row.weeksAtOne);
+    standings = standings + one;
+  }
+  return standings;
+}
+
+std::vector<ScreenFigures> screens() {
+  const auto endWeek = [](Game& game) { runWeekCycle(game, [] {}); };
+  return {
+      {.segue = "music", .figures = songTabFigures},
+      {.segue = "music", .figures = albumTabFigures, .presses = {{"kind", "1"}}},
+      {.segue = "goToCertification", .figures = certificationsFigures},
+      {.segue = "goToArtistProfile", .figures = profileFigures},
+      {.segue = "goToMonthlyListenerDetail", .figures = listenerFigures},
+      {.segue = "goToBillboard", .figures = billboardFigures, .noFigures = {"title"}},
+      {.segue = "goToBillboard", .figures = nextBillboardFigures, .before = endWeek, .noFigures = {"title"}},
+      {.segue = "goToBillboard", .figures = historyFigures, .presses = {{"historyButton", ""}}},
+  };
+}
+
+const FiguresOf reach{.screens = screens};
+
+}  // namespace
+
+}  // namespace backbeat

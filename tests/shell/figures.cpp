@@ -1,0 +1,34 @@
+#include "play/figures.h"
+
+namespace backbeat {
+
+namespace {
+
+std::vector<ScreenFigures> screens() {
+  return {{.segue = "goToSettings",
+           .figures =
+               [](Game&) {
+                 return Standings{{"Featured artists", "", "goToChangeFeaturedArtistName"},
+                                  {"Cameos", "", "goToChangeCameoNames"},
+                                  {"Export", "", "exportCareer"},
+                                  {"Import", "", "importCareer"},
+                                  {"Restore", "", "goToRestore"},
+                                  {"Data", "", "goToData"},
+                                  {"About", "", "goToAbout"}};
+               }},
+          {.segue = "goToRestore",
+           .figures =
+               [](Game&) {
+                 return Standings{{"Before the restart: subtitle", "Mara Voss · Week 36, 2049 · $5,432,109"}};
+               },
+           .before = [](Game& game) { game.saveFile.keepSnapshot(SnapshotKind::restart, game.state); }},
+          {.segue = "goToAbout",
+           .figures = [](Game&) { return Standings(); },
+           .noFigures = {"subtitle", "Open Peeps", "Inter", "@dicebear/core", "lit", "ionicons"}}};
+}
+
+const FiguresOf shell{.screens = screens};
+
+}  // namespace
+
+}  // namespace backbeat

@@ -1,0 +1,66 @@
+#include "career/energy.h"
+#include "core/money.h"
+#include "turn/figures.h"
+
+namespace backbeat {
+
+namespace {
+
+Standings homeFigures(Game& twin) {
+  const GameState& state = twin.state;
+  const std::vector<int64_t>& data = state.monthlyListenerData;
+  const Chirp& chirp = state.saveAllChirpList[0];
+  return Standings{
+             {"subtitle", state.myLabelName},
+             {"Monthly listeners", withCommas(state.totalFans), "goToMonthlyListenerDetail"},
+             {"Monthly listeners: note", "+" + withCommas(data[2] - data[1]) + " this week"},
+             {"Monthly listeners: points", pointsText({data.begin(), data.end()})},
+             {"Followers", abbreviated(static_cast<double>(state.followerCount))},
+             {"Songs out", "6"},
+             {"Best chart", rank(chartRowTitled(state, "Low Tide").peakPosition), "goToBillboard"},
+             {"Energy", std::to_string(state.totalEnergyMax - standingEnergyCosts(state)), "goToEnergyTransparency"},
+             {"Standing net", currency(standingNet(state))},
+             {chirp.artistName + ": age", "5h"},
+             {chirp.artistName + ": message", chirp.message},
+             {chirp.artistName + ": likes", abbreviated(static_cast<double>(chirp.likeCount))},
+             {"Artist profile", "", "goToArtistProfile"},
+             {"Label contract", "", "goToSignedContract"},
+             {"Label contract: subtitle", "6 EPs, 8 LPs and 41 songs in 37 weeks"},
+             {"Settings", "", "goToSettings"}} +
+         songFigures(state, "Paper Boats") + songFigures(state, "Glass Harbour") + songFigures(state, "Fever Line");
+}
+
+Standings offeredHomeFigures(Game& twin) {
+  Standings standings = homeFigures(twin);
+  standings.push_back({"A record label wants to talk", "", "goToContractOffer"});
+  standings.push_back({"A record label wants to talk: badge", "!"});
+  for (Standing& standing : standings) {
+    if (standing.where == "Label contract") standing.leadsTo = "goToContractOffer";
+    if (standing.where == "Label contract: subtitle") standing.says = "An offer waits";
+  }
+  return standings;
+}
+
+Standings dataFigures(Game&) {
+  return {{"Optimize: subtitle", "3 old songs, 2 old albums"}, {"Reset Startups: subtitle", "1 investment"}};
+}
+
+std::vector<ScreenFigures> screens() {
+  return {
+      {.segue = "home", .figures = homeFigures},
+      {.segue = "home",
+       .figures = offeredHomeFigures,
+       .before =
+           [](Game& game) {
+             game.launch.contractOfferState = 1;
+             game.state.underContract = 0;
+           }},
+      {.segue = "goToData", .figures = dataFigures},
+  };
+}
+
+const FiguresOf home{.screens = screens};
+
+}  // namespace
+
+}  // namespace backbeat

@@ -1,0 +1,93 @@
+#include "core/money.h"
+#include "turn/figures.h"
+#include "turn/week_cycle.h"
+
+namespace backbeat {
+
+namespace {
+
+/// What one song or album did in the week.
+Standings weekFigures(const std::string& title, const std::string& album, int64_t count, const char* badge) {
+  Standings standings = {{title, withCommas(count)}, {title + ": badge", badge}};
+  if (!album.empty()) standings.push_back({title + ": subtitle", album});
+  return standings;
+}
+
+Standings songWeek(const GameState& state, const char* title, const char* badge) {
+  const auto weeks = state.saveAllWeeklySongListens.historyOf(songTitled(state, title).songId);
+  const WeeklySongListens& week = state.saveAllWeeklySongListens[weeks.back()];
+  return weekFigures(title, week.albumTitle, week.songListens, badge);
+}
+
+Standings reportFigures(Game& twin) {
+  const GameState& state = twin.state;
+  const auto paper = state.saveAllWeeklySongListens.historyOf(songTitled(state, "Paper Boats").songId);
+  const double streams = state.saveAllWeeklySongListens[paper.back()].totalStreamRevenue;  // of the top song alone
+  const double albums = earned(state.saveAllWeeklyAlbumSales, state, &WeeklyAlbumSales::albumRevenue);
+  const double videos = state.saveAllWeeklyVideoViews[1].totalViewRevenue;
+  const double touring = state.saveAllWeeklyTourSales[1].tourRevenue;
+  const double festival = state.saveAllFestivalList[1].payment;
+  const double verses = state.saveAllFeaturedOnWeeklySongListens[1].totalStreamRevenue;
+  const double label = labelAlbums(state) + labelStreams(state);
+  const double family = state.saveAllChildList[0].weeklyFinancialCost;
+  const double office = 3 * state.labelOfficePerkSpend + state.labelOfficeRent;
+  const double rent = entry(state, "Rent of the flat");
+  double costs = 0;
+  for (const Entry& one : entries) costs += one.isExpense ? entry(state, one.title) : 0;
+  const double revenue =
+      streams + albums + videos + touring + festival + verses + merchOf(state) + label + state.weeklyJobIncome + rent;
+  const double expenses = costs + family + office;
+  const double cash = state.totalCashAvailable;
+  const auto sales = state.saveAllWeeklyAlbumSales.historyOf(20);
+  const int64_t fans = twin.launch.weeklyFanChange;
+  return Standings{{"title", "Week 36"},
+                   {"subtitle", "2049 · Weekly report"},
+                   {"card", "🎉 “Paper Boats” is number one!"},
+                   {"Net", currency(revenue - expenses)},
+                   {"Net: note", "Cash " + currency(cash) + " → " + currency(cash + revenue - expenses)},
+                   {"Listeners", (fans > 0 ? "+" : "") + withCommas(fans) + " FANS"},
+                   {"Listeners: note", withCommas(state.totalFans) + " monthly listeners"},
+                   {"Harbour Bowl", withCommas(state.saveAllWeeklyTourSales[1].seatsSold)},
+                   {"Harbour Bowl: subtitle", "Lisbon"},
+                   {"Meadow Days", "★★★"},
+                   {"Meadow Days: subtitle", "A storm with a tune"},
+                   {"Streams", currency(streams)},
+                   {"Streams: note", "Paper Boats"},
+                   {"Albums", currency(albums)},
+                   {"Videos", currency(videos)},
+                   {"Touring", currency(touring)},
+                   {"Festival", currency(festival)},
+                   {"Featured on", currency(verses)},
+                   {"MERCH SALES", currency(merchOf(state))},
+                   {"MERCH SALES: note", counted(state.saveAllMerchWeeklySales[1].unitsSold, "unit")},
+                   {"My label", currency(label)},
+                   {"Job", currency(state.weeklyJobIncome)},
+                   {"Standing income", currency(rent)},
+                   {"Total revenue", currency(revenue)},
+                   {"Standing expenses", currency(-costs)},
+                   {"Family", currency(-family)},
+                   {"Office", currency(-office)},
+                   {"Total cost", currency(-expenses)},
+                   {"Energy", std::to_string(state.totalEnergyAvailable)},
+                   {"Energy: note", "of " + std::to_string(state.totalEnergyMax)},
+                   {"Cash", currency(cash + revenue - expenses)}} +
+         songWeek(state, "Paper Boats", "#1") + songWeek(state, "Fever Line", "DEBUT") +
+         songWeek(state, "Glass Harbour", "PEAK") + songWeek(state, "Tin Roof", "CERTIFIED") +
+         songWeek(state, "Small Hours", "RECORD") +
+         weekFigures("First Light", "", state.saveAllWeeklyAlbumSales[sales.back()].albumSales, "CERTIFIED");
+}
+
+std::vector<ScreenFigures> screens() {
+  return {
+      {.segue = "goToWeeklySummary",
+       .figures = reportFigures,
+       .before = [](Game& game) { runWeekCycle(game, [] {}); },
+       .noFigures = {"card (*", "card: *"}},
+  };
+}
+
+const FiguresOf report{.screens = screens};
+
+}  // namespace
+
+}  // namespace backbeat
