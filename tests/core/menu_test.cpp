@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/room.h"
-#include "support/views.h"
+#include "core/view_find.h"
 #include "support/world.h"
 
 namespace backbeat {
