@@ -11,13 +11,14 @@ function pressables(view) {
   };
   for (const block of view.blocks ?? []) {
     if (["button", "chart"].includes(block.kind)) add(block.id);
-    for (const item of block.items ?? []) {
+    for (const item of [...(block.items ?? []), ...(block.people ?? []), ...(block.choices ?? [])]) {
       add(item.id);
       for (const action of item.actions ?? []) add(action.id);
     }
     for (const button of block.buttons ?? []) add(button.id);
   }
   add(view.mainAction?.id);
+  add(view.aside?.id);
   return ids;
 }
 
