@@ -136,10 +136,7 @@ constexpr MenuLine menu[] = {
      .segue = "goToJobBoard",
      .id = "goToJobBoardButton",
      .describe = describeJob,
-     .price =
-         [](const GameState&) {
-           return jobBoardCost;
-         }},
+     .price = [](const GameState&) { return jobBoardCost; }},
     lifestyleLine<0>("Food", "0", "goToFoodButton"),
     lifestyleLine<1>("Fashion", "1", "goToFashionButton"),
     lifestyleLine<2>("Health", "2", "goToHealthButton"),

@@ -149,6 +149,7 @@ bool Navigator::admitted(const Segue& segue, const std::shared_ptr<Screen>& from
   if (!segue.enter) return true;
   Outcome answer = segue.enter(game_);
   const bool open = answer.done();
+  if (!open) result_ = answer.result;
   follow(from, std::move(answer));
   return open;
 }
