@@ -8,6 +8,7 @@
 #include "career/studio.h"
 #include "career/traits.h"
 #include "core/money.h"
+#include "core/view_words.h"
 
 namespace backbeat {
 

@@ -2,6 +2,7 @@
 
 #include "career/ledger.h"
 #include "core/money.h"
+#include "core/view_words.h"
 #include "turn/income_statement.h"
 #include "turn/screens/money_figures.h"
 #include "turn/weekly_report.h"
