@@ -6,10 +6,11 @@
 
 #include "core/game.h"
 #include "core/outcome.h"
+#include "core/price.h"
 
 namespace backbeat {
 
-inline constexpr int64_t jobBoardEnergyCost = 5;  ///< of each visit
+inline constexpr Price jobBoardCost = {.energy = 5};  ///< of each visit
 
 /// A kind of job.
 struct JobList {

@@ -26,7 +26,7 @@ Row jobRow(const GameState& state) {
     row.subtitle =
         currency(state.weeklyJobIncome) + "/week · " + counted(state.weeklyJobContractRemaining, "week") + " left";
   }
-  row.price = Price{jobBoardEnergyCost, 0};
+  row.price = jobBoardCost;
   return row;
 }
 

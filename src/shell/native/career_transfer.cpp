@@ -38,6 +38,7 @@ std::string putInPlace(ImportedCareer& career, CareerStore& store) {
 
 std::string importMessage(const ImportedCareer& career) {
   std::string text = "The career is in. The one before it is kept: Settings, Restore.";
+  for (const std::string& sentence : career.mended) text += "\n" + sentence;
   if (career.missing.empty()) return text;
   text += "\nThe file lacked these keys, which begin at their defaults:";
   for (const std::string& key : career.missing) text += " " + key;
