@@ -74,7 +74,7 @@ Standings lifeFigures(Game& twin) {
           {"My Studio", std::to_string(studioRating(state)), "goToMyStudio"},
           {"Job Board", "", "goToJobBoard"},
           {"Job Board: subtitle", currency(state.weeklyJobIncome) + "/week · 14 weeks left"},
-          {"Job Board: price", priceText({jobBoardEnergyCost, 0})},
+          {"Job Board: price", priceText(jobBoardCost)},
           {"Food", "-" + currency(food.amount), "goToLifestyleChoices 0"},
           {"Food: note", "+" + std::to_string(food.energyBoost) + " max energy"},
           {"Fashion", "-" + currency(fashion.amount), "goToLifestyleChoices 1"},
