@@ -37,21 +37,19 @@ std::string stillOwed(const ContractLabel& contract) {
 }  // namespace
 
 Table contractTerms(const ContractLabel& contract, double viewingRate) {
-  Table table;
-  table.columns = {"", "On your own", contract.recordLabel};
-  table.rows = {
-      {"Label's share", percent(0), percent(contract.labelPercentageRate)},
-      {"Per stream", rate(free_terms::streamingPayRate), rate(contract.labelStreamingRate)},
-      {"Per video view", rate(free_terms::youViewStreamingRate), rate(viewingRate)},
-      {"Virality of a release", boost(0), boost(contract.viralityScore)},
-      {"Marketing of a new song", "Yours", std::to_string(truncate(contract.marketingScore))},
-      {"Label studio", "–", std::to_string(contract.studioScore)},
-      {"Guests at", percent(free_terms::featureDiscount), percent(contract.featureDiscounts)},
-      {"Album price", price(free_terms::albumPricing), price(contract.albumPricing)},
-      {"Cost of an album", price(free_terms::albumProductionCosts), price(0)},
-      {"Tours, cost a seat", "No tours", currency(contract.tourTicketCost)},
-  };
-  return table;
+  return {.columns = {"", "On your own", contract.recordLabel},
+          .rows = {
+              {"Label's share", percent(0), percent(contract.labelPercentageRate)},
+              {"Per stream", rate(free_terms::streamingPayRate), rate(contract.labelStreamingRate)},
+              {"Per video view", rate(free_terms::youViewStreamingRate), rate(viewingRate)},
+              {"Virality of a release", boost(0), boost(contract.viralityScore)},
+              {"Marketing of a new song", "Yours", std::to_string(truncate(contract.marketingScore))},
+              {"Label studio", "–", std::to_string(contract.studioScore)},
+              {"Guests at", percent(free_terms::featureDiscount), percent(contract.featureDiscounts)},
+              {"Album price", price(free_terms::albumPricing), price(contract.albumPricing)},
+              {"Cost of an album", price(free_terms::albumProductionCosts), price(0)},
+              {"Tours, cost a seat", "No tours", currency(contract.tourTicketCost)},
+          }};
 }
 
 int64_t contractWeeksLeft(const GameState& state, const ContractLabel& contract) {

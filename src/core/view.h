@@ -121,16 +121,6 @@ struct Row {
   std::vector<RowAction> actions = {};
   std::vector<double> points = {};  ///< a small line before the value
 };
-/// A row with a drawn picture that leads to another screen.
-inline Row wayTo(std::string id, std::string glyph, std::string title, std::string subtitle = {}) {
-  Row row;
-  row.id = std::move(id);
-  row.picture = icon(std::move(glyph));
-  row.title = std::move(title);
-  row.subtitle = std::move(subtitle);
-  row.opens = true;
-  return row;
-}
 
 /// A grouped list. A long list is windowed: `items` are the rows from `from` of `total` in all, and a press of `id`
 /// with a row number as value moves the window there. A list with `total` 0 is whole.

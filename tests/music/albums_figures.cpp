@@ -29,7 +29,7 @@ Standings albumInProductionFigures(Game& twin) {
                    {"Production rating: share", shareText(album.productionRating / 100)},
                    {"text", counted(fewestSongsOnAlbum - album.songCount, "more song") + " and it can come out."},
                    {"button", "SET PRICING (" + price(album.price) + ")"},
-                   {"RELEASE: price", priceText({albumReleaseEnergyCost, 0})}} +
+                   {"RELEASE: price", priceText(albumReleaseCost)}} +
          songFigures(state, "Night Bus");
 }
 

@@ -11,7 +11,7 @@ namespace {
 /// What the tab tells whether it lists songs or albums.
 Standings tabFigures(const GameState& state) {
   return {{"subtitle", "6 songs and 2 albums released"},
-          {"Create a Song: price", priceText({songEnergyCost, 0})},
+          {"Create a Song: price", "10 energy"},
           {"Monthly Listeners", withCommas(state.totalFans), "goToMonthlyListenerDetail"},
           {"Billboard 100", "", "goToBillboard"},
           {"Certifications", "", "goToCertification"},

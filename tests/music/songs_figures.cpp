@@ -31,11 +31,11 @@ Standings songInProductionFigures(Game& twin) {
           {"Virality", withDecimals(song.viralityScore, 2)},
           {"Virality: share", shareText(song.viralityScore / 100)},
           {"button", "Production +1.0"},  // gives 1.5: intended
-          {"Production +1.0: price", priceText({*productionBoostCost(song), 0})},
+          {"Production +1.0: price", priceText(*productionBoostCost(song))},
           {"button (2)", "Virality +0.5"},
-          {"Virality +0.5: price", priceText({*viralityBoostCost(song), 0})},
-          {"Announce on Chirp: price", priceText({5, 0})},
-          {"RELEASE: price", priceText({releaseEnergyCost, 0})}};
+          {"Virality +0.5: price", priceText(*viralityBoostCost(song))},
+          {"Announce on Chirp: price", "5 energy"},
+          {"RELEASE: price", priceText(releaseCost)}};
 }
 
 Standings songStatistics(Game& twin) {
@@ -71,13 +71,12 @@ Standings optionFigures(const std::string& label, const std::vector<ProductionOp
 
 Standings newSongFigures(Game& twin) {
   const ProductionOptions options = drawProductionOptions(twin);
-  return Standings{
-             {"Featured artists", "", "goToFeaturedArtists"},
-             {"Album (2)", "Second Wind (2)"},
-             {"Album (3)", "Third Rail (11)"},
-             {"Create Song: price",
-              priceText({songEnergyCost, static_cast<double>(options.writing[2].cost + options.musicality[1].cost +
-                                                             options.studio[3].cost)})}} +
+  return Standings{{"Featured artists", "", "goToFeaturedArtists"},
+                   {"Album (2)", "Second Wind (2)"},
+                   {"Album (3)", "Third Rail (11)"},
+                   {"Create Song: price",
+                    priceText({10, static_cast<double>(options.writing[2].cost + options.musicality[1].cost +
+                                                       options.studio[3].cost)})}} +
          optionFigures("Songwriting", options.writing) + optionFigures("Musicality", options.musicality) +
          optionFigures("Studio", options.studio);
 }

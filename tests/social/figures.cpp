@@ -25,7 +25,7 @@ void furnish(GameState& state, OwnValues& own) {
 Standings profileFigures(Game& twin) {
   const GameState& state = twin.state;
   Standings standings = {{"cover: text", "@maravoss\n" + withCommas(state.followerCount) + " followers"},
-                         {"Chirp: price", priceText({chirpEnergyCost, 0})}};
+                         {"Chirp: price", priceText(chirpCost)}};
   for (const Chirp& chirp : state.saveAllChirpList) {
     const auto count = [](int64_t number) { return abbreviated(static_cast<double>(number)); };
     standings.push_back({chirp.artistName + ": age", chirpAge(chirp, Date{1'940'000'000})});
@@ -41,7 +41,7 @@ std::vector<ScreenFigures> screens() {
   return {{.segue = "social", .figures = profileFigures},
           {.segue = "goToCreateTwitterMessage", .argument = "21", .figures = [](Game&) {
              return Standings{{"Your Chirp", "My new song \"Night Bus\" is on its way. Stay close! 🎶"},
-                              {"Chirp: price", priceText({chirpEnergyCost, 0})}};
+                              {"Chirp: price", priceText(chirpCost)}};
            }}};
 }
 

@@ -23,52 +23,46 @@ bool ContractOfferViewController::hasOffer() const {
 }
 
 View ContractOfferViewController::view() const {
-  View view;
-  view.title = "Label contract";
+  View view{.title = "Label contract"};
   view.help =
-      Help{"How labels work",
-           "A label that likes your numbers may write in any week once you have more than 35,000 listeners; the "
-           "more listeners, the greater the label. Its offer waits until the week ends.\n\nA deal brings cash at "
-           "once, better pay for each stream and view, a studio, marketing, and tours. In return the label takes "
-           "its share and expects records by a deadline. Miss it and you pay the signing bonus back."};
+      Help{.title = "How labels work",
+           .text =
+               "A label that likes your numbers may write in any week once you have more than 35,000 listeners; the "
+               "more listeners, the greater the label. Its offer waits until the week ends.\n\nA deal brings cash at "
+               "once, better pay for each stream and view, a studio, marketing, and tours. In return the label takes "
+               "its share and expects records by a deadline. Miss it and you pay the signing bonus back."};
   if (!hasOffer()) {
-    view.add(EmptyHint{"label", state().isLabelLaunched >= 1
-                                    ? "You run a label of your own. No other will write to you."
-                                    : "There is no offer on the table. Labels write to artists with more than 35,000 "
-                                      "listeners; the more people listen, the better the label."});
+    view.add(EmptyHint{.icon = "label",
+                       .text = state().isLabelLaunched >= 1
+                                   ? "You run a label of your own. No other will write to you."
+                                   : "There is no offer on the table. Labels write to artists with more than 35,000 "
+                                     "listeners; the more people listen, the better the label."});
     return view;
   }
   const ContractOffer& offer = game_.launch.contractOffer;
   const RecordLabel& label = recordLabelOf(offer.contractLevel);
   const ContractLabel contract = contractOf(state(), offer);
-  const std::string weeks = counted(offer.tempEndDate - offer.tempStartDate, "week");
-  Cover head;
-  head.picture = cover(label.image);
-  head.title = label.recordLabel;
-  head.text = std::string(label.marketingPower) + " label\n" + "$" + abbreviated(label.revenueLabel) + " a year";
-  view.add(std::move(head));
-  view.add(Text{offerGreeting(offer), Tone::plain, Text::Style::lead});
-  Tiles deal;
-  deal.items.push_back({"cash", "Signing bonus", currency(contract.initialCash), "", Tone::good, ""});
-  deal.items.push_back(
-      {"label", "Their share", withDecimals(offer.tempPercentageRate * 100, 0) + "%", "", Tone::bad, ""});
-  deal.items.push_back({"hourglass", "Deadline", weeks, "", Tone::plain, ""});
-  view.add(std::move(deal));
-  view.add(Heading{"What they give", {}});
+  view.add(Cover{
+      .picture = cover(label.image),
+      .title = label.recordLabel,
+      .text = std::string(label.marketingPower) + " label\n" + "$" + abbreviated(label.revenueLabel) + " a year"});
+  view.add(Text{.text = offerGreeting(offer), .style = Text::Style::lead});
+  view.add(Tiles{
+      {{.icon = "cash", .label = "Signing bonus", .value = currency(contract.initialCash), .tone = Tone::good},
+       {.icon = "label",
+        .label = "Their share",
+        .value = withDecimals(offer.tempPercentageRate * 100, 0) + "%",
+        .tone = Tone::bad},
+       {.icon = "hourglass", .label = "Deadline", .value = counted(offer.tempEndDate - offer.tempStartDate, "week")}}});
+  view.add(Heading{"What they give"});
   view.add(contractTerms(contract, offer.tempViewingRates));
-  view.add(Text{offerDeal(offer)});
-  view.add(Heading{"What they expect", {}});
-  Tiles quota;
-  quota.items.push_back({"album", "EPs", std::to_string(offer.tempEp), "", Tone::plain, ""});
-  quota.items.push_back({"album", "LPs", std::to_string(offer.tempLp), "", Tone::plain, ""});
-  quota.items.push_back({"note", "Songs", std::to_string(offer.tempSongs), "", Tone::plain, ""});
-  view.add(std::move(quota));
-  view.add(Text{offerExpectations(offer)});
-  Button sign;
-  sign.id = "signContract";
-  sign.label = "Sign Contract";
-  sign.style = Button::Style::primary;
-  view.mainAction = std::move(sign);
+  view.add(Text{.text = offerDeal(offer)});
+  view.add(Heading{"What they expect"});
+  view.add(Tiles{{{.icon = "album", .label = "EPs", .value = std::to_string(offer.tempEp)},
+                  {.icon = "album", .label = "LPs", .value = std::to_string(offer.tempLp)},
+                  {.icon = "note", .label = "Songs", .value = std::to_string(offer.tempSongs)}}});
+  view.add(Text{.text = offerExpectations(offer)});
+  view.mainAction = Button{.id = "signContract", .label = "Sign Contract", .style = Button::Style::primary};
   return view;
 }
 

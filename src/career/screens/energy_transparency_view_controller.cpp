@@ -4,6 +4,7 @@
 
 #include "career/energy.h"
 #include "career/ledger.h"
+#include "core/view_words.h"
 
 namespace backbeat {
 
@@ -15,12 +16,10 @@ constexpr int64_t lastLifestyle = 9;
 /// Only lines with a value are told.
 void addLine(Rows& rows, std::string glyph, std::string title, int64_t amount) {
   if (amount == 0) return;
-  Row row;
-  row.picture = icon(std::move(glyph));
-  row.title = std::move(title);
-  row.value = (amount > 0 ? "+" : "") + std::to_string(amount);
-  row.tone = amount < 0 ? Tone::bad : Tone::good;
-  rows.items.push_back(std::move(row));
+  rows.items.push_back({.picture = icon(std::move(glyph)),
+                        .title = std::move(title),
+                        .value = (amount > 0 ? "+" : "") + std::to_string(amount),
+                        .tone = toneOfChange(amount)});
 }
 
 Rows weeklyCosts(const GameState& state) {
@@ -78,9 +77,9 @@ Rows ceilingGains(const GameState& state) {
 }
 
 void describe(View& view, std::string heading, Rows rows, std::string none) {
-  view.add(Heading{std::move(heading), {}});
+  view.add(Heading{std::move(heading)});
   if (rows.items.empty()) {
-    view.add(Text{std::move(none), Tone::plain, Text::Style::caption});
+    view.add(caption(std::move(none)));
   } else {
     view.add(std::move(rows));
   }
@@ -89,21 +88,23 @@ void describe(View& view, std::string heading, Rows rows, std::string none) {
 }  // namespace
 
 View EnergyTransparencyViewController::view() const {
-  View view;
-  view.title = "Energy";
-  Tiles tiles;
-  tiles.items.push_back({"bolt", "Now", std::to_string(state().totalEnergyAvailable), "this week", Tone::plain, ""});
-  tiles.items.push_back({"trend", "Ceiling", std::to_string(state().totalEnergyMax), "max energy", Tone::plain, ""});
-  tiles.items.push_back(
-      {"calendar", "Next week", std::to_string(nextWeeksEnergy(state())), "after costs", Tone::plain, ""});
-  view.add(std::move(tiles));
+  View view{.title = "Energy"};
+  view.add(Tiles{
+      {{.icon = "bolt", .label = "Now", .value = std::to_string(state().totalEnergyAvailable), .note = "this week"},
+       {.icon = "trend", .label = "Ceiling", .value = std::to_string(state().totalEnergyMax), .note = "max energy"},
+       {.icon = "calendar",
+        .label = "Next week",
+        .value = std::to_string(nextWeeksEnergy(state())),
+        .note = "after costs"}}});
   describe(view, "ENERGY COSTS (WEEKLY)", weeklyCosts(state()), "Nothing takes energy from you every week.");
   describe(view, "MAX ENERGY LOSS", ceilingLosses(state()), "Nothing has worn you out yet.");
   describe(view, "MAX ENERGY GAIN", ceilingGains(state()), "Eat, rest and move better to raise your ceiling.");
-  view.help = Help{"Energy",
-                   "Every week your energy refills to the ceiling, less what your duties cost. What you do not use is "
-                   "gone; only energy above the ceiling stays.\n\nEach birthday takes one point of ceiling. A better "
-                   "life gives some back."};
+  view.help =
+      Help{.title = "Energy",
+           .text =
+               "Every week your energy refills to the ceiling, less what your duties cost. What you do not use is "
+               "gone; only energy above the ceiling stays.\n\nEach birthday takes one point of ceiling. A better "
+               "life gives some back."};
   return view;
 }
 

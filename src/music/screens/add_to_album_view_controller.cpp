@@ -28,13 +28,13 @@ std::vector<size_t> AddToAlbumViewController::offered() const {
 }
 
 View AddToAlbumViewController::view() const {
-  View view;
-  view.title = "Add to Album";
+  View view{.title = "Add to Album"};
   const auto song = songPosition(state(), songId_);
   if (song) view.subtitle = state().saveAllSongList[*song].title;
   const std::vector<size_t> positions = offered();
   if (positions.empty()) {
-    view.add(EmptyHint{"album", "The song is on the only album in production. Create another one on the Music tab."});
+    view.add(EmptyHint{.icon = "album",
+                       .text = "The song is on the only album in production. Create another one on the Music tab."});
     return view;
   }
   view.add(windowedRows("albums", albums_, static_cast<int64_t>(positions.size()), [&](size_t i) {
@@ -42,9 +42,11 @@ View AddToAlbumViewController::view() const {
     row.opens = false;
     return row;
   }));
-  view.help = Help{"Songs and albums",
-                   "A song moves to the album you press and comes out with it at the latest. You can still release it "
-                   "as a single before."};
+  view.help =
+      Help{.title = "Songs and albums",
+           .text =
+               "A song moves to the album you press and comes out with it at the latest. You can still release it "
+               "as a single before."};
   return view;
 }
 

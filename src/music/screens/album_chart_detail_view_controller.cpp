@@ -14,34 +14,29 @@ constexpr size_t weeksInTable = 12;
 }  // namespace
 
 View AlbumChartDetailViewController::view() const {
-  View view;
-  view.title = "Statistics";
+  View view{.title = "Statistics"};
   const auto position = albumPosition(state(), albumId_);
   if (!position) {
-    view.add(EmptyHint{"chart", "This album is no longer there."});
+    view.add(EmptyHint{.icon = "chart", .text = "This album is no longer there."});
     return view;
   }
   const Album& album = state().saveAllAlbumList[*position];
   view.subtitle = album.title;
   const WeeklyFigures figures = albumFigures(state(), albumId_);
   if (figures.weeks == 0) {
-    view.add(EmptyHint{"chart", "Nothing sold yet. End the week to see the first copies go."});
+    view.add(EmptyHint{.icon = "chart", .text = "Nothing sold yet. End the week to see the first copies go."});
     return view;
   }
   view.add(salesChart(state(), album, weeksOnGraph));
-  Tiles counts;
-  counts.items.push_back({"album", "Sold", withCommas(album.albumsSold), "", Tone::plain, ""});
-  counts.items.push_back({"flame", "Best week", withCommas(figures.best), "", Tone::plain, ""});
-  counts.items.push_back({"calendar", "Latest week", withCommas(figures.latest), "", Tone::plain, ""});
-  view.add(std::move(counts));
-  Tiles money;
-  money.items.push_back({"cash", "Earned", currency(figures.earned), "", Tone::plain, ""});
-  money.items.push_back({"cart", "Price", price(album.price), "", Tone::plain, ""});
-  money.items.push_back({"document", "Your share", percentage(album.percentageOfEarnings * 100), "", Tone::plain, ""});
-  view.add(std::move(money));
-  view.add(Heading{"Certification", {}});
+  view.add(Tiles{{{.icon = "album", .label = "Sold", .value = withCommas(album.albumsSold)},
+                  {.icon = "flame", .label = "Best week", .value = withCommas(figures.best)},
+                  {.icon = "calendar", .label = "Latest week", .value = withCommas(figures.latest)}}});
+  view.add(Tiles{{{.icon = "cash", .label = "Earned", .value = currency(figures.earned)},
+                  {.icon = "cart", .label = "Price", .value = price(album.price)},
+                  {.icon = "document", .label = "Your share", .value = percentage(album.percentageOfEarnings * 100)}}});
+  view.add(Heading{"Certification"});
   view.add(albumCertificationMeter(album));
-  view.add(Heading{"Latest weeks", {}});
+  view.add(Heading{"Latest weeks"});
   view.add(salesTable(state(), albumId_, weeksInTable));
   return view;
 }

@@ -40,11 +40,10 @@ std::string albumFormat(const Album& album) {
 }
 
 Row albumRow(const GameState& state, const Album& album) {
-  Row row;
-  row.id = "album:" + std::to_string(album.albumId);
-  row.opens = true;
-  row.picture = coverOf(state, album);
-  row.title = album.title;
+  Row row{.picture = coverOf(state, album),
+          .title = album.title,
+          .opens = true,
+          .id = "album:" + std::to_string(album.albumId)};
   if (!album.isReleased) {
     row.subtitle = counted(album.songCount, "song");
     row.value = withDecimals(album.productionRating, 1);

@@ -44,31 +44,22 @@ Outcome ArtistProfileViewController::takePhoto(const std::string& address) {
 }
 
 View ArtistProfileViewController::view() const {
-  View view;
-  view.title = "Artist Profile";
-  Cover head;
-  head.picture = artistPicture(state());
-  head.title = state().myArtistsName;
-  head.text = withCommas(state().totalFans) + " monthly listeners";
-  view.add(std::move(head));
+  View view{.title = "Artist Profile"};
+  view.add(Cover{.picture = artistPicture(state()),
+                 .title = state().myArtistsName,
+                 .text = withCommas(state().totalFans) + " monthly listeners"});
   describePopular(view);
   describeAlbums(view);
-  view.add(Heading{"About", {}});
-  TextField about;
-  about.id = "about";
-  about.label = "In your own words";
-  about.value = state().aboutDescription;
-  about.placeholder = "Tell your listeners who you are";
-  about.maxLength = static_cast<int64_t>(longestAbout);
-  about.multiline = true;
-  view.add(std::move(about));
+  view.add(Heading{"About"});
+  view.add(TextField{.id = "about",
+                     .label = "In your own words",
+                     .value = state().aboutDescription,
+                     .placeholder = "Tell your listeners who you are",
+                     .maxLength = static_cast<int64_t>(longestAbout),
+                     .multiline = true});
   view.add(photoField(state().twitterProfileImage));
   if (!state().twitterProfileImage.empty()) {
-    Button remove;
-    remove.id = "removePhoto";
-    remove.label = "Remove Photo";
-    remove.style = Button::Style::destructive;
-    view.add(std::move(remove));
+    view.add(Button{.id = "removePhoto", .label = "Remove Photo", .style = Button::Style::destructive});
   }
   return view;
 }
@@ -79,12 +70,12 @@ void ArtistProfileViewController::describePopular(View& view) const {
     if (song.isReleased) songs.push_back(&song);
   }
   if (songs.empty()) {
-    view.add(EmptyHint{"note", "Your page is empty. Release a song and the world can press play."});
+    view.add(EmptyHint{.icon = "note", .text = "Your page is empty. Release a song and the world can press play."});
     return;
   }
   std::stable_sort(songs.begin(), songs.end(),
                    [](const Song* a, const Song* b) { return a->totalListen > b->totalListen; });
-  view.add(Heading{"Popular", Link{"goToCertification", "Certifications"}});
+  view.add(Heading{.text = "Popular", .link = Link{.id = "goToCertification", .label = "Certifications"}});
   Rows rows;
   for (size_t i = 0; i < std::min(popularShown, songs.size()); ++i) {
     Row row = songRow(state(), *songs[i]);
@@ -101,7 +92,7 @@ void ArtistProfileViewController::describeAlbums(View& view) const {
     if (albums[i].isReleased) released.push_back(i);
   }
   if (released.empty()) return;
-  view.add(Heading{"Albums", {}});
+  view.add(Heading{"Albums"});
   view.add(windowedRows("albums", albums_, static_cast<int64_t>(released.size()), [&](size_t i) {
     Row row = albumRow(state(), albums[released[i]]);
     row.subtitle = std::to_string(albums[released[i]].releaseYear) + " · " + albumFormat(albums[released[i]]);

@@ -74,10 +74,9 @@ std::vector<size_t> BillboardViewController::rowsShown() const {
 }
 
 Row BillboardViewController::describe(const BillboardSong& song) const {
-  Row row;
-  row.picture = coverOfSong(state(), song.songId, song.songTitle);
-  row.title = song.songTitle;
-  row.subtitle = artistOf(state(), song);
+  Row row{.picture = coverOfSong(state(), song.songId, song.songTitle),
+          .title = song.songTitle,
+          .subtitle = artistOf(state(), song)};
   if (!song.songFeature.empty()) row.subtitle += "\nfeat. " + song.songFeature;
   if (!row.subtitle.empty()) row.subtitle += "\n";
   row.subtitle += "Peak " + std::to_string(song.peakPosition) + " · " + counted(song.weeksOnChart, "week");
@@ -99,20 +98,16 @@ Row BillboardViewController::describe(const BillboardSong& song) const {
 }
 
 View BillboardViewController::view() const {
-  View view;
-  view.title = history_ ? "HISTORY" : "BILLBOARD 100";
-  view.theme = Theme::chart;
+  View view{.title = history_ ? "HISTORY" : "BILLBOARD 100", .theme = Theme::chart};
   if (!history_) {
     view.subtitle = "Week " + std::to_string(state().weekNumber) + ", " + std::to_string(state().yearNumber);
   }
-  Button turn;
-  turn.id = "historyButton";
-  turn.label = history_ ? "Show the chart" : "Show the history";
-  view.add(std::move(turn));
+  view.add(Button{.id = "historyButton", .label = history_ ? "Show the chart" : "Show the history"});
   const std::vector<size_t> shown = rowsShown();
   if (shown.empty()) {
-    view.add(EmptyHint{"chart", history_ ? "Nothing has charted yet. It takes millions of streams in one week."
-                                         : "No song is on the chart. It takes millions of streams in one week."});
+    view.add(EmptyHint{.icon = "chart",
+                       .text = history_ ? "Nothing has charted yet. It takes millions of streams in one week."
+                                        : "No song is on the chart. It takes millions of streams in one week."});
   } else {
     Rows rows = windowedRows("chart", window_, static_cast<int64_t>(shown.size()),
                              [&](size_t i) { return describe(state().saveAllBillboardSongList[shown[i]]); });
@@ -123,10 +118,12 @@ View BillboardViewController::view() const {
     }
     view.add(std::move(rows));
   }
-  view.help = Help{"The chart",
-                   "A rank follows from how close a week's streams come to a number one, which is another figure each "
-                   "week: from 10 to 15 million. A quarter of it gets a song in.\n\nA song keeps its place in the "
-                   "history for good."};
+  view.help =
+      Help{.title = "The chart",
+           .text =
+               "A rank follows from how close a week's streams come to a number one, which is another figure each "
+               "week: from 10 to 15 million. A quarter of it gets a song in.\n\nA song keeps its place in the "
+               "history for good."};
   return view;
 }
 

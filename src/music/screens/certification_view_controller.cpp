@@ -21,8 +21,10 @@ void addTiles(View& view, const Counts& counts) {
     Tiles tiles;
     for (int64_t tier = row * 3 + 2; tier >= row * 3; --tier) {
       const int64_t count = counts[static_cast<size_t>(tier)];
-      tiles.items.push_back({"trophy", std::string(certificationName(tier)), withCommas(count), "",
-                             tier > 0 && count > 0 ? Tone::good : Tone::plain, ""});
+      tiles.items.push_back({.icon = "trophy",
+                             .label = std::string(certificationName(tier)),
+                             .value = withCommas(count),
+                             .tone = tier > 0 && count > 0 ? Tone::good : Tone::plain});
     }
     view.add(std::move(tiles));
   }
@@ -38,7 +40,7 @@ void describeInReach(View& view, const GameState& state) {
   }
   if (songs.empty()) return;
   std::stable_sort(songs.begin(), songs.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
-  view.add(Heading{"Next in reach", {}});
+  view.add(Heading{"Next in reach"});
   for (size_t i = 0; i < std::min(inReachShown, songs.size()); ++i) {
     Meter meter = songCertificationMeter(*songs[i].second);
     meter.label = songs[i].second->title;
@@ -49,21 +51,22 @@ void describeInReach(View& view, const GameState& state) {
 }  // namespace
 
 View CertificationViewController::view() const {
-  View view;
-  view.title = "Certifications";
+  View view{.title = "Certifications"};
   const CertificationCounts counts = countCertifications(state());
-  view.add(Heading{"Albums", {}});
+  view.add(Heading{"Albums"});
   addTiles(view, {counts.blackAlbums, counts.bronzeAlbums, counts.silverAlbums, counts.goldAlbums,
                   counts.platinumAlbums, counts.diamondAlbums});
-  view.add(Heading{"Songs", {}});
+  view.add(Heading{"Songs"});
   addTiles(view, {counts.blackSongs, counts.bronzeSongs, counts.silverSongs, counts.goldSongs, counts.platinumSongs,
                   counts.diamondSongs});
   describeInReach(view, state());
-  view.help = Help{"What counts",
-                   "An album is certified by the copies it sold in all: bronze at 125,000, silver at 250,000, gold at "
-                   "500,000, platinum at a million, diamond at ten million.\n\nA song is certified by its streams in "
-                   "all: bronze at about 19 million, silver at 38, gold at 75, platinum at 150 and diamond at 1,500 "
-                   "million. Black is everything before that."};
+  view.help =
+      Help{.title = "What counts",
+           .text =
+               "An album is certified by the copies it sold in all: bronze at 125,000, silver at 250,000, gold at "
+               "500,000, platinum at a million, diamond at ten million.\n\nA song is certified by its streams in "
+               "all: bronze at about 19 million, silver at 38, gold at 75, platinum at 150 and diamond at 1,500 "
+               "million. Black is everything before that."};
   return view;
 }
 

@@ -5,6 +5,7 @@
 #include "core/case_folding.h"
 #include "core/money.h"
 #include "core/random.h"
+#include "core/view_words.h"
 #include "music/covers.h"
 #include "music/genres.h"
 #include "music/guests.h"

@@ -46,41 +46,29 @@ std::string CreateAnAlbumViewController::imageString() const {
 }
 
 View CreateAnAlbumViewController::view() const {
-  View view;
-  view.title = "Create an Album";
-  Cover head;
-  head.picture = pictureOf(imageString());
-  head.title = title_.empty() ? "Untitled album" : title_;
-  head.text = state().myArtistsName;
-  view.add(std::move(head));
-  TextField field;
-  field.id = "title";
-  field.label = "Title";
-  field.value = title_;
-  field.placeholder = "Name your album";
-  field.suggest = "dice";
-  view.add(std::move(field));
-  view.add(Heading{"Cover", {}});
+  View view{.title = "Create an Album"};
+  view.add(Cover{.picture = pictureOf(imageString()),
+                 .title = title_.empty() ? "Untitled album" : title_,
+                 .text = state().myArtistsName});
+  view.add(
+      TextField{.id = "title", .label = "Title", .value = title_, .placeholder = "Name your album", .suggest = "dice"});
+  view.add(Heading{"Cover"});
   PictureGrid grid;
   for (size_t i = 0; i < albumCoverNames.size(); ++i) {
-    PictureChoice choice;
-    choice.id = "cover:" + std::to_string(i);
-    choice.label = albumCoverNames[i];
-    choice.picture = cover(albumCoverImage(albumCoverNames[i]));
-    choice.selected = photo_.empty() && i == cover_;
-    grid.items.push_back(std::move(choice));
+    grid.items.push_back({.picture = cover(albumCoverImage(albumCoverNames[i])),
+                          .label = std::string(albumCoverNames[i]),
+                          .selected = photo_.empty() && i == cover_,
+                          .id = "cover:" + std::to_string(i)});
   }
   view.add(std::move(grid));
   view.add(photoField(photo_));
-  Button create;
-  create.id = "createAlbumButton";
-  create.label = "Create Album";
-  create.style = Button::Style::primary;
-  view.mainAction = std::move(create);
-  view.help = Help{"How an album grows",
-                   "An album takes songs that you make for it, and songs in production that you add to it. With three "
-                   "of them it can come out.\n\nIts life and its sales rest on the mean of its songs, so one weak song "
-                   "costs all of them."};
+  view.mainAction = Button{.id = "createAlbumButton", .label = "Create Album", .style = Button::Style::primary};
+  view.help =
+      Help{.title = "How an album grows",
+           .text =
+               "An album takes songs that you make for it, and songs in production that you add to it. With three "
+               "of them it can come out.\n\nIts life and its sales rest on the mean of its songs, so one weak song "
+               "costs all of them."};
   return view;
 }
 

@@ -1,6 +1,7 @@
 #include "music/screens/monthly_listener_detail_view_controller.h"
 
 #include "core/money.h"
+#include "core/view_words.h"
 
 namespace backbeat {
 
@@ -32,32 +33,29 @@ std::string listenersInSixMonths(const GameState& state) {
 }
 
 View MonthlyListenerDetailViewController::view() const {
-  View view;
-  view.title = "Monthly Listeners";
+  View view{.title = "Monthly Listeners"};
   const std::vector<int64_t>& data = state().monthlyListenerData;
-  Figure total{"Listeners", withCommas(state().totalFans), static_cast<double>(state().totalFans), false, Tone::plain,
-               ""};
+  Figure total{
+      .label = "Listeners", .value = withCommas(state().totalFans), .amount = static_cast<double>(state().totalFans)};
   if (data.size() >= 2) {
     total.note = withoutLeadingBreak(listenersThisWeek(state()));
-    total.tone = weeklyChange(data) < 0 ? Tone::bad : weeklyChange(data) > 0 ? Tone::good : Tone::plain;
+    total.tone = toneOfChange(weeklyChange(data));
   }
-  view.add(Figures{"", {std::move(total)}, {}, Figures::Style::large});
+  view.add(Figures{.items = {std::move(total)}, .style = Figures::Style::large});
   if (data.empty()) {
-    view.add(EmptyHint{"headphones", "Nobody listens yet. Release a song and end the week."});
+    view.add(EmptyHint{.icon = "headphones", .text = "Nobody listens yet. Release a song and end the week."});
   } else {
-    view.add(Heading{withoutLeadingBreak(chartHeading), {}});
-    Chart chart;
-    chart.title = "Monthly Listeners";
-    chart.note = listenersInSixMonths(state());
-    if (data.size() >= 2) {
-      chart.tone = sixMonthChange(data) < 0 ? Tone::bad : sixMonthChange(data) > 0 ? Tone::good : Tone::plain;
-    }
-    for (const int64_t value : data) chart.points.push_back(static_cast<double>(value));
-    view.add(std::move(chart));
+    view.add(Heading{withoutLeadingBreak(chartHeading)});
+    view.add(Chart{.title = "Monthly Listeners",
+                   .note = listenersInSixMonths(state()),
+                   .tone = toneOfChange(sixMonthChange(data)),
+                   .points = {data.begin(), data.end()}});
   }
-  view.help = Help{"Monthly listeners",
-                   "The one measure of fame. Listeners come while the latest song and album are fresh, the more the "
-                   "better the songs of the last two years are. Long silence drives them away."};
+  view.help =
+      Help{.title = "Monthly listeners",
+           .text =
+               "The one measure of fame. Listeners come while the latest song and album are fresh, the more the "
+               "better the songs of the last two years are. Long silence drives them away."};
   return view;
 }
 

@@ -7,6 +7,7 @@
 #include "core/money.h"
 #include "core/own_photo.h"
 #include "core/record_codec.h"
+#include "core/view_words.h"
 #include "music/album_release.h"
 #include "music/screens/album_rows.h"
 #include "music/screens/song_rows.h"

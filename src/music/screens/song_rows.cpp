@@ -21,13 +21,12 @@ std::string lifeLeft(const GameState& state, const Song& song) {
 }
 
 Row songRow(const GameState& state, const Song& song) {
-  Row row;
-  row.id = "song:" + std::to_string(song.songId);
-  row.opens = true;
-  row.picture = coverOf(state, song);
-  row.title = song.title;
-  row.subtitle = song.album;
-  if (song.isExplicit >= 1) row.badge = "E";
+  Row row{.picture = coverOf(state, song),
+          .title = song.title,
+          .subtitle = song.album,
+          .badge = song.isExplicit >= 1 ? "E" : "",
+          .opens = true,
+          .id = "song:" + std::to_string(song.songId)};
   if (!song.isReleased) {
     row.value = withDecimals(song.productionRating, 1);
     row.note = "rating";

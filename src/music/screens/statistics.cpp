@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "core/money.h"
+#include "core/view_words.h"
 #include "music/certifications.h"
 #include "music/screens/album_rows.h"
 #include "music/screens/song_rows.h"
@@ -41,8 +42,7 @@ void addWeeks(Chart& chart, const RecordList<T>& list, int64_t id, size_t mostWe
 
 template <class T>
 Table weeksTable(const RecordList<T>& list, int64_t id, const char* counted, size_t mostWeeks) {
-  Table table;
-  table.columns = {"Week", counted, "Earned"};
+  Table table{.columns = {"Week", counted, "Earned"}};
   const auto weeks = list.historyOf(id);
   for (size_t i = 0; i < std::min(mostWeeks, weeks.size()); ++i) {
     const T& week = list[weeks[weeks.size() - 1 - i]];
@@ -53,17 +53,11 @@ Table weeksTable(const RecordList<T>& list, int64_t id, const char* counted, siz
 }
 
 Meter certificationMeter(int64_t tier, int64_t total, std::optional<int64_t> next) {
-  Meter meter;
-  meter.label = tier == 0 ? "Not certified yet" : "Certified " + std::string(certificationName(tier));
-  if (tier > 0) meter.tone = Tone::good;
-  if (!next) {
-    meter.value = "The highest there is";
-    meter.share = 1;
-    return meter;
-  }
-  meter.value = std::string(certificationName(tier + 1)) + " at " + withCommas(*next);
-  meter.share = std::clamp(static_cast<double>(total) / static_cast<double>(*next), 0.0, 1.0);
-  return meter;
+  return {
+      .label = tier == 0 ? "Not certified yet" : "Certified " + std::string(certificationName(tier)),
+      .value = next ? std::string(certificationName(tier + 1)) + " at " + withCommas(*next) : "The highest there is",
+      .share = next ? shareOf(total, *next) : 1,
+      .tone = tier > 0 ? Tone::good : Tone::plain};
 }
 
 }  // namespace
@@ -77,21 +71,19 @@ WeeklyFigures albumFigures(const GameState& state, int64_t albumId) {
 }
 
 Chart streamsChart(const GameState& state, const Song& song, size_t mostWeeks) {
-  Chart chart;
-  chart.title = "Streams";
-  chart.value = withCommas(song.totalListen);
-  chart.note = lifeLeft(state, song);
-  chart.style = Chart::Style::bars;
+  Chart chart{.title = "Streams",
+              .value = withCommas(song.totalListen),
+              .note = lifeLeft(state, song),
+              .style = Chart::Style::bars};
   addWeeks(chart, state.saveAllWeeklySongListens, song.songId, mostWeeks);
   return chart;
 }
 
 Chart salesChart(const GameState& state, const Album& album, size_t mostWeeks) {
-  Chart chart;
-  chart.title = "Sold";
-  chart.value = withCommas(album.albumsSold);
-  chart.note = lifeLeft(state, album);
-  chart.style = Chart::Style::bars;
+  Chart chart{.title = "Sold",
+              .value = withCommas(album.albumsSold),
+              .note = lifeLeft(state, album),
+              .style = Chart::Style::bars};
   addWeeks(chart, state.saveAllWeeklyAlbumSales, album.albumId, mostWeeks);
   return chart;
 }

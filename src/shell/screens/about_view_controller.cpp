@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "core/view_words.h"
+
 namespace backbeat {
 
 namespace {
@@ -28,29 +30,19 @@ constexpr std::array<Licence, 7> licences = {{
 }  // namespace
 
 View AboutViewController::view() const {
-  View view;
-  view.title = "About";
-  view.picture = icon("music");
-  view.subtitle = "Version " + std::string(version);
-  view.add(
-      Text{"Backbeat is the life of one artist, told a week at a time.\nWrite songs, find listeners, make and lose "
-           "money, grow old, and hand over to the next generation.\nIt plays on this device alone: no account, no "
-           "network, nobody watching.",
-           Tone::plain, Text::Style::lead});
-  view.add(Heading{"Made with", {}});
+  View view{.title = "About", .subtitle = "Version " + std::string(version), .picture = icon("music")};
+  view.add(Text{.text = "Backbeat is the life of one artist, told a week at a time.\nWrite songs, find listeners, make "
+                        "and lose money, grow old, and hand over to the next generation.\nIt plays on this device "
+                        "alone: no account, no network, nobody watching.",
+                .style = Text::Style::lead});
+  view.add(Heading{"Made with"});
   Rows works;
   for (const Licence& licence : licences) {
-    Row row;
-    row.title = licence.work;
-    row.subtitle = licence.role;
-    row.value = licence.licence;
-    works.items.push_back(std::move(row));
+    works.items.push_back({.title = licence.work, .subtitle = licence.role, .value = licence.licence});
   }
   view.add(std::move(works));
-  view.add(Text{"Their licence texts are in the file licenses.txt, which lies beside the page.", Tone::plain,
-                Text::Style::caption});
-  view.add(Text{"The game itself, its rules, texts, record sleeves and everything else here is Backbeat's own.",
-                Tone::plain, Text::Style::caption});
+  view.add(caption("Their licence texts are in the file licenses.txt, which lies beside the page."));
+  view.add(caption("The game itself, its rules, texts, record sleeves and everything else here is Backbeat's own."));
   return view;
 }
 

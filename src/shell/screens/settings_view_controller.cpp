@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/new_game.h"
+#include "core/view_words.h"
 #include "shell/navigator.h"
 
 namespace backbeat {

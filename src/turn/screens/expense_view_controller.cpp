@@ -9,21 +9,23 @@ namespace backbeat {
 
 namespace {
 
+Picture glyphOf(const WeeklyLineItem& item) {
+  for (const LifestyleCategory& category : lifestyleCategories) {
+    if (category.typeOfExpense == item.typeOfExpense) return icon(std::string(category.icon));
+  }
+  return icon("life");
+}
+
 /// The choices of daily life, and the basic needs: what each of them gives.
 Rows whatItGives(const GameState& state) {
   Rows rows;
   for (const WeeklyLineItem& item : state.saveAllWeeklyLineItems) {
     if (item.typeOfExpense > expense::lastChoice && item.typeOfExpense != expense::basicNeeds) continue;
-    Row row;
-    row.picture = icon("life");
-    for (const LifestyleCategory& category : lifestyleCategories) {
-      if (category.typeOfExpense == item.typeOfExpense) row.picture = icon(std::string(category.icon));
-    }
-    row.title = item.title;
-    row.subtitle = "Since " + std::to_string(item.year);
-    row.value = "+" + std::to_string(item.energyBoost);
-    row.note = item.typeOfExpense == expense::fashion ? "virality" : "max energy";
-    rows.items.push_back(std::move(row));
+    rows.items.push_back({.picture = glyphOf(item),
+                          .title = item.title,
+                          .subtitle = "Since " + std::to_string(item.year),
+                          .value = "+" + std::to_string(item.energyBoost),
+                          .note = item.typeOfExpense == expense::fashion ? "virality" : "max energy"});
   }
   return rows;
 }
@@ -31,22 +33,19 @@ Rows whatItGives(const GameState& state) {
 }  // namespace
 
 View ExpenseViewController::view() const {
-  View view;
-  view.title = "Expenses";
-  view.theme = Theme::bank;
-  Figures living;
+  View view{.title = "Expenses", .theme = Theme::bank};
   const double sum = livingExpenses(state());
-  living.title = "Weekly Lifestyle Expenses Only: " + currency(sum);
+  Figures living{.title = "Weekly Lifestyle Expenses Only: " + currency(sum)};
   for (const WeeklyLineItem& item : state().saveAllWeeklyLineItems) {
     if (isLivingExpense(item)) living.items.push_back(dollars(item.title, -item.amount, Tone::bad));
   }
   if (living.items.empty()) {
-    view.add(EmptyHint{"cash", "Life costs you nothing yet. Enjoy it while it lasts."});
+    view.add(EmptyHint{.icon = "cash", .text = "Life costs you nothing yet. Enjoy it while it lasts."});
     return view;
   }
   living.total = dollars("A week", -sum, Tone::plain);
   view.add(std::move(living));
-  view.add(Heading{"What it gives you", {}});
+  view.add(Heading{"What it gives you"});
   view.add(whatItGives(state()));
   return view;
 }

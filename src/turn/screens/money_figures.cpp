@@ -7,14 +7,12 @@
 namespace backbeat {
 
 Figure dollars(std::string label, double amount, Tone tone, std::string note) {
-  Figure figure;
-  figure.label = std::move(label);
-  figure.value = currency(amount);
-  figure.amount = amount;
-  figure.dollars = true;
-  figure.tone = tone;
-  figure.note = std::move(note);
-  return figure;
+  return {.label = std::move(label),
+          .value = currency(amount),
+          .amount = amount,
+          .dollars = true,
+          .tone = tone,
+          .note = std::move(note)};
 }
 
 Tone toneOfAmount(double amount) { return amount < 0 ? Tone::bad : Tone::good; }

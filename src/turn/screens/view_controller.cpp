@@ -8,6 +8,7 @@
 #include "core/money.h"
 #include "core/needs.h"
 #include "core/own_photo.h"
+#include "core/view_words.h"
 #include "music/screens/song_rows.h"
 #include "social/chirps.h"
 #include "turn/weekly_report.h"
