@@ -237,7 +237,7 @@ TEST(WeeklyEvents, AFestivalLooksAtFansSongsAndEnergyInThatOrder) {
   world.state.totalEnergyAvailable = 50;
   world.settle();
   EXPECT_EQ(only(world.take(15)).title, "🚪 Not Open Yet 🚪");
-  EXPECT_EQ(only(world.take(9)).title, "Nothing of Interest");
+  EXPECT_EQ(only(world.take(9)).title, "🚪 Not Open Yet 🚪");
   EXPECT_EQ(world.state.totalEnergyAvailable, 50);
 }
 
