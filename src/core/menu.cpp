@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/room.h"
+#include "core/view_words.h"
 
 namespace backbeat {
 

@@ -4,6 +4,7 @@
 
 #include "career/studio.h"
 #include "core/money.h"
+#include "core/view_words.h"
 
 namespace backbeat {
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env node
-// A picture of every screen in every world, dark and light, on one page to look through:
+// A picture of every screen in every world, dark, and in some of them light too, on one page to look through:
 //   node tools/gallery.mjs [--root dist] [--out FOLDER] [--world NAME] [--theme dark|light]
 import { mkdir, rm, writeFile } from "node:fs/promises";
 import { join } from "node:path";
@@ -17,7 +17,7 @@ const { values } = parseArgs({
     theme: { type: "string" },
   },
 });
-const themes = values.theme ? [values.theme] : ["dark", "light"];
+const alsoLight = ["new", "mid-career", "edges"];
 const names = values.world ? [values.world] : worldNames;
 
 await rm(values.out, { recursive: true, force: true });
@@ -28,7 +28,7 @@ const browser = await launchBrowser({ forPictures: true });
 const shots = [];
 const faults = [];
 try {
-  for (const name of names) for (const theme of themes) await take(name, theme);
+  for (const name of names) for (const theme of themesOf(name)) await take(name, theme);
 } finally {
   await browser.close();
   server.close();
@@ -37,6 +37,11 @@ await writeFile(join(values.out, "index.html"), page());
 console.log(`${shots.length} pictures: ${join(values.out, "index.html")}`);
 for (const fault of faults) console.error(fault);
 process.exitCode = faults.length > 0 ? 1 : 0;
+
+function themesOf(career) {
+  if (values.theme) return [values.theme];
+  return values.world || alsoLight.includes(career) ? ["dark", "light"] : ["dark"];
+}
 
 async function take(career, theme) {
   const context = await browser.newContext({
@@ -87,7 +92,7 @@ function page() {
   const figure = ({ career, theme, name, file }) =>
     `<figure><img src="${file}" loading="lazy" width="390" height="844" alt=""><figcaption>${name}<br>${career}, ${theme}</figcaption></figure>`;
   const rows = names.flatMap((career) =>
-    themes.map((theme) => {
+    themesOf(career).map((theme) => {
       const own = shots.filter((shot) => shot.career === career && shot.theme === theme);
       return `<h2>${career}, ${theme}</h2><div>${own.map(figure).join("")}</div>`;
     }),
