@@ -10,7 +10,7 @@ export interface Price {
 }
 
 export interface Picture {
-  kind?: "none" | "cover" | "person" | "icon" | "photo";
+  kind?: "none" | "cover" | "person" | "icon" | "photo" | "object" | "scene" | "still" | "mark";
   name?: string;
 }
 
