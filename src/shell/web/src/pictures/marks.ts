@@ -116,15 +116,24 @@ const marks = {
       shape("M50 80C24 62 18 42 30 32 40 25 48 32 50 40 52 32 60 25 70 32 82 42 76 62 50 80Z", ink) +
       shape("M50 68C38 58 42 48 50 42 58 48 62 58 50 68Z", "#f0506a"),
   },
-  star: { draw: (ink) => shape("M50 18 59 40 83 42 64 57 71 81 50 68 29 81 36 57 17 42 41 40Z", ink) },
-  atlas: { draw: (ink) => dot(50, 40, 20, ink) + line("M26 78C32 62 68 62 74 78", ink, 8) },
-  infinity: { draw: (ink) => line("M50 50C42 38 22 36 22 50S42 62 50 50 78 36 78 50 58 62 50 50Z", ink, 9) },
+  star: {
+    colours: ["#26262c", "#111114", "#ffd84d"],
+    draw: (ink) => shape("M50 18 59 40 83 42 64 57 71 81 50 68 29 81 36 57 17 42 41 40Z", ink),
+  },
+  atlas: {
+    colours: sky,
+    draw: (ink) => dot(50, 40, 20, ink) + line("M26 78C32 62 68 62 74 78", ink, 8),
+  },
+  infinity: {
+    colours: lilac,
+    draw: (ink) => line("M50 50C42 38 22 36 22 50S42 62 50 50 78 36 78 50 58 62 50 50Z", ink, 9),
+  },
   shield: {
-    draw: (ink) =>
-      shape("M22 24H78V50C78 66 64 76 50 82 36 76 22 66 22 50Z", ink) +
-      shape("M50 24H78V50C78 66 64 76 50 82Z", "#000", 0.25),
+    colours: brass,
+    draw: (ink) => shape("M22 24H50V82C36 76 22 66 22 50Z", ink) + shape("M50 24H78V50C78 66 64 76 50 82Z", ink, 0.65),
   },
   globe: {
+    colours: ["#0e7a7a", "#07414a", "#fff"],
     draw: (ink) => ring(50, 50, 29, ink, 5) + line("M50 21C32 36 32 64 50 79 68 64 68 36 50 21M22 50H78", ink, 4.4),
   },
   // Plain shapes, for any other name.

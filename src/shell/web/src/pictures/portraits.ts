@@ -15,9 +15,9 @@ const young: Record<Presentation, string> = {
 };
 const old: Record<Presentation, string> = { woman: "grayBun grayMedium hijab", man: "grayShort noHair1 noHair3" };
 
-const faces = "blank calm cheeky cute driven explaining serious smile smileBig smileLOL smileTeethGap solemn";
+const faces = "blank calm cheeky cute driven explaining smile smileBig smileLOL smileTeethGap";
 const childFaces = "awe calm cheeky cute smile smileBig smileLOL smileTeethGap";
-const staffFaces = "blank calm cheeky driven explaining serious smile smileBig solemn";
+const staffFaces = "blank calm cheeky driven explaining serious smile smileBig";
 const glasses = "glasses glasses2 glasses3 glasses4 glasses5";
 
 const list = (words: string): never[] => words.split(" ") as never[];
@@ -43,6 +43,7 @@ const elder = (presentation: Presentation): Look => ({
   head: list(old[presentation]),
   face: list("calm cute old serious smile solemn"),
   facialHair: list("full4 moustache9"),
+  facialHairProbability: presentation === "man" ? 60 : 0,
   accessories: list(glasses),
   accessoriesProbability: 55,
   headContrastColor: ["e8e1e1"],

@@ -241,10 +241,12 @@ const scenes: Record<string, Scene> = {
     (draw) =>
       repeat(6, (i) => box(8 + i * 26, 40 + ((i * 13) % 22), 20, 60, "#0d111b", 0, 0.7)) +
       windows(14, 56, 12, 3, "#ffd98a", { width: 2, height: 3, stepX: 12, stepY: 11 }) +
-      repeat(36, () => {
-        const [x, y] = [Math.round(draw() * 170), Math.round(draw() * 86)];
-        return line(`M${x} ${y}l-2 7`, "#a9bfe6", 0.8, 0.6);
-      }),
+      line(
+        repeat(36, () => `M${Math.round(draw() * 170)} ${Math.round(draw() * 86)}l-2 7`),
+        "#a9bfe6",
+        0.8,
+        0.6,
+      ),
   ],
   memorial: [
     ["#b9c4d6", "#e9e2d6"],

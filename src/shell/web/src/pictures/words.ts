@@ -111,7 +111,13 @@ export const windows = (
   fill: string,
   { width = 5, height = 6, stepX = 10, stepY = 11 } = {},
 ): string =>
-  repeat(across * down, (i) => box(x + (i % across) * stepX, y + Math.floor(i / across) * stepY, width, height, fill));
+  shape(
+    repeat(across * down, (i) => {
+      const [left, top] = [x + (i % across) * stepX, y + Math.floor(i / across) * stepY];
+      return `M${n(left)} ${n(top)}h${width}v${height}h-${width}z`;
+    }),
+    fill,
+  );
 
 /** A house front with a gable: x and y are its lower left corner. */
 export const gable = (x: number, y: number, width: number, height: number, wall: string, roof: string): string =>

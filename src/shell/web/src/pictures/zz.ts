@@ -1,1 +1,0 @@
-export * from "./drawings"; export * from "./sleeves"; export * from "./icons"; export * from "./portraits"; export {presentationOf} from "./people";
