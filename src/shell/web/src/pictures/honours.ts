@@ -50,12 +50,11 @@ const solitaire = (stone: keyof typeof stones, scale = 1, more = ""): string =>
   spark(20, 30, 4);
 
 const fork =
-  shape(
-    "M41 8a4.5 4.5 0 0 1 7 3v30a2 2 0 0 0 4 0V11a4.5 4.5 0 0 1 7-3q2 1.5 2 4V44q0 8-7 11V72H46V55q-7-3-7-11V12q0-2.5 2-4Z",
-    gold[2],
-  ) +
-  shape("M41.5 11v32q0 6 5 8.500V70h3V11ZM55 11q2 0 2 2V44q0 5-3 7.500Z", gold[1], 0.85) +
-  shape("M61 12V44q0 8-7 11V72h-2V53q6-3 6-10V9q3 1 3 3Z", gold[0], 0.6) +
+  box(46, 50, 8, 24, gold[2]) +
+  box(46.5, 52, 2.6, 22, gold[1], 0, 0.85) +
+  line("M40 13V40q0 12 10 12t10-12V13", gold[2], 9) +
+  line("M38 13V40q0 7 4 10.5M57.5 13V38", gold[1], 2.6, 0.9) +
+  line("M63 14V41q0 7-5 10.5", gold[0], 1.6, 0.6) +
   shape("M42 72H58L61 78H39Z", gold[2]) +
   box(33, 78, 34, 7, "#3a2413", 1.5) +
   box(28, 85, 44, 9, "#22140a", 2) +

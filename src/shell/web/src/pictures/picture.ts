@@ -96,7 +96,7 @@ export function picture(wanted: Picture | undefined): TemplateResult | typeof no
     case "cover":
       return sleeves.work(name);
     case "person":
-      return html`<span class="picture person" style=${`background:#${wall(name)}`}>${person(name)}</span>`;
+      return html`<span class="picture person" style=${`--sky:#${wall(name)}`}>${person(name)}</span>`;
     case "photo":
       return html`<span class="picture photo">${name.startsWith("data:image/") ? image(name) : silhouette}</span>`;
     case "icon":

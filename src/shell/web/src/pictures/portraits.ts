@@ -20,6 +20,9 @@ const childFaces = "awe calm cheeky cute smile smileBig smileLOL smileTeethGap";
 const staffFaces = "blank calm cheeky driven explaining serious smile smileBig";
 const glasses = "glasses glasses2 glasses3 glasses4 glasses5";
 
+const beards =
+  "chin full full2 full3 full4 goatee1 goatee2 moustache1 moustache2 moustache4 moustache5 moustache6 moustache7 moustache9";
+
 const list = (words: string): never[] => words.split(" ") as never[];
 
 const adult = (presentation: Presentation): Look => ({
@@ -27,6 +30,7 @@ const adult = (presentation: Presentation): Look => ({
   face: list(faces),
   accessories: list(`${glasses} sunglasses sunglasses2`),
   accessoriesProbability: 25,
+  facialHair: list(beards),
   facialHairProbability: presentation === "man" ? 22 : 0,
 });
 const child = (presentation: Presentation): Look => ({

@@ -347,9 +347,9 @@ const scenes: Record<string, Scene> = {
       repeat(11, (i) => box(38 + i * 8, 48 - Math.sin(((i + 1) / 12) * Math.PI) * 5, 5.4, 18, "#6fb0d6")) +
       box(70, 52, 20, 14, "#2f5c78") +
       box(30, 66, 100, 4, "#cdd8d0") +
-      tree(24, 74, 8, "#3f8a4e") +
-      tree(138, 74, 9, "#3f8a4e") +
       hills("70C40 66 110 74 200 68", "#6fae58") +
+      tree(24, 76, 8, "#3f8a4e") +
+      tree(138, 76, 9, "#3f8a4e") +
       shape("M74 70H86L98 90H62Z", "#f2ead6"),
   ],
 };

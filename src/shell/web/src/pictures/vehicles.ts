@@ -1,6 +1,6 @@
 import { pick } from "./chance";
 import { family } from "./family";
-import { box, dot, framed, line, oval, repeat, shape, turned, windows } from "./words";
+import { at, box, dot, framed, line, oval, repeat, shape, turned, windows } from "./words";
 
 /* What drives, sails and flies, seen from the side on a stage of 200 by 100; the road lies at 82. */
 
@@ -204,16 +204,20 @@ const vehicles: Record<string, (paint: Paint) => string> = {
     shape("M22 46q8-4 14-4v5Z", "#26384c") +
     windows(48, 43, 6, 1, "#26384c", { width: 6, height: 5, stepX: 12 }),
   transport: ([light, shade]) =>
-    shape("M8 52C10 38 24 32 44 30H150L176 10H190L184 42C178 52 160 58 136 60L60 66C30 68 8 64 8 52Z", "#7d8b78") +
-    shape("M8 54C60 62 130 60 185 40L184 42C178 52 160 58 136 60L60 66C30 68 10 64 8 54Z", "#55624f") +
-    shape("M14 44q6-8 18-9l2 8Z", "#1d2a1d") +
-    box(52, 24, 92, 7, "#55624f", 3) +
-    box(62, 30, 22, 8, "#3a4436", 4) +
-    box(108, 30, 22, 8, "#3a4436", 4) +
-    oval(62, 34, 2, 12, light, 0.9) +
-    oval(108, 34, 2, 12, light, 0.9) +
-    repeat(4, (i) => dot(64 + i * 11, 67, 5, "#17171c")) +
-    box(168, 22, 12, 5, shade),
+    at(
+      0,
+      9,
+      shape("M8 52C10 38 24 32 44 30H150L176 10H190L184 42C178 52 160 58 136 60L60 66C30 68 8 64 8 52Z", "#7d8b78") +
+        shape("M8 54C60 62 130 60 185 40L184 42C178 52 160 58 136 60L60 66C30 68 10 64 8 54Z", "#55624f") +
+        shape("M14 44q6-8 18-9l2 8Z", "#1d2a1d") +
+        box(52, 24, 92, 7, "#55624f", 3) +
+        box(62, 30, 22, 8, "#3a4436", 4) +
+        box(108, 30, 22, 8, "#3a4436", 4) +
+        oval(62, 34, 2, 12, light, 0.9) +
+        oval(108, 34, 2, 12, light, 0.9) +
+        repeat(4, (i) => dot(64 + i * 11, 67, 5, "#17171c")) +
+        box(168, 22, 12, 5, shade),
+    ),
   stealth: () =>
     shape("M4 50 100 26 196 50 164 56 146 50 128 60 100 50 72 60 54 50 36 56Z", "#7b8090") +
     shape("M4 50 100 42 196 50 164 56 146 50 128 60 100 50 72 60 54 50 36 56Z", "#555a68") +

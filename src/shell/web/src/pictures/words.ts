@@ -65,7 +65,7 @@ export interface Frame {
 export function framed({ kind, sky, width = 100, height = 100, whole }: Frame, inner: string): string {
   const fit = whole ? "" : ' preserveAspectRatio="xMidYMid slice"';
   return (
-    `<span class="picture ${kind}" style="background:${sky}">` +
+    `<span class="picture ${kind}" style="--sky:${sky}">` +
     `<svg viewBox="0 0 ${width} ${height}"${fit} aria-hidden="true">${inner}</svg></span>`
   );
 }
