@@ -9,8 +9,8 @@
 namespace backbeat {
 
 // clang-format off
-/// Things on a square. What a product bears, its cloth and the light on a venue follow from the name; the name of a medal is
-/// the icon on it.
+/// Things on a square. What a product bears, its cloth and the light on a venue follow from the name; that of a medal
+/// is the icon on it.
 inline constexpr auto objectForms = std::to_array<std::string_view>({
     // products
     "cassette",
@@ -181,8 +181,8 @@ inline constexpr auto markForms = std::to_array<std::string_view>({
     "leaf",
 });
 
-/// What a portrait may be asked for before the name: "girl:Ada". The same name keeps its skin and clothes through life; a
-/// name alone is drawn as a grown woman or man, by the given name in it.
+/// What a portrait may be asked for before the name: "girl:Ada". The same name keeps its skin and clothes through life;
+/// a name alone is drawn as a grown woman or man, by the given name in it.
 inline constexpr auto portraitForms = std::to_array<std::string_view>({
     "woman",
     "man",

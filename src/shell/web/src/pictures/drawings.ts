@@ -3,7 +3,10 @@ import type { Family } from "./family";
 import { homeForms } from "./homes";
 import { honourForms } from "./honours";
 import { productForms } from "./products";
-import { anywhere, sceneForms } from "./scenes";
+import { anywhere, placeForms } from "./places";
+import { officeForms } from "./offices";
+import { sceneForms } from "./scenes";
+import { shoreForms } from "./shores";
 import { stillForms } from "./stills";
 import { vehicleForms } from "./vehicles";
 import { venueForms } from "./venues";
@@ -13,7 +16,7 @@ export type DrawnKind = "object" | "scene" | "still" | "mark";
 /** Every form of every kind of drawn picture. */
 export const forms: Record<DrawnKind, Family> = {
   object: { ...productForms, ...venueForms, ...vehicleForms, ...honourForms },
-  scene: { ...sceneForms, ...homeForms },
+  scene: { ...sceneForms, ...placeForms, ...officeForms, ...homeForms, ...shoreForms },
   still: stillForms,
   mark: markForms,
 };

@@ -1,17 +1,28 @@
-import { pick } from "./chance";
-import { family } from "./family";
+import {
+  dusk,
+  gold,
+  day,
+  clear,
+  haze,
+  noon,
+  evening,
+  snowy,
+  lit,
+  cream,
+  pool,
+  storey,
+  lawn,
+  openSea,
+  homeViews,
+} from "./building";
 import {
   box,
   cloud,
   dot,
-  fade,
-  framed,
   gable,
   glints,
   hills,
   line,
-  mirrored,
-  oval,
   palm,
   peaks,
   pine,
@@ -22,44 +33,7 @@ import {
   windows,
 } from "./words";
 
-/* Homes and land, 160 by 100: the house stands between 30 and 130, the ground begins near 72. */
-
-type Sky = readonly [string, string];
-const dusk: Sky = ["#ffb37a", "#7a5ad0"];
-const gold: Sky = ["#ffd98f", "#f08a5d"];
-const day: Sky = ["#8fe0ff", "#e6fbff"];
-const clear: Sky = ["#9fd3f2", "#f6e2c8"];
-const haze: Sky = ["#c9b6e8", "#ffd9c0"];
-const noon: Sky = ["#6fc3f7", "#d9f4ff"];
-const evening: Sky = ["#3b2b7a", "#ff8a7a"];
-const snowy: Sky = ["#8fb4e0", "#f2e6f5"];
-
-interface Home {
-  skies: readonly Sky[];
-  drawing: string;
-}
-
-const lit = "#ffd48a";
-const cream = "#f7f2ea";
-const sea = "#1f9fc9";
-const sand = "#f5dfae";
-
-const pool = (x: number, y: number, width: number): string =>
-  shape(`M${x} ${y}H${x + width}l8 10H${x - 8}Z`, "#2aa5cf") +
-  glints([
-    [x + 12, y + 3, width * 0.35],
-    [x + width * 0.4, y + 7, width * 0.4],
-  ]);
-
-/** A storey of glass between two slabs. */
-const storey = (x: number, y: number, width: number, height: number, glass: string = lit): string =>
-  box(x, y, width, height, glass) +
-  repeat(Math.floor(width / 13), (i) => box(x + 12 + i * 13, y, 1, height, "#8a5a24")) +
-  box(x - 6, y - 5, width + 12, 5, cream);
-
-const lawn = (fill = "#5c9a4e", y = 70): string => hills(`${y}C40 ${y - 5} 120 ${y - 5} 200 ${y}`, fill);
-const beach = (y = 76): string => hills(`${y}C40 ${y - 6} 110 ${y + 4} 200 ${y - 2}`, sand);
-const open = (y: number, fill = sea): string => box(-40, y, 240, 100 - y + 40, fill);
+/* Homes inland, and land. */
 
 const vines = repeat(3, (i) =>
   line(`M-10 ${76 + i * 10}C50 ${64 + i * 8} 110 ${66 + i * 8} 170 ${74 + i * 9}`, "#5d7d36", 3.4),
@@ -67,7 +41,7 @@ const vines = repeat(3, (i) =>
 
 const fence = line("M-10 84H170M-10 90H170", "#8d5f34", 1.6) + repeat(7, (i) => box(6 + i * 26, 79, 2, 15, "#8d5f34"));
 
-const homes: Record<string, Home> = {
+export const homeForms = homeViews({
   townhouse: {
     skies: [haze, clear],
     drawing:
@@ -119,23 +93,6 @@ const homes: Record<string, Home> = {
       lawn("#7db060", 76) +
       fence,
   },
-  beachHouse: {
-    skies: [day, gold, noon],
-    drawing:
-      sunAt(128, 26, 11) +
-      open(58) +
-      glints([
-        [12, 64, 30],
-        [108, 68, 36],
-      ]) +
-      beach(74) +
-      repeat(5, (i) => box(50 + i * 14, 68, 3, 14, "#8a6a4c")) +
-      box(44, 66, 72, 4, "#c9a578") +
-      gable(52, 66, 54, 20, "#fff7ec", "#e0795b") +
-      windows(58, 51, 4, 1, "#6bb4cf", { width: 7, height: 10, stepX: 12 }) +
-      palm(26, 82, 1.1) +
-      palm(138, 80, 0.9),
-  },
   modern: {
     skies: [dusk, gold, evening],
     drawing:
@@ -172,7 +129,7 @@ const homes: Record<string, Home> = {
       shape("M44 58 66 38 88 50 104 42 122 58Z", "#4a3a33") +
       box(50, 54, 66, 18, "#b07a4c") +
       windows(56, 57, 5, 1, lit, { width: 8, height: 11, stepX: 12 }) +
-      open(72, "#4f93b8") +
+      openSea(72, "#4f93b8") +
       shape("M76 72H86L92 96H70Z", "#a9835c") +
       glints([
         [8, 82, 40],
@@ -207,21 +164,6 @@ const homes: Record<string, Home> = {
       box(72, 50, 56, 5, "#fff") +
       hills("80C50 74 110 82 200 76", "#fff"),
   },
-  bungalow: {
-    skies: [noon, dusk],
-    drawing:
-      sunAt(34, 26, 11) +
-      open(60) +
-      beach(72) +
-      shape("M40 56Q80 22 120 56Q80 50 40 56Z", "#c9974f") +
-      box(50, 54, 60, 20, "#fff4dc") +
-      box(56, 58, 48, 12, "#5a8f93") +
-      windows(56, 58, 5, 1, "#fff4dc", { width: 2, height: 12, stepX: 12 }) +
-      box(44, 73, 72, 4, "#a9835c") +
-      palm(128, 84, 1.2) +
-      palm(30, 82, 1) +
-      pool(58, 83, 44),
-  },
   prairie: {
     skies: [gold, noon],
     drawing:
@@ -250,77 +192,10 @@ const homes: Record<string, Home> = {
       pine(146, 80, 30, "#24452f") +
       lawn("#6a9a58", 78),
   },
-  reef: {
-    skies: [noon, day],
-    drawing:
-      cloud(100, 22) +
-      open(46, "#38bfd0") +
-      shape("M-10 46C30 30 60 34 88 46Z", "#3d8a55") +
-      shape("M-10 58C30 46 70 50 108 60 140 68 170 64 170 64V100H-10Z", "#5fd6d0") +
-      shape("M-10 76C30 62 60 76 96 84S160 86 170 92V100H-10Z", sand) +
-      palm(34, 82, 1.1, "#1f6b3f") +
-      palm(50, 86, 0.8, "#1f6b3f") +
-      [
-        [96, 66],
-        [116, 72],
-        [132, 66],
-      ]
-        .map(([x, y]) => oval(x!, y!, 7, 2.4, "#1f8f9c", 0.7))
-        .join(""),
-  },
-  island: {
-    skies: [day, dusk],
-    drawing:
-      sunAt(34, 26, 11, "#fff6cf") +
-      open(54, sea) +
-      shape("M20 70C46 52 112 50 144 70 120 78 44 78 20 70Z", sand) +
-      shape("M40 66C58 46 104 44 124 66 100 71 62 71 40 66Z", "#3d9b5f") +
-      gable(66, 62, 34, 12, "#fff", "#d8674a") +
-      windows(71, 53, 3, 1, "#5a8fb0", { width: 5, height: 6, stepX: 10 }) +
-      palm(50, 68, 0.8, "#2a7d4b", "#7a5234") +
-      palm(114, 68, 0.85, "#2a7d4b", "#7a5234") +
-      box(78, 74, 4, 14, "#a9835c") +
-      glints([
-        [12, 84, 34],
-        [96, 90, 48],
-      ]),
-  },
-  fortress: {
-    skies: [gold, clear],
-    drawing:
-      open(62, "#2b6fa8") +
-      shape("M24 78 34 64 60 58 104 58 128 66 138 78Z", "#8a7560") +
-      box(44, 40, 74, 24, "#d9c7a3") +
-      repeat(8, (i) => box(44 + i * 9.7, 36, 5.5, 5, "#d9c7a3")) +
-      box(36, 28, 16, 38, "#c7b38c") +
-      box(108, 24, 18, 42, "#c7b38c") +
-      repeat(3, (i) => box(36 + i * 5.6, 24, 4, 5, "#c7b38c") + box(108 + i * 6.6, 20, 4.6, 5, "#c7b38c")) +
-      windows(58, 48, 4, 1, "#4a3c2c", { width: 4, height: 8, stepX: 13 }) +
-      shape("M76 64V56a5 5 0 0 1 10 0V64Z", "#4a3c2c") +
-      line("M117 20V10", "#4a3c2c", 1.4) +
-      shape("M117 10l10 3-10 3Z", "#d8674a") +
-      glints([
-        [10, 86, 40],
-        [96, 90, 50],
-      ]),
-  },
-  heartIsland: {
-    skies: [noon, haze],
-    drawing:
-      open(30, "#28b5cf") +
-      shape("M80 96C20 74 16 46 44 42 62 40 76 48 80 56 84 48 98 40 116 42 144 46 140 74 80 96Z", "#7ee6df") +
-      shape("M80 88C32 70 28 51 47 48 63 46 76 53 80 61 84 53 97 46 113 48 132 51 128 70 80 88Z", sand) +
-      shape("M80 82C44 68 38 57 51 54 64 52 76 60 80 67 84 60 96 52 109 54 122 57 116 68 80 82Z", "#3d9b5f") +
-      glints([
-        [4, 44, 26],
-        [128, 40, 28],
-        [16, 90, 30],
-      ]),
-  },
   shingle: {
     skies: [clear, day],
     drawing:
-      open(62, "#6fa8c9") +
+      openSea(62, "#6fa8c9") +
       hills("72C40 64 110 68 200 66", "#a9b86a") +
       gable(46, 78, 44, 28, "#a89c8a", "#5f5a58") +
       gable(84, 78, 34, 24, "#b8ac98", "#6a6462") +
@@ -347,21 +222,6 @@ const homes: Record<string, Home> = {
       repeat(3, (i) => shape(`M${26 - i * 9} 80q-4-22 0-34 4 12 0 34Z`, "#2f5c3c")) +
       lawn("#b8b870", 78) +
       pool(70, 82, 60),
-  },
-  palmBeach: {
-    skies: [day, dusk, gold],
-    drawing:
-      sunAt(96, 40, 15) +
-      open(54, "#2f9fc4") +
-      shape("M-10 60C10 48 30 44 46 56Z", "#2f5c4c") +
-      glints([
-        [70, 60, 44],
-        [60, 66, 30],
-      ]) +
-      beach(78) +
-      palm(30, 88, 1.5, "#1c5236") +
-      palm(46, 90, 1.1, "#1c5236") +
-      palm(136, 88, 1.3, "#1c5236"),
   },
   estate: {
     skies: [clear, haze],
@@ -397,41 +257,6 @@ const homes: Record<string, Home> = {
       box(74, 82, 12, 12, "#2f4a5c") +
       box(-40, 92, 240, 40, "#6f6a78"),
   },
-  mansion: {
-    skies: [noon, dusk],
-    drawing:
-      open(50, "#4fa8d0") +
-      hills("62C40 58 110 60 200 58", "#4f8a4c") +
-      box(22, 42, 116, 30, "#fff3df") +
-      shape("M18 42 26 34H134L142 42Z", "#c46a48") +
-      box(62, 34, 36, 38, "#fff9ee") +
-      shape("M58 34 66 26H94L102 34Z", "#c46a48") +
-      repeat(3, (i) => shape(`M${66 + i * 10} 72V54a4 5 0 0 1 8 0V72Z`, "#6b8ea8")) +
-      windows(28, 47, 3, 2, "#6b8ea8", { width: 6, height: 8, stepX: 11, stepY: 12 }) +
-      windows(103, 47, 3, 2, "#6b8ea8", { width: 6, height: 8, stepX: 11, stepY: 12 }) +
-      palm(14, 80, 1.2) +
-      palm(146, 80, 1.2) +
-      lawn("#6fae58", 73) +
-      shape("M34 78H126L140 96H20Z", "#efe2cb") +
-      pool(50, 82, 60),
-  },
-  cliffHouse: {
-    skies: [dusk, evening],
-    drawing:
-      sunAt(36, 46, 15) +
-      open(56, "#35508f") +
-      glints([
-        [8, 62, 44],
-        [20, 68, 30],
-      ]) +
-      shape("M66 100 74 84 70 70 84 60 170 54V100Z", "#6b4a44") +
-      shape("M84 100 92 80 88 66 170 58V100Z", "#523431") +
-      storey(84, 46, 60, 14) +
-      storey(70, 34, 46, 10, "#ffc46b") +
-      box(78, 60, 4, 14, "#c9bba6") +
-      box(120, 34, 10, 26, "#c9bba6") +
-      open(92, "#2a4280"),
-  },
   manor: {
     skies: [clear, gold],
     drawing:
@@ -448,34 +273,4 @@ const homes: Record<string, Home> = {
       tree(140, 82, 14, "#4a7a44") +
       lawn("#84b064", 79),
   },
-  lagoon: {
-    skies: [noon, haze],
-    drawing:
-      cloud(24, 24, 0.9) +
-      open(52, "#25b3c9") +
-      shape("M-10 58C6 44 34 42 58 54 40 60 10 62-10 62Z", "#3d9b5f") +
-      shape("M-10 66C40 58 110 60 170 68V76H-10Z", "#7ee6df", 0.7) +
-      [38, 70, 102]
-        .map(
-          (x, i) =>
-            repeat(2, (k) => box(x + 4 + k * 16, 70, 2, 12 + (i % 2) * 3, "#7a5234")) +
-            box(x, 58, 26, 13, "#fff0d6") +
-            box(x + 9, 61, 8, 10, "#4a7a86") +
-            shape(`M${x - 4} 59Q${x + 13} 34 ${x + 30} 59Z`, "#b88748"),
-        )
-        .join("") +
-      box(30, 70, 112, 3, "#a9835c") +
-      glints([
-        [10, 88, 40],
-        [92, 92, 44],
-      ]),
-  },
-};
-
-export const homeForms = family(homes, ({ skies, drawing }, _, draw) => {
-  const [above, below] = pick(skies, draw);
-  return framed(
-    { kind: "scene", sky: fade(above, below), width: 160 },
-    draw() < 0.5 ? drawing : mirrored(160, drawing),
-  );
 });

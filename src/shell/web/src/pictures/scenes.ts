@@ -1,95 +1,26 @@
-import { drawsOf, pick } from "./chance";
-import { family } from "./family";
-import type { Draw } from "./palettes";
+import { pick } from "./chance";
+import { type Drawing, wideViews } from "./wide";
 import {
   at,
   box,
   cloud,
-  crowd,
   dot,
-  framed,
   hills,
   line,
-  notes,
   oval,
-  palm,
-  peaks,
-  pine,
   repeat,
-  ring,
   shape,
-  stars,
   sunAt,
   tree,
-  turned,
   windows,
+  crowd,
+  notes,
+  ring,
+  stars,
+  turned,
 } from "./words";
 
-/*
- * Places behind people and news, 160 by 90. Boxes of every shape show them: what tells the place stands between 45 and
- * 115, and a person stands before it.
- */
-
-type Sky = readonly string[];
-type Drawing = (draw: Draw) => string;
-type Scene = readonly [Sky, Drawing];
-
-const purple: Sky = ["#2a0f63", "#7a2ce0", "#ff5fa8"];
-
-const palms: Drawing = (draw) =>
-  sunAt(84 + draw() * 20, 44, 15, "#fff1d6") +
-  hills("62C40 52 110 66 200 56", "#8a4a8a", 0.8) +
-  hills("72C40 64 100 74 200 66", "#472a6a") +
-  palm(56, 82, 1.3, "#3a1a52", "#3a1a52") +
-  palm(120, 86, 1, "#3a1a52", "#3a1a52");
-
-const town: Drawing = (draw) =>
-  sunAt(70 + draw() * 30, 34, 13, "#ffe9c4") +
-  repeat(12, (i) => {
-    const height = 22 + draw() * 40;
-    const x = i * 14 - 4;
-    return (
-      box(x, 90 - height, 12, 60, "#2b2052", 0, 0.9) +
-      windows(x + 2, 94 - height, 2, 5, "#ffd98a", { width: 2.4, height: 3, stepX: 5, stepY: 8 })
-    );
-  });
-
-const park: Drawing = (draw) =>
-  cloud(40, 20) +
-  cloud(104, 14 + draw() * 8, 0.8) +
-  hills("64C40 54 110 66 200 56", "#86c06a") +
-  tree(50, 74, 11, "#3f8a4e") +
-  tree(112, 72, 13, "#357a46") +
-  tree(128, 76, 9, "#4a9a58") +
-  hills("76C40 68 110 80 200 70", "#5aa456");
-
-const mountains: Drawing = (draw) =>
-  sunAt(56 + draw() * 40, 26, 9, "#fff6dc") +
-  peaks(76, "#6f86b4") +
-  hills("70C40 62 110 74 200 64", "#3f6b5a") +
-  pine(48, 80, 24, "#23483c") +
-  pine(58, 82, 18, "#23483c") +
-  pine(118, 82, 26, "#23483c") +
-  hills("82C40 76 110 86 200 78", "#2f5748");
-
-const cafe: Drawing = () =>
-  box(-40, 0, 240, 90, "#3a2238", 0, 0.35) +
-  repeat(
-    7,
-    (i) =>
-      line(`M${20 + i * 20} -4V${18 + (i % 3) * 6}`, "#2a1626", 1) + dot(20 + i * 20, 22 + (i % 3) * 6, 3.4, "#ffe1a0"),
-  ) +
-  box(40, 40, 30, 26, "#ffd9a0", 2, 0.5) +
-  box(92, 40, 30, 26, "#ffd9a0", 2, 0.5) +
-  box(-40, 72, 240, 40, "#5a2f30");
-
-const places: readonly Scene[] = [
-  [["#ffb08a", "#ff7f93"], palms],
-  [["#6a4fb0", "#ff9a7a"], town],
-  [["#8fd4ff", "#fff0c9"], park],
-  [["#9fc4f5", "#ffe3d0"], mountains],
-  [["#b0566a", "#5a2a52"], cafe],
-];
+/* Behind people and news. */
 
 const tents: Drawing = () =>
   shape("M50 76 80 50 110 76Z", "#e0475a") +
@@ -113,9 +44,9 @@ const stageFront: Drawing = () =>
   line("M34 78V46M126 78V44", "#1d0720", 1.6) +
   shape("M28 46h12l-2-5H30ZM120 44h12l-2-5h-8Z", "#1d0720");
 
-const scenes: Record<string, Scene> = {
+export const sceneForms = wideViews({
   stage: [
-    purple,
+    ["#2a0f63", "#7a2ce0", "#ff5fa8"],
     () =>
       shape("M104-6 54 90h38ZM114-6 98 90h42ZM128-6 132 90h46Z", "#fff", 0.16) +
       dot(116, 50, 40, "#ffd0ea", 0.3) +
@@ -266,101 +197,4 @@ const scenes: Record<string, Scene> = {
       shape("M80-10 40 90H120Z", "#ffe9a6", 0.22) +
       oval(80, 84, 42, 6, "#ffe9a6", 0.35),
   ],
-  office: [
-    ["#243044", "#0d131d"],
-    () =>
-      box(30, 8, 100, 46, "#5a86b8", 2, 0.5) +
-      repeat(9, (i) => box(34 + i * 11, 54 - (14 + ((i * 17) % 26)), 8, 14 + ((i * 17) % 26), "#0d1a2c", 0, 0.7)) +
-      repeat(3, (i) => box(54 + i * 25, 8, 1.6, 46, "#1a2434")) +
-      box(-40, 66, 240, 40, "#2a1f1a") +
-      box(34, 60, 92, 8, "#6a4a34", 2) +
-      repeat(3, (i) => dot(136, 22 + i * 15, 5, "#d9a326") + dot(136, 22 + i * 15, 1.4, "#5a3a08")),
-  ],
-  garageOffice: [
-    ["#8fb4d0", "#d9c4a8"],
-    () =>
-      box(30, 26, 100, 56, "#a89a88") +
-      shape("M24 28 80 6 136 28Z", "#5a4a44") +
-      box(42, 36, 76, 46, "#e9e2d4") +
-      repeat(4, (i) => box(42, 46 + i * 9, 76, 1.4, "#b8ac98")) +
-      box(42, 58, 76, 24, "#2a2530") +
-      box(52, 66, 20, 16, "#5a4a8a", 1) +
-      dot(62, 74, 5, "#0d0a1a") +
-      line("M94 82V62l6-2", "#d9ccff", 1.6) +
-      box(-40, 82, 240, 40, "#8a8478"),
-  ],
-  coworking: [
-    ["#ffe7c4", "#f2c49a"],
-    () =>
-      windows(36, 10, 4, 1, "#a8d8f0", { width: 18, height: 32, stepX: 23 }) +
-      repeat(
-        3,
-        (i) => line(`M${50 + i * 30} 0V16`, "#3a2a24", 1) + shape(`M${44 + i * 30} 22a6 6 0 0 1 12 0Z`, "#e0475a"),
-      ) +
-      box(30, 60, 100, 5, "#8a5a38", 1) +
-      line("M40 65V84M120 65V84M80 65V84", "#5a3a24", 2.4) +
-      repeat(3, (i) => box(44 + i * 28, 49, 14, 10, "#3a4a5c", 1) + box(50 + i * 28, 59, 2, 2, "#3a4a5c")) +
-      at(
-        138,
-        82,
-        box(-5, -8, 10, 8, "#d0704a") +
-          shape("M0-8C-14-16-12-30-4-34-2-24 0-20 0-8ZM0-8C14-14 14-26 8-32 2-24 2-16 0-8Z", "#3f8a4e"),
-      ) +
-      box(-40, 82, 240, 40, "#d9a878"),
-  ],
-  warehouse: [
-    ["#7a8aa3", "#d9cdbd"],
-    () =>
-      shape("M24 40 46 22V40L68 22V40L90 22V40L112 22V40L136 40V82H24Z", "#9c5a48") +
-      shape("M46 22V40H26ZM68 22V40H48ZM90 22V40H70ZM112 22V40H92Z", "#cfe3f0", 0.8) +
-      windows(32, 46, 9, 1, "#ffe6ad", { width: 7, height: 10, stepX: 11.4 }) +
-      box(66, 60, 28, 22, "#3a2a2a") +
-      repeat(4, (i) => box(66, 63 + i * 5, 28, 1, "#7a5a4c")) +
-      box(100, 70, 14, 12, "#c8a060") +
-      box(112, 74, 10, 8, "#d9b070") +
-      box(-40, 82, 240, 40, "#807a78"),
-  ],
-  loft: [
-    ["#ffb37a", "#7a5ad0"],
-    () =>
-      box(-40, 0, 240, 100, "#4a2230", 0, 0.35) +
-      repeat(
-        3,
-        (i) =>
-          box(34 + i * 32, 10, 28, 46, "#ffd9a8", 1) +
-          line(`M${48 + i * 32} 10v46M${34 + i * 32} 26h28M${34 + i * 32} 41h28`, "#3a1a28", 1.4),
-      ) +
-      box(-40, 64, 240, 40, "#5a3430") +
-      box(46, 58, 48, 10, "#2f6f78", 4) +
-      box(44, 66, 52, 8, "#26585f", 3) +
-      box(104, 50, 18, 24, "#2a1a20", 2) +
-      dot(113, 57, 3.4, "#8a6a70") +
-      dot(113, 66, 5, "#8a6a70") +
-      line("M0 4H160", "#2a1218", 2.6),
-  ],
-  campus: [
-    ["#8fd0f5", "#eaf7e0"],
-    () =>
-      cloud(30, 18) +
-      hills("62C40 56 110 60 200 54", "#86c06a") +
-      shape("M34 66V46Q80 30 126 46V66Z", "#eef4f8") +
-      repeat(11, (i) => box(38 + i * 8, 48 - Math.sin(((i + 1) / 12) * Math.PI) * 5, 5.4, 18, "#6fb0d6")) +
-      box(70, 52, 20, 14, "#2f5c78") +
-      box(30, 66, 100, 4, "#cdd8d0") +
-      hills("70C40 66 110 74 200 68", "#6fae58") +
-      tree(24, 76, 8, "#3f8a4e") +
-      tree(138, 76, 9, "#3f8a4e") +
-      shape("M74 70H86L98 90H62Z", "#f2ead6"),
-  ],
-};
-
-const wide = ([sky, drawing]: Scene, draw: Draw): string =>
-  framed({ kind: "scene", sky: `linear-gradient(${sky.join()})`, width: 160, height: 90 }, drawing(draw));
-
-/** A place that follows from the name alone: where somebody is met. */
-export const anywhere = (name: string): string => {
-  const draw = drawsOf(`place:${name}`);
-  return wide(pick(places, draw), draw);
-};
-
-export const sceneForms = { ...family(scenes, (scene, _, draw) => wide(scene, draw)), place: anywhere };
+});
