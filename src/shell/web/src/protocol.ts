@@ -1,7 +1,23 @@
-/** What the engine answers, as docs/page-protocol.md describes it. Members with an empty meaning may be absent. */
+/**
+ * What the engine answers, as docs/page-protocol.md describes it. A member that stands on its default is absent: an empty
+ * text or list, 0, false, the first name of an enumeration, or what is written beside it.
+ */
 
-export type Tone = "plain" | "good" | "bad" | "warning" | "locked";
-export type Theme = "plain" | "chart" | "chirp" | "report" | "bank";
+export type Tone = "plain" | "good" | "bad" | "warning" | "fair" | "locked";
+export type Theme =
+  | "plain"
+  | "chart"
+  | "chirp"
+  | "report"
+  | "bank"
+  | "live"
+  | "merch"
+  | "video"
+  | "label"
+  | "gala"
+  | "love"
+  | "family"
+  | "estate";
 
 export interface Price {
   energy?: number;
@@ -14,10 +30,22 @@ export interface Picture {
   name?: string;
 }
 
+export interface Fact {
+  icon?: string;
+  label?: string;
+  value?: string;
+  tone?: Tone;
+}
+
+export interface Link {
+  id: string;
+  label: string;
+}
+
 export interface Heading {
   kind: "heading";
   text: string;
-  link?: { id: string; label: string };
+  link?: Link;
 }
 
 export interface Text {
@@ -34,6 +62,7 @@ export interface Tile {
   note?: string;
   tone?: Tone;
   id?: string;
+  price?: Price;
 }
 
 export interface Tiles {
@@ -41,12 +70,16 @@ export interface Tiles {
   items?: Tile[];
 }
 
-export interface Meter {
-  kind: "meter";
+export interface MeterData {
   label?: string;
   value?: string;
   share?: number;
   tone?: Tone;
+  steps?: number;
+}
+
+export interface Meter extends MeterData {
+  kind: "meter";
 }
 
 export interface RowAction {
@@ -69,6 +102,7 @@ export interface Row {
   opens?: boolean;
   id?: string;
   actions?: RowAction[];
+  points?: number[];
 }
 
 export interface Rows {
@@ -78,6 +112,7 @@ export interface Rows {
   total?: number;
   from?: number;
   columns?: string[];
+  style?: "list" | "shelf" | "strip" | "route" | "films" | "wire";
 }
 
 export interface Table {
@@ -102,6 +137,7 @@ export interface ButtonData {
   id: string;
   label: string;
   price?: Price;
+  /** "secondary" when absent */
   style?: "primary" | "secondary" | "destructive";
   tone?: Tone;
   pulse?: boolean;
@@ -122,11 +158,45 @@ export interface TextField {
   suggest?: string;
 }
 
+export interface PhotoField {
+  kind: "photo";
+  id: string;
+  label?: string;
+  taken?: boolean;
+}
+
+export interface Slider {
+  kind: "slider";
+  id: string;
+  label?: string;
+  value?: string;
+  low?: string;
+  high?: string;
+  note?: string;
+  at?: number;
+  count?: number;
+}
+
+export interface Stepper {
+  kind: "stepper";
+  id: string;
+  label?: string;
+  value?: string;
+  note?: string;
+  /** true when absent */
+  canLess?: boolean;
+  /** true when absent */
+  canMore?: boolean;
+}
+
 export interface Option {
   label: string;
   note?: string;
   tone?: Tone;
   price?: Price;
+  picture?: Picture;
+  value?: string;
+  facts?: Fact[];
 }
 
 export interface Choice {
@@ -135,7 +205,8 @@ export interface Choice {
   label?: string;
   options?: Option[];
   selected?: number;
-  style?: "segments" | "list";
+  /** "list" when absent */
+  style?: "segments" | "list" | "cards" | "pictures";
 }
 
 export interface Toggle {
@@ -179,16 +250,19 @@ export interface Card {
   text?: string;
   badge?: string;
   tone?: Tone;
+  value?: string;
+  meters?: MeterData[];
   buttons?: ButtonData[];
+  note?: string;
 }
 
 export interface Cover {
   kind: "cover";
-  hook?: string;
   picture?: Picture;
   title?: string;
   text?: string;
   badge?: string;
+  hook?: string;
 }
 
 export interface Figure {
@@ -205,13 +279,130 @@ export interface Figures {
   title?: string;
   items?: Figure[];
   total?: Figure;
-  style?: "large" | "ledger";
+  /** "ledger" when absent */
+  style?: "large" | "ledger" | "pair";
 }
 
 export interface EmptyHint {
   kind: "empty";
   icon?: string;
   text?: string;
+}
+
+export interface Poster {
+  kind: "poster";
+  pictures?: Picture[];
+  kicker?: string;
+  title?: string;
+  text?: string;
+  figure?: string;
+  stamp?: string;
+  facts?: Fact[];
+  meter?: MeterData;
+  style?: "scene" | "ticket" | "torn";
+  mood?: "plain" | "celebrate" | "mourn";
+}
+
+export interface BillAct {
+  name?: string;
+  /** 4 when absent */
+  rank?: number;
+  own?: boolean;
+}
+
+export interface Bill {
+  kind: "bill";
+  kicker?: string;
+  title?: string;
+  text?: string;
+  acts?: BillAct[];
+  facts?: Fact[];
+}
+
+export interface Obituary {
+  kind: "obituary";
+  picture?: Picture;
+  kicker?: string;
+  title?: string;
+  text?: string;
+  facts?: Fact[];
+}
+
+export interface Story {
+  kind: "story";
+  sky?: Picture;
+  kicker?: string;
+  title?: string;
+  figure?: string;
+  text?: string;
+  facts?: Fact[];
+  share?: string;
+}
+
+export interface Gauge {
+  label?: string;
+  value?: string;
+  note?: string;
+  share?: number;
+  steps?: number;
+  tone?: Tone;
+  icon?: string;
+  id?: string;
+}
+
+export interface Gauges {
+  kind: "gauges";
+  title?: string;
+  note?: string;
+  items?: Gauge[];
+  /** "bars" when absent */
+  style?: "faders" | "bars" | "stacks" | "split";
+}
+
+export interface DeckCorner {
+  icon?: string;
+  value?: string;
+  label?: string;
+  tone?: Tone;
+}
+
+export interface DeckChoice {
+  id: string;
+  label: string;
+  icon?: string;
+  price?: Price;
+  side?: "left" | "up" | "right";
+}
+
+export interface Deck {
+  kind: "deck";
+  picture?: Picture;
+  title?: string;
+  aside?: string;
+  text?: string;
+  facts?: Fact[];
+  tags?: string[];
+  corners?: DeckCorner[];
+  choices?: DeckChoice[];
+  note?: string;
+}
+
+export interface TreePerson {
+  picture?: Picture;
+  title?: string;
+  subtitle?: string;
+  generation?: number;
+  /** -1 when absent */
+  parent?: number;
+  /** -1 when absent */
+  beside?: number;
+  standing?: "kin" | "elder" | "player" | "gone";
+  id?: string;
+}
+
+export interface Tree {
+  kind: "tree";
+  people?: TreePerson[];
 }
 
 export type Block =
@@ -224,18 +415,36 @@ export type Block =
   | PictureGrid
   | Button
   | TextField
+  | PhotoField
   | Choice
   | Toggle
+  | Slider
+  | Stepper
   | Chart
   | Post
   | Card
   | Cover
   | Figures
-  | EmptyHint;
+  | EmptyHint
+  | Poster
+  | Bill
+  | Obituary
+  | Story
+  | Gauges
+  | Deck
+  | Tree;
 
 export interface Help {
   title: string;
   text: string;
+}
+
+export interface Total {
+  label?: string;
+  value?: string;
+  tone?: Tone;
+  energy?: boolean;
+  share?: number;
 }
 
 export interface View {
@@ -243,11 +452,13 @@ export interface View {
   key: number;
   title?: string;
   subtitle?: string;
-  theme?: Theme;
   picture?: Picture;
-  help?: Help;
-  mainAction?: ButtonData;
+  theme?: Theme;
   blocks?: Block[];
+  totals?: Total[];
+  mainAction?: ButtonData;
+  aside?: ButtonData;
+  help?: Help;
 }
 
 export interface Header {

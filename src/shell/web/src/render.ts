@@ -1,7 +1,7 @@
 import { html, type TemplateResult } from "lit";
 import "./blocks/chart";
 import "./blocks/figures";
-import { buttonBlock, choiceBlock, fieldBlock, toggleBlock } from "./blocks/controls";
+import { buttonBlock, choiceBlock, fieldBlock, photoBlock, toggleBlock } from "./blocks/controls";
 import {
   cardBlock,
   coverBlock,
@@ -54,6 +54,10 @@ export function renderBlock(block: Block, scene: Scene): TemplateResult {
       return html`<bb-figures .figures=${block}></bb-figures>`;
     case "empty":
       return emptyBlock(block);
+    case "photo":
+      return photoBlock(block, scene);
+    default:
+      return html``;
   }
 }
 
@@ -76,5 +80,5 @@ export function renderBlocks(blocks: Block[], scene: Scene): TemplateResult[] {
 
 function isLine(block: Block): boolean {
   if (block.kind === "choice") return block.style !== "segments";
-  return block.kind === "field" || block.kind === "toggle" || block.kind === "meter";
+  return block.kind === "field" || block.kind === "photo" || block.kind === "toggle" || block.kind === "meter";
 }

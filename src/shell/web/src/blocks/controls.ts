@@ -1,6 +1,6 @@
 import { html, nothing, type TemplateResult } from "lit";
 import { live } from "lit/directives/live.js";
-import type { ButtonData, Choice, TextField, Toggle } from "../protocol";
+import type { ButtonData, Choice, PhotoField, TextField, Toggle } from "../protocol";
 import type { Scene } from "../scene";
 import { pricePill, toneClass } from "./parts";
 import "./photo-field";
@@ -21,9 +21,12 @@ export function buttonBlock(button: ButtonData, scene: Scene): TemplateResult {
 
 /** A text to type. */
 export function fieldBlock(field: TextField, scene: Scene): TemplateResult {
-  // The engine asks for the player's own picture by this id.
-  if (field.id === "photo") return html`<bb-photo-field .field=${field} .scene=${scene}></bb-photo-field>`;
   return html`<bb-text-field .field=${field} .scene=${scene}></bb-text-field>`;
+}
+
+/** A picture to give. */
+export function photoBlock(field: PhotoField, scene: Scene): TemplateResult {
+  return html`<bb-photo-field .field=${field} .scene=${scene}></bb-photo-field>`;
 }
 
 /** On or off. */

@@ -1,12 +1,12 @@
 import { html, LitElement, type TemplateResult } from "lit";
 import { shrunkPicture } from "../pictures/shrink";
-import type { TextField } from "../protocol";
+import type { PhotoField } from "../protocol";
 import type { Scene } from "../scene";
 
 /** Takes the player's own picture: it is scaled down here, and its address told to the engine. */
 class PhotoFieldElement extends LitElement {
   static override properties = { field: { attribute: false }, scene: { attribute: false }, problem: { state: true } };
-  declare field: TextField;
+  declare field: PhotoField;
   declare scene: Scene;
   declare problem: string;
 
@@ -15,15 +15,18 @@ class PhotoFieldElement extends LitElement {
   }
 
   protected override render(): TemplateResult {
+    const { label, taken } = this.field;
     return html`<div class="line field">
       <label class="field-label">
-        <span class="line-label">${this.field.label}</span>
-        <span class="photo-choice" role="status">${this.problem || "Choose a picture"}</span>
+        <span class="line-label" dir="auto">${label}</span>
+        <span class="photo-choice" role="status"
+          >${this.problem || (taken ? "Choose another picture" : "Choose a picture")}</span
+        >
         <input
           class="photo-input"
           type="file"
           accept="image/*"
-          aria-label=${this.field.label || "Picture"}
+          aria-label=${label || "Picture"}
           @change=${this.choose}
         />
       </label>
