@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/icons.h"
+#include "core/pictures.h"
 #include "core/view_fields.h"
 #include "core/view_find.h"
 #include "shell/native/terminal_text.h"
@@ -15,14 +16,30 @@ namespace {
 
 bool isKnown(const std::string& name) { return std::find(icons.begin(), icons.end(), name) != icons.end(); }
 
-/// The last icon that nobody draws, wherever in the view it is named; "" when all are known.
+template <class Forms>
+bool hasFormOf(const Forms& forms, const Picture& picture) {
+  return std::find(forms.begin(), forms.end(), picture.name.substr(0, picture.name.find(':'))) != forms.end();
+}
+
+bool isDrawn(const Picture& picture) {
+  switch (picture.kind) {
+    case Picture::Kind::icon: return isKnown(picture.name);
+    case Picture::Kind::object: return hasFormOf(objectForms, picture);
+    case Picture::Kind::scene: return hasFormOf(sceneForms, picture);
+    case Picture::Kind::still: return hasFormOf(stillForms, picture);
+    case Picture::Kind::mark: return hasFormOf(markForms, picture);
+    default: return true;
+  }
+}
+
+/// The last icon or picture that nobody draws, wherever in the view it is named; "" when all are known.
 std::string unknownIconOf(const View& view) {
   std::string found;
   forEachRecord(view, [&](const ViewType& type, const void* record) {
     const std::string* icon = textOf(type, record, "icon");
     if (&type == &viewType<Picture>) {
       const Picture& picture = *static_cast<const Picture*>(record);
-      if (picture.kind == Picture::Kind::icon) icon = &picture.name;
+      if (!isDrawn(picture)) found = picture.name;
     }
     if (icon && !icon->empty() && !isKnown(*icon)) found = *icon;
   });
@@ -52,7 +69,7 @@ std::string glassFault(const Session& session, const std::function<Shown()>& sho
     return "a printed line is too wide: " + line;
   }
   if (stateHash(state) != before) return "describing it changed the state";
-  if (const std::string icon = unknownIconOf(once.view); !icon.empty()) return "nobody draws the icon " + icon;
+  if (const std::string icon = unknownIconOf(once.view); !icon.empty()) return "nobody draws " + icon;
   return {};
 }
 
