@@ -81,6 +81,9 @@ const furniture: Record<string, string> = {
   comment: glyphs.chatbubbleOutline,
   reChirp: glyphs.repeat,
   like: glyphs.heartOutline,
+  add: glyphs.add,
+  remove: glyphs.remove,
+  share: glyphs.shareOutline,
 };
 
 /** Whether a screen may name this glyph. */
