@@ -3,6 +3,7 @@
 #include "career/label_contract.h"
 #include "core/calendar.h"
 #include "core/money.h"
+#include "core/purse.h"
 
 namespace backbeat {
 
@@ -45,12 +46,9 @@ void endTour(Game& game) {
   game.save(&GameState::onTour, &GameState::onTourEnergyCost, &GameState::timeUntilNextTour);
 }
 
-void payBack(Game& game, double advance) {
-  game.state.totalCashAvailable -= advance;
-  game.save(&GameState::totalCashAvailable);
+Outcome stillOnTour() {
+  return refuse<"Currently on Tour">("\nYou cannot terminate a contract while you are on tour.");
 }
-
-Outcome stillOnTour() { return alert("Currently on Tour", "\nYou cannot terminate a contract while you are on tour."); }
 
 }  // namespace
 
@@ -71,13 +69,14 @@ Outcome checkContractDeadlines(Game& game) {
   const bool onTour = state.onTour >= 1;
   if (onTour) callOffShows(game);
   freeArtist(game);
-  payBack(game, advance);
+  pay(game, {.dollars = advance});
   if (onTour) endTour(game);
   stateChanged(game);
-  return alert("❌ Terminated ❌",
-               "\nYou were not able to fulfill the terms of your contract in the agreed upon time. You are required to "
-               "pay back " +
-                   currency(advance) + ".");
+  return news<"❌ Terminated ❌">(
+      "\nYou were not able to fulfill the terms of your contract in the agreed upon time. You are required to "
+      "pay back " +
+          currency(advance) + ".",
+      Feedback::warning);
 }
 
 Outcome endContract(const GameState& state) {
@@ -85,18 +84,13 @@ Outcome endContract(const GameState& state) {
   if (state.underContract < 1 || running == state.saveAllContractLabelList.size()) return {};
   if (state.onTour != 0) return stillOnTour();
   const ContractLabel& contract = state.saveAllContractLabelList[running];
-  const bool fulfilled = contractFulfilled(contract);
   const std::string sure = "\nAre you sure you want to cancel your contract?\n\n";
-  Outcome outcome = fulfilled
-                        ? alert("End Partnership?", sure + "There is no penalty since your contract was fulfilled.")
-                        : alert("Cancel Contract?", sure + "You will owe " + currency(contract.initialCash) +
-                                                        " back to " + contract.recordLabel + ".");
-  outcome.feedback = Feedback::none;
-  outcome.alerts.front().buttons = {
-      {"Nope", {}, AlertButton::Style::cancel},
-      {"Yes, Cancel", {"confirmEndContract", ""}, AlertButton::Style::destructive},
-  };
-  return outcome;
+  const AlertButton yes = {"Yes, Cancel", {"confirmEndContract", ""}, AlertButton::Style::destructive};
+  if (contractFulfilled(contract)) {
+    return ask<"End Partnership?">(sure + "There is no penalty since your contract was fulfilled.", "Nope", yes);
+  }
+  return ask<"Cancel Contract?">(
+      sure + "You will owe " + currency(contract.initialCash) + " back to " + contract.recordLabel + ".", "Nope", yes);
 }
 
 Outcome confirmEndContract(Game& game) {
@@ -105,12 +99,10 @@ Outcome confirmEndContract(Game& game) {
   if (state.underContract < 1 || running == state.saveAllContractLabelList.size()) return {};
   if (state.onTour != 0) return stillOnTour();
   const ContractLabel contract = state.saveAllContractLabelList[running];
-  if (!contractFulfilled(contract)) payBack(game, contract.initialCash);
+  if (!contractFulfilled(contract)) pay(game, {.dollars = contract.initialCash});
   freeArtist(game);
   stateChanged(game);
-  Outcome outcome = closeScreen();
-  outcome.feedback = Feedback::success;
-  return outcome;
+  return successAndClose();
 }
 
 }  // namespace backbeat

@@ -5,6 +5,7 @@
 #include "core/bands.h"
 #include "core/calendar.h"
 #include "core/money.h"
+#include "core/purse.h"
 
 namespace backbeat {
 
@@ -175,12 +176,12 @@ Outcome signContract(Game& game) {
   state.contractStudioScore = offer.tempStudioScore;
   state.contractFeatureDiscount = offer.tempFeatureDiscount;
   state.albumProductionCosts = 0;
-  state.totalCashAvailable += static_cast<double>(offer.tempCash);
+  earn(game, {.dollars = static_cast<double>(offer.tempCash)});
   state.saveAllContractLabelList.append(contractOf(state, offer));
   game.save(&GameState::saveAllContractLabelList, &GameState::underContract, &GameState::streamingPayRate,
             &GameState::youViewStreamingRate, &GameState::contractViralityBoost, &GameState::contractMarketingBoost,
             &GameState::contractAlbumPricing, &GameState::contractStudioScore, &GameState::contractFeatureDiscount,
-            &GameState::albumProductionCosts, &GameState::totalCashAvailable);
+            &GameState::albumProductionCosts);
   stateChanged(game);
   return success();
 }

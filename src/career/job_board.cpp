@@ -3,6 +3,7 @@
 #include <array>
 
 #include "core/calendar.h"
+#include "core/purse.h"
 
 namespace backbeat {
 
@@ -22,6 +23,13 @@ constexpr int64_t longestContract = 20;
 
 }  // namespace
 
+Outcome enterJobBoard(Game& game) {
+  if (!hasEnergy(game.state, jobBoardCost)) return bounce();
+  pay(game, jobBoardCost);
+  stateChanged(game);
+  return {};
+}
+
 std::vector<JobOffer> drawJobBoard(Random& random) {
   std::vector<JobOffer> board;
   const int64_t count = random.integer(0, mostJobs);
@@ -35,8 +43,8 @@ std::vector<JobOffer> drawJobBoard(Random& random) {
 Outcome takeJob(Game& game, const JobOffer& offer) {
   GameState& state = game.state;
   if (state.weeklyJobContractRemaining > 0) {
-    return alert("⏳ Contract Signed ⏳", "\nYou already have an existing contract in place for " +
-                                            std::to_string(state.weeklyJobContractRemaining) + " more week(s).");
+    return refuse<"⏳ Contract Signed ⏳">("\nYou already have an existing contract in place for " +
+                                         std::to_string(state.weeklyJobContractRemaining) + " more week(s).");
   }
   state.weeklyEnergyCost = offer.job.energyCost;
   state.weeklyJobIncome = offer.job.jobPay;
@@ -54,8 +62,7 @@ void advanceJobContract(Game& game) {
   } else {
     state.weeklyJobContractRemaining -= 1;
   }
-  game.save(&GameState::weeklyJobContractRemaining, &GameState::totalCashAvailable, &GameState::weeklyJobIncome,
-            &GameState::weeklyEnergyCost);
+  game.save(&GameState::weeklyJobContractRemaining, &GameState::weeklyJobIncome, &GameState::weeklyEnergyCost);
 }
 
 }  // namespace backbeat

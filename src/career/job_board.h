@@ -6,10 +6,11 @@
 
 #include "core/game.h"
 #include "core/outcome.h"
+#include "core/price.h"
 
 namespace backbeat {
 
-inline constexpr int64_t jobBoardEnergyCost = 5;  ///< of each visit
+inline constexpr Price jobBoardCost = {.energy = 5};  ///< of each visit
 
 /// A kind of job.
 struct JobList {
@@ -17,6 +18,9 @@ struct JobList {
   int64_t energyCost = 0;  ///< a week
   double jobPay = 0;       ///< dollars a week
 };
+
+/// The door of the board, where each visit is paid. Refused with too little energy: the energy figure shakes.
+Outcome enterJobBoard(Game& game);
 
 /// One row of the board.
 struct JobOffer {

@@ -2,6 +2,7 @@
 
 #include "core/calendar.h"
 #include "core/money.h"
+#include "core/purse.h"
 
 namespace backbeat {
 
@@ -25,19 +26,14 @@ bool removeEntry(GameState& state, const LifestyleCategory& category) {
   return true;
 }
 
-Outcome refuse(const LifestyleOption& option) {
-  return alert(std::string(option.title), "Selecting this option requires an initial payment of " +
-                                              currency(option.cost) + " which you do not currently have.");
+AlertTitle titleOf(const LifestyleOption& option) { return alertTitle<"*", "lifestyle">.with(option.title); }
+
+Outcome tooDear(const LifestyleOption& option) {
+  return noCash(titleOf(option), "Selecting this option requires an initial payment of " + currency(option.cost) +
+                                     " which you do not currently have.");
 }
 
-Outcome noExpenseFound() { return alert("No Expense Found", "\nYou don't have a weekly expense in this category."); }
-
-Outcome question(std::string title, std::string message, AlertButton yes) {
-  Outcome outcome;
-  outcome.alerts.push_back(
-      {std::move(title), std::move(message), {{"Cancel", {}, AlertButton::Style::cancel}, std::move(yes)}});
-  return outcome;
-}
+Outcome noExpenseFound() { return refuse<"No Expense Found">("\nYou don't have a weekly expense in this category."); }
 
 }  // namespace
 
@@ -48,18 +44,18 @@ std::optional<WeeklyLineItem> lifestyleEntry(const GameState& state, const Lifes
 }
 
 Outcome askForLifestyle(const GameState& state, const LifestyleOption& option, bool givesVirality, Action confirmed) {
-  if (state.totalCashAvailable < option.cost) return refuse(option);
+  if (!hasCash(state, option.firstPayment())) return tooDear(option);
   const std::string cost = currency(option.cost);
-  return question(std::string(option.title),
-                  "DUE NOW: " + cost + "\n\nSelecting this option will increase your weekly expenses by " + cost +
-                      (givesVirality ? " and your VIRALITY by +" : " and your MAX ENERGY by +") +
-                      std::to_string(option.energyBoost),
-                  {"Confirm", std::move(confirmed), AlertButton::Style::normal});
+  return ask(titleOf(option),
+             "DUE NOW: " + cost + "\n\nSelecting this option will increase your weekly expenses by " + cost +
+                 (givesVirality ? " and your VIRALITY by +" : " and your MAX ENERGY by +") +
+                 std::to_string(option.energyBoost),
+             "Cancel", {"Confirm", std::move(confirmed), AlertButton::Style::normal});
 }
 
 Outcome chooseLifestyle(Game& game, const LifestyleCategory& category, const LifestyleOption& option) {
   GameState& state = game.state;
-  if (state.totalCashAvailable < option.cost) return refuse(option);
+  if (!hasCash(state, option.firstPayment())) return tooDear(option);
   removeEntry(state, category);
   if (category.givesVirality()) {
     state.fashionViralityBonus = option.energyBoost;
@@ -74,9 +70,8 @@ Outcome chooseLifestyle(Game& game, const LifestyleCategory& category, const Lif
   entry.typeOfExpense = category.typeOfExpense;
   entry.energyBoost = option.energyBoost;
   state.saveAllWeeklyLineItems.append(std::move(entry));
-  state.totalCashAvailable -= option.cost;
-  game.save(&GameState::saveAllWeeklyLineItems, &GameState::totalEnergyMax, &GameState::totalCashAvailable,
-            &GameState::fashionViralityBonus);
+  pay(game, option.firstPayment());
+  game.save(&GameState::saveAllWeeklyLineItems, &GameState::totalEnergyMax, &GameState::fashionViralityBonus);
   stateChanged(game);
   return success();
 }
@@ -84,8 +79,8 @@ Outcome chooseLifestyle(Game& game, const LifestyleCategory& category, const Lif
 Outcome askToClearLifestyle(const GameState& state, const LifestyleCategory& category, Action confirmed) {
   const auto entry = lifestyleEntry(state, category);
   if (!entry) return noExpenseFound();
-  return question("Remove " + entry->title + " Expense?", "\nWould you like to clear this expense?",
-                  {"Remove", std::move(confirmed), AlertButton::Style::destructive});
+  return ask(alertTitle<"Remove * Expense?">.with(entry->title), "\nWould you like to clear this expense?", "Cancel",
+             {"Remove", std::move(confirmed), AlertButton::Style::destructive});
 }
 
 Outcome clearLifestyleExpense(Game& game, const LifestyleCategory& category) {

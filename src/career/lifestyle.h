@@ -8,6 +8,7 @@
 
 #include "career/ledger.h"
 #include "core/outcome.h"
+#include "core/price.h"
 
 namespace backbeat {
 
@@ -15,6 +16,8 @@ struct LifestyleOption {
   std::string_view title;
   int64_t energyBoost = 0;  ///< points of energy ceiling; of virality for fashion
   double cost = 0;          ///< dollars a week, and once more at the choice
+
+  constexpr Price firstPayment() const { return {.dollars = cost}; }
 };
 
 struct LifestyleCategory {

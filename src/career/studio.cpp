@@ -4,6 +4,7 @@
 
 #include "core/bands.h"
 #include "core/calendar.h"
+#include "core/purse.h"
 
 namespace backbeat {
 
@@ -20,8 +21,8 @@ const StudioPart* studioPartNamed(std::string_view key) {
   return found == studioParts.end() ? nullptr : &*found;
 }
 
-double upgradePrice(const GameState& state, const StudioPart& part) {
-  return static_cast<double>(state.*part.level) * part.basePrice;
+Price upgradeCost(const GameState& state, const StudioPart& part) {
+  return {.dollars = static_cast<double>(state.*part.level) * part.basePrice};
 }
 
 int64_t studioRating(const GameState& state) {
@@ -34,13 +35,13 @@ int64_t studioRentalCeiling(int64_t rating) { return bandFor(rentalCeilings, rat
 
 Outcome upgradeStudio(Game& game, const StudioPart& part) {
   GameState& state = game.state;
-  const double cost = upgradePrice(state, part);
-  if (state.totalCashAvailable < cost || state.*part.level >= highestStudioLevel) {
-    return alert("💵 Not Enough 💵", "\nYou don't have the funds required to purchase this upgrade.");
+  const Price cost = upgradeCost(state, part);
+  if (!hasCash(state, cost) || state.*part.level >= highestStudioLevel) {
+    return noCash<"💵 Not Enough 💵">("\nYou don't have the funds required to purchase this upgrade.");
   }
-  state.totalCashAvailable -= cost;
+  pay(game, cost);
   state.*part.level += 1;
-  game.save(&GameState::totalCashAvailable, part.level);
+  game.save(part.level);
   stateChanged(game);
   return success();
 }

@@ -6,6 +6,7 @@
 
 #include "core/game.h"
 #include "core/outcome.h"
+#include "core/price.h"
 
 namespace backbeat {
 
@@ -30,8 +31,8 @@ inline constexpr int64_t highestStudioLevel = 20;
 /// The part of that key, or nullptr.
 const StudioPart* studioPartNamed(std::string_view key);
 
-/// Dollars for the next level.
-double upgradePrice(const GameState& state, const StudioPart& part);
+/// What the next level costs.
+Price upgradeCost(const GameState& state, const StudioPart& part);
 
 /// The levels of the five parts together: the rating of what is recorded here.
 int64_t studioRating(const GameState& state);

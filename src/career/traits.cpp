@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/calendar.h"
+#include "core/purse.h"
 
 namespace backbeat {
 
@@ -18,6 +19,8 @@ const Trait* traitNamed(std::string_view key) {
   return found == traits.end() ? nullptr : &*found;
 }
 
+Price traitCost(const GameState& state, const Trait& trait) { return {.energy = state.*trait.cost}; }
+
 int64_t nextLevel(const GameState& state, const Trait& trait) { return state.*trait.cost / trait.energyPerLevel; }
 
 bool isFinished(const GameState& state, const Trait& trait) { return state.*trait.level >= trait.highestLevel; }
@@ -25,15 +28,15 @@ bool isFinished(const GameState& state, const Trait& trait) { return state.*trai
 Outcome levelUpTrait(Game& game, const Trait& trait) {
   GameState& state = game.state;
   if (trait.needsLabel && state.isLabelLaunched < 1) {
-    return alert("🎧 Record Label 🎧",
-                 "\nYou need to launch your own record label before you can level up these traits.");
+    return refuse<"🎧 Record Label 🎧">(
+        "\nYou need to launch your own record label before you can level up these traits.");
   }
-  if (state.totalEnergyAvailable < state.*trait.cost) return bounce();
+  if (!hasEnergy(state, traitCost(state, trait))) return bounce();
   if (isFinished(state, trait)) return {};
   state.*trait.level = nextLevel(state, trait);
-  state.totalEnergyAvailable -= state.*trait.cost;
+  pay(game, traitCost(state, trait));
   state.*trait.cost += game.random.element(energyCostMultiples) * trait.energyPerLevel;
-  game.save(trait.level, trait.cost, &GameState::totalEnergyAvailable);
+  game.save(trait.level, trait.cost);
   stateChanged(game);
   return success();
 }

@@ -6,6 +6,7 @@
 
 #include "core/game.h"
 #include "core/outcome.h"
+#include "core/price.h"
 
 namespace backbeat {
 
@@ -45,6 +46,9 @@ inline constexpr std::array<Trait, 11> traits = {{
 
 /// The trait of that key, or nullptr.
 const Trait* traitNamed(std::string_view key);
+
+/// What the next level costs.
+Price traitCost(const GameState& state, const Trait& trait);
 
 /// The level that the next press gives; it can be the level of now, as with the first press of a business trait.
 int64_t nextLevel(const GameState& state, const Trait& trait);

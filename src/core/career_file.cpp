@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "core/career_check.h"
 #include "core/record_codec.h"
 #include "core/save_file.h"
 
@@ -37,7 +38,12 @@ class CareerReader {
     if (missing_.size() == scalars.size() + fieldCount<GameState>) {
       return refusal(noCareer);
     }
+    const std::vector<std::string> unbearable = unbearableValues(state_, 1);
+    if (!unbearable.empty()) return refusal("This file cannot be used: " + unbearable.front() + ".");
+    Reconciled reconciled = reconcile(state_);
+    if (!reconciled.refusal.empty()) return refusal("This file cannot be used. " + reconciled.refusal);
     ImportedCareer career;
+    career.mended = std::move(reconciled.mended);
     career.state = std::move(state_);
     career.missing = std::move(missing_);
     return career;

@@ -22,12 +22,14 @@ struct ImportedCareer {
   std::optional<GameState> state;    ///< none when the file was refused
   std::string problem;               ///< then one sentence for the player: what is wrong, and where
   std::vector<std::string> missing;  ///< keys that the file lacks, in the order of the tables; they have their defaults
+  std::vector<std::string> mended;   ///< what contradicted itself and was put right, a sentence each
 };
 
 /// Reads a career all or nothing. Refused are bytes that are no binary property list, a list without a single key of
 /// the game's, a value of another kind, a number that does not fit, and a record with a field missing or too many
-/// times. Keys and fields that the game does not know are passed over. A whole number is welcome for a double and a
-/// double without fraction for a whole number, as when a save is loaded.
+/// times, a number that no rule can carry, and two records of one id (core/career_check.h). Keys and fields that the
+/// game does not know are passed over. A whole number is welcome for a double and a double without fraction for a whole
+/// number, as when a save is loaded.
 ImportedCareer importCareer(std::string_view file);
 
 /// Every row of a save that holds `state`.

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "core/title.h"
+
 namespace backbeat {
 
 /// A press: the id of what was pressed, and what came with it (a text, a number, nothing).
@@ -30,9 +32,13 @@ struct AlertButton {
 
 /// A message to answer. Messages begin with a line break; the page drops the leading one and honours the others.
 struct Alert {
+  Alert(AlertTitle words, std::string text, std::vector<AlertButton> answers = {AlertButton{}})
+      : title(std::move(words.text)), message(std::move(text)), buttons(std::move(answers)), from(words.from) {}
+
   std::string title;
   std::string message;
-  std::vector<AlertButton> buttons = {AlertButton{}};
+  std::vector<AlertButton> buttons;
+  Title from;  ///< the registered title behind the shown one
 };
 
 /// What the hand feels. `energyBounce` shakes the energy figure: the week's energy does not reach.
@@ -44,19 +50,70 @@ struct Go {
   std::string argument;
 };
 
+/// How a press ended.
+enum class Result {
+  done,      ///< or there was nothing to do
+  asked,     ///< nothing yet: the answer to its question decides
+  noEnergy,  ///< refused, and nothing is paid; the same for the next two
+  noCash,
+  refused,  ///< by the rule itself
+};
+
 struct Outcome {
   std::vector<Alert> alerts;
   Feedback feedback = Feedback::none;
   std::optional<Go> go;
+  Result result = Result::done;
 
-  /// Appends the other's alerts; its feedback and its way win where it has them.
+  bool done() const { return result == Result::done; }
+
+  /// Appends the other's alerts; its feedback, its way and its result win where it has them.
   Outcome& operator+=(Outcome other);
 };
 
-Outcome alert(std::string title, std::string message);
-Outcome bounce();
+// What a rule answers. Each word with a title has a short form, refuse<"🔥 Add Songs 🔥">("\n..."), and one for titles
+// out of tables or with a name in them.
+
+/// Done.
 Outcome success();
+/// Done, and the screen that answers closes.
+Outcome successAndClose();
+/// Done, and this is what came of it.
+Outcome news(AlertTitle title, std::string message, Feedback feedback = Feedback::success);
+/// The rule says no.
+Outcome refuse(AlertTitle title, std::string message);
+/// The week's energy does not reach: the energy figure shakes, with or without words.
+Outcome bounce();
+Outcome noEnergy(AlertTitle title, std::string message);
+/// The cash does not reach.
+Outcome noCash(AlertTitle title, std::string message);
+/// A question: `no` leaves everything as it is, `yes` sends its action to the screen that asks.
+Outcome ask(AlertTitle title, std::string message, std::string no, AlertButton yes);
+/// For what is offered already and leads to a door that does not exist yet. Refused, before anything is paid.
+Outcome notOpenYet(const std::string& why);
+
 Outcome goTo(std::string segue, std::string argument = {});
 Outcome closeScreen();
+
+template <FixedText words>
+Outcome news(std::string message, Feedback feedback = Feedback::success) {
+  return news(alertTitle<words>, std::move(message), feedback);
+}
+template <FixedText words>
+Outcome refuse(std::string message) {
+  return refuse(alertTitle<words>, std::move(message));
+}
+template <FixedText words = "⚡️ Not Enough Energy ⚡️">
+Outcome noEnergy(std::string message) {
+  return noEnergy(alertTitle<words>, std::move(message));
+}
+template <FixedText words = "💰 Not Enough Cash 💰">
+Outcome noCash(std::string message) {
+  return noCash(alertTitle<words>, std::move(message));
+}
+template <FixedText words>
+Outcome ask(std::string message, std::string no, AlertButton yes) {
+  return ask(alertTitle<words>, std::move(message), std::move(no), std::move(yes));
+}
 
 }  // namespace backbeat

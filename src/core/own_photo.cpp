@@ -33,11 +33,11 @@ std::optional<size_t> dataOf(std::string_view address) {
 
 std::optional<Outcome> photoRefusal(std::string_view address) {
   if (address.size() > largestPhoto) {
-    return alert("📷 Photo Too Large 📷", "\nA photo travels with your save, so it may take up 200 KB at most.");
+    return refuse<"📷 Photo Too Large 📷">("\nA photo travels with your save, so it may take up 200 KB at most.");
   }
   const auto data = dataOf(address);
   if (!data || !isBase64(address.substr(*data))) {
-    return alert("📷 Not a Photo 📷", "\nThis can't be read as a picture. Pick a JPEG, PNG, WebP or GIF.");
+    return refuse<"📷 Not a Photo 📷">("\nThis can't be read as a picture. Pick a JPEG, PNG, WebP or GIF.");
   }
   return std::nullopt;
 }

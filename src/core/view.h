@@ -8,6 +8,8 @@
 #include <variant>
 #include <vector>
 
+#include "core/price.h"
+
 namespace backbeat {
 
 /// Plain meaning instead of a colour.
@@ -18,14 +20,6 @@ enum class Tone {
   warning,
   fair,  ///< between warning and good: the third of four bands
   locked,
-};
-
-/// What a press costs. The navigator works out whether the player can pay it; a button that is too dear looks so, and
-/// still answers a press with the rule's own refusal.
-struct Price {
-  int64_t energy = 0;
-  double dollars = 0;
-  friend bool operator==(const Price&, const Price&) = default;
 };
 
 /// A picture by kind and name; the artwork is generated from the name alone, so it is the same wherever it appears.

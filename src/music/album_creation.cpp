@@ -48,12 +48,12 @@ Outcome createAlbum(Game& game, const std::string& title, const std::string& ima
   Album album;
   album.title = trimmed(title);
   if (album.title.empty() || albumTitleTaken(state, album.title)) {
-    return alert("🔥 Enter a Title 🔥",
-                 "\nEvery album needs a unique title. Make it memorable, it might be your next big hit.");
+    return refuse<"🔥 Enter a Title 🔥">(
+        "\nEvery album needs a unique title. Make it memorable, it might be your next big hit.");
   }
   if (album.title.find('(') != std::string::npos) {
-    return alert("（ Parenthesis )",
-                 "\nPlease remove the brackets in your Album title to avoid issues with future content.");
+    return refuse<"（ Parenthesis )">(
+        "\nPlease remove the brackets in your Album title to avoid issues with future content.");
   }
   state.albumId += 1;
   album.albumId = state.albumId;
@@ -68,9 +68,7 @@ Outcome createAlbum(Game& game, const std::string& title, const std::string& ima
   state.albumId += 1;
   game.save(&GameState::saveAllAlbumList, &GameState::saveAllAlbumCovers, &GameState::albumId);
   stateChanged(game);
-  Outcome outcome = success();
-  outcome += closeScreen();
-  return outcome;
+  return successAndClose();
 }
 
 }  // namespace backbeat

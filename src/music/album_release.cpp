@@ -4,6 +4,7 @@
 
 #include "career/label_contract.h"
 #include "core/calendar.h"
+#include "core/purse.h"
 #include "music/album_creation.h"
 #include "music/song_release.h"
 #include "social/chirps.h"
@@ -52,13 +53,6 @@ void announceAlbum(Game& game, const Album& album) {
   postChirpForArtist(game, message, game.state.followerCount, album.albumId);
 }
 
-Outcome doneAndClosed(Game& game) {
-  stateChanged(game);
-  Outcome outcome = success();
-  outcome += closeScreen();
-  return outcome;
-}
-
 }  // namespace
 
 std::vector<size_t> albumsInProduction(const GameState& state) {
@@ -75,7 +69,8 @@ Outcome setAlbumPricing(Game& game, int64_t albumId, double price) {
   if (!position || game.state.saveAllAlbumList[*position].isReleased) return {};
   game.state.saveAllAlbumList.update(*position, [&](Album& album) { album.price = price; });
   game.save(&GameState::saveAllAlbumList);
-  return doneAndClosed(game);
+  stateChanged(game);
+  return successAndClose();
 }
 
 Outcome addSongToAlbum(Game& game, int64_t songId, const std::string& albumTitle) {
@@ -102,7 +97,8 @@ Outcome addSongToAlbum(Game& game, int64_t songId, const std::string& albumTitle
     album.songCount += 1;
   });
   game.save(&GameState::saveAllAlbumList, &GameState::saveAllSongList);
-  return doneAndClosed(game);
+  stateChanged(game);
+  return successAndClose();
 }
 
 Outcome releaseAlbum(Game& game, int64_t albumId) {
@@ -110,14 +106,12 @@ Outcome releaseAlbum(Game& game, int64_t albumId) {
   const auto position = albumPosition(state, albumId);
   if (!position || state.saveAllAlbumList[*position].isReleased) return {};
   if (state.saveAllAlbumList[*position].songCount < fewestSongsOnAlbum) {
-    return alert("🔥 Add Songs 🔥", "\nYou'll need to add at least 3 songs to this album before you can release it.");
+    return refuse<"🔥 Add Songs 🔥">("\nYou'll need to add at least 3 songs to this album before you can release it.");
   }
-  if (state.totalEnergyAvailable < albumReleaseEnergyCost) {
-    Outcome refusal = alert("⚡️Not Enough Energy⚡️", "\nYou do not have enough energy to release this album.");
-    refusal.feedback = Feedback::energyBounce;
-    return refusal;
+  if (!hasEnergy(state, albumReleaseCost)) {
+    return noEnergy<"⚡️Not Enough Energy⚡️">("\nYou do not have enough energy to release this album.");
   }
-  state.totalEnergyAvailable -= albumReleaseEnergyCost;
+  pay(game, albumReleaseCost);
   state.saveAllAlbumList.update(*position, [&](Album& album) {
     album.isReleased = true;
     album.releaseWeek = state.weekNumberForTracking;
@@ -128,7 +122,7 @@ Outcome releaseAlbum(Game& game, int64_t albumId) {
   recordAlbumRelease(game, album.songCount, released);
   game.save(&GameState::saveAllAlbumList, &GameState::saveAllSongList);
   announceAlbum(game, album);
-  game.save(&GameState::totalEnergyAvailable, &GameState::globalMarketingCampaigns);
+  game.save(&GameState::globalMarketingCampaigns);
   stateChanged(game);
   return success();
 }

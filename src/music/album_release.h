@@ -7,11 +7,12 @@
 
 #include "core/game.h"
 #include "core/outcome.h"
+#include "core/price.h"
 
 namespace backbeat {
 
 inline constexpr std::array<double, 5> albumPrices = {3.99, 6.99, 9.99, 12.99, 15.99};  ///< dollars a copy
-inline constexpr int64_t albumReleaseEnergyCost = 10;
+inline constexpr Price albumReleaseCost = {.energy = 10};
 inline constexpr int64_t fewestSongsOnAlbum = 3;
 
 /// Positions of the albums in production, oldest first, without the built-in "Single".

@@ -112,12 +112,15 @@ void renameCameo(Game& game, int64_t id, const std::string& name) {
   game.save(&GameState::AllCelebrityCameos, &GameState::celebrityCameoNamedChanges);
 }
 
+Price guestCost(const GameState& state, const FeaturedArtist& star) {
+  return {.dollars = static_cast<double>(truncate(static_cast<double>(star.cost) * state.contractFeatureDiscount))};
+}
+
 bool guestFor(const GameState& state, int64_t pickedId, Guest& guest) {
   if (pickedId < firstSignedArtistPick) {
     for (const FeaturedArtist& row : guestTable(state)) {
       if (row.id != pickedId) continue;
-      guest = {row.name, row.virality, row.rating,
-               truncate(static_cast<double>(row.cost) * state.contractFeatureDiscount)};
+      guest = {row.name, row.virality, row.rating, guestCost(state, row)};
       return true;
     }
     return false;
@@ -126,8 +129,10 @@ bool guestFor(const GameState& state, int64_t pickedId, Guest& guest) {
   const size_t found =
       artists.find([&](const SignedArtist& artist) { return artist.artistId == pickedId - firstSignedArtistPick; });
   if (found == artists.size()) return false;
-  guest = {artists[found].name, static_cast<double>(artists[found].virality),
-           static_cast<double>(artistRating(artists[found])), 0};
+  guest = {artists[found].name,
+           static_cast<double>(artists[found].virality),
+           static_cast<double>(artistRating(artists[found])),
+           {}};
   return true;
 }
 

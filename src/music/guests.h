@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/game.h"
+#include "core/price.h"
 
 namespace backbeat {
 
@@ -19,12 +20,15 @@ inline constexpr int64_t firstSignedArtistPick = 50;
 void renameGuest(Game& game, int64_t id, const std::string& name);
 void renameCameo(Game& game, int64_t id, const std::string& name);
 
+/// What a star asks for a verse, after the contract's discount.
+Price guestCost(const GameState& state, const FeaturedArtist& star);
+
 /// One guest as the song sees it.
 struct Guest {
   std::string name;
   double virality = 0;
   double rating = 0;
-  int64_t cost = 0;  ///< dollars, after the contract's discount
+  Price cost;  ///< paid with the song
 };
 
 /// The guest behind a picked id; false when there is none. A signed artist is free, and rates by its traits with the

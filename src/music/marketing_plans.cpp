@@ -1,6 +1,7 @@
 #include "music/marketing_plans.h"
 
 #include "core/calendar.h"
+#include "core/purse.h"
 #include "music/album_creation.h"
 #include "music/song_release.h"
 
@@ -34,9 +35,8 @@ Outcome applyMarketingPlan(Game& game, const MarketingTarget& target, const Sele
   const bool isAlbum = target.kind == MarketingTarget::Kind::album;
   const auto position = isAlbum ? albumPosition(state, target.id) : songPosition(state, target.id);
   if (!position) return {};
-  const double cost = static_cast<double>(plan.cost);
-  if (cost > state.totalCashAvailable) {
-    return alert("💵 Not Enough 💵", "\nYou don't have the funds for this marketing plan.");
+  if (!hasCash(state, plan.cost)) {
+    return noCash<"💵 Not Enough 💵">("\nYou don't have the funds for this marketing plan.");
   }
   if (plan.score > 0) {
     if (isAlbum) {
@@ -46,12 +46,10 @@ Outcome applyMarketingPlan(Game& game, const MarketingTarget& target, const Sele
                                    [&](Song& song) { song.marketingScore = static_cast<double>(plan.score); });
     }
   }
-  state.totalCashAvailable -= cost;
-  game.save(&GameState::saveAllAlbumList, &GameState::saveAllSongList, &GameState::totalCashAvailable);
+  pay(game, plan.cost);
+  game.save(&GameState::saveAllAlbumList, &GameState::saveAllSongList);
   stateChanged(game);
-  Outcome outcome = success();
-  outcome += closeScreen();
-  return outcome;
+  return successAndClose();
 }
 
 }  // namespace backbeat

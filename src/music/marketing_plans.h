@@ -6,21 +6,22 @@
 
 #include "core/game.h"
 #include "core/outcome.h"
+#include "core/price.h"
 
 namespace backbeat {
 
 struct MarketingPlan {
-  int64_t cost = 0;  ///< dollars
+  Price cost;
   int64_t leastScore = 0;
   int64_t greatestScore = 0;
 };
 
 inline constexpr std::array<MarketingPlan, 5> marketingPlans = {{
-    {500, 1, 10},
-    {4'500, 10, 25},
-    {35'000, 25, 40},
-    {175'000, 40, 80},
-    {875'000, 80, 135},
+    {{.dollars = 500}, 1, 10},
+    {{.dollars = 4'500}, 10, 25},
+    {{.dollars = 35'000}, 25, 40},
+    {{.dollars = 175'000}, 40, 80},
+    {{.dollars = 875'000}, 80, 135},
 }};
 
 /// What is marketed.
@@ -31,7 +32,7 @@ struct MarketingTarget {
 
 /// A plan with its luck. Before one is picked it costs nothing and brings nothing.
 struct SelectedPlan {
-  int64_t cost = 0;
+  Price cost;
   int64_t score = 0;
 };
 

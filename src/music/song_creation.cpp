@@ -8,6 +8,7 @@
 #include "core/calendar.h"
 #include "core/case_folding.h"
 #include "core/numbers.h"
+#include "core/purse.h"
 #include "core/text.h"
 #include "music/guests.h"
 
@@ -89,16 +90,16 @@ void countOnAlbum(Album& album, double productionRating) {
 }
 
 Outcome refuseTitle() {
-  return alert("🔥 Enter a Title 🔥", "\nEvery song needs a unique title. It might be your next big hit.");
+  return refuse<"🔥 Enter a Title 🔥">("\nEvery song needs a unique title. It might be your next big hit.");
 }
 
 }  // namespace
 
-int64_t costToProduceSong(const GameState& state, const SongDraft& draft) {
-  int64_t cost = draft.productionCost;
+Price costToProduceSong(const GameState& state, const SongDraft& draft) {
+  Price cost = {.energy = songEnergy, .dollars = static_cast<double>(draft.productionCost)};
   for (const int64_t id : draft.guests) {
     Guest guest;
-    if (guestFor(state, id, guest)) cost = add(cost, guest.cost);
+    if (guestFor(state, id, guest)) cost.dollars += guest.cost.dollars;
   }
   return cost;
 }
@@ -134,10 +135,10 @@ bool songTitleTaken(const GameState& state, const std::string& title) {
 
 Outcome createSong(Game& game, const SongDraft& draft) {
   GameState& state = game.state;
-  if (state.totalEnergyAvailable < songEnergyCost) return bounce();
-  const int64_t cost = costToProduceSong(state, draft);
-  if (state.totalCashAvailable < static_cast<double>(cost)) {
-    return alert("💵 Not Enough 💵", "\nYou don't have the funds required to produce this song.");
+  const Price cost = costToProduceSong(state, draft);
+  if (!hasEnergy(state, cost)) return bounce();
+  if (!hasCash(state, cost)) {
+    return noCash<"💵 Not Enough 💵">("\nYou don't have the funds required to produce this song.");
   }
   Song song;
   song.title = trimmed(draft.title);
@@ -175,14 +176,10 @@ Outcome createSong(Game& game, const SongDraft& draft) {
   state.songId += 1;
   game.save(&GameState::saveAllSongList, &GameState::saveAllAlbumList, &GameState::songId,
             &GameState::saveGenreForNextTime, &GameState::songGenres);
-  state.totalCashAvailable -= static_cast<double>(cost);
-  state.totalEnergyAvailable -= songEnergyCost;
+  pay(game, cost);
   game.launch.selectedFeaturedArtists.clear();
   stateChanged(game);
-  game.save(&GameState::totalCashAvailable, &GameState::totalEnergyAvailable);
-  Outcome outcome = success();
-  outcome += closeScreen();
-  return outcome;
+  return successAndClose();
 }
 
 }  // namespace backbeat

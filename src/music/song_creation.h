@@ -6,10 +6,11 @@
 
 #include "core/game.h"
 #include "core/outcome.h"
+#include "core/price.h"
 
 namespace backbeat {
 
-inline constexpr int64_t songEnergyCost = 10;
+inline constexpr int64_t songEnergy = 10;
 
 /// What the player chose for the song in preparation.
 struct SongDraft {
@@ -24,8 +25,8 @@ struct SongDraft {
   int64_t genre = 0;
 };
 
-/// Dollars for the three choices and the guests, each guest at the contract's discount.
-int64_t costToProduceSong(const GameState& state, const SongDraft& draft);
+/// The energy, and the dollars for the three choices and the guests, each guest at the contract's discount.
+Price costToProduceSong(const GameState& state, const SongDraft& draft);
 
 /// The built-in album on which singles count; appended first when no album at all is in production.
 void ensureSingleAlbum(Game& game);
@@ -35,7 +36,7 @@ void ensureSingleAlbum(Game& game);
 double productionRoll(Random& random, const SongDraft& draft, int64_t charisma, double viralityRoll);
 
 /// Creates the song. Refused without 10 energy (the energy figure shakes), without the money, and for a title that is
-/// empty or taken by another song ignoring case; nothing is paid then. A refused title leaves `outcome.alerts` filled;
+/// empty or taken by another song ignoring case; nothing is paid then. Only a refused title is `Result::refused`;
 /// success asks the screen to close.
 Outcome createSong(Game& game, const SongDraft& draft);
 

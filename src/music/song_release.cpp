@@ -3,6 +3,7 @@
 #include "career/label_contract.h"
 #include "core/calendar.h"
 #include "core/numbers.h"
+#include "core/purse.h"
 #include "social/chirps.h"
 
 namespace backbeat {
@@ -12,12 +13,6 @@ namespace {
 constexpr int64_t mostBoosts = 8;  // offered up to this count, so nine in all
 constexpr double fullScore = 100;
 
-void payBoost(Game& game, int64_t energy) {
-  game.state.totalEnergyAvailable -= energy;
-  game.save(&GameState::saveAllSongList, &GameState::totalEnergyAvailable);
-  stateChanged(game);
-}
-
 }  // namespace
 
 std::optional<size_t> songPosition(const GameState& state, int64_t songId) {
@@ -26,26 +21,28 @@ std::optional<size_t> songPosition(const GameState& state, int64_t songId) {
   return found;
 }
 
-std::optional<int64_t> productionBoostCost(const Song& song) {
+std::optional<Price> productionBoostCost(const Song& song) {
   if (song.isReleased || song.productionBoostCount > mostBoosts || !(song.productionRating < fullScore)) return {};
-  return truncate(static_cast<double>(song.productionBoostCount + 3) * 1.5);
+  return Price{.energy = truncate(static_cast<double>(song.productionBoostCount + 3) * 1.5)};
 }
 
-std::optional<int64_t> viralityBoostCost(const Song& song) {
+std::optional<Price> viralityBoostCost(const Song& song) {
   if (song.isReleased || song.viralityBoostCount > mostBoosts || !(song.viralityScore < fullScore)) return {};
-  return truncate(static_cast<double>(song.viralityBoostCount + 10) * 1.75);
+  return Price{.energy = truncate(static_cast<double>(song.viralityBoostCount + 10) * 1.75)};
 }
 
 Outcome boostProduction(Game& game, int64_t songId) {
   const auto position = songPosition(game.state, songId);
   const auto cost = position ? productionBoostCost(game.state.saveAllSongList[*position]) : std::nullopt;
   if (!cost) return {};
-  if (game.state.totalEnergyAvailable < *cost) return bounce();
+  if (!hasEnergy(game.state, *cost)) return bounce();
+  pay(game, *cost);
   game.state.saveAllSongList.update(*position, [](Song& song) {
     song.productionBoostCount += 1;
     song.productionRating += 1.5;
   });
-  payBoost(game, *cost);
+  game.save(&GameState::saveAllSongList);
+  stateChanged(game);
   return success();
 }
 
@@ -53,12 +50,14 @@ Outcome boostVirality(Game& game, int64_t songId) {
   const auto position = songPosition(game.state, songId);
   const auto cost = position ? viralityBoostCost(game.state.saveAllSongList[*position]) : std::nullopt;
   if (!cost) return {};
-  if (game.state.totalEnergyAvailable < *cost) return bounce();
+  if (!hasEnergy(game.state, *cost)) return bounce();
+  pay(game, *cost);
   game.state.saveAllSongList.update(*position, [](Song& song) {
     song.viralityBoostCount += 1;
     song.viralityScore += 0.5;
   });
-  payBoost(game, *cost);
+  game.save(&GameState::saveAllSongList);
+  stateChanged(game);
   return success();
 }
 
@@ -66,12 +65,10 @@ Outcome releaseSong(Game& game, int64_t songId) {
   GameState& state = game.state;
   const auto position = songPosition(state, songId);
   if (!position || state.saveAllSongList[*position].isReleased) return {};
-  if (state.totalEnergyAvailable < releaseEnergyCost) {
-    Outcome refusal = alert("⚡️Not Enough Energy⚡️", "\nYou do not have enough energy to release this song.");
-    refusal.feedback = Feedback::energyBounce;
-    return refusal;
+  if (!hasEnergy(state, releaseCost)) {
+    return noEnergy<"⚡️Not Enough Energy⚡️">("\nYou do not have enough energy to release this song.");
   }
-  state.totalEnergyAvailable -= releaseEnergyCost;
+  pay(game, releaseCost);
   state.saveAllSongList.update(*position, [&](Song& song) {
     song.isReleased = true;
     song.releaseWeek = state.weekNumberForTracking;
@@ -79,7 +76,7 @@ Outcome releaseSong(Game& game, int64_t songId) {
   });
   if (state.saveAllSongList[*position].marketingScore > strongMarketing) state.globalMarketingCampaigns += 1;
   recordSongRelease(game);
-  game.save(&GameState::saveAllSongList, &GameState::globalMarketingCampaigns, &GameState::totalEnergyAvailable);
+  game.save(&GameState::saveAllSongList, &GameState::globalMarketingCampaigns);
   stateChanged(game);
   return success();
 }
@@ -88,8 +85,8 @@ Outcome announceSong(const GameState& state, int64_t songId) {
   const auto position = songPosition(state, songId);
   if (!position || state.saveAllSongList[*position].isReleased) return {};
   if (songAnnounced(state, songId)) {
-    return alert("🐥 Announcement Made 🐥",
-                 "\nYou already made an annoucement and earned a virality bonus for this song.");
+    return refuse<"🐥 Announcement Made 🐥">(
+        "\nYou already made an annoucement and earned a virality bonus for this song.");
   }
   return goTo("goToCreateTwitterMessage", std::to_string(songId));
 }

@@ -5,18 +5,19 @@
 
 #include "core/game.h"
 #include "core/outcome.h"
+#include "core/price.h"
 
 namespace backbeat {
 
 /// Position of a song by its id.
 std::optional<size_t> songPosition(const GameState& state, int64_t songId);
 
-inline constexpr int64_t releaseEnergyCost = 10;
+inline constexpr Price releaseCost = {.energy = 10};
 inline constexpr double strongMarketing = 80;  ///< a release over this counts as a marketing campaign
 
-/// What the next boost costs in energy; nothing while none is offered (released, boosted nine times, at 100).
-std::optional<int64_t> productionBoostCost(const Song& song);
-std::optional<int64_t> viralityBoostCost(const Song& song);
+/// What the next boost costs; nothing while none is offered (released, boosted nine times, at 100).
+std::optional<Price> productionBoostCost(const Song& song);
+std::optional<Price> viralityBoostCost(const Song& song);
 
 /// Adds 1.5 to the rating, though the button says 1.0: intended. There is no clamp at 100.
 Outcome boostProduction(Game& game, int64_t songId);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/money.h"
+#include "core/purse.h"
 
 namespace backbeat {
 
@@ -47,6 +48,7 @@ void Navigator::dropEverything() {
 
 void Navigator::press(std::string_view screenKey, const Action& action) {
   feedback_ = Feedback::none;
+  result_ = Result::done;
   request_ = {};
   const int64_t year = game_.state.yearNumber;
   dispatch(screenKey, action);
@@ -73,7 +75,13 @@ void Navigator::dispatch(std::string_view screenKey, const Action& action) {
   }
   if (wholeNumber(screenKey) != top().key) return;
   const std::shared_ptr<Screen> screen = top().screen;
-  follow(screen, screen->act(action));
+  act(screen, action);
+}
+
+void Navigator::act(const std::shared_ptr<Screen>& screen, const Action& action) {
+  Outcome outcome = screen->act(action);
+  result_ = outcome.result;
+  follow(screen, std::move(outcome));
 }
 
 void Navigator::answerAlert(const Action& action) {
@@ -83,7 +91,7 @@ void Navigator::answerAlert(const Action& action) {
   const QueuedAlert answered = std::move(alerts_.front());
   alerts_.pop_front();
   const Action& chosen = answered.alert.buttons[*number].action;
-  if (!chosen.id.empty()) follow(answered.from, answered.from->act(chosen));
+  if (!chosen.id.empty()) act(answered.from, chosen);
 }
 
 void Navigator::selectTab(size_t number) {
@@ -148,9 +156,19 @@ void Navigator::follow(const std::shared_ptr<Screen>& from, Outcome outcome) {
     unknownSegues_.push_back(outcome.go->segue);
     return;
   }
+  if (!admitted(*segue, from)) return;
   const bool modal = segue->presentation == Segue::Presentation::modal || !modals_.empty();
   open(modal ? modals_ : stacks_[tab_], *segue, outcome.go->argument);
   appear();
+}
+
+/// Asks at the door of a screen, and tells the player what it answers.
+bool Navigator::admitted(const Segue& segue, const std::shared_ptr<Screen>& from) {
+  if (!segue.enter) return true;
+  Outcome answer = segue.enter(game_);
+  const bool open = answer.done();
+  follow(from, std::move(answer));
+  return open;
 }
 
 /// The ways that lead to no screen.
@@ -177,10 +195,7 @@ bool Navigator::onTabRoot() const { return stacks_[tab_].size() == 1; }
 
 bool Navigator::endWeekOffered() const { return modals_.empty() && onTabRoot() && alerts_.empty(); }
 
-bool Navigator::affordable(const Price& price) const {
-  return price.energy <= game_.state.totalEnergyAvailable &&
-         (price.dollars <= 0 || price.dollars <= game_.state.totalCashAvailable);
-}
+bool Navigator::affordable(const Price& price) const { return backbeat::affordable(game_.state, price); }
 
 Shown Navigator::shown() const {
   const GameState& state = game_.state;
@@ -201,6 +216,7 @@ Shown Navigator::shown() const {
   shown.endWeek = modals_.empty() && onTabRoot();
   shown.appearance = state.appearance;
   shown.feedback = feedback_;
+  shown.result = result_;
   if (!alerts_.empty()) shown.alert = Shown::ShownAlert{alerts_.front().key, alerts_.front().alert};
   shown.notice = notice_;
   shown.request = request_;

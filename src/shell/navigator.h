@@ -47,6 +47,7 @@ struct Shown {
   bool endWeek = false;  ///< END THE WEEK is offered here
   std::string appearance;
   Feedback feedback = Feedback::none;
+  Result result = Result::done;  ///< of the press that led here
   struct ShownAlert {
     int64_t key = 0;
     Alert alert;
@@ -116,12 +117,14 @@ class Navigator {
   bool endWeekOffered() const;
   void dispatch(std::string_view screenKey, const Action& action);
   void answerAlert(const Action& action);
+  void act(const std::shared_ptr<Screen>& screen, const Action& action);
   void selectTab(size_t number);
   void closeToRoot(std::vector<Open>& stack);
   void closeTop();
   void endTheWeek();
   void open(std::vector<Open>& stack, const Segue& segue, std::string_view argument);
   void follow(const std::shared_ptr<Screen>& from, Outcome outcome);
+  bool admitted(const Segue& segue, const std::shared_ptr<Screen>& from);
   void appear();
   bool followReserved(const Go& go);
 
@@ -132,6 +135,7 @@ class Navigator {
   size_t tab_ = homeTab;
   int64_t lastKey_ = 0;
   Feedback feedback_ = Feedback::none;
+  Result result_ = Result::done;
   std::string notice_;
   Request request_;
   std::vector<std::string> unknownSegues_;

@@ -1,25 +1,14 @@
-// Every screen of the game: where it is shown, under which segue, and how it is made. A new screen is one class and one
-// line here.
+// Every screen of the game, as the rooms bring them, and the tabs. A new screen is one line in the segues of its room;
+// a new room is one line here.
 #pragma once
 
 #include <array>
-#include <memory>
 #include <span>
 #include <string_view>
 
-#include "core/screen.h"
+#include "core/room.h"
 
 namespace backbeat {
-
-struct Segue {
-  std::string_view name;    ///< "goToSongDetail"
-  std::string_view screen;  ///< "SongDetailViewController"
-  enum class Presentation {
-    push,   ///< onto the stack of the tab shown
-    modal,  ///< over header and tabs; leaves only by its own doing
-  } presentation;
-  std::unique_ptr<Screen> (*make)(Game& game, std::string_view argument);
-};
 
 struct Tab {
   std::string_view label;
@@ -31,6 +20,11 @@ inline constexpr size_t tabCount = 5;
 enum TabNumber : size_t { homeTab, musicTab, lifeTab, businessTab, socialTab };
 
 const std::array<Tab, tabCount>& tabs();
+
+/// From the top of the house down.
+std::span<const Room* const> rooms();
+
+/// Of all rooms.
 std::span<const Segue> segues();
 
 /// The segue of that name, or nullptr.

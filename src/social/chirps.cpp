@@ -5,6 +5,7 @@
 
 #include "core/calendar.h"
 #include "core/numbers.h"
+#include "core/purse.h"
 
 namespace backbeat {
 
@@ -66,14 +67,10 @@ void seedFollowers(Game& game) {
 Outcome postChirp(Game& game, const std::string& message, int64_t songId) {
   GameState& state = game.state;
   if (message.empty()) {
-    return alert("🐥 Chirp Needed 🐥", "\nIn order to Chirp, you'll need to write something chirp worthy!");
+    return refuse<"🐥 Chirp Needed 🐥">("\nIn order to Chirp, you'll need to write something chirp worthy!");
   }
-  if (state.totalEnergyAvailable < chirpEnergyCost) {
-    Outcome refusal = alert("⚡️ Not Enough Energy ⚡️", "\nYou don't have enough energy for this chirp!");
-    refusal.feedback = Feedback::energyBounce;
-    return refusal;
-  }
-  state.totalEnergyAvailable -= chirpEnergyCost;
+  if (!hasEnergy(state, chirpCost)) return noEnergy("\nYou don't have enough energy for this chirp!");
+  pay(game, chirpCost);
   Chirp chirp = artistsChirp(game, message);
   drawCounts(game.random, chirp, state.followerCount);
   const auto song = songInProduction(state, songId);
@@ -83,7 +80,7 @@ Outcome postChirp(Game& game, const std::string& message, int64_t songId) {
     game.save(&GameState::saveAllSongList);
   }
   state.saveAllChirpList.insertFront(std::move(chirp));
-  game.save(&GameState::totalEnergyAvailable, &GameState::chirpId, &GameState::saveAllChirpList);
+  game.save(&GameState::chirpId, &GameState::saveAllChirpList);
   stateChanged(game);
   return success();
 }

@@ -6,10 +6,11 @@
 
 #include "core/game.h"
 #include "core/outcome.h"
+#include "core/price.h"
 
 namespace backbeat {
 
-inline constexpr int64_t chirpEnergyCost = 5;
+inline constexpr Price chirpCost = {.energy = 5};
 inline constexpr const char* chirpProfilePicture = "chirpProfilePic.png";
 
 /// Who posts: `Chirp::typeOfAccount`.

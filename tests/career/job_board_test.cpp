@@ -1,6 +1,5 @@
 #include "career/job_board.h"
 
-#include "career/screens/daily_life_view_controller.h"
 #include "career/screens/job_board_view_controller.h"
 #include "support/views.h"
 #include "support/world.h"
@@ -12,15 +11,10 @@ TEST(JobBoard, EachVisitCostsEnergyAndWithTooLittleTheDoorStaysShut) {
   World world;
   world.state.totalEnergyAvailable = 9;
   world.settle();
-  DailyLifeViewController life(world.game);
-  const Outcome opened = life.act({"goToJobBoardButton", ""});
-  ASSERT_TRUE(opened.go.has_value());
-  EXPECT_EQ(opened.go->segue, "goToJobBoard");
+  EXPECT_EQ(enterJobBoard(world.game).feedback, Feedback::none);
   EXPECT_EQ(world.state.totalEnergyAvailable, 4);
   world.expectSaved();
-  const Outcome refused = life.act({"goToJobBoardButton", ""});
-  EXPECT_EQ(refused.feedback, Feedback::energyBounce);
-  EXPECT_FALSE(refused.go.has_value());
+  EXPECT_EQ(enterJobBoard(world.game).feedback, Feedback::energyBounce);
   EXPECT_EQ(world.state.totalEnergyAvailable, 4);
 
   world.random.integerIs(0, 5, 0);

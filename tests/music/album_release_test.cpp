@@ -129,11 +129,11 @@ TEST(Marketing, ASongsPlanIsRefusedWithoutTheMoneyAndNoPlanChangesNothing) {
   world.state.saveAllSongList.append(songInProduction(12, "Lone"));
   world.state.totalCashAvailable = 4'499;
   const MarketingTarget song{MarketingTarget::Kind::song, 12};
-  EXPECT_EQ(titleOfAlert(applyMarketingPlan(world.game, song, {4'500, 20})), "💵 Not Enough 💵");
+  EXPECT_EQ(titleOfAlert(applyMarketingPlan(world.game, song, {{.dollars = 4'500}, 20})), "💵 Not Enough 💵");
   EXPECT_DOUBLE_EQ(world.state.totalCashAvailable, 4'499);
   EXPECT_TRUE(applyMarketingPlan(world.game, song, {}).go) << "it closes all the same";
   EXPECT_DOUBLE_EQ(world.state.saveAllSongList[0].marketingScore, 10);
-  EXPECT_TRUE(applyMarketingPlan(world.game, song, {500, 3}).go);
+  EXPECT_TRUE(applyMarketingPlan(world.game, song, {{.dollars = 500}, 3}).go);
   EXPECT_DOUBLE_EQ(world.state.saveAllSongList[0].marketingScore, 3) << "replaced, even by less";
 }
 

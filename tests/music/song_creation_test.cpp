@@ -92,7 +92,7 @@ TEST(SongCreation, GuestsLendHalfOfTheMeanAndCostWhatTheContractLeaves) {
   studio.game.launch.selectedFeaturedArtists = studio.draft.guests;
   studio.dullRolls();
 
-  EXPECT_EQ(costToProduceSong(studio.state, studio.draft), 6'875);
+  EXPECT_EQ(costToProduceSong(studio.state, studio.draft), (Price{.energy = 10, .dollars = 6'875}));
   createSong(studio.game, studio.draft);
 
   EXPECT_DOUBLE_EQ(studio.made().viralityScore, (9.0 + 60.0) / 2);

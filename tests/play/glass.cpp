@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/icons.h"
+#include "core/pictures.h"
 #include "shell/native/terminal_text.h"
 #include "shell/native/view_printer.h"
 #include "shell/shown_json.h"
@@ -13,15 +14,31 @@ namespace {
 
 bool isKnown(const std::string& name) { return std::find(icons.begin(), icons.end(), name) != icons.end(); }
 
-/// The first icon that nobody draws in a block, its items and their pictures; new kinds of block are looked into as
-/// they come.
+template <class Forms>
+bool hasFormOf(const Forms& forms, const Picture& picture) {
+  return std::find(forms.begin(), forms.end(), picture.name.substr(0, picture.name.find(':'))) != forms.end();
+}
+
+bool isDrawn(const Picture& picture) {
+  switch (picture.kind) {
+    case Picture::Kind::icon: return isKnown(picture.name);
+    case Picture::Kind::object: return hasFormOf(objectForms, picture);
+    case Picture::Kind::scene: return hasFormOf(sceneForms, picture);
+    case Picture::Kind::still: return hasFormOf(stillForms, picture);
+    case Picture::Kind::mark: return hasFormOf(markForms, picture);
+    default: return true;
+  }
+}
+
+/// The first icon or picture that nobody draws in a block, its items and their pictures; new kinds of block are looked
+/// into as they come.
 template <class Part>
 std::string unknownIcon(const Part& part) {
   if constexpr (requires { part.icon; }) {
     if (!part.icon.empty() && !isKnown(part.icon)) return part.icon;
   }
   if constexpr (requires { part.picture; }) {
-    if (part.picture.kind == Picture::Kind::icon && !isKnown(part.picture.name)) return part.picture.name;
+    if (!isDrawn(part.picture)) return part.picture.name;
   }
   if constexpr (requires { part.items; }) {
     for (const auto& item : part.items) {
@@ -63,7 +80,7 @@ std::string glassFault(const Session& session, const std::function<Shown()>& sho
     return "a printed line is too wide: " + line;
   }
   if (stateHash(state) != before) return "describing it changed the state";
-  if (const std::string icon = unknownIconOf(once.view); !icon.empty()) return "nobody draws the icon " + icon;
+  if (const std::string icon = unknownIconOf(once.view); !icon.empty()) return "nobody draws " + icon;
   return {};
 }
 

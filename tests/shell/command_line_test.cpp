@@ -2,6 +2,11 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
 
 #include "play/worlds.h"
 #include "shell/native/sqlite_store.h"
@@ -54,7 +59,7 @@ TEST(CommandLine, RefusesTheRestWithTheUsage) {
       {"play", "--json"},
   };
   for (const auto& words : senseless) {
-    EXPECT_THAT(read(words).problem, HasSubstr("usage: backbeat")) << ::testing::PrintToString(words);
+    EXPECT_THAT(read(words).problem, HasSubstr("Usage: backbeat")) << ::testing::PrintToString(words);
   }
 }
 
@@ -63,7 +68,7 @@ TEST(CommandLine, TheProgramEndsWithTheRightCode) {
   for (const char* command : {"play", "replay", "info", "simulate"}) {
     const ProgramRun help = runProgram({command, "--help"});
     EXPECT_EQ(help.exitCode, 0);
-    EXPECT_THAT(help.output, HasSubstr(std::string("usage: backbeat ") + command));
+    EXPECT_THAT(help.output, HasSubstr(std::string("Usage: backbeat ") + command));
   }
   EXPECT_EQ(runProgram({"play", "--seed", "x"}).exitCode, 2);
   const std::string file = freshFile("not_there");
@@ -89,6 +94,54 @@ TEST(CommandLine, ACareerGoesOnWhereItWasLeftAndInfoTellsOfIt) {
   EXPECT_THAT(info.output, HasSubstr("Week 2, 2023"));
   EXPECT_THAT(info.output, HasSubstr("saveAllWeeklyLineItems"));
   EXPECT_EQ(contentOf(save), before);
+}
+
+TEST(CommandLine, NothingIsWrittenOverByMistake) {
+  const std::string save = freshFile("kept");
+  ASSERT_EQ(runProgram({"play", "--save", save}, "1 Zoë Falk\nend\n").exitCode, 0);
+  const std::string career = contentOf(save);
+  const std::string link = freshFile("kept_link");
+  const std::string pipe = freshFile("kept_pipe");
+  const std::string text = freshFile("kept_text");
+  ASSERT_EQ(symlink(save.c_str(), link.c_str()), 0);
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  writeFile(text, "notes of somebody");
+  const std::vector<std::vector<std::string>> writers = {{"export", "", "--save", save},
+                                                         {"play", "--save", save, "--trace", ""},
+                                                         {"simulate", "--careers", "1", "--years", "1", "--csv", ""},
+                                                         {"simulate", "--careers", "1", "--years", "1", "--trace", ""}};
+  for (std::vector<std::string> words : writers) {
+    const auto target = std::find(words.begin(), words.end(), "");
+    for (const std::string& place : {save, link, pipe, text, std::string("/tmp"), std::string("/dev/full")}) {
+      *target = place;
+      EXPECT_EQ(runProgram(words).exitCode, 1) << words[0] << " to " << place;
+    }
+    EXPECT_EQ(contentOf(save), career) << words[0];
+    EXPECT_EQ(contentOf(text), "notes of somebody") << words[0];
+    *target = text;
+    words.push_back("--force");
+    EXPECT_EQ(runProgram(words).exitCode, 0) << words[0] << " told to";
+    EXPECT_NE(contentOf(text), "notes of somebody") << words[0];
+    writeFile(text, "notes of somebody");
+  }
+}
+
+TEST(CommandLine, WhatIsNoFileIsRefusedInASentence) {
+  const std::string save = freshFile("none_yet");
+  for (const char* source : {"/tmp", "/dev/zero", "/nowhere/at/all"}) {
+    for (const char* command : {"import", "replay"}) {
+      const ProgramRun run = command == std::string("import") ? runProgram({command, source, "--save", save})
+                                                              : runProgram({command, source});
+      EXPECT_EQ(run.exitCode, 1) << command << " " << source;
+      EXPECT_THAT(run.output, HasSubstr(source));
+    }
+  }
+  EXPECT_FALSE(std::filesystem::exists(save)) << "a failed import begins no save";
+  for (const char* place : {":memory:", "file:a?mode=memory", "/tmp"}) {
+    const ProgramRun run = runProgram({"play", "--save", place});
+    EXPECT_EQ(run.exitCode, 1) << place;
+    EXPECT_THAT(run.output, HasSubstr(place));
+  }
 }
 
 TEST(CommandLine, DamagedListsAreToldAndLeftAloneByInfo) {

@@ -73,6 +73,22 @@ TEST(Navigator, TabsKeepTheirScreensAndOldPressesAreIgnored) {
   EXPECT_EQ(play.screen(), "MusicViewController") << "the tab shown leads to its root";
 }
 
+TEST(Navigator, ADoorIsPaidOnceAndStaysShutForWhoCannot) {
+  MemoryStore store;
+  Play play(store);
+  play.nameTheArtist();
+  play.tab(lifeTab);
+  play.state().totalEnergyAvailable = 9;
+  play.press("goToJobBoardButton");
+  EXPECT_EQ(play.screen(), "JobBoardViewController");
+  EXPECT_EQ(play.state().totalEnergyAvailable, 4);
+  play.to("nav", "back");
+  play.press("goToJobBoardButton");
+  EXPECT_EQ(play.screen(), "DailyLifeViewController");
+  EXPECT_EQ(play.shown().feedback, Feedback::energyBounce);
+  EXPECT_EQ(play.state().totalEnergyAvailable, 4);
+}
+
 TEST(Navigator, AnAlertIsAnsweredFirst) {
   MemoryStore store;
   Play play(store);

@@ -13,6 +13,8 @@ inline GameState smallCareer() {
   state.totalCashAvailable = -12.5;
   state.totalFans = 9'000'000'000;
   state.AllCompletedAchievements = {4, 7};
+  state.songId = state.chirpId = 139;
+  state.merchId = 5;
   state.songDictionary = {{"", "empty"}, {"k", "ü"}};
   for (int64_t id = 100; id < 140; ++id) {
     state.saveAllSongList.append({.songId = id, .title = "Song", .viralityScore = static_cast<double>(id * 7 % 40)});

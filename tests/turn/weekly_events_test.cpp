@@ -233,7 +233,7 @@ TEST(WeeklyEvents, AFestivalLooksAtFansSongsAndEnergyInThatOrder) {
   EXPECT_EQ(only(world.take(15)).title, "Not Enough Energy");
   world.state.totalEnergyAvailable = 50;
   EXPECT_EQ(only(world.take(15)).title, "🚪 Not Open Yet 🚪");
-  EXPECT_EQ(only(world.take(9)).title, "Nothing of Interest");
+  EXPECT_EQ(only(world.take(9)).title, "🚪 Not Open Yet 🚪");
   EXPECT_EQ(world.state.totalEnergyAvailable, 50);
 }
 

@@ -7,7 +7,6 @@
 #include "career/lifestyle.h"
 #include "career/studio.h"
 #include "career/traits.h"
-#include "core/calendar.h"
 #include "core/money.h"
 
 namespace backbeat {
@@ -26,7 +25,7 @@ Row jobRow(const GameState& state) {
     row.subtitle =
         currency(state.weeklyJobIncome) + "/week · " + counted(state.weeklyJobContractRemaining, "week") + " left";
   }
-  row.price = Price{jobBoardEnergyCost, 0};
+  row.price = jobBoardCost;
   return row;
 }
 
@@ -53,7 +52,7 @@ std::string bestTrait(const GameState& state) {
 }  // namespace
 
 Outcome DailyLifeViewController::act(const Action& action) {
-  if (action.id == "goToJobBoardButton") return goToJobBoardButton();
+  if (action.id == "goToJobBoardButton") return goTo("goToJobBoard");
   for (size_t i = 0; i < lifestyleButtons.size(); ++i) {
     if (action.id == lifestyleButtons[i]) return goTo("goToLifestyleChoices", std::to_string(i));
   }
@@ -61,14 +60,6 @@ Outcome DailyLifeViewController::act(const Action& action) {
     if (action.id == segue) return goTo(action.id);
   }
   return {};
-}
-
-Outcome DailyLifeViewController::goToJobBoardButton() {
-  if (state().totalEnergyAvailable < jobBoardEnergyCost) return bounce();
-  game_.state.totalEnergyAvailable -= jobBoardEnergyCost;
-  game_.save(&GameState::totalEnergyAvailable);
-  stateChanged(game_);
-  return goTo("goToJobBoard");
 }
 
 View DailyLifeViewController::view() const {

@@ -11,9 +11,6 @@ class DailyLifeViewController final : public Screen {
   Outcome act(const Action& action) override;
   View view() const override;
 
-  /// Opens the job board. Each visit costs 5 energy; with less, the energy figure shakes.
-  Outcome goToJobBoardButton();
-
  private:
   void describeSkills(View& view) const;
   void describeLifestyle(View& view) const;

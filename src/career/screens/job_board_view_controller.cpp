@@ -39,7 +39,7 @@ Outcome JobBoardViewController::act(const Action& action) {
 Outcome JobBoardViewController::jobButton(size_t number) {
   if (number >= board_.size()) return {};
   Outcome outcome = takeJob(game_, board_[number]);
-  if (outcome.alerts.empty()) taken_ = number;
+  if (outcome.done()) taken_ = number;
   return outcome;
 }
 

@@ -32,7 +32,7 @@ Row optionRow(const LifestyleCategory& category, size_t number, const std::strin
   row.subtitle = currency(option.cost) + " a week";
   row.value = "+" + std::to_string(option.energyBoost);
   row.note = boostNoun(category);
-  row.price = Price{0, option.cost};
+  row.price = option.firstPayment();
   row.selected = chosen == option.title;
   return row;
 }

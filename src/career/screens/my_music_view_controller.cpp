@@ -26,7 +26,7 @@ Row traitRow(const GameState& state, const Trait& trait) {
     return row;
   }
   row.note = "next " + std::to_string(nextLevel(state, trait));
-  row.price = Price{state.*trait.cost, 0};
+  row.price = traitCost(state, trait);
   return row;
 }
 

@@ -31,7 +31,7 @@ Row partRow(const GameState& state, const StudioPart& part) {
     return row;
   }
   row.subtitle = "+1 studio rating";
-  row.price = Price{0, upgradePrice(state, part)};
+  row.price = upgradeCost(state, part);
   return row;
 }
 

@@ -74,7 +74,7 @@ void AlbumDetailViewController::describeProduction(View& view, const Album& albu
   view.add(button("pricingButton", "SET PRICING (" + price(album.price) + ")"));
   view.add(button("marketingButton", "MARKETING"));
   Button release = button("releaseButton", "RELEASE");
-  release.price = Price{albumReleaseEnergyCost, 0};
+  release.price = albumReleaseCost;
   release.style = Button::Style::primary;
   view.mainAction = std::move(release);
   view.help = Help{"Before the release",

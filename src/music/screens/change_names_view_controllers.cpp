@@ -30,11 +30,9 @@ Outcome ChangeNamesViewController::act(const Action& action) {
 
 Outcome ChangeNamesViewController::saveButton() {
   const std::string name = firstCharacters(trimmed(typed_), longestName);
-  if (name.empty()) return alert("🎤 Name Needed 🎤", "\nEverybody in this business needs a name.");
+  if (name.empty()) return refuse<"🎤 Name Needed 🎤">("\nEverybody in this business needs a name.");
   rename(id_, name);
-  Outcome outcome = success();
-  outcome += closeScreen();
-  return outcome;
+  return successAndClose();
 }
 
 View ChangeNamesViewController::view() const {

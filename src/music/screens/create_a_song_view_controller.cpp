@@ -36,7 +36,7 @@ Choice describe(size_t list, const std::vector<ProductionOption>& options, size_
     shown.label = option.name;
     shown.note = "Rating | " + std::to_string(option.rating);
     shown.tone = toneOfRating(option.rating);
-    if (option.cost > 0) shown.price = Price{0, static_cast<double>(option.cost)};
+    if (option.cost > 0) shown.price = Price{.dollars = static_cast<double>(option.cost)};
     choice.options.push_back(std::move(shown));
   }
   return choice;
@@ -81,8 +81,7 @@ Outcome CreateASongViewController::act(const Action& action) {
 
 Outcome CreateASongViewController::createSongButton() {
   Outcome outcome = createSong(game_, draft());
-  const bool refusedTitle = !outcome.alerts.empty() && outcome.alerts.front().title.find("Title") != std::string::npos;
-  if (refusedTitle) title_.clear();
+  if (outcome.result == Result::refused) title_.clear();
   return outcome;
 }
 
@@ -160,7 +159,7 @@ View CreateASongViewController::view() const {
   Button create;
   create.id = "createSongButton";
   create.label = "Create Song";
-  create.price = Price{songEnergyCost, static_cast<double>(costToProduceSong(state(), song))};
+  create.price = costToProduceSong(state(), song);
   create.style = Button::Style::primary;
   view.mainAction = std::move(create);
   view.help = Help{"How a song turns out",

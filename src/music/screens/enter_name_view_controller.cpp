@@ -15,9 +15,7 @@ Outcome EnterNameViewController::saveButton() {
   game_.state.promptToEnterName = 1;
   game_.save(&GameState::myArtistsName, &GameState::promptToEnterName);
   stateChanged(game_);
-  Outcome outcome = success();
-  outcome += closeScreen();
-  return outcome;
+  return successAndClose();
 }
 
 View EnterNameViewController::view() const {

@@ -4,7 +4,6 @@
 
 #include "career/skill.h"
 #include "core/money.h"
-#include "core/numbers.h"
 #include "music/guests.h"
 
 namespace backbeat {
@@ -50,13 +49,13 @@ Outcome FeaturingViewController::addButton(int64_t pickedId) {
     return {};
   }
   if (selected.size() >= mostGuestsOnASong) {
-    return alert("🎤 Featured Limit Reached 🎤", "\nYou can only feature up to 3 artists on a track.");
+    return refuse<"🎤 Featured Limit Reached 🎤">("\nYou can only feature up to 3 artists on a track.");
   }
   const int64_t asked = minimumRatingOf(state(), pickedId);
   if (asked > overallSkillRating(state())) {
-    return alert("🎤 Not Yet 🎤", "\n" + guest.name + " only records with artists of a skill rating of " +
-                                    std::to_string(asked) + ". Yours is " +
-                                    std::to_string(overallSkillRating(state())) + ".");
+    return refuse<"🎤 Not Yet 🎤">("\n" + guest.name + " only records with artists of a skill rating of " +
+                                 std::to_string(asked) + ". Yours is " + std::to_string(overallSkillRating(state())) +
+                                 ".");
   }
   selected.push_back(pickedId);
   return success();
@@ -66,7 +65,7 @@ Outcome FeaturingViewController::changeNameButton(int64_t pickedId) {
   Guest guest;
   if (!guestFor(state(), pickedId, guest)) return {};
   if (pickedId >= firstSignedArtistPick) {
-    return alert("🎤 Signed Artist🎤", "\nYou can't change the name of signed or created artists at this time.");
+    return refuse<"🎤 Signed Artist🎤">("\nYou can't change the name of signed or created artists at this time.");
   }
   return goTo("goToChangeFeaturedArtistName", std::to_string(pickedId));
 }
@@ -113,8 +112,7 @@ View FeaturingViewController::view() const {
   Rows guests;
   for (const FeaturedArtist& guest : guestTable(state())) {
     Row row = describe(guest.id, guest.name, guest.rating, guest.virality);
-    row.price =
-        Price{0, static_cast<double>(truncate(static_cast<double>(guest.cost) * state().contractFeatureDiscount))};
+    row.price = guestCost(state(), guest);
     if (guest.minimumRating > skill) {
       row.tone = Tone::locked;
       row.note = "Skill " + std::to_string(guest.minimumRating);

@@ -90,7 +90,7 @@ View MusicViewController::view() const {
   Button song;
   song.id = "createSongButton";
   song.label = "Create a Song";
-  song.price = Price{songEnergyCost, 0};
+  song.price = Price{.energy = songEnergy};
   song.pulse = state().loginCount == 0;
   song.style = Button::Style::primary;
   view.add(std::move(song));

@@ -58,7 +58,7 @@ View SetAlbumMarketingViewController::view() const {
     row.picture = icon(planTexts[tier].icon);
     row.title = planTexts[tier].title;
     row.subtitle = "Marketing " + std::to_string(plan.leastScore) + " to " + std::to_string(plan.greatestScore);
-    row.price = Price{0, static_cast<double>(plan.cost)};
+    row.price = plan.cost;
     row.selected = tier_ == tier;
     rows.items.push_back(std::move(row));
   }
@@ -66,7 +66,7 @@ View SetAlbumMarketingViewController::view() const {
   Button set;
   set.id = "setMarketingButton";
   set.label = tier_ ? "Set Marketing" : "Leave It As It Is";
-  if (tier_) set.price = Price{0, static_cast<double>(plan_.cost)};
+  if (tier_) set.price = plan_.cost;
   set.style = Button::Style::primary;
   view.mainAction = std::move(set);
   view.help = Help{"What marketing does",

@@ -26,11 +26,11 @@ std::string hookOf(const GameState& state, const Song& song) {
   return song.title + "|" + genre;
 }
 
-Button priced(std::string id, std::string label, int64_t energy, Button::Style style = Button::Style::secondary) {
+Button priced(std::string id, std::string label, const Price& price, Button::Style style = Button::Style::secondary) {
   Button button;
   button.id = std::move(id);
   button.label = std::move(label);
-  button.price = Price{energy, 0};
+  button.price = price;
   button.style = style;
   return button;
 }
@@ -71,8 +71,8 @@ Outcome SongDetailViewController::addToAlbumButton() const {
   const auto position = songPosition(state(), songId_);
   if (!position || state().saveAllSongList[*position].isReleased) return {};
   if (albumsInProduction(state()).empty()) {
-    return alert("🎧 No Unreleased Albums 🎧",
-                 "\nCreate a new album under 'Create a Song' on the main page to add this song to an album list.");
+    return refuse<"🎧 No Unreleased Albums 🎧">(
+        "\nCreate a new album under 'Create a Song' on the main page to add this song to an album list.");
   }
   return goTo("goToAddToAlbum", std::to_string(songId_));
 }
@@ -113,11 +113,10 @@ void SongDetailViewController::describeProduction(View& view, const Song& song) 
   // The button tells 1.0 and the boost gives 1.5: intended.
   if (const auto cost = productionBoostCost(song)) view.add(priced("boostProduction", "Production +1.0", *cost));
   if (const auto cost = viralityBoostCost(song)) view.add(priced("boostVirality", "Virality +0.5", *cost));
-  view.add(
-      priced("announceButton", songAnnounced(state(), songId_) ? "Announced" : "Announce on Chirp", chirpEnergyCost));
+  view.add(priced("announceButton", songAnnounced(state(), songId_) ? "Announced" : "Announce on Chirp", chirpCost));
   view.add(leading("marketingButton", "Marketing"));
   view.add(leading("addToAlbumButton", "Add to Album"));
-  view.mainAction = priced("releaseButton", "RELEASE", releaseEnergyCost, Button::Style::primary);
+  view.mainAction = priced("releaseButton", "RELEASE", releaseCost, Button::Style::primary);
   view.help = Help{"Before the release",
                    "Nothing happens to a song until it is released. Boosts and an announcement only work before "
                    "that.\n\nProduction decides how much of the audience listens, and for how many weeks the song "

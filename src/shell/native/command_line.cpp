@@ -1,7 +1,12 @@
+// The only source that is built with exceptions: the library that reads the words refuses with them, and none leaves
+// this file.
 #include "shell/native/command_line.h"
 
-#include <algorithm>
+#include <CLI/CLI.hpp>
 #include <charconv>
+#include <vector>
+
+#include "shell/simulate/strategy.h"
 
 namespace backbeat {
 
@@ -9,145 +14,135 @@ namespace {
 
 using Command = CommandLine::Command;
 
-struct CommandText {
-  std::string_view word;
-  Command command;
-  std::string_view usage;
-  std::string_view help;
-};
-
-constexpr CommandText commands[] = {
-    {"play", Command::play, "backbeat play [--save FILE] [--seed N] [--trace FILE]",
-     "Plays in the terminal; type help there. The career is kept after every press.\n"
-     "  --save FILE   the career to go on with, or to begin\n"
-     "  --seed N      the chance of this launch, 0 to 18446744073709551615; otherwise the system's own\n"
-     "  --trace FILE  writes down every press, for backbeat replay\n"},
-    {"replay", Command::replay, "backbeat replay FILE",
-     "Plays a trace into a career of its own, which is not kept, and prints the fingerprint of where it ends.\n"},
-    {"info", Command::info, "backbeat info [--save FILE]",
-     "Tells what a save holds, and changes nothing.\n"
-     "  --save FILE   the save to look into\n"},
-    {"export", Command::exportCareer, "backbeat export FILE [--save FILE]",
-     "Writes the whole career into one binary property list, to keep or to carry to another device.\n"
-     "  --save FILE   the save to take it from\n"},
-    {"import", Command::importCareer, "backbeat import FILE [--save FILE]",
-     "Puts the career of such a file in the place of the one in the save, which is kept aside: Settings, Restore.\n"
-     "  --save FILE   the save to put it into\n"},
-    {"simulate", Command::simulate,
-     "backbeat simulate [--strategy NAME] [--careers N] [--years Y] [--seed S] [--jobs J]\n"
-     "                [--csv FILE] [--json] [--trace FILE] [--profile]",
-     "Plays whole careers by a strategy and tells how they end. Nothing is kept but what is asked for.\n"
-     "  --strategy NAME  idle, casual, keen (unless told otherwise) or mogul\n"
-     "  --careers N      how many careers, 100 unless told otherwise; they have the seeds S, S+1 and so on\n"
-     "  --years Y        how long each lasts, 10 unless told otherwise\n"
-     "  --seed S         the chance of the first career, 1 unless told otherwise\n"
-     "  --jobs J         how many are played at once; otherwise one for each core\n"
-     "  --csv FILE       writes a row for each career and year\n"
-     "  --json           tells the outcome as JSON\n"
-     "  --trace FILE     writes down every press of the first career, for backbeat replay\n"
-     "  --profile        tells how the time of a turn divides over its steps\n"},
-};
-
-std::string wholeUsage() {
-  std::string text = "usage:";
-  for (const CommandText& each : commands) {
-    text += (text.ends_with('\n') ? "       " : " ") + std::string(each.usage) + "\n";
+/// What one word after the program's name may go on with.
+class Reader {
+ public:
+  Reader(CommandLine& line, const std::string& defaultSave) : line_(line) {
+    line_.save = defaultSave;
+    app_.require_subcommand(1);
+    app_.set_version_flag("--version", "backbeat 1.0", "Print the version");
+    app_.footer("Each command has a --help of its own.");
+    addPlay();
+    addReplay();
+    addInfo();
+    addTransfers();
+    addSimulate();
   }
-  return text + "       backbeat --help | --version\n";
-}
 
-std::string usageOf(const CommandText& command) { return "usage: " + std::string(command.usage) + "\n"; }
-
-CommandLine helpOf(std::string text) {
-  CommandLine line;
-  line.help = std::move(text);
-  return line;
-}
-
-CommandLine misuse(const std::string& what, const std::string& usage) {
-  CommandLine line;
-  line.problem = "backbeat: " + what + "\n" + usage;
-  return line;
-}
-
-/// Takes one option with its value; what is wrong with it, or "".
-std::string takeOption(CommandLine& line, std::string_view option, std::string_view value) {
-  const bool plays = line.command == Command::play;
-  if (line.command == Command::simulate) {
-    const auto problem = takeSimulateOption(line.simulate, option, value);
-    if (!problem || !problem->empty()) return problem.value_or("unknown option " + std::string(option));
-  } else if (option == "--save" && line.command != Command::replay) {
-    line.save = value;
-  } else if (option == "--trace" && plays) {
-    line.trace = value;
-  } else if (option == "--seed" && plays) {
-    uint64_t seed = 0;
-    const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), seed);
-    if (error != std::errc() || end != value.data() + value.size()) {
-      return "--seed takes a whole number, not \"" + std::string(value) + "\"";
+  void read(const std::vector<std::string>& words) {
+    const std::string first = words.empty() ? "" : words.front();
+    // The library takes them from the end.
+    std::vector<std::string> reversed(words.rbegin(), words.rend());
+    try {
+      app_.parse(std::move(reversed));
+    } catch (const CLI::CallForVersion& version) {
+      line_.help = std::string(version.what()) + "\n";
+    } catch (const CLI::Success&) {
+      line_.help = helpAsked();
+    } catch (const CLI::ParseError& refusal) {
+      const bool named = !app_.get_subcommands().empty() || words.empty() || first.starts_with('-');
+      const std::string what = named ? refusal.what() : "there is no command \"" + first + "\"";
+      line_.problem = "backbeat: " + what + "\n" + helpAsked();
     }
-    line.seed = seed;
-  } else {
-    return "unknown option " + std::string(option);
   }
-  return value.empty() ? std::string(option) + " needs a value behind it" : "";
-}
 
-/// Where the file goes that a command takes without an option; nullptr for a command that takes none.
-std::string* fileOf(CommandLine& line) {
-  switch (line.command) {
-    case Command::replay: return &line.trace;
-    case Command::exportCareer:
-    case Command::importCareer: return &line.career;
-    default: return nullptr;
+ private:
+  CLI::App& command(const char* word, Command value, const char* help) {
+    CLI::App& added = *app_.add_subcommand(word, help);
+    added.footer("");
+    added.callback([this, value] { line_.command = value; });
+    return added;
   }
-}
 
-CommandLine readCommand(const CommandText& command, std::span<const char* const> words,
-                        const std::string& defaultSave) {
-  CommandLine line;
-  line.command = command.command;
-  line.save = defaultSave;
-  for (size_t i = 0; i < words.size(); ++i) {
-    const std::string_view word = words[i];
-    if (word == "--help" || word == "-h") return helpOf(usageOf(command) + "\n" + std::string(command.help));
-    std::string problem;
-    if (line.command == Command::simulate && takeSimulateFlag(line.simulate, word)) continue;
-    if (word.starts_with("-")) {
-      const std::string_view value = i + 1 < words.size() ? words[i + 1] : "";
-      problem = takeOption(line, word, value);
-      ++i;
-    } else if (std::string* file = fileOf(line); file && file->empty() && !word.empty()) {
-      *file = word;
-    } else {
-      problem = "unexpected word \"" + std::string(word) + "\"";
-    }
-    if (!problem.empty()) return misuse(problem, usageOf(command));
+  /// The help of the command that the words name, or of the program.
+  std::string helpAsked() const {
+    const std::vector<CLI::App*> named = app_.get_subcommands();
+    return (named.empty() ? app_.help() + "\n" : named.front()->help("backbeat"));
   }
-  if (const std::string* file = fileOf(line); file && file->empty()) {
-    return misuse(std::string(command.word) + " needs a file", usageOf(command));
+
+  CLI::Option& text(CLI::App& to, const char* name, std::string& target, const char* help) {
+    return *to.add_option(name, target, help)->check(notEmpty_);
   }
-  return line;
-}
+
+  void addSave(CLI::App& to, const char* help) { text(to, "--save", line_.save, help).type_name("FILE"); }
+  void addForce(CLI::App& to) { to.add_flag("--force", line_.force, "Replace a file that is there"); }
+
+  void addPlay() {
+    CLI::App& play = command("play", Command::play, "Play in the terminal; the career is kept after every press");
+    addSave(play, "The career to go on with, or to begin");
+    play.add_option("--seed", line_.seed, "The chance of this launch; otherwise the system's own")
+        ->check(wholeNumber_)
+        ->type_name("N");
+    text(play, "--trace", line_.trace, "Write down every press, for backbeat replay").type_name("FILE");
+    addForce(play);
+  }
+
+  void addReplay() {
+    CLI::App& replay = command("replay", Command::replay,
+                               "Play a trace into a career that is not kept, and print the fingerprint of its end");
+    text(replay, "trace", line_.trace, "The trace").type_name("FILE")->required();
+  }
+
+  void addInfo() { addSave(command("info", Command::info, "Tell what a save holds"), "The save to look into"); }
+
+  void addTransfers() {
+    CLI::App& out = command("export", Command::exportCareer, "Write the whole career into one binary property list");
+    text(out, "file", line_.career, "The file that gets it").type_name("FILE")->required();
+    addSave(out, "The save to take it from");
+    addForce(out);
+    CLI::App& in = command("import", Command::importCareer,
+                           "Put the career of such a file in the place of the one in the save, which is kept aside");
+    text(in, "file", line_.career, "The file that holds it").type_name("FILE")->required();
+    addSave(in, "The save to put it into");
+  }
+
+  void addSimulate() {
+    SimulateOptions& options = line_.simulate;
+    CLI::App& simulate =
+        command("simulate", Command::simulate, "Play whole careers by a strategy and tell how they end");
+    std::vector<std::string> names;
+    for (const StrategyEntry& each : strategies()) names.emplace_back(each.name);
+    simulate.add_option("--strategy", options.strategy, "Who plays")
+        ->check(CLI::IsMember(names))
+        ->capture_default_str();
+    number(simulate, "--careers", options.careers, mostCareers, "How many careers; their seeds follow each other");
+    number(simulate, "--years", options.years, mostYears, "How long each lasts");
+    simulate.add_option("--seed", options.seed, "The chance of the first career")->check(wholeNumber_)->type_name("N");
+    number(simulate, "--jobs", options.jobs, mostJobs, "How many are played at once; otherwise one for each core");
+    text(simulate, "--csv", options.csv, "Write a row for each career and year").type_name("FILE");
+    text(simulate, "--trace", options.trace, "Write down every press of the first career").type_name("FILE");
+    simulate.add_flag("--json", options.json, "Tell the outcome as JSON");
+    simulate.add_flag("--profile", options.profile, "Tell how the time of a turn divides over its steps");
+    simulate.add_flag("--force", options.force, "Replace files that are there");
+  }
+
+  static void number(CLI::App& to, const char* name, int64_t& target, int64_t most, const char* help) {
+    to.add_option(name, target, help)->check(CLI::Range(int64_t{1}, most))->type_name("N");
+  }
+
+  CommandLine& line_;
+  CLI::App app_{"Backbeat, a life in music, one week at a time.", "backbeat"};
+  const CLI::Validator notEmpty_{[](std::string& value) { return value.empty() ? "nothing stands behind it" : ""; }, "",
+                                 "not empty"};
+  /// The library takes "-1" and what is too large for the greatest number there is.
+  const CLI::Validator wholeNumber_{[](const std::string& value) {
+                                      uint64_t number = 0;
+                                      const char* end = value.data() + value.size();
+                                      const auto [last, error] = std::from_chars(value.data(), end, number);
+                                      return error == std::errc() && last == end
+                                                 ? ""
+                                                 : "takes a whole number up to 18446744073709551615, not \"" + value +
+                                                       "\"";
+                                    },
+                                    "", "whole number"};
+};
 
 }  // namespace
 
 CommandLine readCommandLine(std::span<const char* const> words, const std::string& defaultSave) {
-  if (words.empty()) return misuse("say what to do", wholeUsage());
-  const std::string_view first = words[0];
-  if (first == "--help" || first == "-h") {
-    return helpOf("Backbeat, a life in music, one week at a time.\n\n" + wholeUsage() +
-                  "\nEach command has a --help of its own.\n");
-  }
-  if (first == "--version") {
-    CommandLine line;
-    line.command = Command::version;
-    return line;
-  }
-  const auto found =
-      std::find_if(std::begin(commands), std::end(commands), [&](const CommandText& c) { return c.word == first; });
-  if (found == std::end(commands)) return misuse("unknown command \"" + std::string(first) + "\"", wholeUsage());
-  return readCommand(*found, words.subspan(1), defaultSave);
+  CommandLine line;
+  Reader(line, defaultSave).read({words.begin(), words.end()});
+  return line;
 }
 
 std::string defaultSaveFile(std::string_view xdgDataHome, std::string_view home) {

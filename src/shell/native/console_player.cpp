@@ -8,6 +8,7 @@
 #include "core/case_folding.h"
 #include "core/text.h"
 #include "shell/native/career_transfer.h"
+#include "shell/native/file_places.h"
 #include "shell/native/terminal_text.h"
 
 namespace backbeat {
@@ -22,6 +23,7 @@ constexpr const char* helpText =
     "  back                one screen back        end           END THE WEEK\n"
     "  info                about this screen      again         shows it once more\n"
     "  export FILE         the career as a file   import FILE   goes on with such a file\n"
+    "  export --force FILE when the file is there already\n"
     "  help                this text              quit          leaves; everything is kept\n"
     "✗ stands behind a price that you cannot pay now.\n";
 
@@ -194,17 +196,23 @@ void ConsolePlayer::obeyRequest() {
   }
 }
 
-void ConsolePlayer::exportTo(std::string_view path) {
+void ConsolePlayer::exportTo(std::string_view words) {
+  const auto [first, rest] = firstWord(words);
+  const bool force = first == "--force";
+  const std::string path(force ? rest : words);
   if (path.empty()) return say("Type the name of a file behind it: export nova.plist");
-  const std::string problem = exportToFile(career_.session().game().state, std::string(path));
-  say(problem.empty() ? "Your career is in " + std::string(path) + "." : problem);
+  std::string problem = targetRefusal(path, "", force);
+  if (problem.empty()) problem = exportToFile(career_.session().game().state, path);
+  say(problem.empty() ? "Your career is in " + path + "." : problem);
 }
 
 void ConsolePlayer::importFrom(std::string_view path) {
   if (path.empty()) return say("Type the name of a file behind it: import nova.plist");
-  const FileImport import = importFromFile(std::string(path), store_);
-  say(importMessage(import));
-  if (!import.problem.empty()) return;
+  ImportedCareer career = readCareer(std::string(path));
+  if (!career.state) return say(career.problem);
+  const std::string problem = putInPlace(career, store_);
+  if (!problem.empty()) return say(problem);
+  say(importMessage(career));
   relaunch();
   show();
 }

@@ -30,7 +30,7 @@ class ConsolePlayer {
   /// False when the player leaves.
   bool obey(std::string_view input);
   bool obeyWord(const std::string& word, std::string_view value);
-  void exportTo(std::string_view path);
+  void exportTo(std::string_view words);
   void importFrom(std::string_view path);
   void relaunch();
   void obeyRequest();

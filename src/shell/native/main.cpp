@@ -1,5 +1,4 @@
 // The game on a computer.
-#include <signal.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -7,7 +6,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <iterator>
 #include <random>
 
 #include "core/memory_store.h"
@@ -15,6 +13,8 @@
 #include "shell/native/career_transfer.h"
 #include "shell/native/command_line.h"
 #include "shell/native/console_player.h"
+#include "shell/native/file_places.h"
+#include "shell/native/last_words.h"
 #include "shell/native/save_info.h"
 #include "shell/native/sqlite_store.h"
 #include "shell/trace.h"
@@ -22,29 +22,14 @@
 namespace backbeat {
 namespace {
 
-enum ExitCode { done = 0, failed = 1, misused = 2, overflowed = 70 };
-
-/// The engine is built so that an amount which outgrows its number stops the program at once. What was committed stays.
-void tellOverflow(int) {
-  constexpr std::string_view message =
-      "\nAn amount grew past what the game can count. The save holds the last whole step.\n";
-  // Nothing can be done about a message that does not get out.
-  [[maybe_unused]] const ssize_t written = write(STDERR_FILENO, message.data(), message.size());
-  _exit(overflowed);
-}
-
-void catchOverflow() {
-  for (const int signal : {SIGILL, SIGTRAP, SIGABRT}) {
-    struct sigaction action = {};
-    action.sa_handler = tellOverflow;
-    sigaction(signal, &action, nullptr);
-  }
-}
+enum ExitCode { done = 0, failed = 1, misused = 2 };
 
 std::string environment(const char* name) {
   const char* value = std::getenv(name);
   return value ? value : "";
 }
+
+constexpr size_t largestTrace = size_t{256} << 20;
 
 int64_t unixMilliseconds() {
   using namespace std::chrono;
@@ -54,6 +39,14 @@ int64_t unixMilliseconds() {
 uint64_t seedOfTheSystem() {
   std::random_device entropy;
   return uint64_t{entropy()} << 32 | entropy();
+}
+
+/// What a command was asked for, on the standard output; a full disk or a closed pipe is told.
+int answer(const std::string& text) {
+  std::cout << text << std::flush;
+  if (std::cout) return done;
+  std::cerr << "backbeat: the answer could not be written.\n";
+  return failed;
 }
 
 int fail(const std::string& why) {
@@ -72,6 +65,8 @@ int play(const CommandLine& line) {
   std::ofstream trace;
   std::function<void(const std::string&)> record;
   if (!line.trace.empty()) {
+    const std::string refusal = targetRefusal(line.trace, line.save, line.force);
+    if (!refusal.empty()) return fail(refusal);
     trace.open(line.trace, std::ios::binary | std::ios::trunc);
     if (!trace) return fail("the trace " + line.trace + " cannot be written.");
     record = [&](const std::string& event) { trace << event + '\n' << std::flush; };
@@ -86,17 +81,15 @@ int play(const CommandLine& line) {
 }
 
 int replay(const CommandLine& line) {
-  std::ifstream file(line.trace, std::ios::binary);
-  const std::string text{std::istreambuf_iterator<char>(file), {}};
-  if (!file.is_open() || file.bad()) return fail("the trace " + line.trace + " cannot be read.");
-  const Trace trace = readTrace(text);
+  const FileContent text = readFile(line.trace, largestTrace);
+  if (!text.problem.empty()) return fail(text.problem);
+  const Trace trace = readTrace(text.bytes);
   if (!trace.problem.empty()) return fail(line.trace + ", " + trace.problem + ".");
   MemoryStore store;
   QuietPlatform platform;
   TraceRecorder career(store, platform);
   for (const TraceEvent& event : trace.events) career.play(event);
-  std::cout << hashText(stateHash(career.session().game().state)) << '\n';
-  return done;
+  return answer(hashText(stateHash(career.session().game().state)) + "\n");
 }
 
 /// Opens a save that is there: opening one that is not, or is still empty, would begin it.
@@ -110,11 +103,12 @@ SqliteStore::Opened openExisting(const std::string& save) {
 int info(const CommandLine& line) {
   const SqliteStore::Opened opened = openExisting(line.save);
   if (!opened.store) return fail(opened.problem);
-  std::cout << saveInfo(*opened.store);
-  return done;
+  return answer(saveInfo(*opened.store));
 }
 
 int exportCareerFile(const CommandLine& line) {
+  const std::string refusal = targetRefusal(line.career, line.save, line.force);
+  if (!refusal.empty()) return fail(refusal);
   const SqliteStore::Opened opened = openExisting(line.save);
   if (!opened.store) return fail(opened.problem);
   GameState state;
@@ -123,17 +117,18 @@ int exportCareerFile(const CommandLine& line) {
   const std::string problem = exportToFile(state, line.career);
   if (!problem.empty()) return fail(problem);
   for (const std::string& key : report.damagedLists) std::cerr << "backbeat: " << key << " is damaged and left out.\n";
-  std::cout << "The career is in " << line.career << ".\n";
-  return done;
+  return answer("The career is in " + line.career + ".\n");
 }
 
 int importCareerFile(const CommandLine& line) {
+  // Read before the save is opened: a file that is no career begins none.
+  ImportedCareer career = readCareer(line.career);
+  if (!career.state) return fail(career.problem);
   const SqliteStore::Opened opened = SqliteStore::open(line.save);
   if (!opened.store) return fail(opened.problem);
-  const FileImport import = importFromFile(line.career, *opened.store);
-  if (!import.problem.empty()) return fail(import.problem);
-  std::cout << importMessage(import) << '\n';
-  return done;
+  const std::string problem = putInPlace(career, *opened.store);
+  if (!problem.empty()) return fail(problem);
+  return answer(importMessage(career) + "\n");
 }
 
 int run(const CommandLine& line) {
@@ -141,6 +136,8 @@ int run(const CommandLine& line) {
     std::cerr << line.problem;
     return misused;
   }
+  const std::string refusal = saveRefusal(line.save);
+  if (!refusal.empty()) return fail(refusal);
   switch (line.command) {
     case CommandLine::Command::play: return play(line);
     case CommandLine::Command::replay: return replay(line);
@@ -148,8 +145,7 @@ int run(const CommandLine& line) {
     case CommandLine::Command::exportCareer: return exportCareerFile(line);
     case CommandLine::Command::importCareer: return importCareerFile(line);
     case CommandLine::Command::simulate: return runSimulation(line.simulate);
-    case CommandLine::Command::version: std::cout << "backbeat 1.0\n"; return done;
-    case CommandLine::Command::help: std::cout << line.help; return done;
+    case CommandLine::Command::help: return answer(line.help);
   }
   return misused;
 }
@@ -159,7 +155,7 @@ int run(const CommandLine& line) {
 
 int main(int count, char** words) {
   using namespace backbeat;
-  catchOverflow();
+  tellLastWords();
   const std::string save = defaultSaveFile(environment("XDG_DATA_HOME"), environment("HOME"));
   return run(readCommandLine({words + 1, static_cast<size_t>(std::max(count - 1, 0))}, save));
 }

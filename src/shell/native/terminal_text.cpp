@@ -1,5 +1,7 @@
 #include "shell/native/terminal_text.h"
 
+#include <utf8proc.h>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -10,35 +12,52 @@ namespace backbeat {
 
 namespace {
 
-struct Range {
-  char32_t first, last;
-};
-
-constexpr Range wide[] = {{0x1100, 0x115F},   {0x2E80, 0x303E},   {0x3041, 0x33FF},   {0x3400, 0x4DBF},
-                          {0x4E00, 0x9FFF},   {0xA000, 0xA4CF},   {0xAC00, 0xD7A3},   {0xF900, 0xFAFF},
-                          {0xFE30, 0xFE6F},   {0xFF00, 0xFF60},   {0xFFE0, 0xFFE6},   {0x1F1E6, 0x1F1FF},
-                          {0x1F300, 0x1F64F}, {0x1F680, 0x1F6FF}, {0x1F900, 0x1FAFF}, {0x20000, 0x3FFFD}};
-constexpr Range joining[] = {
-    {0x0300, 0x036F}, {0x200B, 0x200F}, {0x20D0, 0x20FF}, {0xFE00, 0xFE0F}, {0x1F3FB, 0x1F3FF}};
-constexpr Range turning[] = {{0x200E, 0x200F}, {0x202A, 0x202E}, {0x2066, 0x2069}};
-
 constexpr std::array<const char*, 8> heights = {"▁", "▂", "▃", "▄", "▅", "▆", "▇", "█"};
 
-template <size_t count>
-bool isIn(const Range (&ranges)[count], char32_t c) {
-  return std::any_of(std::begin(ranges), std::end(ranges), [c](Range r) { return c >= r.first && c <= r.last; });
+/// The marks that turn the direction of writing.
+bool turns(char32_t c) {
+  if (c == 0x200E || c == 0x200F) return true;
+  const auto kind = utf8proc_get_property(static_cast<utf8proc_int32_t>(c))->bidi_class;
+  constexpr std::array<int, 9> turning = {UTF8PROC_BIDI_CLASS_LRE, UTF8PROC_BIDI_CLASS_LRO, UTF8PROC_BIDI_CLASS_RLE,
+                                          UTF8PROC_BIDI_CLASS_RLO, UTF8PROC_BIDI_CLASS_PDF, UTF8PROC_BIDI_CLASS_LRI,
+                                          UTF8PROC_BIDI_CLASS_RLI, UTF8PROC_BIDI_CLASS_FSI, UTF8PROC_BIDI_CLASS_PDI};
+  return std::find(turning.begin(), turning.end(), kind) != turning.end();
 }
 
-size_t columnsOf(char32_t c) { return isIn(joining, c) ? 0 : isIn(wide, c) ? 2 : 1; }
+bool isControl(char32_t c) {
+  const utf8proc_category_t kind = utf8proc_category(static_cast<utf8proc_int32_t>(c));
+  return kind == UTF8PROC_CATEGORY_CC || kind == UTF8PROC_CATEGORY_ZL || kind == UTF8PROC_CATEGORY_ZP;
+}
 
-bool isControl(char32_t c) { return c < ' ' || (c >= 0x7F && c < 0xA0) || c == 0x2028 || c == 0x2029; }
+/// A character as a reader sees it, be it made of several: a letter with its accents, a family, a flag.
+struct Character {
+  size_t bytes = 0;
+  size_t columns = 0;
+};
+
+Character characterAt(std::string_view text, size_t begin) {
+  constexpr size_t widest = 2;
+  size_t columns = 0;
+  size_t at = begin;
+  utf8proc_int32_t state = 0;
+  utf8proc_int32_t before = 0;
+  while (at < text.size()) {
+    size_t next = at;
+    const auto c = static_cast<utf8proc_int32_t>(nextCodePoint(text, next));
+    if (at > begin && utf8proc_grapheme_break_stateful(before, c, &state)) break;
+    columns += static_cast<size_t>(utf8proc_charwidth(c));
+    before = c;
+    at = next;
+  }
+  return {at - begin, std::min(columns, widest)};
+}
 
 /// The text without what could steer the terminal; line breaks stay when asked for.
 std::string harmless(std::string_view text, bool keepBreaks) {
   std::string result;
   for (size_t at = 0; at < text.size();) {
     const char32_t c = nextCodePoint(text, at);
-    if (isIn(turning, c)) continue;
+    if (turns(c)) continue;
     const bool steers = isControl(c) && !(keepBreaks && c == '\n');
     appendCodePoint(result, steers ? ' ' : c);
   }
@@ -49,9 +68,10 @@ std::string harmless(std::string_view text, bool keepBreaks) {
 size_t bytesWithin(std::string_view text, size_t columns) {
   size_t used = 0;
   for (size_t at = 0; at < text.size();) {
-    const size_t begin = at;
-    used += columnsOf(nextCodePoint(text, at));
-    if (used > columns && begin > 0) return begin;
+    const Character next = characterAt(text, at);
+    used += next.columns;
+    if (used > columns && at > 0) return at;
+    at += next.bytes;
   }
   return text.size();
 }
@@ -73,7 +93,11 @@ void wrapLine(std::string_view line, size_t columns, std::vector<std::string>& l
 
 size_t columnsOf(std::string_view text) {
   size_t columns = 0;
-  for (size_t at = 0; at < text.size();) columns += columnsOf(nextCodePoint(text, at));
+  for (size_t at = 0; at < text.size();) {
+    const Character next = characterAt(text, at);
+    columns += next.columns;
+    at += next.bytes;
+  }
   return columns;
 }
 

@@ -15,7 +15,7 @@ constexpr std::string_view restoreVerb = "restore";
 
 Outcome RestoreViewController::act(const Action& action) {
   if (!isKept(action.argument())) return {};
-  if (action.verb() == askVerb) return ask(action.argument());
+  if (action.verb() == askVerb) return askToRestore(action.argument());
   if (action.verb() == restoreVerb) return restore(action.argument());
   return {};
 }
@@ -25,19 +25,17 @@ bool RestoreViewController::isKept(std::string_view name) const {
   return std::any_of(kept.begin(), kept.end(), [&](const Snapshot& snapshot) { return snapshot.name == name; });
 }
 
-Outcome RestoreViewController::ask(std::string_view name) {
+Outcome RestoreViewController::askToRestore(std::string_view name) {
   const Snapshot snapshot = *readSnapshotName(name);
-  Outcome question = alert("Restore?", "\nYou go back to \"" + snapshot.title + "\": " + snapshot.about +
-                                           ".\n\nToday's career is kept aside as \"Before going back\".");
-  question.alerts.front().buttons = {
-      {"Close", {}, AlertButton::Style::cancel},
-      {"Restore", {std::string(restoreVerb) + ":" + std::string(name), ""}, AlertButton::Style::destructive}};
-  return question;
+  return ask<"Restore?">(
+      "\nYou go back to \"" + snapshot.title + "\": " + snapshot.about +
+          ".\n\nToday's career is kept aside as \"Before going back\".",
+      "Close", {"Restore", {std::string(restoreVerb) + ":" + std::string(name), ""}, AlertButton::Style::destructive});
 }
 
 Outcome RestoreViewController::restore(std::string_view name) {
   if (!game_.saveFile.keepSnapshot(SnapshotKind::restore, state(), name)) {
-    return alert("Nothing Changed", "\nToday's career could not be kept aside, so nothing was restored.");
+    return refuse<"Nothing Changed">("\nToday's career could not be kept aside, so nothing was restored.");
   }
   return goTo(std::string(restoreSegue), std::string(name));
 }

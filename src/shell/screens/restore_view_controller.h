@@ -12,7 +12,7 @@ class RestoreViewController final : public Screen {
   View view() const override;
 
  private:
-  Outcome ask(std::string_view name);
+  Outcome askToRestore(std::string_view name);
   Outcome restore(std::string_view name);
   bool isKept(std::string_view name) const;
 };

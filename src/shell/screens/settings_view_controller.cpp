@@ -34,12 +34,9 @@ Outcome SettingsViewController::act(const Action& action) {
 }
 
 Outcome SettingsViewController::restartButton() {
-  Outcome question = alert("Restart?",
-                           "\nAll progress will be reset.\n\nAny permanent upgrades will be transferred to your new "
-                           "life.");
-  question.alerts.front().buttons = {{"Close", {}, AlertButton::Style::cancel},
-                                     {"Restart", {confirmedRestart, ""}, AlertButton::Style::destructive}};
-  return question;
+  return ask<"Restart?">(
+      "\nAll progress will be reset.\n\nAny permanent upgrades will be transferred to your new life.", "Close",
+      {"Restart", {confirmedRestart, ""}, AlertButton::Style::destructive});
 }
 
 Outcome SettingsViewController::restart() {

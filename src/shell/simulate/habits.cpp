@@ -95,7 +95,7 @@ void openAlbum(Player& player, int64_t albumId) {
 
 /// Buys the best campaign that `budget` pays for the song or album that is shown.
 void market(Player& player, double budget) {
-  if (budget < static_cast<double>(marketingPlans.front().cost)) return;
+  if (budget < marketingPlans.front().cost.dollars) return;
   player.press("marketingButton");
   player.press(dearestRow(player, "plan:", budget)->id);
   player.press("setMarketingButton");
@@ -104,13 +104,13 @@ void market(Player& player, double budget) {
 void boost(Player& player, int64_t times) {
   for (int64_t i = 0; i < times; ++i) {
     const Button* button = player.button("boostProduction");
-    if (!button || !hasEnergy(player, button->price->energy + releaseEnergyCost)) return;
+    if (!button || !hasEnergy(player, button->price->energy + releaseCost.energy)) return;
     player.press("boostProduction");
   }
 }
 
 void announce(Player& player) {
-  if (!hasEnergy(player, player.button("announceButton")->price->energy + releaseEnergyCost)) return;
+  if (!hasEnergy(player, player.button("announceButton")->price->energy + releaseCost.energy)) return;
   player.press("announceButton");
   player.tryPress("chirpButton");
   player.settle();
@@ -127,7 +127,7 @@ void beginCareer(Player& player) {
 void lookForWork(Player& player, double enoughCash) {
   const GameState& state = player.state();
   if (state.weeklyJobContractRemaining > 0 || state.totalCashAvailable >= enoughCash) return;
-  if (!hasEnergy(player, jobBoardEnergyCost)) return;
+  if (!hasEnergy(player, jobBoardCost.energy)) return;
   player.tab(lifeTab);
   player.press("goToJobBoardButton");
   std::string best;
@@ -153,7 +153,7 @@ void signWithALabel(Player& player) {
 }
 
 void makeSong(Player& player, const SongPlan& plan) {
-  if (!hasEnergy(player, songEnergyCost)) return;
+  if (!hasEnergy(player, songEnergy)) return;
   player.tab(musicTab);
   player.press("createSongButton");
   player.press("title", "Letter " + std::to_string(player.state().songId));
@@ -173,7 +173,7 @@ void releaseSingles(Player& player, const ReleasePlan& plan) {
     if (!song.isReleased && song.albumId == 0) waiting.push_back(song.songId);
   }
   for (const int64_t songId : waiting) {
-    if (!hasEnergy(player, releaseEnergyCost)) return;
+    if (!hasEnergy(player, releaseCost.energy)) return;
     openSong(player, songId);
     if (plan.announces) announce(player);
     boost(player, plan.boosts);
@@ -193,7 +193,7 @@ void workOnAlbum(Player& player, const AlbumPlan& plan) {
     return player.settle();
   }
   const Album album = player.state().saveAllAlbumList[inProduction.front()];
-  if (album.songCount < plan.songs || !hasEnergy(player, albumReleaseEnergyCost)) return;
+  if (album.songCount < plan.songs || !hasEnergy(player, albumReleaseCost.energy)) return;
   openAlbum(player, album.albumId);
   if (plan.price) {
     player.press("pricingButton");

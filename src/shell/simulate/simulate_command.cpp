@@ -3,13 +3,12 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <charconv>
 #include <fstream>
 #include <iostream>
-#include <limits>
 #include <thread>
 
 #include "core/money.h"
+#include "shell/native/file_places.h"
 #include "shell/native/terminal_text.h"
 #include "shell/simulate/simulation_summary.h"
 
@@ -17,28 +16,7 @@ namespace backbeat {
 
 namespace {
 
-constexpr int64_t mostCareers = 1'000'000;
-constexpr int64_t mostYears = 1'000;
-constexpr int64_t mostJobs = 1'024;
 constexpr size_t progressColumns = 30;
-
-/// Reads a whole number from `least` to `most`; what is wrong with the text, or "".
-template <class Number>
-std::string readNumber(std::string_view option, std::string_view text, Number least, Number most, Number& number) {
-  const char* end = text.data() + text.size();
-  const auto [last, error] = std::from_chars(text.data(), end, number);
-  if (error == std::errc() && last == end && number >= least && number <= most) return "";
-  return std::string(option) + " takes a whole number from " + std::to_string(least) + " to " + std::to_string(most) +
-         ", not \"" + std::string(text) + "\"";
-}
-
-std::string readStrategy(std::string_view name, std::string& strategy) {
-  strategy = name;
-  if (strategyNamed(name)) return "";
-  std::string names;
-  for (const StrategyEntry& each : strategies()) names += (names.empty() ? "" : ", ") + std::string(each.name);
-  return "there is no strategy \"" + std::string(name) + "\", but " + names;
-}
 
 /// A bar that fills up, on a terminal; nothing anywhere else.
 class Progress {
@@ -108,30 +86,13 @@ SimulationPlan planFor(const SimulateOptions& options) {
 
 }  // namespace
 
-bool takeSimulateFlag(SimulateOptions& options, std::string_view flag) {
-  if (flag == "--json") return options.json = true;
-  if (flag == "--profile") return options.profile = true;
-  return false;
-}
-
-std::optional<std::string> takeSimulateOption(SimulateOptions& options, std::string_view option,
-                                              std::string_view value) {
-  const auto number = [&](int64_t& target, int64_t most) {
-    return readNumber(option, value, int64_t{1}, most, target);
-  };
-  if (option == "--careers") return number(options.careers, mostCareers);
-  if (option == "--years") return number(options.years, mostYears);
-  if (option == "--jobs") return number(options.jobs, mostJobs);
-  if (option == "--strategy") return readStrategy(value, options.strategy);
-  if (option == "--seed") {
-    return readNumber(option, value, uint64_t{0}, std::numeric_limits<uint64_t>::max(), options.seed);
-  }
-  if (option != "--csv" && option != "--trace") return std::nullopt;
-  (option == "--csv" ? options.csv : options.trace) = value;
-  return "";
-}
-
 int runSimulation(const SimulateOptions& options) {
+  for (const std::string& path : {options.csv, options.trace}) {
+    const std::string refusal = path.empty() ? "" : targetRefusal(path, "", options.force);
+    if (refusal.empty()) continue;
+    std::cerr << "backbeat: " << refusal << '\n';
+    return 1;
+  }
   const SimulationPlan plan = planFor(options);
   Output csv(options.csv);
   Output trace(options.trace);
@@ -152,7 +113,9 @@ int runSimulation(const SimulateOptions& options) {
     std::cerr << "The trace in " << options.trace << " ends at " << simulation.careers.front().hash << ".\n";
   }
   if (options.profile) std::cerr << simulation.profile.text();
-  return csv.finish() && trace.finish() && !stuck ? 0 : 1;
+  std::cout.flush();
+  if (!std::cout) std::cerr << "backbeat: the outcome could not be written.\n";
+  return csv.finish() && trace.finish() && std::cout && !stuck ? 0 : 1;
 }
 
 }  // namespace backbeat

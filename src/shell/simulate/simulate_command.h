@@ -2,11 +2,13 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
-#include <string_view>
 
 namespace backbeat {
+
+inline constexpr int64_t mostCareers = 1'000'000;
+inline constexpr int64_t mostYears = 1'000;
+inline constexpr int64_t mostJobs = 1'024;
 
 struct SimulateOptions {
   std::string strategy = "keen";
@@ -18,14 +20,8 @@ struct SimulateOptions {
   std::string trace;  ///< the file that the trace of the first career goes to, "" for none
   bool json = false;
   bool profile = false;
+  bool force = false;  ///< files that are there are replaced
 };
-
-/// Takes an option that stands alone; false when there is no such one.
-bool takeSimulateFlag(SimulateOptions& options, std::string_view flag);
-
-/// Takes an option with its value: what is wrong with it, or ""; nothing when there is no such option.
-std::optional<std::string> takeSimulateOption(SimulateOptions& options, std::string_view option,
-                                              std::string_view value);
 
 /// Plays the careers and tells of them: the table or JSON on the standard output, progress and problems on the error
 /// output. Answers with the program's exit code: 1 when a file cannot be written, or a strategy got stuck.

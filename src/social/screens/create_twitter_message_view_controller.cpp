@@ -19,7 +19,7 @@ Outcome CreateTwitterMessageViewController::act(const Action& action) {
 
 Outcome CreateTwitterMessageViewController::chirpButton() {
   Outcome outcome = postChirp(game_, message_, songId_);
-  if (outcome.alerts.empty()) outcome += closeScreen();
+  if (outcome.done()) outcome += closeScreen();
   return outcome;
 }
 
@@ -41,7 +41,7 @@ View CreateTwitterMessageViewController::view() const {
   Button chirp;
   chirp.id = "chirpButton";
   chirp.label = "Chirp";
-  chirp.price = Price{chirpEnergyCost, 0};
+  chirp.price = chirpCost;
   chirp.style = Button::Style::primary;
   view.mainAction = std::move(chirp);
   return view;

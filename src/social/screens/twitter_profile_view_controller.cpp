@@ -82,7 +82,7 @@ Outcome TwitterProfileViewController::act(const Action& action) {
 
 Outcome TwitterProfileViewController::followButton() {
   pulses_ = false;
-  return alert("🐥 That's You 🐥", "\nYou can't follow yourself. Make the others want to.");
+  return refuse<"🐥 That's You 🐥">("\nYou can't follow yourself. Make the others want to.");
 }
 
 View TwitterProfileViewController::view() const {
@@ -94,7 +94,7 @@ View TwitterProfileViewController::view() const {
   Button compose;
   compose.id = "goToCreateTwitterMessage";
   compose.label = "Chirp";
-  compose.price = Price{chirpEnergyCost, 0};
+  compose.price = chirpCost;
   compose.style = Button::Style::primary;
   view.mainAction = std::move(compose);
   view.help = Help{"Chirp",

@@ -7,20 +7,6 @@ namespace backbeat {
 
 namespace {
 
-/// An alert whose one way on is destructive, and whose other way is out.
-Outcome confirmation(std::string title, std::string message, std::string label, std::string action) {
-  Outcome outcome = alert(std::move(title), std::move(message));
-  AlertButton close;
-  close.label = "Close";
-  close.style = AlertButton::Style::cancel;
-  AlertButton confirm;
-  confirm.label = std::move(label);
-  confirm.action.id = std::move(action);
-  confirm.style = AlertButton::Style::destructive;
-  outcome.alerts.front().buttons = {std::move(close), std::move(confirm)};
-  return outcome;
-}
-
 Row row(const char* id, const char* glyph, const char* title, std::string subtitle) {
   Row shown;
   shown.id = id;
@@ -49,16 +35,16 @@ Outcome DataViewController::optimizeButton() const {
       withCommas(counts.signedAlbums) + " albums to remove\n\n" + state().myArtistsName +
       "\nSongs/albums released before " + std::to_string(counts.ownYear) + "\n" + withCommas(counts.songs) +
       " songs to remove\n" + withCommas(counts.albums) + " albums to remove\n\nAre you sure you want to optimize?";
-  return confirmation("🚀 Optimize? 🚀", message, "Yes, Optimize", "optimize");
+  return ask<"🚀 Optimize? 🚀">(message, "Close", {"Yes, Optimize", {"optimize", ""}, AlertButton::Style::destructive});
 }
 
 Outcome DataViewController::resetStartupsButton() const {
-  return confirmation("🔄 Reset Startups? 🔄",
-                      "\nIntended for those who have invested and exited ALL venture investments.\n\nThis will remove "
-                      "previous investments from your portfolio and allow all companies to become investable again "
-                      "through Pitch Deck. Your biggest exit on Farbes will not be reset.\n\nAre you sure you want to "
-                      "reset?",
-                      "Reset Startups", "resetStartups");
+  return ask<"🔄 Reset Startups? 🔄">(
+      "\nIntended for those who have invested and exited ALL venture investments.\n\nThis will remove "
+      "previous investments from your portfolio and allow all companies to become investable again "
+      "through Pitch Deck. Your biggest exit on Farbes will not be reset.\n\nAre you sure you want to "
+      "reset?",
+      "Close", {"Reset Startups", {"resetStartups", ""}, AlertButton::Style::destructive});
 }
 
 View DataViewController::view() const {

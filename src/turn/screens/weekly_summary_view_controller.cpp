@@ -5,6 +5,7 @@
 #include "career/contract_end.h"
 #include "core/calendar.h"
 #include "core/money.h"
+#include "core/purse.h"
 #include "label/weekly_label_updates.h"
 #include "life/children_events.h"
 #include "life/relationship_events.h"
@@ -18,7 +19,7 @@ namespace backbeat {
 namespace {
 
 constexpr int64_t ratingOfferWeek = 31;
-constexpr int64_t ratingOfferEnergy = 250;
+constexpr Charge ratingOfferGift = {.energy = 250};
 constexpr size_t mostListed = 5;
 constexpr const char* ratingAnswer = "ratingAnswer:";
 
@@ -194,24 +195,22 @@ Outcome WeeklySummaryViewController::act(const Action& action) {
 
 Outcome WeeklySummaryViewController::offerEnergyForRating() const {
   if (state().weekNumber != ratingOfferWeek || state().writtenReview != 0) return {};
-  Outcome outcome =
-      alert("🔥 FREE ENERGY 🔥",
-            "Hey, you! Answer a quick question and you'll gain +250 ENERGY!\n\nHow would you describe our "
-            "app so far?");
-  outcome.feedback = Feedback::none;
-  std::vector<AlertButton>& buttons = outcome.alerts.front().buttons;
-  buttons.clear();
+  std::vector<AlertButton> buttons;
   for (const char* label : {"It's Awesome! 🥳", "It's Great 😁", "It's Good 🙂", "It's Okay 😬"}) {
     const std::string number = std::to_string(buttons.size());
     buttons.push_back({label, {ratingAnswer + number, ""}});
   }
+  Outcome outcome = news<"🔥 FREE ENERGY 🔥">(
+      "Hey, you! Answer a quick question and you'll gain +250 ENERGY!\n\nHow would you describe our app so far?",
+      Feedback::none);
+  outcome.alerts.front().buttons = std::move(buttons);
   return outcome;
 }
 
 Outcome WeeklySummaryViewController::answerRatingOffer(int64_t answer) {
   game_.state.writtenReview += 1;
-  game_.state.totalEnergyAvailable += ratingOfferEnergy;
-  game_.save(&GameState::writtenReview, &GameState::totalEnergyAvailable);
+  game_.save(&GameState::writtenReview);
+  earn(game_, ratingOfferGift);
   if (answer == 0) game_.platform.requestReview();
   stateChanged(game_);
   return success();
@@ -238,7 +237,7 @@ void WeeklySummaryViewController::describeEvents(View& view) const {
                          state().totalCashAvailable < 0 ? Tone::bad : Tone::plain, ""});
   view.add(std::move(means));
   for (const auto& [button, press] : buttons) {
-    if (button->shown()) view.add(eventCard(*button, press));
+    if (button->shown()) view.add(eventCard(state(), events_, *button, press));
   }
 }
 

@@ -30,6 +30,8 @@ test("the page stays light on the line", async () => {
   const limits = [
     [/^index.*\.js$/, 90],
     [/^portraits.*\.js$/, 140],
+    [/^drawings.*\.js$/, 25],
+    [/^late-glyphs.*\.js$/, 18],
     [/\.css$/, 14],
     [/^engine\.wasm$/, 380],
   ];

@@ -49,31 +49,135 @@ for (const theme of ["dark", "light"]) {
   });
 }
 
-test("every glyph that the engine may name has a drawing", async () => {
-  const header = await readFile(resolve(here, "../../../core/icons.h"), "utf8");
-  const names = [...header.slice(header.indexOf("icons = {")).matchAll(/"([\w-]+)"/g)].map(([, name]) => name);
-  assert.ok(names.length > 0);
+/** The names that a list of the engine's header holds. */
+async function listed(header, list) {
+  const text = await readFile(resolve(here, "../../../core", header), "utf8");
+  const start = text.indexOf(` ${list} = `);
+  assert.ok(start > 0, list);
+  const names = [...text.slice(start, text.indexOf("});", start)).matchAll(/^ *"(\w+)",$/gm)].map(([, name]) => name);
+  return names.sort();
+}
+
+test("the engine names the glyphs and pictures that there are, and each has a drawing", async () => {
   const { page, context, faults } = await stage.open();
-  const missing = await page.evaluate(
-    (names) =>
-      names.filter(
-        (name) => !window.stage.isIcon(name) || !document.querySelector(`#glyph-${name}`)?.childElementCount,
-      ),
-    names,
-  );
-  assert.deepEqual(missing, []);
+  const [icons, forms, empty] = await page.evaluate(async () => {
+    const { iconNames, installLateGlyphs, forms, portraitForms, drawing } = window.stage;
+    await installLateGlyphs();
+    const names = Object.entries(forms).map(([kind, family]) => [kind, Object.keys(family).sort()]);
+    const glyphs = iconNames.filter((name) => !document.querySelector(`#glyph-${name}`)?.childElementCount);
+    const holder = document.createElement("div");
+    const bare = names.flatMap(([kind, forms]) =>
+      forms.filter((form) => {
+        holder.innerHTML = drawing(kind, `${form}:Harbour`);
+        const art = holder.querySelector(`span.picture.${kind} > svg`);
+        return !art?.childElementCount || /NaN|undefined/.test(holder.innerHTML) || holder.querySelector("[id], text");
+      }),
+    );
+    return [
+      [...iconNames].sort(),
+      { ...Object.fromEntries(names), portrait: [...portraitForms].sort() },
+      [...glyphs, ...bare],
+    ];
+  });
+  assert.deepEqual(icons, await listed("icons.h", "icons"));
+  for (const [kind, names] of Object.entries(forms)) {
+    assert.deepEqual(names, await listed("pictures.h", `${kind}Forms`), kind);
+  }
+  assert.deepEqual(empty, []);
+  assert.deepEqual(faults, []);
+  await context.close();
+});
+
+test("a picture follows from its name, and an unknown form still gives one", async () => {
+  const { page, context, faults } = await stage.open();
+  const [same, shirts, unknown, plain] = await page.evaluate(() => {
+    const { drawing, forms } = window.stage;
+    const shirts = Array.from({ length: 100 }, (_, i) => drawing("object", `shirt:Tour ${i}`));
+    const unknown = Object.keys(forms).map((kind) => drawing(kind, "toString:Heron").includes(`picture ${kind}`));
+    return [
+      drawing("scene", "modern:12 Cliff Road") === drawing("scene", "modern:12 Cliff Road"),
+      new Set(shirts).size,
+      unknown,
+      drawing("object", "no form at all").includes("<svg"),
+    ];
+  });
+  assert.ok(same && plain);
+  assert.ok(shirts > 90, `only ${shirts} of 100 shirts differ`);
+  assert.deepEqual(unknown, [true, true, true, true]);
+  assert.deepEqual(faults, []);
+  await context.close();
+});
+
+test("a portrait suits its name, and a name keeps its skin through life", async () => {
+  const { page, context, faults } = await stage.open();
+  const [told, skins] = await page.evaluate(() => {
+    const { presentationOf, portrait } = window.stage;
+    const names = [
+      "Mina Sol",
+      "Freya Nightly",
+      "Luz Carmina",
+      "Nova Reyes",
+      "Zoë",
+      "Low Tide Larry",
+      "King Solace",
+      "Luca",
+    ];
+    const skinOf = (named) => /fill="(#\w+)"/.exec(portrait(named))[1];
+    return [
+      names.map(presentationOf),
+      ["baby", "girl", "teenGirl", "woman", "oldWoman"].map((age) => skinOf(`${age}:Ada`)),
+    ];
+  });
+  assert.deepEqual(told, ["woman", "woman", "woman", "woman", "woman", "man", "man", "man"]);
+  assert.equal(new Set(skins).size, 1);
+  assert.deepEqual(faults, []);
+  await context.close();
+});
+
+test("pictures come after the screen, with who is seen in them", async () => {
+  const { page, context, faults } = await stage.open();
+  const item = (kind, name) => ({ picture: { kind, name }, title: name.split("\n")[0] });
+  await show(page, {
+    ...screens.home,
+    view: {
+      ...screens.home.view,
+      blocks: [
+        {
+          kind: "rows",
+          items: [
+            item("object", "shirt:Tour Shirt 2031"),
+            item("scene", "modern:12 Cliff Road"),
+            item("still", "cinematic:Paper Lanterns\nNova Reyes"),
+            item("mark", "kite:Kite House"),
+            item("icon", "yacht"),
+            item("person", "girl:Ada"),
+          ],
+        },
+      ],
+    },
+  });
+  for (const kind of ["object", "scene", "still", "mark"]) await page.locator(`.row .picture.${kind} > svg`).waitFor();
+  await page.locator('.row .still image[href^="data:image/svg+xml"]').waitFor();
+  await page.locator(".row .person img").waitFor();
+  await page.locator("#glyph-yacht > *").first().waitFor({ state: "attached" });
   assert.deepEqual(faults, []);
   await context.close();
 });
 
 test("a sleeve follows from its name, and names make many sleeves", async () => {
   const { page, context, faults } = await stage.open();
-  const [same, different] = await page.evaluate(() => {
+  const [same, different, rivers] = await page.evaluate(() => {
     const { sleeve } = window.stage;
     const many = Array.from({ length: 300 }, (_, i) => sleeve(`Song ${i}`));
-    return [sleeve("Paper Lanterns") === sleeve("Paper Lanterns"), new Set(many).size];
+    const wavy = (title) => sleeve(title).match(/<path d="M0 \d+C25/g)?.length;
+    return [
+      sleeve("Paper Lanterns") === sleeve("Paper Lanterns"),
+      new Set(many).size,
+      ["Glass Rivers", "Low Tide"].map(wavy),
+    ];
   });
   assert.ok(same);
+  assert.deepEqual(rivers, [4, 4], "a title that tells of water shows waves");
   assert.ok(different > 200, `only ${different} of 300 sleeves differ`);
   assert.deepEqual(faults, []);
   await context.close();

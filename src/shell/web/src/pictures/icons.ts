@@ -72,10 +72,79 @@ const named: Record<string, [drawing: string, tint: Tint]> = {
   hourglass: [glyphs.hourglass, "gray"],
 };
 
+/**
+ * Tints of the glyphs whose drawings come when the first of them is asked for: they are not on the first screens, and
+ * weigh as much as all others.
+ */
+export const lateTints = {
+  play: "red",
+  film: "red",
+  eye: "gray",
+  thumb: "blue",
+  bell: "red",
+  shirt: "pink",
+  bag: "pink",
+  store: "orange",
+  factory: "gray",
+  card: "green",
+  map: "green",
+  place: "red",
+  van: "orange",
+  bus: "orange",
+  plane: "blue",
+  yacht: "teal",
+  rocket: "red",
+  skyline: "indigo",
+  key: "yellow",
+  bed: "blue",
+  bath: "teal",
+  area: "gray",
+  land: "green",
+  speed: "red",
+  shield: "teal",
+  gavel: "orange",
+  scale: "blue",
+  ear: "teal",
+  handshake: "green",
+  news: "blue",
+  fall: "red",
+  up: "green",
+  down: "red",
+  medal: "yellow",
+  ribbon: "yellow",
+  podium: "yellow",
+  statuette: "yellow",
+  envelope: "orange",
+  ring: "pink",
+  rose: "red",
+  wine: "purple",
+  message: "pink",
+  pass: "gray",
+  heartBroken: "gray",
+  heartHalf: "pink",
+  pram: "orange",
+  flower: "pink",
+  balloon: "red",
+  family: "orange",
+  tombstone: "gray",
+  share: "blue",
+  clock: "gray",
+  coffee: "orange",
+  pizza: "red",
+  gym: "indigo",
+  bicycle: "green",
+  games: "purple",
+  beer: "yellow",
+  sun: "yellow",
+  paw: "orange",
+  equalizer: "teal",
+} satisfies Record<string, Tint>;
+
+export type LateGlyph = keyof typeof lateTints;
+
 /** Glyphs of the page's own furniture. */
 const furniture: Record<string, string> = {
   back: glyphs.chevronBack,
-  play: glyphs.play,
   stop: glyphs.stop,
   more: glyphs.ellipsisHorizontal,
   comment: glyphs.chatbubbleOutline,
@@ -86,27 +155,56 @@ const furniture: Record<string, string> = {
   share: glyphs.shareOutline,
 };
 
+const isLate = (name: string): name is LateGlyph => Object.hasOwn(lateTints, name);
+
+export const iconNames: readonly string[] = [...Object.keys(named), ...Object.keys(lateTints)];
+
 /** Whether a screen may name this glyph. */
 export function isIcon(name: string): boolean {
-  return Object.hasOwn(named, name);
+  return Object.hasOwn(named, name) || isLate(name);
 }
 
 /** The tint of a named glyph's tile. */
 export function tintOf(name: string): Tint {
-  return isIcon(name) ? named[name]![1] : "gray";
+  if (isLate(name)) return lateTints[name];
+  return Object.hasOwn(named, name) ? named[name]![1] : "gray";
 }
 
 /** A glyph in the colour of the text around it; nothing for an unknown name. */
 export function glyph(name: string): TemplateResult | typeof nothing {
   if (!isIcon(name) && !Object.hasOwn(furniture, name)) return nothing;
+  bring(name);
   return html`<svg class="glyph" aria-hidden="true"><use href=${`#glyph-${name}`}></use></svg>`;
 }
 
-/** Puts all drawings into the document once; a glyph refers to its drawing there. */
+let coming: Promise<void> | null = null;
+
+/** Sees to it that the drawing of a glyph is there, or soon will be. */
+export function bring(name: string): void {
+  if (isLate(name)) void installLateGlyphs();
+}
+
+export function installLateGlyphs(): Promise<void> {
+  coming ??= import("./late-glyphs").then(
+    ({ lateDrawings }) => install(Object.entries(lateDrawings)),
+    () => {
+      coming = null; // the next glyph tries again
+    },
+  );
+  return coming;
+}
+
+/** Puts the drawings of the first screens into the document; a glyph refers to its drawing there. */
 export function installGlyphs(): void {
-  const drawings = [...Object.entries(named).map(([name, [drawing]]) => [name, drawing]), ...Object.entries(furniture)];
+  install([
+    ...Object.entries(named).map(([name, [drawing]]): [string, string] => [name, drawing]),
+    ...Object.entries(furniture),
+  ]);
+}
+
+function install(drawings: [name: string, drawing: string][]): void {
   const symbols = drawings.map(([name, drawing]) => {
-    const inner = drawing!.slice(drawing!.indexOf(">", drawing!.indexOf("<svg")) + 1, drawing!.lastIndexOf("</svg>"));
+    const inner = drawing.slice(drawing.indexOf(">", drawing.indexOf("<svg")) + 1, drawing.lastIndexOf("</svg>"));
     return `<symbol id="glyph-${name}" viewBox="0 0 512 512" stroke="currentColor">${inner}</symbol>`;
   });
   const sheet = document.createElement("div");

@@ -5,7 +5,10 @@ import { setAppearance } from "../../src/appearance";
 import type { Player } from "../../src/game";
 import { hookLength, tuneOf } from "../../src/hooks/tune";
 import { Messages } from "../../src/messages";
-import { installGlyphs, isIcon } from "../../src/pictures/icons";
+import { drawing, forms } from "../../src/pictures/drawings";
+import { iconNames, installGlyphs, installLateGlyphs } from "../../src/pictures/icons";
+import { portrait, portraitForms } from "../../src/pictures/portraits";
+import { presentationOf } from "../../src/pictures/people";
 import { sleeve } from "../../src/pictures/sleeves";
 import type { Answer } from "../../src/protocol";
 import { Save } from "../../src/save";
@@ -43,7 +46,21 @@ function show(answer: Answer): void {
 setAppearance("system");
 installGlyphs();
 
-const stage = { show, player, Save, isIcon, sleeve, tuneOf, hookLength };
+const stage = {
+  show,
+  player,
+  Save,
+  iconNames,
+  installLateGlyphs,
+  forms,
+  drawing,
+  portrait,
+  portraitForms,
+  presentationOf,
+  sleeve,
+  tuneOf,
+  hookLength,
+};
 declare global {
   interface Window {
     stage: typeof stage;

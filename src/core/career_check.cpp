@@ -1,0 +1,270 @@
+#include "core/career_check.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <functional>
+#include <map>
+#include <type_traits>
+
+#include "core/numbers.h"
+
+namespace backbeat {
+
+namespace {
+
+struct NamedBounds {
+  std::string_view key;
+  Bounds bounds;
+};
+
+// Whole numbers stay exact in a double up to 2^53, about 9e15.
+constexpr Bounds anyWhole = {-1e12, 1e12};
+constexpr Bounds anyReal = {-1e15, 1e15};
+
+/// What is closer drawn than the rest. A calendar of a hundred thousand years is enough for any dynasty.
+constexpr NamedBounds boundsOfScalars[] = {
+    {"weekNumber", {1, 52}},
+    {"yearNumber", {2023, 100'000}},
+    {"weekNumberForTracking", {1, 5'200'000}},
+    {"totalCashAvailable", {-1e18, 1e18}},
+    {"totalEnergyAvailable", {-1e9, 1e9}},
+    {"totalEnergyMax", {-1e9, 1e9}},
+    {"permanentEnergyUpgrade", {0, 1e6}},
+    {"totalFans", {0, 1e11}},
+};
+
+constexpr NamedBounds boundsOfFields[] = {
+    {"year", {0, 100'000}},
+    {"yearNumber", {0, 100'000}},
+    {"releaseYear", {0, 100'000}},
+    {"yearDebut", {0, 100'000}},
+    {"yearCurrent", {0, 100'000}},
+    {"weekNumber", {0, 5'200'000}},
+    {"releaseWeek", {0, 5'200'000}},
+    {"productionRating", {-1e4, 1e4}},
+    {"viralityScore", {-300, 300}},
+    {"marketingScore", {-1e4, 1e4}},
+    {"streamPayRate", {-1e3, 1e3}},
+    {"percentageOfEarnings", {-1e3, 1e3}},
+    {"labelPercentageRate", {-1e3, 1e3}},
+    {"labelStreamingRate", {-1e3, 1e3}},
+};
+
+template <size_t count>
+Bounds boundsIn(const NamedBounds (&table)[count], std::string_view key, bool isWhole) {
+  const auto found =
+      std::find_if(std::begin(table), std::end(table), [&](const NamedBounds& each) { return each.key == key; });
+  if (found != std::end(table)) return found->bounds;
+  return isWhole ? anyWhole : anyReal;
+}
+
+/// One number of a record, wherever in it: its field and bounds.
+struct Number {
+  std::string_view key;
+  size_t offset = 0;
+  bool isWhole = false;
+  Bounds bounds;
+
+  double in(const void* record) const {
+    const char* at = static_cast<const char*>(record) + offset;
+    return isWhole ? static_cast<double>(*reinterpret_cast<const int64_t*>(at)) : *reinterpret_cast<const double*>(at);
+  }
+  void put(void* record, double value) const {
+    char* at = static_cast<char*>(record) + offset;
+    if (isWhole) {
+      *reinterpret_cast<int64_t*>(at) = static_cast<int64_t>(value);
+    } else {
+      *reinterpret_cast<double*>(at) = value;
+    }
+  }
+};
+
+std::vector<Number> numbersOf(const ValueType& record) {
+  std::vector<Number> numbers;
+  for (const FieldType& field : record.fields) {
+    const bool isWhole = field.type.kind == ValueType::Kind::integer;
+    if (!isWhole && field.type.kind != ValueType::Kind::real && field.type.kind != ValueType::Kind::date) continue;
+    numbers.push_back({field.key, field.offset, isWhole, boundsOfField(field.key, isWhole)});
+  }
+  return numbers;
+}
+
+double nearest(const Bounds& bounds, double value) {
+  return std::clamp(std::isnan(value) ? 0.0 : value, bounds.least, bounds.most);
+}
+
+/// The numbers of a record, and its lists of records, which have some of their own.
+struct Shape {
+  explicit Shape(const ValueType& record) : numbers(numbersOf(record)) {
+    for (const FieldType& field : record.fields) {
+      const bool holdsRecords =
+          field.type.kind == ValueType::Kind::list && field.type.item->kind == ValueType::Kind::record;
+      if (holdsRecords) lists.push_back(field);
+    }
+  }
+
+  std::vector<Number> numbers;
+  std::vector<FieldType> lists;
+};
+
+using Records = std::vector<const void*>;
+
+/// The items of a list of records, a vector of type `list`.
+Records itemsOf(const ValueType& list, const void* from) {
+  Records records(list.count(from));
+  const auto* first = static_cast<const char*>(list.items(from));
+  for (size_t i = 0; i < records.size(); ++i) records[i] = first + i * list.item->size;
+  return records;
+}
+
+/// Calls `visit` with each number that is out of its bounds, the record that holds it, and which of `records` that is
+/// or is inside of.
+void forEachUnbearable(const ValueType& record, const Records& records,
+                       const std::function<void(const Number&, const void*, size_t)>& visit) {
+  const Shape shape(record);
+  for (size_t i = 0; i < records.size(); ++i) {
+    for (const Number& number : shape.numbers) {
+      if (!number.bounds.hold(number.in(records[i]))) visit(number, records[i], i);
+    }
+    for (const FieldType& field : shape.lists) {
+      const void* inner = static_cast<const char*>(records[i]) + field.offset;
+      forEachUnbearable(*field.type.item, itemsOf(field.type, inner),
+                        [&](const Number& number, const void* where, size_t) { visit(number, where, i); });
+    }
+  }
+}
+
+std::string readable(double value) {
+  if (std::isnan(value)) return "not a number";
+  if (std::trunc(value) == value && std::abs(value) < 1e15) return std::to_string(static_cast<int64_t>(value));
+  return std::isinf(value) ? (value > 0 ? "endless" : "-endless") : std::to_string(value);
+}
+
+template <class T>
+constexpr bool isNumber = std::is_same_v<T, int64_t> || std::is_same_v<T, double>;
+
+/// Calls `visit(scalar, value&, bounds)` for each number among the scalars that is out of its bounds.
+template <class State, class Visit>
+void forEachUnbearableScalar(State& state, const Visit& visit) {
+  for (const Scalar& scalar : scalars) {
+    std::visit(
+        [&](auto member) {
+          using Value = std::remove_cvref_t<decltype(state.*member)>;
+          if constexpr (isNumber<Value>) {
+            const Bounds bounds = boundsOfScalar(scalar.key, std::is_same_v<Value, int64_t>);
+            if (!bounds.hold(static_cast<double>(state.*member))) visit(scalar, state.*member, bounds);
+          }
+        },
+        scalar.member);
+  }
+}
+
+/// A list whose records have ids of their own, and the counter of those given out. Children and awards are not among
+/// them: their counters begin anew with each launch.
+template <class T>
+struct Ids {
+  const char* what;  ///< "songs"
+  RecordList<T> GameState::*list;
+  int64_t T::*id;
+  int64_t GameState::*counter;
+  int64_t firstOwn = 1;  ///< below it ids are shared: the built-in album of singles has 0
+};
+
+template <class T>
+void reconcileIds(GameState& state, const Ids<T>& ids, Reconciled& found) {
+  std::vector<int64_t> given;
+  for (const T& record : state.*ids.list) {
+    if (record.*ids.id < 0) found.refusal = std::string("One of the ") + ids.what + " has an id below 0.";
+    if (record.*ids.id >= ids.firstOwn) given.push_back(record.*ids.id);
+  }
+  std::sort(given.begin(), given.end());
+  const auto twice = std::adjacent_find(given.begin(), given.end());
+  if (twice != given.end()) {
+    found.refusal = std::string("Two of the ") + ids.what + " have the id " + std::to_string(*twice) + ".";
+  }
+  if (given.empty() || given.back() <= state.*ids.counter) return;
+  state.*ids.counter = given.back();
+  found.mended.push_back(std::string("The counter of the ") + ids.what + " stood behind them and was raised.");
+}
+
+/// An album in production holds the songs that are on it, and may count singles that were made when no other album was
+/// there. What is out may have lost songs to Optimize.
+void countSongs(GameState& state, Reconciled& found) {
+  std::map<int64_t, int64_t> songs;
+  for (const Song& song : state.saveAllSongList) songs[song.albumId] += 1;
+  const auto all = static_cast<int64_t>(state.saveAllSongList.size());
+  for (size_t i = 0; i < state.saveAllAlbumList.size(); ++i) {
+    const Album& album = state.saveAllAlbumList[i];
+    const int64_t counted = songs[album.albumId];
+    const bool possible = album.songCount >= counted && album.songCount <= all;
+    if (album.isReleased || album.albumId == 0 || possible) continue;
+    found.mended.push_back("The songs on " + album.title + " were counted anew: " + std::to_string(counted) + ".");
+    state.saveAllAlbumList.update(i, [&](Album& changed) { changed.songCount = counted; });
+  }
+}
+
+}  // namespace
+
+Bounds boundsOfScalar(std::string_view key, bool isWhole) { return boundsIn(boundsOfScalars, key, isWhole); }
+Bounds boundsOfField(std::string_view key, bool isWhole) { return boundsIn(boundsOfFields, key, isWhole); }
+
+std::vector<std::string> unbearableValues(const GameState& state, size_t most) {
+  std::vector<std::string> found;
+  const auto tell = [&](std::string text) {
+    if (found.size() < most) found.push_back(std::move(text));
+  };
+  forEachUnbearableScalar(state, [&](const Scalar& scalar, auto value, const Bounds&) {
+    tell(std::string(scalar.key) + " is " + readable(static_cast<double>(value)));
+  });
+  for (const auto& [key, list] : listsOf(state)) {
+    forEachUnbearable(*list.type().item, list.records(),
+                      [&, name = key](const Number& number, const void* at, size_t i) {
+                        tell(std::string(name) + ", entry " + std::to_string(i + 1) + ": " + std::string(number.key) +
+                             " is " + readable(number.in(at)));
+                      });
+  }
+  return found;
+}
+
+size_t mendRecords(const ValueType& type, void* records) {
+  size_t mended = 0;
+  forEachUnbearable(*type.item, itemsOf(type, records), [&](const Number& number, const void* at, size_t) {
+    number.put(const_cast<void*>(at), nearest(number.bounds, number.in(at)));
+    ++mended;
+  });
+  return mended;
+}
+
+std::vector<std::string> mendScalars(GameState& state) {
+  std::vector<std::string> keys;
+  forEachUnbearableScalar(state, [&](const Scalar& scalar, auto& value, const Bounds& bounds) {
+    value = static_cast<std::remove_cvref_t<decltype(value)>>(nearest(bounds, static_cast<double>(value)));
+    keys.emplace_back(scalar.key);
+  });
+  return keys;
+}
+
+Reconciled reconcile(GameState& state) {
+  Reconciled found;
+  const auto check = [&](const auto&... ids) { (reconcileIds(state, ids, found), ...); };
+  check(Ids<Song>{"songs", &GameState::saveAllSongList, &Song::songId, &GameState::songId},
+        Ids<Album>{"albums", &GameState::saveAllAlbumList, &Album::albumId, &GameState::albumId},
+        Ids<MusicVideo>{"videos", &GameState::saveAllMusicVideoList, &MusicVideo::videoId, &GameState::musicVideoId},
+        Ids<FeaturedOn>{"verses", &GameState::saveAllFeaturedOnList, &FeaturedOn::songId, &GameState::featuredOnSongId},
+        Ids<Festival>{"festivals", &GameState::saveAllFestivalList, &Festival::id, &GameState::festivalId},
+        Ids<Merch>{"products", &GameState::saveAllMerchReleasedList, &Merch::merchId, &GameState::merchId},
+        Ids<Employee>{"staff", &GameState::saveAllEmployeeList, &Employee::employeeId, &GameState::employeeId},
+        Ids<SignedArtist>{"signed artists", &GameState::saveAllSignedArtistList, &SignedArtist::artistId,
+                          &GameState::signedArtistId},
+        Ids<SignedArtistSong>{"label's songs", &GameState::saveAllSignedArtistSongList, &SignedArtistSong::songId,
+                              &GameState::signedArtistSongId},
+        Ids<SignedArtistAlbum>{"label's albums", &GameState::saveAllSignedArtistAlbumList, &SignedArtistAlbum::albumId,
+                               &GameState::signedArtistAlbumId},
+        Ids<Matches>{"matches", &GameState::saveAllMatchesList, &Matches::matchId, &GameState::matchId},
+        Ids<Chirp>{"Chirps", &GameState::saveAllChirpList, &Chirp::id, &GameState::chirpId});
+  countSongs(state, found);
+  return found;
+}
+
+}  // namespace backbeat

@@ -1,0 +1,59 @@
+#include "music/segues.h"
+
+#include "music/screens/add_to_album_view_controller.h"
+#include "music/screens/album_chart_detail_view_controller.h"
+#include "music/screens/album_detail_view_controller.h"
+#include "music/screens/artist_profile_view_controller.h"
+#include "music/screens/billboard_view_controller.h"
+#include "music/screens/certification_view_controller.h"
+#include "music/screens/change_names_view_controllers.h"
+#include "music/screens/create_a_song_view_controller.h"
+#include "music/screens/create_an_album_view_controller.h"
+#include "music/screens/enter_name_view_controller.h"
+#include "music/screens/featuring_view_controller.h"
+#include "music/screens/monthly_listener_detail_view_controller.h"
+#include "music/screens/set_album_marketing_view_controller.h"
+#include "music/screens/set_album_pricing_view_controller.h"
+#include "music/screens/song_chart_detail_view_controller.h"
+#include "music/screens/song_detail_view_controller.h"
+
+namespace backbeat {
+
+namespace {
+
+using enum Segue::Presentation;
+
+template <MarketingTarget::Kind kind>
+std::unique_ptr<Screen> makeMarketing(Game& game, std::string_view argument) {
+  const MarketingTarget target{kind, wholeNumber(argument).value_or(-1)};
+  return std::make_unique<SetAlbumMarketingViewController>(game, target);
+}
+
+constexpr Segue segues[] = {
+    {"goToEnterName", "EnterNameViewController", modal, makeScreen<EnterNameViewController>},
+    {"goToCreateASong", "CreateASongViewController", push, makeScreen<CreateASongViewController>},
+    {"goToAddToAlbum", "AddToAlbumViewController", push, makeScreenWithId<AddToAlbumViewController>},
+    {"goToAlbumChartDetail", "AlbumChartDetailViewController", push, makeScreenWithId<AlbumChartDetailViewController>},
+    {"goToAlbumDetail", "AlbumDetailViewController", push, makeScreenWithId<AlbumDetailViewController>},
+    {"goToArtistProfile", "ArtistProfileViewController", push, makeScreen<ArtistProfileViewController>},
+    {"goToCertification", "CertificationViewController", push, makeScreen<CertificationViewController>},
+    {"goToCreateAnAlbum", "CreateAnAlbumViewController", push, makeScreen<CreateAnAlbumViewController>},
+    {"goToSetAlbumMarketing", "SetAlbumMarketingViewController", push, makeMarketing<MarketingTarget::Kind::album>},
+    {"goToSetSongMarketing", "SetAlbumMarketingViewController", push, makeMarketing<MarketingTarget::Kind::song>},
+    {"goToSetAlbumPricing", "SetAlbumPricingViewController", push, makeScreenWithId<SetAlbumPricingViewController>},
+    {"goToSongChartDetail", "SongChartDetailViewController", push, makeScreenWithId<SongChartDetailViewController>},
+    {"goToSongDetail", "SongDetailViewController", push, makeScreenWithId<SongDetailViewController>},
+    {"goToFeaturedArtists", "FeaturingViewController", push, makeScreen<FeaturingViewController>},
+    {"goToChangeFeaturedArtistName", "ChangeFeaturedArtistNameViewController", push,
+     makeScreenWithId<ChangeFeaturedArtistNameViewController>},
+    {"goToChangeCameoNames", "ChangeCameoNamesViewController", push, makeScreenWithId<ChangeCameoNamesViewController>},
+    {"goToBillboard", "BillboardViewController", push, makeScreen<BillboardViewController>},
+    {"goToMonthlyListenerDetail", "MonthlyListenerDetailViewController", push,
+     makeScreen<MonthlyListenerDetailViewController>},
+};
+
+}  // namespace
+
+const Room musicRoom = {.segues = segues};
+
+}  // namespace backbeat

@@ -1,0 +1,23 @@
+#include "shell/segues.h"
+
+#include "shell/screens/about_view_controller.h"
+#include "shell/screens/restore_view_controller.h"
+#include "shell/screens/settings_view_controller.h"
+
+namespace backbeat {
+
+namespace {
+
+using enum Segue::Presentation;
+
+constexpr Segue shellSegues[] = {
+    {"goToSettings", "SettingsViewController", push, makeScreen<SettingsViewController>},
+    {"goToRestore", "RestoreViewController", push, makeScreen<RestoreViewController>},
+    {"goToAbout", "AboutViewController", push, makeScreen<AboutViewController>},
+};
+
+}  // namespace
+
+const Room shellRoom = {.segues = shellSegues};
+
+}  // namespace backbeat

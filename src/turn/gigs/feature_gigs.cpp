@@ -1,0 +1,34 @@
+#include <algorithm>
+#include <vector>
+
+#include "career/skill.h"
+#include "music/guests.h"
+#include "turn/gigs/gigs.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr int64_t skillForFeatures = 30;
+
+}  // namespace
+
+bool skilledEnoughToFeature(const GameState& state) {
+  const int64_t skill = overallSkillRating(state);
+  const std::vector<FeaturedArtist> stars = guestTable(state);
+  return skill >= skillForFeatures && std::any_of(stars.begin(), stars.end(), [&](const FeaturedArtist& star) {
+           return star.rating <= static_cast<double>(skill);
+         });
+}
+
+const Gig featureRequest = {
+    .name = "Feature Request",
+    .icon = "guest",
+    .headline = "Somebody wants a verse",
+    .promise = "Your name on theirs.",
+    .price = {.energy = 25},
+    .refusal = "\nYou do not have enough energy to feature on a track.",
+    .notOpenYet = "Nobody has a track ready for you yet.",
+};
+
+}  // namespace backbeat
