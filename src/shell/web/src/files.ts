@@ -1,16 +1,18 @@
-/** How a career leaves the page and comes back: as a file in the player's hands. */
+/** How a career leaves the page and comes back, and how a picture leaves it: as a file in the player's hands. */
 
-export interface CareerFile {
+export interface HandedFile {
   name: string;
   bytes: Uint8Array<ArrayBuffer>;
+  /** what apps know it by; a career is nothing that they know */
+  type?: string;
 }
 
 /** What became of a file: handed to another app, put where downloads go, or kept back by the player. */
 export type Handed = "shared" | "downloaded" | "cancelled";
 
 /** Hands the player a file: through the device's share sheet where it takes such files, else as a download. */
-export async function handOver({ name, bytes }: CareerFile): Promise<Handed> {
-  const file = new File([bytes], name, { type: "application/octet-stream" });
+export async function handOver({ name, bytes, type = "application/octet-stream" }: HandedFile): Promise<Handed> {
+  const file = new File([bytes], name, { type });
   if (isTouched() && navigator.canShare?.({ files: [file] })) {
     try {
       await navigator.share({ files: [file], title: name });

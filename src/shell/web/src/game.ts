@@ -1,5 +1,5 @@
 import { Engine, EngineFault, loadEngineModule, type Import, type Reply } from "./engine";
-import type { CareerFile } from "./files";
+import type { HandedFile } from "./files";
 import { Messages } from "./messages";
 import type { Answer, PressScreen } from "./protocol";
 import { obey } from "./requests";
@@ -93,7 +93,7 @@ export class Game implements Player {
   }
 
   /** The career as a file; null when making it stopped the engine. */
-  careerFile(): CareerFile | null {
+  careerFile(): HandedFile | null {
     try {
       return this.engine?.careerFile() ?? null;
     } catch (fault) {
@@ -103,7 +103,7 @@ export class Game implements Player {
   }
 
   /** The stored career as a file, for when no engine runs on it. */
-  async storedCareerFile(): Promise<CareerFile> {
+  async storedHandedFile(): Promise<HandedFile> {
     return (await this.engineOnShelf()).careerFile();
   }
 

@@ -4,3 +4,8 @@ const stillness = matchMedia("(prefers-reduced-motion: reduce)");
 export function prefersStillness(): boolean {
   return stillness.matches;
 }
+
+/** A short tap in the hand; a pattern is ms of buzz and pause by turns. Browsers refuse it before the first touch. */
+export function tap(pattern: number | number[] = 8): void {
+  if (navigator.userActivation?.hasBeenActive) navigator.vibrate?.(pattern);
+}

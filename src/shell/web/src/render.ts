@@ -1,19 +1,20 @@
 import { html, type TemplateResult } from "lit";
+import { cardBlock, coverBlock } from "./blocks/cards";
 import "./blocks/chart";
-import "./blocks/figures";
 import { buttonBlock, choiceBlock, fieldBlock, photoBlock, toggleBlock } from "./blocks/controls";
-import {
-  cardBlock,
-  coverBlock,
-  emptyBlock,
-  headingBlock,
-  meterBlock,
-  postBlock,
-  tableBlock,
-  textBlock,
-  tilesBlock,
-} from "./blocks/plain";
+import "./blocks/deck";
+import "./blocks/figures";
+import { gaugesBlock } from "./blocks/gauges";
+import { billBlock, obituaryBlock } from "./blocks/paper";
+import { emptyBlock, headingBlock, meterBlock, postBlock, tableBlock, textBlock } from "./blocks/plain";
+import { posterBlock } from "./blocks/poster";
 import { picturesBlock, rowsBlock } from "./blocks/rows";
+import "./blocks/slider";
+import "./blocks/stepper";
+import { storyBlock } from "./blocks/story";
+import { tilesBlock } from "./blocks/tiles";
+import { treeBlock } from "./blocks/tree";
+import { companyAt } from "./company";
 import type { Block } from "./protocol";
 import type { Scene } from "./scene";
 
@@ -56,29 +57,35 @@ export function renderBlock(block: Block, scene: Scene): TemplateResult {
       return emptyBlock(block);
     case "photo":
       return photoBlock(block, scene);
-    default:
-      return html``;
+    case "slider":
+      return html`<bb-slider .slider=${block} .scene=${scene}></bb-slider>`;
+    case "stepper":
+      return html`<bb-stepper .stepper=${block} .scene=${scene}></bb-stepper>`;
+    case "poster":
+      return posterBlock(block);
+    case "bill":
+      return billBlock(block);
+    case "obituary":
+      return obituaryBlock(block);
+    case "story":
+      return storyBlock(block);
+    case "gauges":
+      return gaugesBlock(block, scene);
+    case "deck":
+      return html`<bb-deck class="deck-block" .deck=${block} .scene=${scene}></bb-deck>`;
+    case "tree":
+      return treeBlock(block, scene);
   }
 }
 
-/** All blocks in reading order; controls that follow each other share one card. */
+/** All blocks in reading order; some that follow each other share one card. */
 export function renderBlocks(blocks: Block[], scene: Scene): TemplateResult[] {
   const drawn: TemplateResult[] = [];
   for (let i = 0; i < blocks.length;) {
-    let end = i + 1;
-    if (isLine(blocks[i]!)) {
-      while (end < blocks.length && isLine(blocks[end]!)) end += 1;
-      const lines = blocks.slice(i, end).map((block) => renderBlock(block, scene));
-      drawn.push(html`<div class="group lines">${lines}</div>`);
-    } else {
-      drawn.push(renderBlock(blocks[i]!, scene));
-    }
-    i = end;
+    const company = companyAt(blocks, i, scene.theme);
+    const together = blocks.slice(i, i + company.length).map((block) => renderBlock(block, scene));
+    drawn.push(company.look ? html`<div class=${company.look}>${together}</div>` : together[0]!);
+    i += company.length;
   }
   return drawn;
-}
-
-function isLine(block: Block): boolean {
-  if (block.kind === "choice") return block.style !== "segments";
-  return block.kind === "field" || block.kind === "photo" || block.kind === "toggle" || block.kind === "meter";
 }

@@ -32,7 +32,7 @@ export async function showRescue(game: Game, text = advice): Promise<void> {
 
 async function exportCareer(game: Game, tell: (text: string) => void): Promise<void> {
   try {
-    const file = await game.storedCareerFile();
+    const file = await game.storedHandedFile();
     if ((await handOver(file)) === "downloaded") tell(`Saved as ${file.name}.`);
   } catch (fault) {
     console.warn("The career could not be exported.", fault);

@@ -1,4 +1,4 @@
-import type { Price, Tone } from "./protocol";
+import type { Price, Theme, Tone } from "./protocol";
 
 /** One line of a sheet. */
 export interface SheetItem {
@@ -21,6 +21,8 @@ export interface SheetContent {
 export interface Scene {
   /** The key of the screen, to name what must be unique in the page. */
   readonly key: number;
+  /** The face of the app that the screen belongs to. */
+  readonly theme: Theme;
   press(id: string, value?: string): void;
   open(sheet: SheetContent): void;
 }

@@ -2,6 +2,7 @@ import { html, nothing, type TemplateResult } from "lit";
 import { live } from "lit/directives/live.js";
 import type { ButtonData, Choice, PhotoField, TextField, Toggle } from "../protocol";
 import type { Scene } from "../scene";
+import { pictureStrip, planCards } from "./choices";
 import { pricePill, toneClass } from "./parts";
 import "./photo-field";
 import "./text-field";
@@ -41,9 +42,18 @@ export function toggleBlock({ id, label, on, note }: Toggle, scene: Scene): Temp
   </label>`;
 }
 
-/** One of several: segments side by side, or a line that opens the list of options. */
+/** One of several: segments side by side, plans, a strip of pictures, or a line that opens the list of options. */
 export function choiceBlock(choice: Choice, scene: Scene): TemplateResult {
-  return choice.style === "segments" ? segments(choice, scene) : optionLine(choice, scene);
+  switch (choice.style) {
+    case "segments":
+      return segments(choice, scene);
+    case "cards":
+      return planCards(choice, scene);
+    case "pictures":
+      return pictureStrip(choice, scene);
+    default:
+      return optionLine(choice, scene);
+  }
 }
 
 function segments({ id, label, options = [], selected = 0 }: Choice, scene: Scene): TemplateResult {

@@ -1,6 +1,7 @@
 import { html, LitElement, nothing, type PropertyValues, type TemplateResult } from "lit";
 import { prefersStillness } from "../motion";
 import type { Figure, Figures } from "../protocol";
+import { between } from "./counting";
 import { toneClass } from "./parts";
 
 const duration = 600;
@@ -39,6 +40,7 @@ class FiguresElement extends LitElement {
 
   protected override render(): TemplateResult {
     const { title, items = [], total, style } = this.figures;
+    if (style === "pair") return html`<div class="pair">${items.map((figure) => this.card(figure))}</div>`;
     return html`<section class="figures card ${style ?? "ledger"}">
       ${title ? html`<h3 dir="auto">${title}</h3>` : nothing}
       ${
@@ -59,6 +61,14 @@ class FiguresElement extends LitElement {
     </div>`;
   }
 
+  private card(figure: Figure): TemplateResult {
+    return html`<section class="pair-figure card ${toneClass(figure.tone)}">
+      <span class="figure-label" dir="auto">${figure.label}</span>
+      <span class="figure-value" style="--letters:${figure.value?.length ?? 1}">${this.counted(figure)}</span>
+      ${figure.note ? html`<span class="figure-note" dir="auto">${figure.note}</span>` : nothing}
+    </section>`;
+  }
+
   private line(figure: Figure, role: string): TemplateResult {
     return html`<div class="ledger-line ${role} ${toneClass(figure.tone)}">
       <dt dir="auto">
@@ -69,7 +79,7 @@ class FiguresElement extends LitElement {
   }
 
   private counted({ value = "" }: Figure): string {
-    return this.share < 1 ? partOf(value, this.share) : value;
+    return this.share < 1 ? between("", value, this.share) : value;
   }
 
   private begin(): void {
@@ -93,15 +103,6 @@ class FiguresElement extends LitElement {
     removeEventListener("keydown", this.finish, { capture: true });
     this.share = 1;
   };
-}
-
-/** The same text with its number at a part of the way: "$1,250" at a half is "$625". */
-function partOf(value: string, share: number): string {
-  return value.replace(/\d[\d,]*(\.\d+)?/, (number, decimals: string | undefined) => {
-    const places = decimals ? decimals.length - 1 : 0;
-    const part = Number(number.replaceAll(",", "")) * share;
-    return part.toLocaleString("en-US", { minimumFractionDigits: places, maximumFractionDigits: places });
-  });
 }
 
 customElements.define("bb-figures", FiguresElement);

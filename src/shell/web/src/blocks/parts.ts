@@ -1,6 +1,6 @@
 import { html, nothing, type TemplateResult } from "lit";
 import { glyph } from "../pictures/icons";
-import type { Price, RowAction, Tone } from "../protocol";
+import type { Fact, MeterData, Price, RowAction, Tone } from "../protocol";
 import type { Scene } from "../scene";
 
 type Part = TemplateResult | typeof nothing;
@@ -53,4 +53,51 @@ export function actionMenu(actions: RowAction[] | undefined, of: string, scene: 
   >
     ${glyph("more")}
   </button>`;
+}
+
+/** The tone of a figure out of a hundred: the same four bands wherever something is rated. */
+export function bandOf(rating: number): Tone {
+  if (rating < 25) return "bad";
+  if (rating < 50) return "warning";
+  return rating < 80 ? "fair" : "good";
+}
+
+/** A figure and the words that belong to it: of "$189 a week" the first is large. */
+export function figureAndWords(text: string): TemplateResult {
+  const [figure, ...words] = text.split(" ");
+  return html`<b dir="auto">${figure}</b
+    >${words.length > 0 ? html` <small dir="auto">${words.join(" ")}</small>` : nothing}`;
+}
+
+/** As many lamps as a meter has steps; the last one lit may be lit in part. */
+export function lamps({ label, share = 0, steps = 0 }: MeterData): TemplateResult {
+  const lit = Math.min(1, Math.max(0, share)) * steps;
+  const step = (i: number): TemplateResult =>
+    html`<i
+      style="--fill:${Math.round(Math.min(1, Math.max(0, lit - i)) * 100)}%;--at:${i / Math.max(1, steps - 1)}"
+    ></i>`;
+  return html`<span
+    class="lamps ${steps > 20 ? "many" : ""}"
+    role="meter"
+    aria-label=${label || "Level"}
+    aria-valuemin="0"
+    aria-valuemax=${steps}
+    aria-valuenow=${Math.round(lit)}
+    style="--steps:${steps}"
+    >${Array.from({ length: steps }, (_, i) => step(i))}</span
+  >`;
+}
+
+/** Small facts as pairs of what they are and what they say. */
+export function factList(facts: Fact[] | undefined, look: string): Part {
+  if (!facts?.length) return nothing;
+  return html`<dl class=${look}>
+    ${facts.map(
+      ({ icon, label, value, tone }) =>
+        html`<div class=${toneClass(tone)}>
+          <dt dir="auto">${icon ? glyph(icon) : nothing}${label}</dt>
+          <dd dir="auto">${value}</dd>
+        </div>`,
+    )}
+  </dl>`;
 }

@@ -4,28 +4,73 @@ import { glyph } from "../pictures/icons";
 import type { PictureGrid, Row, Rows } from "../protocol";
 import type { Scene } from "../scene";
 import { actionMenu, badge, bar, pricePill, toneClass } from "./parts";
+import { film, shelfItem, stop, stripItem, wireLine } from "./row-styles";
+import { spark } from "./spark";
 
 const longList = 100;
 
-/** A grouped list; a windowed one has ways to the rows before and after. */
+/** A list in any style; a windowed one has ways to the rows before and after. */
 export function rowsBlock(list: Rows, scene: Scene): TemplateResult {
   const { items = [], total = 0, from = 0, columns = [] } = list;
   if (items.length === 0 && total === 0) return html``;
-  const pictured = items.some((row) => hasPicture(row.picture));
   const end = from + items.length;
   return html`<div class="list ${columns.length > 0 ? "columned" : ""}">
     ${columns.length > 0 ? html`<p class="list-heads">${columns.map((head) => html`<span>${head}</span>`)}</p>` : nothing}
     ${from > 0 ? turnPage(list, "Earlier", Math.max(0, from - items.length), scene) : nothing}
-    <ul class="group ${pictured ? "pictured" : ""} ${items.length > longList ? "long" : ""}">
-      ${items.map((row) => html`<li class="row ${toneClass(row.tone)}">${rowLine(row, scene)}</li>`)}
-    </ul>
-    ${end < total ? turnPage(list, "More", end, scene) : nothing}
+    ${styled(list.style ?? "list", items, scene)} ${end < total ? turnPage(list, "More", end, scene) : nothing}
     ${
       total > items.length
         ? html`<p class="text caption">${count(from + 1)} to ${count(end)} of ${count(total)}</p>`
         : nothing
     }
   </div>`;
+}
+
+function styled(style: NonNullable<Rows["style"]>, items: Row[], scene: Scene): TemplateResult {
+  switch (style) {
+    case "shelf":
+      return html`<ul class="shelf">
+        ${items.map((row) => shelfItem(row, scene))}
+      </ul>`;
+    case "strip": {
+      // With nothing in it to press, the keys need the strip itself to scroll it.
+      const tab = items.some(({ id }) => id) ? nothing : "0";
+      return html`<ul class="strip ${stripLook(items)}" tabindex=${tab}>
+        ${items.map((row) => stripItem(row, scene))}
+      </ul>`;
+    }
+    case "route":
+      return html`<ol class="route card">
+        ${items.map((row) => stop(row, scene))}
+      </ol>`;
+    case "films":
+      return html`<ul class="films">
+        ${items.map((row) => film(row, scene))}
+      </ul>`;
+    case "wire":
+      return html`<ul class="wire">
+        ${items.map((row) => wireLine(row, scene))}
+      </ul>`;
+    case "list":
+      return grouped(items, scene);
+  }
+}
+
+function grouped(items: Row[], scene: Scene): TemplateResult {
+  const pictured = items.some((row) => hasPicture(row.picture));
+  return html`<ul class="group ${pictured ? "pictured" : ""} ${items.length > longList ? "long" : ""}">
+    ${items.map((row) => html`<li class="row ${toneClass(row.tone)} ${rowLook(row)}">${rowLine(row, scene)}</li>`)}
+  </ul>`;
+}
+
+const stripLook = (items: Row[]): string => `of-${items[0]?.picture?.kind ?? "none"}`;
+
+/** A row with a bar and a price is one that is taken and given back: its check mark sits on its picture. */
+const isTaken = ({ share, price }: Row): boolean => share !== undefined && price !== undefined;
+
+function rowLook(row: Row): string {
+  if (!isTaken(row)) return "";
+  return row.selected ? "taking taken" : "taking";
 }
 
 const count = (n: number): string => n.toLocaleString("en-US");
@@ -45,21 +90,29 @@ function rowLine(row: Row, scene: Scene): TemplateResult {
   return html`
     ${
       id
-        ? html`<button class="row-main" type="button" @click=${() => scene.press(id)}>${rowBody(row)}</button>`
-        : html`<div class="row-main">${rowBody(row)}</div>`
+        ? html`<button class="row-main" type="button" @click=${() => scene.press(id)}>${rowBody(row, scene)}</button>`
+        : html`<div class="row-main">${rowBody(row, scene)}</div>`
     }
     ${actionMenu(row.actions, title || "this row", scene)}
   `;
 }
 
-function rowBody(row: Row): TemplateResult {
+function rowBody(row: Row, scene: Scene): TemplateResult {
+  const taken = isTaken(row) && row.selected && hasPicture(row.picture);
   return html`
-    ${picture(row.picture)}
+    ${
+      taken
+        ? html`<span class="row-picture"
+            >${picture(row.picture)}<span class="taken-mark">${glyph("check")}</span></span
+          >`
+        : picture(row.picture)
+    }
     <span class="row-texts">
       <span class="row-title"><span class="clip" dir="auto">${row.title}</span>${badge(row.badge)}</span>
       ${row.subtitle ? html`<span class="row-subtitle" dir="auto">${row.subtitle}</span>` : nothing}
       ${row.share === undefined ? nothing : bar(row.share)}
     </span>
+    ${spark(row.points)}
     ${
       row.value || row.note
         ? html`<span class="row-ends">
@@ -70,9 +123,16 @@ function rowBody(row: Row): TemplateResult {
     }
     ${pricePill(row.price)}
     ${row.tone === "locked" ? html`<span class="row-mark">${glyph("lock")}<span class="unseen">locked</span></span>` : nothing}
-    ${row.selected ? html`<span class="row-mark chosen">${glyph("check")}<span class="unseen">selected</span></span>` : nothing}
+    ${row.selected ? selectedMark(taken, scene) : nothing}
     ${row.opens ? html`<span class="chevron" aria-hidden="true"></span>` : nothing}
   `;
+}
+
+/** At a gala the one that is marked has won. */
+function selectedMark(taken: boolean | undefined, { theme }: Scene): TemplateResult {
+  if (taken) return html`<span class="unseen">selected</span>`;
+  const [drawing, said] = theme === "gala" ? ["trophy", "winner"] : ["check", "selected"];
+  return html`<span class="row-mark chosen">${glyph(drawing)}<span class="unseen">${said}</span></span>`;
 }
 
 /** Pictures to choose one from. */

@@ -150,6 +150,9 @@ const furniture: Record<string, string> = {
   comment: glyphs.chatbubbleOutline,
   reChirp: glyphs.repeat,
   like: glyphs.heartOutline,
+  add: glyphs.add,
+  remove: glyphs.remove,
+  share: glyphs.shareOutline,
 };
 
 const isLate = (name: string): name is LateGlyph => Object.hasOwn(lateTints, name);

@@ -3,7 +3,6 @@ import { guard } from "lit/directives/guard.js";
 import { repeat } from "lit/directives/repeat.js";
 import { setAppearance } from "../appearance";
 import { BackGesture } from "../back-gesture";
-import { buttonBlock } from "../blocks/controls";
 import { tellDrafts } from "../drafts";
 import type { Player } from "../game";
 import type { Toast } from "../messages";
@@ -15,6 +14,7 @@ import type { Scene, SheetContent } from "../scene";
 import { Stack, type Layer, type Step } from "../stack";
 import "./alert";
 import "./blocks";
+import { dock, moodOf } from "./dock";
 import { EdgeSwipe } from "./edge-swipe";
 import "./sheet";
 import { shakeEnergy, statusRow } from "./status";
@@ -127,7 +127,7 @@ class AppElement extends LitElement {
     const top = place === "top";
     const endWeek = top && answer.endWeek;
     return html`<section
-      class="layer ${place} ${layer.modal ? "modal" : ""} theme-${view?.theme ?? "plain"}"
+      class="layer ${place} ${layer.modal ? "modal" : ""} theme-${view?.theme ?? "plain"} ${moodOf(view)}"
       data-screen=${view?.screen ?? nothing}
       aria-label=${view?.title || nothing}
       role=${top ? "main" : nothing}
@@ -137,14 +137,7 @@ class AppElement extends LitElement {
         <div class="page">
           ${this.topBar(layer, answer.header ?? {})} ${layer.pushed ? nothing : this.bigTitle(view)}
           <bb-blocks class="blocks" .view=${view} .scene=${this.sceneOf(layer)}></bb-blocks>
-          ${
-            view?.mainAction || endWeek
-              ? html`<div class="dock">
-                  ${view?.mainAction ? buttonBlock({ style: "primary", ...view.mainAction }, this.sceneOf(layer)) : nothing}
-                  ${endWeek ? this.endWeekButton() : nothing}
-                </div>`
-              : nothing
-          }
+          ${dock(view, this.sceneOf(layer), endWeek ? this.endWeekButton() : null)}
         </div>
       </div>
     </section>`;
@@ -226,6 +219,9 @@ class AppElement extends LitElement {
       const { key } = layer;
       scene = {
         key,
+        get theme() {
+          return layer.view?.theme ?? "plain";
+        },
         press: (id, value) => this.press(key, id, value),
         open: (sheet) => {
           tellDrafts();

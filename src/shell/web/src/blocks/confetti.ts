@@ -1,0 +1,44 @@
+import { html, LitElement, type TemplateResult } from "lit";
+import { drawsOf, pick } from "../pictures/chance";
+import { prefersStillness, tap } from "../motion";
+
+const pieces = 46;
+const fallMs = 1400;
+const colours = ["#fff", "#ffe27a", "#ffd1dc", "#7a0f4a", "#64d2ff"];
+
+/** One burst from the top, once; then the pieces lie where they fell. */
+class ConfettiElement extends LitElement {
+  static override properties = { seed: { attribute: false } };
+  declare seed: string;
+
+  protected override createRenderRoot(): this {
+    return this;
+  }
+
+  protected override render(): TemplateResult {
+    const draw = drawsOf(this.seed);
+    return html`${Array.from({ length: pieces }, () => {
+      const [x, y, turn, width] = [draw() * 100, draw() * 100, draw() * 180, 4 + draw() * 5];
+      const height = width * (1.4 + draw());
+      return html`<i
+        style="left:${x.toFixed(1)}%;top:${y.toFixed(1)}%;width:${width.toFixed(1)}px;height:${height.toFixed(1)}px;rotate:${turn.toFixed(0)}deg;opacity:${(0.55 + draw() * 0.45).toFixed(2)};background:${pick(colours, draw)}"
+      ></i>`;
+    })}`;
+  }
+
+  protected override firstUpdated(): void {
+    tap(20);
+    if (prefersStillness()) return;
+    const draw = drawsOf(`${this.seed} falls`);
+    for (const piece of this.querySelectorAll<HTMLElement>("i")) {
+      const from = `translate(${(draw() - 0.5) * 120}px, ${-180 - draw() * 160}px) rotate(${(draw() - 0.5) * 900}deg)`;
+      const duration = fallMs * (0.6 + draw() * 0.4);
+      piece.animate(
+        { transform: [from, "none"], opacity: ["0", "1", piece.style.opacity] },
+        { duration, easing: "ease-out" },
+      );
+    }
+  }
+}
+
+customElements.define("bb-confetti", ConfettiElement);
