@@ -181,7 +181,7 @@ TraceEvent RandomPlayer::unknownPress() {
 void RandomPlayer::note(const Shown& shown, const std::vector<Pressable>& offered) {
   const std::string screen(shown.screen);
   ++coverage_.segues[std::string(shown.segue)];
-  if (shown.alert) coverage_.alerts.insert(shown.alert->alert.title);
+  if (shown.alert) coverage_.alerts.insert(shown.alert->alert.from.name());
   for (const Pressable& pressable : offered) {
     if (pressable.screenKey != "alert")
       coverage_.actions.try_emplace({screen, std::string(pressable.action.verb())}, 0);
@@ -198,7 +198,9 @@ void RandomPlayer::play(const TraceEvent& event) {
   week_ = {state.weekNumberForTracking, state.totalCashAvailable, state.underContract};
   endingWeek_ = event.action.id == "endTheWeekButton";
   mark(traceLine(event));
+  oracle_.before(career_.session().shown(), state);
   career_.play(event);
+  pressFault_ = oracle_.after(event.screenKey, event.action, career_.session().shown(), state);
   const auto& unknown = career_.session().navigator().unknownSegues();
   coverage_.unknownSegues.insert(unknown.begin(), unknown.end());
 }
@@ -265,6 +267,7 @@ std::string RandomPlayer::goBackTo(const std::string& snapshot) {
 }
 
 std::string RandomPlayer::fault() {
+  if (!pressFault_.empty()) return std::exchange(pressFault_, "");
   const Session& session = career_.session();
   const bool weekEnded = endingWeek_ && session.game().state.weekNumberForTracking != week_.tracking;
   const bool due = stepsDone_ % checkEvery_ == 0 || weekEnded || std::exchange(justLaunched_, false);

@@ -15,6 +15,7 @@
 #include "core/memory_store.h"
 #include "core/random.h"
 #include "play/career_invariants.h"
+#include "play/press_oracle.h"
 #include "play/random_habits.h"
 #include "play/worlds.h"
 #include "shell/native/view_printer.h"
@@ -27,7 +28,7 @@ struct Coverage {
   std::map<std::string, int64_t> segues;  ///< how often what each leads to was shown; a tab's root under its name
   /// By screen and the part of the action before the colon: how often it was pressed. 0: offered, never pressed.
   std::map<std::pair<std::string, std::string>, int64_t> actions;
-  std::set<std::string> alerts;         ///< titles of those shown
+  std::set<std::string> alerts;         ///< names of the titles shown
   std::set<std::string> unknownSegues;  ///< asked for by a screen, registered by nobody
 
   void add(const Coverage& other);
@@ -95,6 +96,8 @@ class RandomPlayer {
   bool justLaunched_ = true;
   std::set<std::string_view> seen_;  ///< segues
   std::string lastLine_;
+  PressOracle oracle_;
+  std::string pressFault_;  ///< of the last press
   WeekBefore week_;
   bool endingWeek_ = false;  ///< the last press asked for the end of the week
   Coverage coverage_;
