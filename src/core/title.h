@@ -20,18 +20,18 @@ struct FixedText {
 /// One title in the chain of all that the program has; linked in before it begins.
 class TitleEntry {
  public:
-  TitleEntry(const char* text, const char* about) : text_(text), about_(about), next_(std::exchange(first_, this)) {}
+  TitleEntry(const char* text, const char* about) : text_(text), about_(about), next_(std::exchange(chain, this)) {}
   TitleEntry(const TitleEntry&) = delete;
   TitleEntry& operator=(const TitleEntry&) = delete;
 
-  static const TitleEntry* first() { return first_; }
+  static const TitleEntry* first() { return chain; }
   const TitleEntry* next() const { return next_; }
   std::string_view text() const { return text_; }
   /// The text, and what it is about where that was said.
   std::string name() const;
 
  private:
-  inline static const TitleEntry* first_ = nullptr;
+  inline static const TitleEntry* chain = nullptr;
   const char* text_;
   const char* about_;
   const TitleEntry* next_;

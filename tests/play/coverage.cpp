@@ -12,7 +12,7 @@ void Coverage::add(const Coverage& other) {
 void Coverage::see(const Shown& shown, const std::vector<Pressable>& offered) {
   const std::string screen(shown.screen);
   ++segues[std::string(shown.segue)];
-  if (shown.alert) alerts.insert(shown.alert->alert.title);
+  if (shown.alert) alerts.insert(shown.alert->alert.from.name());
   for (const Pressable& pressable : offered) {
     if (pressable.screenKey != "alert") actions.try_emplace({screen, std::string(pressable.action.verb())}, 0);
   }

@@ -16,7 +16,7 @@ struct Coverage {
   std::map<std::string, int64_t> segues;  ///< how often what each leads to was shown; a tab's root under its name
   /// By screen and the part of the action before the colon: how often it was pressed. 0: offered, never pressed.
   std::map<std::pair<std::string, std::string>, int64_t> actions;
-  std::set<std::string> alerts;         ///< titles of those shown
+  std::set<std::string> alerts;         ///< names of the titles shown
   std::set<std::string> unknownSegues;  ///< asked for by a screen, registered by nobody
 
   void add(const Coverage& other);

@@ -45,7 +45,9 @@ void WatchedCareer::launch(uint64_t seed) {
 void WatchedCareer::play(const TraceEvent& event) {
   week_ = {state().weekNumberForTracking, state().totalCashAvailable, state().underContract};
   endingWeek_ = event.action.id == "endTheWeekButton";
+  oracle_.before(shown(), state());
   career_.play(event);
+  pressFault_ = oracle_.after(event.screenKey, event.action, shown(), state());
   const auto& unknown = session().navigator().unknownSegues();
   coverage.unknownSegues.insert(unknown.begin(), unknown.end());
 }
@@ -95,6 +97,7 @@ std::string WatchedCareer::goBackTo(const std::string& snapshot, uint64_t seed) 
 }
 
 std::string WatchedCareer::fault(Care care) {
+  if (!pressFault_.empty()) return std::exchange(pressFault_, "");
   const bool weekEnded = endingWeek_ && state().weekNumberForTracking != week_.tracking;
   const bool due = care == Care::full || weekEnded || std::exchange(justLaunched_, false);
   const bool newHere = seen_.insert(shown().segue).second;

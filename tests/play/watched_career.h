@@ -12,6 +12,7 @@
 #include "core/memory_store.h"
 #include "play/career_invariants.h"
 #include "play/coverage.h"
+#include "play/press_oracle.h"
 #include "play/worlds.h"
 #include "shell/trace.h"
 
@@ -27,7 +28,7 @@ class WatchedCareer {
   explicit WatchedCareer(const NamedWorld& world, std::function<void(const std::string& line)> onStep = nullptr);
 
   void launch(uint64_t seed);
-  /// Plays a press, a launch or a press that no screen knows.
+  /// Plays a press, be it one that no screen knows.
   void play(const TraceEvent& event);
   /// Presses what is offered; `value` in the place of what a press of it carries.
   void press(const Pressable& pressable, const std::string& value);
@@ -65,6 +66,8 @@ class WatchedCareer {
   int64_t now_;  ///< unix milliseconds
   bool justLaunched_ = false;
   bool endingWeek_ = false;  ///< the last press asked for the end of the week
+  PressOracle oracle_;
+  std::string pressFault_;  ///< of the last press
   WeekBefore week_;
   std::set<std::string_view> seen_;  ///< segues
 };

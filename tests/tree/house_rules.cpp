@@ -118,6 +118,21 @@ std::string_view unstableSizeIn(const Word& word, std::string_view path) {
   return "";
 }
 
+/// Where energy and cash change hands without the purse: the settlement of the week, the refill, another life.
+bool mayOpenThePurse(std::string_view path) {
+  return isOneOf(
+      path, {"src/core/purse.cpp", "src/core/new_game.cpp", "src/career/energy.cpp", "src/turn/weekly_report.cpp"});
+}
+
+std::string_view spendingIn(const Word& word, std::string_view path) {
+  const bool isPurse = isOneOf(word.text, {"totalCashAvailable", "totalEnergyAvailable"});
+  if (!isPurse || !path.starts_with("src/") || mayOpenThePurse(path)) return "";
+  const bool isMember = word.before.ends_with(".") || word.before.ends_with("->");
+  const bool isChanged = endsWithAny(word.after.substr(0, 2), {"+=", "-=", "*=", "/=", "++", "--"}) ||
+                         (word.after.starts_with("=") && !word.after.starts_with("=="));
+  return isMember && isChanged ? "only the purse spends and earns" : "";
+}
+
 /// Only what opens screens knows them; what they have in common stands among them.
 bool mayKnowScreens(std::string_view path) {
   return path.find("/screens/") != path.npos || path.ends_with("/segues.cpp") || path == "src/shell/registry.cpp";
@@ -155,12 +170,15 @@ void checkCode(std::string_view path, std::string_view text, std::vector<Complai
   const std::string code = withoutLiterals(text, false);
   forEachLine(code, [&](int number, std::string_view line) {
     if (isHeader && line.find("using namespace") != line.npos) found.push_back({number, "using namespace in a header"});
-    if (!isRule) return;
     forEachWord(line, [&](const Word& word) {
-      for (const std::string_view what :
-           {chanceOrPlatformIn(word), unstableOrderIn(word, path), unstableSizeIn(word, path)}) {
+      const auto complain = [&](std::string_view what) {
         if (!what.empty()) found.push_back({number, std::string(word.text) + ": " + std::string(what)});
-      }
+      };
+      complain(spendingIn(word, path));
+      if (!isRule) return;
+      complain(chanceOrPlatformIn(word));
+      complain(unstableOrderIn(word, path));
+      complain(unstableSizeIn(word, path));
     });
   });
   forEachLine(text, [&](int number, std::string_view line) { checkPreprocessor(path, line, number, found); });

@@ -77,6 +77,8 @@ TEST(SourceTree, SeesEachBrokenRule) {
       {"src/music/a.cpp", "x = 1 + std::log(y);\n"},
       {"src/music/a.h", once + "std::unordered_set<int> s;\n"},
       {"src/core/records/a.h", once + "size_t n = 0;\n"},
+      {"src/turn/a.cpp", "game.state.totalEnergyAvailable -= 5;\n"},
+      {"src/wealth/screens/a.cpp", "state->totalCashAvailable = cash;\n"},
       {"src/shell/a.h", once + "#define A 1\n"},
       {"src/music/a.cpp", "#ifdef __wasm__\n"},
       {"src/shell/a.h", once + "using namespace std;\n"},
@@ -109,6 +111,8 @@ TEST(SourceTree, LeavesHarmlessTextsAlone) {
       {"src/music/a.cpp", "int64_t count = 1'000'000; /* std::\n time(0) */ char c = '\"';\n"},
       {"src/music/a.cpp", "auto t = R\"x(\" std::random_device )\" )x\"; auto e = u8\"\\\\\";\n"},
       {"src/core/records/a.h", once + "int64_t longest = 0;\n"},
+      {"src/turn/weekly_report.cpp", "state.totalCashAvailable += report.total;\n"},
+      {"src/turn/a.cpp", "if (state.totalCashAvailable == 0) save(&GameState::totalEnergyAvailable, a = b);\n"},
       {"src/music/pools.cpp",
        "{\"The Return, Pa"
        "rt 2.0\"}\n"},

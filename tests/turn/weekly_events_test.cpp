@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/purse.h"
 #include "music/builders.h"
 #include "support/world.h"
 #include "turn/event_rewards.h"
@@ -112,6 +113,43 @@ TEST(WeeklyEvents, TheRadioLiftsThisYearsAlbumsAndTheirSongs) {
   EXPECT_DOUBLE_EQ(world.state.saveAllSongList[0].marketingScore, 10);
   EXPECT_DOUBLE_EQ(world.state.saveAllSongList[1].marketingScore, 2);
   EXPECT_EQ(world.state.totalEnergyAvailable, 35);
+}
+
+TEST(WeeklyEvents, TheStationFollowsTheSkill) {
+  for (const auto& [skill, title] : {std::pair{29, "📻 Local Radio Show! 📻"},
+                                     {30, "📻 State Radio Show! 📻"},
+                                     {79, "⭐️ National Radio Show! ⭐️"},
+                                     {80, "⭐️ International Radio Show! ⭐️"}}) {
+    GigWorld world;
+    GameState& state = world.state;
+    for (int64_t* trait : {&state.songWriting, &state.vocalRange, &state.rhythm, &state.charisma, &state.virality}) {
+      *trait = skill;
+    }
+    EXPECT_EQ(only(world.take(5)).title, title);
+  }
+}
+
+TEST(WeeklyEvents, AButtonIsTooDearByWhatAPressTakes) {
+  GigWorld world;
+  const auto priceOn = [&](const EventButton& button) {
+    return *eventCard(world.state, world.events, button, "press").buttons.front().price;
+  };
+  world.state.totalEnergyAvailable = 20;
+  world.draw(world.events.buttonEvent1, 11);
+  EXPECT_EQ(priceOn(world.events.buttonEvent1).energy, 30);
+  EXPECT_TRUE(affordable(world.state, priceOn(world.events.buttonEvent1))) << "it takes 20";
+  world.random.integerIs(0, 14, 9).doubleIs(0.10, 0.25, 0.1);
+  drawWeeklyEvent(world.game, world.events, world.events.buttonEvent2);
+  world.state.totalCashAvailable = 60;
+  EXPECT_TRUE(affordable(world.state, priceOn(world.events.buttonEvent2)));
+  world.events.moneyForEvent10 = 100;  // the latest draw asks for more
+  EXPECT_DOUBLE_EQ(priceOn(world.events.buttonEvent2).dollars, 50);
+  EXPECT_FALSE(affordable(world.state, priceOn(world.events.buttonEvent2)));
+  world.state.saveAllVentureInvestments.append(Venture());
+  world.draw(world.events.buttonEvent3, 10);
+  world.state.totalEnergyAvailable = 0;
+  EXPECT_EQ(priceOn(world.events.buttonEvent3).energy, 50);
+  EXPECT_TRUE(affordable(world.state, priceOn(world.events.buttonEvent3))) << "a raise takes no energy";
 }
 
 TEST(WeeklyEvents, TheCheckupMovesTheCeilingForCash) {

@@ -12,10 +12,6 @@ namespace {
 
 constexpr int64_t highestRating = highestStudioLevel * static_cast<int64_t>(studioParts.size());
 
-double shareOf(int64_t level, int64_t highest) {
-  return std::clamp(static_cast<double>(level) / static_cast<double>(highest), 0.0, 1.0);
-}
-
 Row partRow(const GameState& state, const StudioPart& part) {
   Row row;
   const int64_t level = state.*part.level;

@@ -19,13 +19,14 @@ constexpr std::array<PlanText, marketingPlans.size()> planTexts = {{
     {"globe", "World campaign"},
 }};
 
-std::string titleOf(const GameState& state, const MarketingTarget& target) {
+/// Nothing when what was to be marketed is gone.
+std::optional<std::string> titleOf(const GameState& state, const MarketingTarget& target) {
   if (target.kind == MarketingTarget::Kind::album) {
     const auto position = albumPosition(state, target.id);
-    return position ? state.saveAllAlbumList[*position].title : "";
+    return position ? std::optional(state.saveAllAlbumList[*position].title) : std::nullopt;
   }
   const auto position = songPosition(state, target.id);
-  return position ? state.saveAllSongList[*position].title : "";
+  return position ? std::optional(state.saveAllSongList[*position].title) : std::nullopt;
 }
 
 }  // namespace
@@ -49,7 +50,12 @@ Outcome SetAlbumMarketingViewController::setMarketingButton() { return applyMark
 View SetAlbumMarketingViewController::view() const {
   View view;
   view.title = "Set Marketing";
-  view.subtitle = titleOf(state(), target_);
+  const auto title = titleOf(state(), target_);
+  if (!title) {
+    view.add(EmptyHint{"megaphone", "There is nothing to market any more."});
+    return view;
+  }
+  view.subtitle = *title;
   Rows rows;
   for (size_t tier = 0; tier < marketingPlans.size(); ++tier) {
     const MarketingPlan& plan = marketingPlans[tier];
