@@ -43,11 +43,9 @@ std::optional<Outcome> photoRefusal(std::string_view address) {
 }
 
 TextField photoField(const std::string& taken) {
-  TextField field;
-  field.id = "photo";
-  field.label = "Your own photo";
-  field.placeholder = taken.empty() ? "Paste a picture as a data: address" : "Your photo is set. Paste another one";
-  return field;
+  return {.id = "photo",
+          .label = "Your own photo",
+          .placeholder = taken.empty() ? "Paste a picture as a data: address" : "Your photo is set. Paste another one"};
 }
 
 Picture artistPicture(const GameState& state) {
