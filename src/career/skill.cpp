@@ -1,6 +1,9 @@
 #include "career/skill.h"
 
 #include <algorithm>
+#include <numeric>
+
+#include "core/numbers.h"
 
 namespace backbeat {
 
@@ -32,6 +35,19 @@ int64_t artistRating(const SignedArtist& artist) {
   return (artist.songwriting + artist.vocals + artist.rhythm + artist.charisma + artist.virality +
           std::min(weakest, greatestWeakestTraitOfSigned)) /
          6;
+}
+
+double drawViralityRoll(Random& random, int64_t virality) {
+  return roundTo(random.uniformDouble(0, static_cast<double>(virality)) * 0.75, 2);
+}
+
+double qualityRoll(Random& random, std::initializer_list<double> inputs, double viralityRoll) {
+  const double worst = std::min(std::min(inputs), 100.0);
+  const double sum = std::accumulate(inputs.begin(), inputs.end(), 0.0) + viralityRoll;
+  const double count = static_cast<double>(inputs.size() + 1);
+  const double mean = sum / count;
+  const double low = mean < worst ? mean * 0.5 : worst;
+  return roundTo((sum + random.uniformDouble(low, mean)) / (count + 1), 2);
 }
 
 }  // namespace backbeat

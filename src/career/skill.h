@@ -1,7 +1,10 @@
-// How good an artist is, in one figure: each of these means counts one trait twice.
+// How good an artist is, in one figure, and how good a piece of work turns out.
 #pragma once
 
+#include <initializer_list>
+
 #include "core/game_state.h"
+#include "core/random.h"
 
 namespace backbeat {
 
@@ -14,5 +17,13 @@ int64_t talent(const GameState& state);
 /// A signed artist's rating: the five traits and the weakest of them again, that one up to 100 (110 for the player:
 /// intended), over 6.
 int64_t artistRating(const SignedArtist& artist);
+
+/// How far a piece of work catches on: up to three quarters of the virality of whoever makes it, two decimals.
+double drawViralityRoll(Random& random, int64_t virality);
+
+/// Rating of a piece of work, two decimals: nearly the mean of what goes into it and the virality roll, counted with
+/// one share of luck, which lies between the worst that goes in, that one up to 100, and the mean. When even the mean
+/// is below the worst, luck begins at half the mean.
+double qualityRoll(Random& random, std::initializer_list<double> inputs, double viralityRoll);
 
 }  // namespace backbeat

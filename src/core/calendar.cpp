@@ -23,10 +23,8 @@ void rollCalendar(Game& game) {
   game.save(&GameState::yearNumber, &GameState::weekNumber, &GameState::totalEnergyMax);
 }
 
-void refreshHomeHeader(Game& game) { rollCalendar(game); }
-
 void stateChanged(Game& game) {
-  refreshHomeHeader(game);
+  rollCalendar(game);
   if (game.leaderboardPass) game.leaderboardPass(game);
 }
 

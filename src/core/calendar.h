@@ -6,13 +6,10 @@
 namespace backbeat {
 
 /// Turns week 53 into week 1 of the next year, when the artist ages: one point of energy ceiling goes, down to 25.
-/// Frees the leaderboard pass in weeks 10, 20, ... Runs at every header refresh, not only at a week's end.
+/// Frees the leaderboard pass in weeks 10, 20, ... Runs whenever the header is shown anew, not only at a week's end.
 void rollCalendar(Game& game);
 
-/// The header shows cash, energy and date; refreshing it rolls the calendar, with its writes.
-void refreshHomeHeader(Game& game);
-
-/// Posted after any change that a visible screen has to show. A rule, not a redraw: it refreshes the header, then runs
+/// Posted after any change that a visible screen has to show. A rule, not a redraw: it rolls the calendar, then runs
 /// the leaderboard pass.
 void stateChanged(Game& game);
 

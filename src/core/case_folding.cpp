@@ -113,13 +113,4 @@ std::string foldCase(std::string_view utf8) {
   return result;
 }
 
-bool equalIgnoringCase(std::string_view a, std::string_view b) {
-  size_t i = 0;
-  size_t j = 0;
-  while (i < a.size() && j < b.size()) {
-    if (folded(nextCodePoint(a, i)) != folded(nextCodePoint(b, j))) return false;
-  }
-  return i == a.size() && j == b.size();
-}
-
 }  // namespace backbeat

@@ -13,7 +13,4 @@ std::string foldCase(std::string_view utf8);
 /// The text in capitals, letter for letter, for showing: "ß", which has no capital of one letter, stays.
 std::string upperCase(std::string_view utf8);
 
-/// Whether two texts are the same but for case.
-bool equalIgnoringCase(std::string_view a, std::string_view b);
-
 }  // namespace backbeat

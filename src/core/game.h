@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -74,6 +75,8 @@ struct Launch {
   bool musicScreenLoaded = false;                    ///< the music screen's first load has run
 };
 
+struct Room;
+
 struct Game {
   Game(Store& store, Random& chance, Clock& time, Platform& device)
       : saveFile(store), random(chance), clock(time), platform(device) {}
@@ -89,6 +92,10 @@ struct Game {
   /// Runs after any change that a visible screen has to show: see core/state_changed.h. Handed in by the shell, since
   /// the leaderboards it submits live in a later room.
   void (*leaderboardPass)(Game&) = nullptr;
+
+  /// What the rooms bring to the glass, handed in by the shell: see core/room.h. A screen of one room lists what later
+  /// rooms contribute to it.
+  std::span<const Room* const> rooms;
 
   /// Writes scalars and lists under their keys: `save(&GameState::totalFans, &GameState::saveAllSongList)`.
   template <class... Members>

@@ -5,9 +5,12 @@
 
 namespace backbeat {
 
-/// Resets a life, group by group, each writing its keys. Outside it, on purpose: bought energy, achievements, the
-/// family's legacy, first-use memory, the changed names of guests and cameos, high scores. It writes zeros; it removes
-/// no key.
+/// Puts what lives no longer than `last` back to the values that a fresh game starts with, and writes it. It removes no
+/// key.
+void endLives(Game& game, Lifetime last);
+
+/// Begins anew. What outlives every artist stays: bought energy, achievements, the family's legacy, first-use memory,
+/// the changed names of guests and cameos, high scores.
 void restartGame(Game& game);
 
 }  // namespace backbeat

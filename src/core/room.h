@@ -2,13 +2,19 @@
 #pragma once
 
 #include <span>
+#include <vector>
 
+#include "core/menu.h"
+#include "core/needs.h"
 #include "core/segue.h"
 
 namespace backbeat {
 
 struct Room {
   std::span<const Segue> segues;
+  std::span<const MenuLine> menu = {};
+  /// Asked after every press, so it looks at little.
+  void (*addNeeds)(const Game& game, std::vector<Need>& needs) = nullptr;
 };
 
 }  // namespace backbeat

@@ -177,19 +177,6 @@ void SaveFile::put(std::string_view key, int32_t chunk, std::optional<Value> val
   pending_.push_back({std::string(key), chunk, std::move(value)});
 }
 
-void SaveFile::setInteger(std::string_view key, int64_t value) {
-  if (writes()) put(key, wholeRow, value);
-}
-
-void SaveFile::setDouble(std::string_view key, double value) {
-  if (writes()) put(key, wholeRow, value);
-}
-
-void SaveFile::setObject(std::string_view key, Bytes propertyList) {
-  if (const auto known = otherObjects_.find(key); known != otherObjects_.end()) known->second = propertyList;
-  if (writes()) put(key, wholeRow, std::move(propertyList));
-}
-
 std::optional<Bytes> SaveFile::object(std::string_view key) const {
   const auto found = otherObjects_.find(key);
   if (found == otherObjects_.end()) return {};

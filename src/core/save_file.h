@@ -39,16 +39,11 @@ class SaveFile {
   /// would otherwise take the place of what may still be mended.
   LoadReport load(GameState& state);
 
-  /// The three writers. They join the open transaction.
-  void setInteger(std::string_view key, int64_t value);
-  void setDouble(std::string_view key, double value);
-  void setObject(std::string_view key, Bytes propertyList);
-
-  /// The object stored whole under a key that is no scalar's and no list's, such as one that older versions used; as
-  /// loaded or written since. Nothing when there is none.
+  /// The object stored whole under a key that is no scalar's and no list's, such as one that older versions used.
+  /// Nothing when there is none.
   std::optional<Bytes> object(std::string_view key) const;
 
-  /// Writes one scalar, or what changed of one list, under its key.
+  /// Writes one scalar, or what changed of one list, under its key; it joins the open transaction.
   void writeScalar(const GameState& state, const Scalar& scalar);
   void writeList(std::string_view key, ChunkedList& list);
 

@@ -27,8 +27,6 @@ class Screen {
   virtual Outcome appear() { return {}; }
   /// One press. An id that the screen does not know, or a value that makes no sense, changes nothing.
   virtual Outcome act(const Action& action) = 0;
-  /// Once, when the screen goes.
-  virtual Outcome close() { return {}; }
   /// What the screen says of itself: reads the state, draws nothing from `Random`, saves nothing.
   virtual View view() const = 0;
 

@@ -16,8 +16,8 @@ struct Segue {
     modal,  ///< over header and tabs; leaves only by its own doing
   } presentation;
   std::unique_ptr<Screen> (*make)(Game& game, std::string_view argument);
-  /// Asked before the screen is made, from wherever the way begins; a visit that costs is paid here. What it says is
-  /// shown to the player; unless it is done, the screen stays shut. nullptr: open.
+  /// Asked before the screen is made, from wherever the way begins; a visit that costs is paid here. Unless it is done,
+  /// the screen stays shut. nullptr: always open.
   Outcome (*enter)(Game& game) = nullptr;
 };
 

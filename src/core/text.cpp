@@ -83,12 +83,6 @@ std::string trimmed(std::string_view utf8) {
   return begin < end ? std::string(utf8.substr(begin, end - begin)) : std::string();
 }
 
-size_t characterCount(std::string_view utf8) {
-  size_t count = 0;
-  for (size_t position = 0; position < utf8.size(); ++count) nextCodePoint(utf8, position);
-  return count;
-}
-
 std::string firstCharacters(std::string_view utf8, size_t count) {
   size_t position = 0;
   while (count-- > 0 && position < utf8.size()) nextCodePoint(utf8, position);

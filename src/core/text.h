@@ -25,10 +25,7 @@ std::string validUtf8(std::string_view text);
 /// too).
 std::string trimmed(std::string_view utf8);
 
-/// How many code points the text has; an emoji made of several counts as several.
-size_t characterCount(std::string_view utf8);
-
-/// The first `count` code points, or the whole text when it has fewer.
+/// The first `count` code points, or the whole text when it has fewer; an emoji made of several counts as several.
 std::string firstCharacters(std::string_view utf8, size_t count);
 
 }  // namespace backbeat

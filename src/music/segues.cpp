@@ -1,5 +1,6 @@
 #include "music/segues.h"
 
+#include "core/money.h"
 #include "music/screens/add_to_album_view_controller.h"
 #include "music/screens/album_chart_detail_view_controller.h"
 #include "music/screens/album_detail_view_controller.h"
@@ -52,8 +53,48 @@ constexpr Segue segues[] = {
      makeScreen<MonthlyListenerDetailViewController>},
 };
 
+void describeListeners(const Game& game, Row& row) { row.value = withCommas(game.state.totalFans); }
+
+constexpr MenuLine menu[] = {
+    {.tab = homeTab,
+     .section = "More",
+     .order = 110,
+     .icon = "person",
+     .title = "Artist profile",
+     .subtitle = "What your listeners see",
+     .segue = "goToArtistProfile"},
+    {.tab = musicTab,
+     .section = "Reach",
+     .order = 110,
+     .icon = "headphones",
+     .title = "Monthly Listeners",
+     .segue = "goToMonthlyListenerDetail",
+     .describe = describeListeners},
+    {.tab = musicTab,
+     .section = "Reach",
+     .order = 120,
+     .icon = "chart",
+     .title = "Billboard 100",
+     .subtitle = "The chart of the week",
+     .segue = "goToBillboard"},
+    {.tab = musicTab,
+     .section = "Reach",
+     .order = 130,
+     .icon = "trophy",
+     .title = "Certifications",
+     .subtitle = "From bronze to diamond",
+     .segue = "goToCertification"},
+    {.tab = musicTab,
+     .section = "Reach",
+     .order = 140,
+     .icon = "person",
+     .title = "Artist Profile",
+     .subtitle = "What your listeners see",
+     .segue = "goToArtistProfile"},
+};
+
 }  // namespace
 
-const Room musicRoom = {.segues = segues};
+const Room musicRoom = {.segues = segues, .menu = menu};
 
 }  // namespace backbeat

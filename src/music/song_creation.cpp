@@ -120,11 +120,7 @@ double productionRoll(Random& random, const SongDraft& draft, int64_t charisma, 
   const double w = static_cast<double>(draft.finalSongWritingRating) * 0.75;
   const double c = static_cast<double>(charisma) * 0.75;
   const double s = static_cast<double>(draft.finalStudioRating);
-  const double floor = std::min({100.0, m, w, c, s});
-  const double sum = m + w + c + s + viralityRoll;
-  const double mean = sum / 5;
-  const double low = mean < floor ? mean * 0.5 : floor;
-  return roundTo((sum + random.uniformDouble(low, mean)) / 6, 2);
+  return qualityRoll(random, {m, w, c, s}, viralityRoll);
 }
 
 bool songTitleTaken(const GameState& state, const std::string& title) {
@@ -160,8 +156,7 @@ Outcome createSong(Game& game, const SongDraft& draft) {
   state.songId += 1;
   song.songId = state.songId;
   song.streamPayRate = state.streamingPayRate;
-  const double viralityCeiling = static_cast<double>(state.virality + state.fashionViralityBonus);
-  const double viralityRoll = roundTo(game.random.uniformDouble(0, viralityCeiling) * 0.75, 2);
+  const double viralityRoll = drawViralityRoll(game.random, state.virality + state.fashionViralityBonus);
   song.viralityScore = guests.virality + viralityRoll + static_cast<double>(state.contractViralityBoost) +
                        static_cast<double>(explicitBonus) + static_cast<double>(state.labelViralityBoost);
   song.productionRating = guests.rating + productionRoll(game.random, draft, state.charisma, viralityRoll);

@@ -31,8 +31,7 @@ Price costToProduceSong(const GameState& state, const SongDraft& draft);
 /// The built-in album on which singles count; appended first when no album at all is in production.
 void ensureSingleAlbum(Game& game);
 
-/// Rating of the recording, two decimals: nearly the mean of musicality, writing, charisma, studio and the virality
-/// roll, with a sixth part of luck between the worst input and that mean; one weak input drags it down.
+/// Rating of the recording: a roll over musicality and studio in full, writing and charisma at three quarters.
 double productionRoll(Random& random, const SongDraft& draft, int64_t charisma, double viralityRoll);
 
 /// Creates the song. Refused without 10 energy (the energy figure shakes), without the money, and for a title that is

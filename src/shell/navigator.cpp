@@ -28,22 +28,10 @@ void Navigator::openFirstScreens() {
 }
 
 void Navigator::startOver() {
-  dropEverything();
-  openFirstScreens();
-}
-
-/// Screens are told that they go; what they answer belongs to a life that is over.
-void Navigator::dropEverything() {
-  const auto drop = [](std::vector<Open>& stack) {
-    while (!stack.empty()) {
-      const std::shared_ptr<Screen> gone = std::move(stack.back().screen);
-      stack.pop_back();
-      gone->close();
-    }
-  };
-  drop(modals_);
-  for (std::vector<Open>& stack : stacks_) drop(stack);
+  modals_.clear();
+  for (std::vector<Open>& stack : stacks_) stack.clear();
   alerts_.clear();
+  openFirstScreens();
 }
 
 void Navigator::press(std::string_view screenKey, const Action& action) {
@@ -107,19 +95,13 @@ void Navigator::selectTab(size_t number) {
 
 /// Closes every pushed screen of a tab; the root stays.
 void Navigator::closeToRoot(std::vector<Open>& stack) {
-  while (stack.size() > 1) {
-    const std::shared_ptr<Screen> gone = std::move(stack.back().screen);
-    stack.pop_back();
-    follow(gone, gone->close());
-  }
+  while (stack.size() > 1) stack.pop_back();
 }
 
 void Navigator::closeTop() {
   std::vector<Open>& stack = stackOfTop();
   const bool report = stack.back().segue->name == "goToWeeklySummary";
-  const std::shared_ptr<Screen> gone = std::move(stack.back().screen);
   stack.pop_back();
-  follow(gone, gone->close());
   if (report) return selectTab(homeTab);
   appear();
 }
@@ -167,6 +149,7 @@ bool Navigator::admitted(const Segue& segue, const std::shared_ptr<Screen>& from
   if (!segue.enter) return true;
   Outcome answer = segue.enter(game_);
   const bool open = answer.done();
+  if (!open) result_ = answer.result;
   follow(from, std::move(answer));
   return open;
 }
@@ -197,6 +180,12 @@ bool Navigator::endWeekOffered() const { return modals_.empty() && onTabRoot() &
 
 bool Navigator::affordable(const Price& price) const { return backbeat::affordable(game_.state, price); }
 
+/// Home tells first of what waits for the player.
+std::string Navigator::badgeOf(TabNumber tab) const {
+  const std::string waits = tab == homeTab ? needsBadge(game_) : "";
+  return waits.empty() ? menuBadge(game_, tab) : waits;
+}
+
 Shown Navigator::shown() const {
   const GameState& state = game_.state;
   Shown shown;
@@ -208,7 +197,7 @@ Shown Navigator::shown() const {
         static_cast<double>(state.totalEnergyAvailable) / static_cast<double>(state.totalEnergyMax), 0.0, 1.0);
   }
   shown.header.date = "Week " + std::to_string(state.weekNumber) + ", " + std::to_string(state.yearNumber);
-  if (game_.launch.contractOfferState >= 1) shown.badges[homeTab] = "!";
+  for (size_t tab = 0; tab < tabCount; ++tab) shown.badges[tab] = badgeOf(static_cast<TabNumber>(tab));
   shown.tab = tab_;
   for (const Open& open : stacks_[tab_]) shown.stack.push_back(open.key);
   for (const Open& open : modals_) shown.stack.push_back(open.key);

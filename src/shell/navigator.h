@@ -110,9 +110,9 @@ class Navigator {
 
   void openFirstScreens();
   void startOver();
-  void dropEverything();
   const Open& top() const;
   std::vector<Open>& stackOfTop();
+  std::string badgeOf(TabNumber tab) const;
   bool onTabRoot() const;
   bool endWeekOffered() const;
   void dispatch(std::string_view screenKey, const Action& action);

@@ -16,9 +16,6 @@ struct Tab {
   Segue root;
 };
 
-inline constexpr size_t tabCount = 5;
-enum TabNumber : size_t { homeTab, musicTab, lifeTab, businessTab, socialTab };
-
 const std::array<Tab, tabCount>& tabs();
 
 /// From the top of the house down.

@@ -16,8 +16,12 @@ constexpr Segue shellSegues[] = {
     {"goToAbout", "AboutViewController", push, makeScreen<AboutViewController>},
 };
 
+constexpr MenuLine shellMenu[] = {
+    {.tab = homeTab, .section = "More", .order = 190, .icon = "settings", .title = "Settings", .segue = "goToSettings"},
+};
+
 }  // namespace
 
-const Room shellRoom = {.segues = shellSegues};
+const Room shellRoom = {.segues = shellSegues, .menu = shellMenu};
 
 }  // namespace backbeat

@@ -2,6 +2,7 @@
 
 #include "core/text.h"
 #include "recognition/leaderboards.h"
+#include "shell/registry.h"
 
 namespace backbeat {
 
@@ -9,6 +10,7 @@ Session::Session(Store& store, Platform& platform, uint64_t seed, Date now)
     : random_(seed), game_(store, random_, clock_, platform), navigator_(game_) {
   clock_.set(now);
   game_.leaderboardPass = submitLeaderboards;
+  game_.rooms = rooms();
   loadReport_ = game_.saveFile.load(game_.state);
   navigator_.start(loadReport_);
 }

@@ -1,10 +1,15 @@
 #include "turn/segues.h"
 
+#include "career/ledger.h"
+#include "core/money.h"
+#include "turn/income_statement.h"
 #include "turn/screens/balance_sheet_view_controller.h"
 #include "turn/screens/data_view_controller.h"
 #include "turn/screens/expense_view_controller.h"
 #include "turn/screens/net_worth_view_controller.h"
 #include "turn/screens/weekly_summary_view_controller.h"
+#include "turn/weekly_report.h"
+#include "wealth/net_assets.h"
 
 namespace backbeat {
 
@@ -20,8 +25,52 @@ constexpr Segue segues[] = {
     {"goToNetWorth", "NetWorthViewController", push, makeScreen<NetWorthViewController>},
 };
 
+void describeLiving(const Game& game, Row& row) { row.value = currency(-livingExpenses(game.state)); }
+
+void describeStatement(const Game& game, Row& row) {
+  const IncomeStatement statement = incomeStatement(game.state);
+  row.subtitle = "Week " + std::to_string(reportedWeek(game.state).week);
+  row.value = currency(statement.income() - statement.expenses());
+}
+
+void describeNetWorth(const Game& game, Row& row) { row.value = currency(netAssets(game.state)); }
+
+constexpr MenuLine menu[] = {
+    {.tab = lifeTab,
+     .section = "Next week",
+     .order = 420,
+     .icon = "cash",
+     .title = "Living",
+     .subtitle = "Lifestyle and basic needs",
+     .segue = "goToExpenseScreen",
+     .describe = describeLiving},
+    {.tab = businessTab,
+     .section = "Accounts",
+     .order = 110,
+     .icon = "food",
+     .title = "Expenses",
+     .subtitle = "Weekly lifestyle expenses",
+     .segue = "goToExpenseScreen",
+     .describe = describeLiving},
+    {.tab = businessTab,
+     .section = "Accounts",
+     .order = 120,
+     .icon = "document",
+     .title = "Income Statement",
+     .segue = "goToBalanceSheet",
+     .describe = describeStatement},
+    {.tab = businessTab,
+     .section = "Accounts",
+     .order = 130,
+     .icon = "trend",
+     .title = "Net Worth",
+     .subtitle = "Everything you own",
+     .segue = "goToNetWorth",
+     .describe = describeNetWorth},
+};
+
 }  // namespace
 
-const Room turnRoom = {.segues = segues};
+const Room turnRoom = {.segues = segues, .menu = menu};
 
 }  // namespace backbeat

@@ -50,7 +50,7 @@ void runWeekCycle(Game& game, const std::function<void()>& openReport, const Ste
   step("job", advanceJobContract);    // 11
   step("energy", applyWeeklyEnergy);  // 12
   begin("calendar");
-  refreshHomeHeader(game);                                  // 13, rolls the calendar
+  rollCalendar(game);                                       // 13
   checkLabelOfferBadge(game);                               // 14
   driftRealEstateIndex(game);                               // 15
   if (state.timeUntilNextTour >= 1 && state.onTour == 0) {  // 16, the first week of a break goes at once

@@ -42,7 +42,38 @@ std::set<std::string> keysThatDiffer(const GameState& a, const GameState& b) {
   return keys;
 }
 
-TEST(NewGame, RestartLeavesOnlyWhatOutlivesALife) {
+/// What outlives every artist.
+const std::set<std::string> outlives = {
+    // Bought energy.
+    "permanentEnergyUpgrade",
+    // What was ever reached.
+    "AllCompletedAchievements", "totalFanHighScore", "mostPopularSongHighScore", "mostSuccessfulLabelHighScore",
+    "mostPopularAlbumHighScore", "longestBillBoardHitHighScore", "mostNumberOneHighScore", "highestGrossAlbumWeekly",
+    "mostGramWins", "mostAchievementsCompleted", "userRank", "userScore", "recordDictionary", "songDictionary",
+    "albumDictionary", "saveAllLegacyList",
+    // First uses and habits.
+    "loginCount", "savePulse", "assignFollowers", "assignSubscribers", "didSubscribe", "rejectionCount",
+    "slideIntoDmsCount", "saveGenreForNextTime", "appearance",
+    // Names, texts and pictures of the player's making.
+    "AllFeaturedArtists", "AllCelebrityCameos", "featureArtistNamedChanges", "celebrityCameoNamedChanges",
+    "moreInfoDescription", "twitterProfileImage", "twitterHeaderImage", "saveRingImage"};
+
+std::set<std::string> with(std::set<std::string> keys, const std::set<std::string>& more) {
+  keys.insert(more.begin(), more.end());
+  return keys;
+}
+
+TEST(NewGame, AnHeirGoesOnInTheSameYearAndHasAName) {
+  World world;
+  enrich(world.state);
+  world.settle();
+  endLives(world.game, Lifetime::artist);
+  EXPECT_EQ(keysThatDiffer(world.state, GameState()),
+            with(outlives, {"weekNumber", "yearNumber", "weekNumberForTracking", "promptToEnterName"}));
+  world.expectSaved();
+}
+
+TEST(NewGame, RestartLeavesOnlyWhatOutlivesEveryArtist) {
   World world;
   enrich(world.state);
   world.settle();
@@ -52,21 +83,8 @@ TEST(NewGame, RestartLeavesOnlyWhatOutlivesALife) {
 
   restartGame(world.game);
 
-  const std::set<std::string> outlives = {
-      // Bought energy, and the energy that comes of it.
-      "permanentEnergyUpgrade", "totalEnergyMax", "totalEnergyAvailable",
-      // What was ever reached.
-      "AllCompletedAchievements", "totalFanHighScore", "mostPopularSongHighScore", "mostSuccessfulLabelHighScore",
-      "mostPopularAlbumHighScore", "longestBillBoardHitHighScore", "mostNumberOneHighScore", "highestGrossAlbumWeekly",
-      "mostGramWins", "mostAchievementsCompleted", "userRank", "userScore", "recordDictionary", "songDictionary",
-      "albumDictionary", "saveAllLegacyList",
-      // First uses and habits.
-      "loginCount", "savePulse", "assignFollowers", "assignSubscribers", "didSubscribe", "rejectionCount",
-      "slideIntoDmsCount", "saveGenreForNextTime", "appearance",
-      // Names, texts and pictures of the player's making.
-      "AllFeaturedArtists", "AllCelebrityCameos", "featureArtistNamedChanges", "celebrityCameoNamedChanges",
-      "moreInfoDescription", "twitterProfileImage", "twitterHeaderImage", "saveRingImage"};
-  EXPECT_EQ(keysThatDiffer(world.state, GameState()), outlives);
+  EXPECT_EQ(keysThatDiffer(world.state, GameState()), with(outlives, {"totalEnergyMax", "totalEnergyAvailable"}))
+      << "bought energy comes on top";
   EXPECT_EQ(world.state.totalEnergyMax, 107);
   EXPECT_EQ(world.state.totalEnergyAvailable, 107);
   EXPECT_EQ(world.game.launch.contractOfferState, 0);

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -21,6 +22,10 @@ constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 void writeAll(SaveFile& saveFile, GameState& state) {
   for (const auto& [key, list] : listsOf(state)) saveFile.writeList(key, list);
   for (const Scalar& scalar : scalars) saveFile.writeScalar(state, scalar);
+}
+
+const Scalar& scalarNamed(std::string_view key) {
+  return *std::find_if(scalars.begin(), scalars.end(), [&](const Scalar& scalar) { return scalar.key == key; });
 }
 
 class SaveFileTest : public testing::Test {
@@ -66,7 +71,7 @@ TEST_F(SaveFileTest, AFailingStoreLosesNothingAndTheWaitingWritesStayFew) {
     state.totalFans += 1;
     state.saveAllSongList.update(week % 8, [](Song& song) { ++song.totalListen; });
     if (week == 500) state.saveAllChirpList.clear();
-    saveFile.setInteger("totalFans", state.totalFans);
+    saveFile.writeScalar(state, scalarNamed("totalFans"));
     saveFile.writeList("saveAllSongList", state.saveAllSongList);
     saveFile.writeList("saveAllChirpList", state.saveAllChirpList);
     EXPECT_FALSE(saveFile.commit());

@@ -86,6 +86,7 @@ TEST(Navigator, ADoorIsPaidOnceAndStaysShutForWhoCannot) {
   play.press("goToJobBoardButton");
   EXPECT_EQ(play.screen(), "DailyLifeViewController");
   EXPECT_EQ(play.shown().feedback, Feedback::energyBounce);
+  EXPECT_EQ(play.shown().result, Result::noEnergy);
   EXPECT_EQ(play.state().totalEnergyAvailable, 4);
 }
 

@@ -1,6 +1,10 @@
 #include "support/world.h"
 
+#include "shell/registry.h"
+
 namespace backbeat {
+
+World::World() { game.rooms = rooms(); }
 
 void World::settle() {
   forEachField<GameState>([&](const auto& field) { game.save(field.member); });

@@ -27,6 +27,8 @@ class RecordingPlatform final : public Platform {
 };
 
 struct World {
+  World();
+
   MemoryStore store;
   ScriptedRandom random;
   SetClock clock;

@@ -10,11 +10,6 @@ class DailyLifeViewController final : public Screen {
   using Screen::Screen;
   Outcome act(const Action& action) override;
   View view() const override;
-
- private:
-  void describeSkills(View& view) const;
-  void describeLifestyle(View& view) const;
-  void describeAccounts(View& view) const;
 };
 
 }  // namespace backbeat

@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "career/ledger.h"
+#include "core/menu.h"
 #include "core/money.h"
 #include "core/own_photo.h"
 #include "core/record_codec.h"
-#include "core/view_words.h"
 #include "music/album_release.h"
 #include "music/screens/album_rows.h"
 #include "music/screens/song_rows.h"
@@ -17,9 +17,6 @@ namespace backbeat {
 namespace {
 
 constexpr std::string_view oldSongListKey = "AllSongList";
-
-constexpr std::string_view segues[] = {"goToBillboard", "goToMonthlyListenerDetail", "goToCertification",
-                                       "goToArtistProfile"};
 
 template <class T>
 std::vector<size_t> positionsWhere(const RecordList<T>& list, bool released) {
@@ -68,8 +65,7 @@ Outcome MusicViewController::act(const Action& action) {
   if (action.id == "kind") {
     if (const auto number = optionNumber(action.value, 2)) showsAlbums_ = *number == 1;
   }
-  if (std::find(std::begin(segues), std::end(segues), action.id) != std::end(segues)) return goTo(action.id);
-  return {};
+  return followMenu(game_, musicTab, action);
 }
 
 Outcome MusicViewController::createSongButton() {
@@ -103,7 +99,7 @@ View MusicViewController::view() const {
   } else {
     describeSongs(view);
   }
-  describeReach(view);
+  addMenu(view, game_, musicTab);
   return view;
 }
 
@@ -147,17 +143,6 @@ void MusicViewController::describeAlbums(View& view) const {
     view.add(windowedRows("releasedAlbums", releasedAlbums_, static_cast<int64_t>(released.size()),
                           [&](size_t i) { return albumRow(state(), albums[released[released.size() - 1 - i]]); }));
   }
-}
-
-void MusicViewController::describeReach(View& view) const {
-  view.add(Heading{"Reach"});
-  Rows rows;
-  rows.items.push_back(wayTo("goToMonthlyListenerDetail", "headphones", "Monthly Listeners"));
-  rows.items.back().value = withCommas(state().totalFans);
-  rows.items.push_back(wayTo("goToBillboard", "chart", "Billboard 100", "The chart of the week"));
-  rows.items.push_back(wayTo("goToCertification", "trophy", "Certifications", "From bronze to diamond"));
-  rows.items.push_back(wayTo("goToArtistProfile", "person", "Artist Profile", "What your listeners see"));
-  view.add(std::move(rows));
 }
 
 }  // namespace backbeat

@@ -27,7 +27,6 @@ class MusicViewController final : public Screen {
  private:
   void describeSongs(View& view) const;
   void describeAlbums(View& view) const;
-  void describeReach(View& view) const;
 
   bool showsAlbums_ = false;
   ListWindow released_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/case_folding.h"
+#include "core/menu.h"
 #include "core/money.h"
 #include "core/view_words.h"
 #include "social/chirps.h"
@@ -67,12 +68,12 @@ Outcome TwitterProfileViewController::act(const Action& action) {
   if (action.id == "goToCreateTwitterMessage") return goTo(action.id);
   if (action.id == "followButton") return followButton();
   if (action.verb() == "feed") feed_.moveTo(action.argument());
-  const auto chirp = wholeNumber(action.argument());
-  if (!chirp) return {};
-  if (action.verb() == "pin") return pinChirp(game_, *chirp);
-  if (action.verb() == "unpin") return unpinChirp(game_, *chirp);
-  if (action.verb() == "delete") return deleteChirp(game_, *chirp);
-  return {};
+  if (const auto chirp = wholeNumber(action.argument())) {
+    if (action.verb() == "pin") return pinChirp(game_, *chirp);
+    if (action.verb() == "unpin") return unpinChirp(game_, *chirp);
+    if (action.verb() == "delete") return deleteChirp(game_, *chirp);
+  }
+  return followMenu(game_, socialTab, action);
 }
 
 Outcome TwitterProfileViewController::followButton() {
@@ -83,6 +84,7 @@ Outcome TwitterProfileViewController::followButton() {
 View TwitterProfileViewController::view() const {
   View view{.title = "Chirp", .theme = Theme::chirp};
   describeProfile(view);
+  addMenu(view, game_, socialTab);
   describeFeed(view);
   view.mainAction =
       Button{.id = "goToCreateTwitterMessage", .label = "Chirp", .price = chirpCost, .style = Button::Style::primary};

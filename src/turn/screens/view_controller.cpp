@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "career/contract_terms.h"
 #include "career/energy.h"
-#include "career/label_contract.h"
 #include "core/calendar.h"
+#include "core/menu.h"
 #include "core/money.h"
+#include "core/needs.h"
 #include "core/own_photo.h"
 #include "core/view_words.h"
 #include "music/screens/song_rows.h"
@@ -31,40 +31,20 @@ int64_t bestChart(const GameState& state) {
   return best;
 }
 
-/// Under contract the way leads to what was signed, otherwise to what is offered.
-const char* contractSegue(const GameState& state) {
-  return state.underContract >= 1 ? "goToSignedContract" : "goToContractOffer";
-}
-
-Row contractRow(const Game& game) {
-  const GameState& state = game.state;
-  Row row = wayTo("labelContract", "document", "Label contract");
-  row.subtitle = game.launch.contractOfferState >= 1 ? "An offer waits" : "No offer";
-  if (state.underContract >= 1) {
-    const size_t running = runningContract(state);
-    const bool stands = running != state.saveAllContractLabelList.size();
-    row.subtitle = stands ? contractOutlook(state, state.saveAllContractLabelList[running]) : "Signed";
-  }
-  return row;
-}
-
 }  // namespace
 
 Outcome ViewController::open() {
-  refreshHomeHeader(game_);
+  rollCalendar(game_);
   return {};
 }
 
 Outcome ViewController::act(const Action& action) {
   if (action.verb() == "song") return goTo("goToSongDetail", std::string(action.argument()));
-  if (action.id == "labelContract") return goTo(contractSegue(state()));
-  static constexpr std::string_view segues[] = {"goToMonthlyListenerDetail", "goToBillboard",
-                                                "goToContractOffer",         "goToSettings",
-                                                "goToEnergyTransparency",    "goToArtistProfile"};
-  for (const std::string_view segue : segues) {
+  for (const std::string_view segue : {"goToMonthlyListenerDetail", "goToBillboard", "goToEnergyTransparency"}) {
     if (action.id == segue) return goTo(action.id);
   }
-  return {};
+  Outcome way = followNeed(game_, action);
+  return way.go ? way : followMenu(game_, homeTab, action);
 }
 
 View ViewController::view() const {
@@ -73,22 +53,15 @@ View ViewController::view() const {
                         : state().underContract >= 1 ? "Signed artist"
                                                      : "Independent artist",
             .picture = artistPicture(state())};
+  listNeeds(view, game_);
   describeStanding(view);
   describeWeek(view);
   describeMusic(view);
-  view.add(Heading{"More"});
-  view.add(Rows{{wayTo("goToArtistProfile", "person", "Artist profile", "What your listeners see"), contractRow(game_),
-                 wayTo("goToSettings", "settings", "Settings")}});
+  addMenu(view, game_, homeTab);
   return view;
 }
 
 void ViewController::describeStanding(View& view) const {
-  if (game_.launch.contractOfferState >= 1) {
-    Row offer =
-        wayTo("goToContractOffer", "label", "A record label wants to talk", "The offer waits until the week ends");
-    offer.badge = "!";
-    view.add(Rows{{std::move(offer)}});
-  }
   const std::vector<int64_t>& history = state().monthlyListenerData;
   Chart listeners{.title = "Monthly listeners",
                   .value = withCommas(state().totalFans),
