@@ -24,14 +24,12 @@ std::string idOf(const Need& need) { return need.argument.empty() ? need.segue :
 void listNeeds(View& view, const Game& game) {
   Rows rows;
   for (const Need& need : needsOf(game)) {
-    Row row;
-    row.id = idOf(need);
-    row.picture = need.picture;
-    row.title = need.title;
-    row.subtitle = need.subtitle;
-    row.badge = need.badge;
-    row.opens = true;
-    rows.items.push_back(std::move(row));
+    rows.items.push_back({.picture = need.picture,
+                          .title = need.title,
+                          .subtitle = need.subtitle,
+                          .badge = need.badge,
+                          .opens = true,
+                          .id = idOf(need)});
   }
   if (!rows.items.empty()) view.add(std::move(rows));
 }

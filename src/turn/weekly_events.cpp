@@ -93,13 +93,7 @@ Outcome resolveWeeklyEvent(Game& game, WeeklyEvents& events, int64_t id) {
 }
 
 Card eventCard(const GameState& state, const WeeklyEvents& events, const EventButton& button, std::string press) {
-  Card card;
-  card.picture = icon(button.gig->icon);
-  card.title = button.gig->headline;
-  card.text = button.gig->promise;
-  Button take;
-  take.id = std::move(press);
-  take.label = button.gig->name;
+  Button take{.id = std::move(press), .label = button.gig->name, .style = Button::Style::primary};
   // The price completes the caption; an amount that is nothing or less has no price to show and stands in the words.
   if (button.said.energy > 0 || button.said.dollars > 0) {
     const Charge now = gigCost(gigOf(button.id, state, events), state, events).charged();
@@ -108,9 +102,10 @@ Card eventCard(const GameState& state, const WeeklyEvents& events, const EventBu
   } else {
     take.label = button.caption();
   }
-  take.style = Button::Style::primary;
-  card.buttons.push_back(std::move(take));
-  return card;
+  return {.picture = icon(button.gig->icon),
+          .title = button.gig->headline,
+          .text = button.gig->promise,
+          .buttons = {std::move(take)}};
 }
 
 }  // namespace backbeat

@@ -132,6 +132,70 @@ class Reader {
     if (figures.total) read(*figures.total);
   }
   void read(const EmptyHint& hint) { stands("hint", hint.text); }
+  void read(const PhotoField&) {}
+  void read(const Slider& slider) {
+    stands(slider.label, slider.value);
+    stands(slider.label + ": note", slider.note);
+    stands(slider.label + ": low", slider.low);
+    stands(slider.label + ": high", slider.high);
+  }
+  void read(const Stepper& stepper) {
+    stands(stepper.label, stepper.value);
+    stands(stepper.label + ": note", stepper.note);
+  }
+  void read(const std::vector<Fact>& facts) {
+    for (const Fact& fact : facts) stands(fact.label.empty() ? fact.icon : fact.label, fact.value);
+  }
+  void read(const Poster& poster) {
+    stands("poster", poster.title);
+    stands("poster: kicker", poster.kicker);
+    stands("poster: text", poster.text);
+    stands("poster: figure", poster.figure);
+    stands("poster: badge", poster.stamp);
+    read(poster.facts);
+    if (poster.meter) read(*poster.meter);
+  }
+  void read(const Bill& bill) {
+    stands("bill", bill.title);
+    stands("bill: kicker", bill.kicker);
+    stands("bill: text", bill.text);
+    for (const Bill::Act& act : bill.acts) stands("act", act.name);
+    read(bill.facts);
+  }
+  void read(const Obituary& page) {
+    stands("page", page.title);
+    stands("page: kicker", page.kicker);
+    stands("page: text", page.text);
+    read(page.facts);
+  }
+  void read(const Story& story) {
+    stands("story", story.title);
+    stands("story: kicker", story.kicker);
+    stands("story: figure", story.figure);
+    stands("story: text", story.text);
+    read(story.facts);
+  }
+  void read(const Gauges& gauges) {
+    stands("gauges", gauges.title);
+    stands("gauges: note", gauges.note);
+    for (const Gauge& gauge : gauges.items) {
+      stands(gauge.label, gauge.value, gauge.id);
+      stands(gauge.label + ": note", gauge.note);
+      share(gauge.label, gauge.share);
+    }
+  }
+  void read(const Deck& deck) {
+    stands("deck", deck.title);
+    stands("deck: aside", deck.aside);
+    stands("deck: text", deck.text);
+    stands("deck: note", deck.note);
+    read(deck.facts);
+    for (const Deck::Corner& corner : deck.corners) stands(corner.label, corner.value);
+    for (const Deck::Choice& choice : deck.choices) price(choice.label, choice.price);
+  }
+  void read(const Tree& tree) {
+    for (const Tree::Person& one : tree.people) stands(one.title, one.subtitle, one.id);
+  }
 
   Standings standings_;
 };

@@ -7,10 +7,8 @@ namespace backbeat {
 Outcome DailyLifeViewController::act(const Action& action) { return followMenu(game_, lifeTab, action); }
 
 View DailyLifeViewController::view() const {
-  View view;
-  view.title = "Daily Life";
-  view.subtitle = "What you do between the songs";
-  view.picture = person(state().myArtistsName);
+  View view{
+      .title = "Daily Life", .subtitle = "What you do between the songs", .picture = person(state().myArtistsName)};
   addMenu(view, game_, lifeTab);
   return view;
 }

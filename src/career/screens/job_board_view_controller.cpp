@@ -2,6 +2,7 @@
 
 #include "core/money.h"
 #include "core/numbers.h"
+#include "core/view_words.h"
 
 namespace backbeat {
 
@@ -10,16 +11,14 @@ namespace {
 constexpr std::string_view jobButtonId = "jobButton";
 
 Row jobRow(const JobOffer& offer, size_t number, bool taken) {
-  Row row;
-  row.id = std::string(jobButtonId) + std::to_string(number + 1);
-  row.picture = icon("briefcase");
-  row.title = offer.job.jobTitle;
-  row.subtitle =
-      "+" + std::to_string(truncate(offer.job.jobPay)) + "/week | " + std::to_string(offer.weeks) + "/week contract";
-  row.value = "-" + std::to_string(offer.job.energyCost);
-  row.note = "energy a week";
-  row.selected = taken;
-  return row;
+  return {.picture = icon("briefcase"),
+          .title = std::string(offer.job.jobTitle),
+          .subtitle = "+" + std::to_string(truncate(offer.job.jobPay)) + "/week | " + std::to_string(offer.weeks) +
+                      "/week contract",
+          .value = "-" + std::to_string(offer.job.energyCost),
+          .note = "energy a week",
+          .selected = taken,
+          .id = std::string(jobButtonId) + std::to_string(number + 1)};
 }
 
 }  // namespace
@@ -44,25 +43,23 @@ Outcome JobBoardViewController::jobButton(size_t number) {
 }
 
 View JobBoardViewController::view() const {
-  View view;
-  view.title = "Job Board";
-  view.subtitle = "New jobs at every visit";
+  View view{.title = "Job Board", .subtitle = "New jobs at every visit"};
   if (state().weeklyJobContractRemaining > 0) {
-    view.add(Text{"Your contract runs for " + counted(state().weeklyJobContractRemaining, "more week") + " at " +
-                      currency(state().weeklyJobIncome) + " a week.",
-                  Tone::plain, Text::Style::caption});
+    view.add(caption("Your contract runs for " + counted(state().weeklyJobContractRemaining, "more week") + " at " +
+                     currency(state().weeklyJobIncome) + " a week."));
   }
   if (board_.empty()) {
-    view.add(EmptyHint{"briefcase", "NO JOBS AVAILABLE"});
+    view.add(EmptyHint{.icon = "briefcase", .text = "NO JOBS AVAILABLE"});
   } else {
     Rows rows;
     for (size_t i = 0; i < board_.size(); ++i) rows.items.push_back(jobRow(board_[i], i, taken_ == i));
     view.add(std::move(rows));
   }
   view.help =
-      Help{"Jobs",
-           "A job pays in every weekly report and takes its energy every week, until its contract has run out. "
-           "There is no way to quit.\n\nThe board asks for energy at each visit and never looks the same twice."};
+      Help{.title = "Jobs",
+           .text =
+               "A job pays in every weekly report and takes its energy every week, until its contract has run out. "
+               "There is no way to quit.\n\nThe board asks for energy at each visit and never looks the same twice."};
   return view;
 }
 

@@ -15,26 +15,22 @@ std::string boostNoun(const LifestyleCategory& category) {
 
 Row currentRow(const GameState& state, const LifestyleCategory& category) {
   const auto entry = lifestyleEntry(state, category);
-  Row row;
-  row.picture = icon(std::string(category.icon));
-  row.title = std::string(category.title) + " Weekly Expenses: ";
-  row.subtitle = entry ? entry->title : "Nothing chosen yet";
-  row.value = currency(entry ? entry->amount : 0);
-  if (entry) row.note = "+" + std::to_string(entry->energyBoost) + " " + boostNoun(category);
-  return row;
+  return {.picture = icon(std::string(category.icon)),
+          .title = std::string(category.title) + " Weekly Expenses: ",
+          .subtitle = entry ? entry->title : "Nothing chosen yet",
+          .value = currency(entry ? entry->amount : 0),
+          .note = entry ? "+" + std::to_string(entry->energyBoost) + " " + boostNoun(category) : ""};
 }
 
 Row optionRow(const LifestyleCategory& category, size_t number, const std::string& chosen) {
   const LifestyleOption& option = category.options[number];
-  Row row;
-  row.id = "option:" + std::to_string(number);
-  row.title = option.title;
-  row.subtitle = currency(option.cost) + " a week";
-  row.value = "+" + std::to_string(option.energyBoost);
-  row.note = boostNoun(category);
-  row.price = option.firstPayment();
-  row.selected = chosen == option.title;
-  return row;
+  return {.title = std::string(option.title),
+          .subtitle = currency(option.cost) + " a week",
+          .value = "+" + std::to_string(option.energyBoost),
+          .note = boostNoun(category),
+          .price = option.firstPayment(),
+          .selected = chosen == option.title,
+          .id = "option:" + std::to_string(number)};
 }
 
 }  // namespace
@@ -64,28 +60,25 @@ View LifestyleChoicesViewController::view() const {
   View view;
   if (!category_) {
     view.title = "Lifestyle";
-    view.add(EmptyHint{"life", "There is nothing to choose here."});
+    view.add(EmptyHint{.icon = "life", .text = "There is nothing to choose here."});
     return view;
   }
   view.title = category_->title;
   view.subtitle = category_->description;
   view.add(Rows{{currentRow(state(), *category_)}});
-  view.add(Heading{"Options", {}});
+  view.add(Heading{"Options"});
   const auto entry = lifestyleEntry(state(), *category_);
   Rows rows;
   for (size_t i = 0; i < category_->options.size(); ++i) {
     rows.items.push_back(optionRow(*category_, i, entry ? entry->title : ""));
   }
   view.add(std::move(rows));
-  Button clear;
-  clear.id = "clearExpense";
-  clear.label = "Clear Expense";
-  clear.style = Button::Style::destructive;
-  view.add(std::move(clear));
+  view.add(Button{.id = "clearExpense", .label = "Clear Expense", .style = Button::Style::destructive});
   view.help =
-      Help{"How you live",
-           "A choice is paid at once, and then again every week. What it gives is yours at once, and goes again "
-           "when you choose something else or clear the expense."};
+      Help{.title = "How you live",
+           .text =
+               "A choice is paid at once, and then again every week. What it gives is yours at once, and goes again "
+               "when you choose something else or clear the expense."};
   return view;
 }
 

@@ -1,26 +1,25 @@
 #include "career/screens/my_music_view_controller.h"
 
-#include <algorithm>
-
 #include "career/traits.h"
+#include "core/view_words.h"
 
 namespace backbeat {
 
 namespace {
 
 Row traitRow(const GameState& state, const Trait& trait) {
-  Row row;
   const int64_t level = state.*trait.level;
-  row.id = "levelUpTrait:" + std::string(trait.key);
-  row.picture = icon(std::string(trait.icon));
-  row.title = trait.title;
-  row.subtitle = trait.effect;
+  const bool waits = trait.needsLabel && state.isLabelLaunched < 1;
+  Row row{.picture = icon(std::string(trait.icon)),
+          .title = std::string(trait.title),
+          .subtitle = std::string(trait.effect),
+          .value = std::to_string(level),
+          .tone = waits ? Tone::locked : Tone::plain,
+          .share = shareOf(level, trait.highestLevel),
+          .id = "levelUpTrait:" + std::string(trait.key)};
   if (trait.level == &GameState::virality && state.fashionViralityBonus > 0) {
     row.subtitle = "+" + std::to_string(state.fashionViralityBonus) + " from your style";
   }
-  row.value = std::to_string(level);
-  row.share = std::clamp(static_cast<double>(level) / static_cast<double>(trait.highestLevel), 0.0, 1.0);
-  if (trait.needsLabel && state.isLabelLaunched < 1) row.tone = Tone::locked;
   if (isFinished(state, trait)) {
     row.badge = "MAX";
     return row;
@@ -47,14 +46,12 @@ Outcome MyMusicViewController::act(const Action& action) {
 }
 
 View MyMusicViewController::view() const {
-  View view;
-  view.title = "Traits";
-  view.subtitle = "Energy makes you better";
-  view.add(Heading{"ARTIST TRAITS", {}});
+  View view{.title = "Traits", .subtitle = "Energy makes you better"};
+  view.add(Heading{"ARTIST TRAITS"});
   view.add(traitRows(state(), false));
-  view.add(Heading{"BUSINESS TRAITS", {}});
+  view.add(Heading{"BUSINESS TRAITS"});
   if (state().isLabelLaunched < 1) {
-    view.add(Text{"These wait for the day you launch your own record label.", Tone::locked, Text::Style::caption});
+    view.add(caption("These wait for the day you launch your own record label.", Tone::locked));
   }
   view.add(traitRows(state(), true));
   view.help = Help{

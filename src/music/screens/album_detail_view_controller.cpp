@@ -1,8 +1,7 @@
 #include "music/screens/album_detail_view_controller.h"
 
-#include <algorithm>
-
 #include "core/money.h"
+#include "core/view_words.h"
 #include "music/album_creation.h"
 #include "music/album_release.h"
 #include "music/covers.h"
@@ -15,13 +14,6 @@ namespace backbeat {
 namespace {
 
 constexpr size_t weeksOnGraph = 26;
-
-Button button(std::string id, std::string label) {
-  Button shown;
-  shown.id = std::move(id);
-  shown.label = std::move(label);
-  return shown;
-}
 
 }  // namespace
 
@@ -44,17 +36,13 @@ View AlbumDetailViewController::view() const {
   const auto position = albumPosition(state(), albumId_);
   if (!position) {
     view.title = "Album";
-    view.add(EmptyHint{"album", "This album is no longer there."});
+    view.add(EmptyHint{.icon = "album", .text = "This album is no longer there."});
     return view;
   }
   const Album& album = state().saveAllAlbumList[*position];
   view.title = album.title;
-  Cover head;
-  head.picture = coverOf(state(), album);
-  head.title = album.title;
-  head.text = albumFormat(album);
-  head.text += album.isReleased ? "\nReleased in " + std::to_string(album.releaseYear) : "\nIn Production";
-  view.add(std::move(head));
+  const std::string stage = album.isReleased ? "\nReleased in " + std::to_string(album.releaseYear) : "\nIn Production";
+  view.add(Cover{.picture = coverOf(state(), album), .title = album.title, .text = albumFormat(album) + stage});
   if (album.isReleased) {
     describeReleased(view, album);
   } else {
@@ -65,42 +53,42 @@ View AlbumDetailViewController::view() const {
 }
 
 void AlbumDetailViewController::describeProduction(View& view, const Album& album) const {
-  view.add(Meter{"Production rating", withDecimals(album.productionRating, 2),
-                 std::clamp(album.productionRating / 100, 0.0, 1.0), Tone::plain});
-  view.add(Heading{"Before the release", {}});
+  view.add(Meter{.label = "Production rating",
+                 .value = withDecimals(album.productionRating, 2),
+                 .share = shareOf(album.productionRating, 100.0)});
+  view.add(Heading{"Before the release"});
   if (const int64_t missing = fewestSongsOnAlbum - album.songCount; missing > 0) {
-    view.add(Text{counted(missing, "more song") + " and it can come out.", Tone::warning, Text::Style::body});
+    view.add(Text{.text = counted(missing, "more song") + " and it can come out.", .tone = Tone::warning});
   }
-  view.add(button("pricingButton", "SET PRICING (" + price(album.price) + ")"));
-  view.add(button("marketingButton", "MARKETING"));
-  Button release = button("releaseButton", "RELEASE");
-  release.price = albumReleaseCost;
-  release.style = Button::Style::primary;
-  view.mainAction = std::move(release);
-  view.help = Help{"Before the release",
-                   "Three songs make an album. With six it is an LP, with fewer an EP.\n\nThe songs that are not out "
-                   "yet come out with it, for the 10 energy of one release. Price and marketing can only be set "
-                   "before."};
+  view.add(Button{.id = "pricingButton", .label = "SET PRICING (" + price(album.price) + ")"});
+  view.add(Button{.id = "marketingButton", .label = "MARKETING"});
+  view.mainAction =
+      Button{.id = "releaseButton", .label = "RELEASE", .price = albumReleaseCost, .style = Button::Style::primary};
+  view.help =
+      Help{.title = "Before the release",
+           .text =
+               "Three songs make an album. With six it is an LP, with fewer an EP.\n\nThe songs that are not out "
+               "yet come out with it, for the 10 energy of one release. Price and marketing can only be set "
+               "before."};
 }
 
 void AlbumDetailViewController::describeReleased(View& view, const Album& album) const {
   view.add(salesChart(state(), album, weeksOnGraph));
   view.add(albumCertificationMeter(album));
   const WeeklyFigures figures = albumFigures(state(), album.albumId);
-  Tiles tiles;
-  tiles.items.push_back({"star", "Rating", withDecimals(album.productionRating, 1), "", Tone::plain, ""});
-  tiles.items.push_back({"cash", "Earned", "$" + abbreviated(figures.earned), "", Tone::plain, ""});
-  tiles.items.push_back({"cart", "Price", price(album.price), "", Tone::plain, ""});
-  view.add(std::move(tiles));
-  view.add(Text{"RELEASED ", Tone::good, Text::Style::caption});
-  view.add(button("marketingButton", "Statistics"));
+  view.add(Tiles{{{.icon = "star", .label = "Rating", .value = withDecimals(album.productionRating, 1)},
+                  {.icon = "cash", .label = "Earned", .value = "$" + abbreviated(figures.earned)},
+                  {.icon = "cart", .label = "Price", .value = price(album.price)}}});
+  view.add(caption("RELEASED ", Tone::good));
+  view.add(Button{.id = "marketingButton", .label = "Statistics"});
 }
 
 void AlbumDetailViewController::describeSongs(View& view) const {
-  view.add(Heading{"Songs", {}});
+  view.add(Heading{"Songs"});
   const std::vector<size_t> positions = songsOnAlbum(state(), albumId_);
   if (positions.empty()) {
-    view.add(EmptyHint{"note", "No songs yet. Pick this album when you create a song, or add one from its own page."});
+    view.add(EmptyHint{.icon = "note",
+                       .text = "No songs yet. Pick this album when you create a song, or add one from its own page."});
     return;
   }
   view.add(windowedRows("songs", songs_, static_cast<int64_t>(positions.size()),

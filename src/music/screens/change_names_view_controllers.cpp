@@ -4,6 +4,7 @@
 
 #include "core/money.h"
 #include "core/text.h"
+#include "core/view_words.h"
 #include "music/guests.h"
 
 namespace backbeat {
@@ -36,41 +37,28 @@ Outcome ChangeNamesViewController::saveButton() {
 }
 
 View ChangeNamesViewController::view() const {
-  View view;
-  view.title = title();
+  View view{.title = title()};
   const std::vector<Person> all = people();
   const auto chosen = std::find_if(all.begin(), all.end(), [&](const Person& one) { return one.id == id_; });
   if (chosen == all.end()) {
     view.subtitle = "Give them other names";
     Rows rows;
     for (const Person& one : all) {
-      Row row;
-      row.id = "person:" + std::to_string(one.id);
-      row.picture = person(one.name);
-      row.title = one.name;
-      row.value = currency(static_cast<double>(one.cost));
-      row.opens = true;
-      rows.items.push_back(std::move(row));
+      rows.items.push_back({.picture = person(one.name),
+                            .title = one.name,
+                            .value = currency(static_cast<double>(one.cost)),
+                            .opens = true,
+                            .id = "person:" + std::to_string(one.id)});
     }
     view.add(std::move(rows));
     return view;
   }
   view.picture = person(typed_);
   view.subtitle = chosen->name;
-  TextField field;
-  field.id = "name";
-  field.label = "Name";
-  field.value = typed_;
-  field.placeholder = chosen->name;
-  field.maxLength = longestName;
-  view.add(std::move(field));
-  view.add(Text{"Cost and talent stay as they are. Songs that are made already keep the old name.", Tone::plain,
-                Text::Style::caption});
-  Button save;
-  save.id = "saveButton";
-  save.label = "Save the name";
-  save.style = Button::Style::primary;
-  view.mainAction = std::move(save);
+  view.add(
+      TextField{.id = "name", .label = "Name", .value = typed_, .placeholder = chosen->name, .maxLength = longestName});
+  view.add(caption("Cost and talent stay as they are. Songs that are made already keep the old name."));
+  view.mainAction = Button{.id = "saveButton", .label = "Save the name", .style = Button::Style::primary};
   return view;
 }
 

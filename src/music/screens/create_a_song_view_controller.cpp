@@ -28,15 +28,10 @@ Tone toneOfRating(int64_t rating) {
 }
 
 Choice describe(size_t list, const std::vector<ProductionOption>& options, size_t chosen) {
-  Choice choice;
-  choice.id = choiceIds[list];
-  choice.label = choiceLabels[list];
-  choice.selected = static_cast<int64_t>(chosen);
+  Choice choice{.id = choiceIds[list], .label = choiceLabels[list], .selected = static_cast<int64_t>(chosen)};
   for (const ProductionOption& option : options) {
-    Option shown;
-    shown.label = option.name;
-    shown.note = "Rating | " + std::to_string(option.rating);
-    shown.tone = toneOfRating(option.rating);
+    Option shown{
+        .label = option.name, .note = "Rating | " + std::to_string(option.rating), .tone = toneOfRating(option.rating)};
     if (option.cost > 0) shown.price = Price{.dollars = static_cast<double>(option.cost)};
     choice.options.push_back(std::move(shown));
   }
@@ -114,26 +109,18 @@ SongDraft CreateASongViewController::draft() const {
 }
 
 View CreateASongViewController::view() const {
-  View view;
-  view.title = "Create a Song";
+  View view{.title = "Create a Song"};
   const SongDraft song = draft();
-  Cover head;
-  head.picture = cover(title_.empty() ? "Untitled" : title_);
-  head.title = title_.empty() ? "Untitled song" : title_;
-  head.text = std::string(genres[static_cast<size_t>(genre_)]) + " · " + song.album;
-  view.add(std::move(head));
-  TextField field;
-  field.id = "title";
-  field.label = "Title";
-  field.value = title_;
-  field.placeholder = "Name your song";
-  field.suggest = "dice";
-  view.add(std::move(field));
-  view.add(Heading{"Production", {}});
+  view.add(Cover{.picture = cover(title_.empty() ? "Untitled" : title_),
+                 .title = title_.empty() ? "Untitled song" : title_,
+                 .text = std::string(genres[static_cast<size_t>(genre_)]) + " · " + song.album});
+  view.add(
+      TextField{.id = "title", .label = "Title", .value = title_, .placeholder = "Name your song", .suggest = "dice"});
+  view.add(Heading{"Production"});
   for (size_t list = 0; list < choiceIds.size(); ++list) {
     view.add(describe(list, listOf(options_, list), chosen_[list]));
   }
-  view.add(Heading{"Guests", {}});
+  view.add(Heading{"Guests"});
   Row guests = wayTo("goToFeaturedArtists", "guest", "Featured artists");
   for (const int64_t id : song.guests) {
     Guest guest;
@@ -141,32 +128,27 @@ View CreateASongViewController::view() const {
   }
   if (guests.subtitle.empty()) guests.subtitle = "Nobody yet: going alone";
   view.add(Rows{{std::move(guests)}});
-  view.add(Heading{"Details", {}});
-  Choice album;
-  album.id = "album";
-  album.label = "Album";
+  view.add(Heading{"Details"});
+  Choice album{.id = "album", .label = "Album"};
   const std::vector<std::string> labels = albumPicker();
-  for (const std::string& label : labels) album.options.push_back({label, "", Tone::plain, {}});
+  for (const std::string& label : labels) album.options.push_back({.label = label});
   album.selected = std::max<int64_t>(std::find(labels.begin(), labels.end(), albumLabel_) - labels.begin(), 0);
   if (album.selected == static_cast<int64_t>(labels.size())) album.selected = 0;
   view.add(std::move(album));
-  Choice genre;
-  genre.id = "genre";
-  genre.label = "Genre";
-  for (const std::string_view name : genres) genre.options.push_back({std::string(name), "", Tone::plain, {}});
-  genre.selected = genre_;
+  Choice genre{.id = "genre", .label = "Genre", .selected = genre_};
+  for (const std::string_view name : genres) genre.options.push_back({.label = std::string(name)});
   view.add(std::move(genre));
-  view.add(Toggle{"explicit", "Explicit", isExplicit_, "Carries the \"E\" mark"});
-  Button create;
-  create.id = "createSongButton";
-  create.label = "Create Song";
-  create.price = costToProduceSong(state(), song);
-  create.style = Button::Style::primary;
-  view.mainAction = std::move(create);
-  view.help = Help{"How a song turns out",
-                   "The rating is nearly the mean of songwriting, musicality, studio, your charisma and a roll of your "
-                   "virality, with some luck on top. One weak input drags the song down.\n\nThe rating is also the "
-                   "number of weeks the song lives. A guest lends half of what they have."};
+  view.add(Toggle{.id = "explicit", .label = "Explicit", .on = isExplicit_, .note = "Carries the \"E\" mark"});
+  view.mainAction = Button{.id = "createSongButton",
+                           .label = "Create Song",
+                           .price = costToProduceSong(state(), song),
+                           .style = Button::Style::primary};
+  view.help =
+      Help{.title = "How a song turns out",
+           .text =
+               "The rating is nearly the mean of songwriting, musicality, studio, your charisma and a roll of your "
+               "virality, with some luck on top. One weak input drags the song down.\n\nThe rating is also the "
+               "number of weeks the song lives. A guest lends half of what they have."};
   return view;
 }
 

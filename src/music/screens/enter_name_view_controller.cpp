@@ -19,25 +19,13 @@ Outcome EnterNameViewController::saveButton() {
 }
 
 View EnterNameViewController::view() const {
-  View view;
-  view.title = "Who are you?";
-  view.subtitle = "Week 1, 2023";
-  view.picture = person(name_);
-  view.add(
-      Text{"A microphone, an empty notebook and a city that has not heard of you yet. Every legend starts with a "
-           "name.",
-           Tone::plain, Text::Style::lead});
-  TextField field;
-  field.id = "name";
-  field.label = "Artist name";
-  field.value = name_;
-  field.placeholder = "Enter a name";
-  view.add(std::move(field));
-  Button save;
-  save.id = "saveButton";
-  save.label = "Start the career";
-  save.style = Button::Style::primary;
-  view.mainAction = std::move(save);
+  View view{.title = "Who are you?", .subtitle = "Week 1, 2023", .picture = person(name_)};
+  view.add(Text{
+      .text = "A microphone, an empty notebook and a city that has not heard of you yet. Every legend starts with a "
+              "name.",
+      .style = Text::Style::lead});
+  view.add(TextField{.id = "name", .label = "Artist name", .value = name_, .placeholder = "Enter a name"});
+  view.mainAction = Button{.id = "saveButton", .label = "Start the career", .style = Button::Style::primary};
   return view;
 }
 

@@ -75,12 +75,12 @@ bool FeaturingViewController::isOnTheSong(int64_t pickedId) const {
 }
 
 Row FeaturingViewController::describe(int64_t pickedId, const std::string& name, double rating, double virality) const {
-  Row row;
-  row.id = "add:" + std::to_string(pickedId);
-  row.picture = person(name);
-  row.title = name;
-  row.subtitle = "Rating " + withDecimals(rating, 0) + " · Virality " + withDecimals(virality, 0);
-  row.actions.push_back({"changeName:" + std::to_string(pickedId), "Change the name", Tone::plain});
+  const std::string id = std::to_string(pickedId);
+  Row row{.picture = person(name),
+          .title = name,
+          .subtitle = "Rating " + withDecimals(rating, 0) + " · Virality " + withDecimals(virality, 0),
+          .id = "add:" + id,
+          .actions = {{.id = "changeName:" + id, .label = "Change the name"}}};
   if (isOnTheSong(pickedId)) {
     row.selected = true;
     row.note = holds(addedBefore_, pickedId) ? "Already Added" : "Added";
@@ -89,16 +89,13 @@ Row FeaturingViewController::describe(int64_t pickedId, const std::string& name,
 }
 
 View FeaturingViewController::view() const {
-  View view;
-  view.title = "FEATURED ARTISTS";
+  View view{.title = "FEATURED ARTISTS"};
   const size_t selected = game_.launch.selectedFeaturedArtists.size();
   const int64_t skill = overallSkillRating(state());
   view.subtitle = std::to_string(selected) + " of " + std::to_string(mostGuestsOnASong) + " added";
-  Tiles tiles;
-  tiles.items.push_back({"star", "Your skill rating", std::to_string(skill), "", Tone::plain, ""});
-  view.add(std::move(tiles));
+  view.add(Tiles{{{.icon = "star", .label = "Your skill rating", .value = std::to_string(skill)}}});
   if (!state().saveAllSignedArtistList.empty()) {
-    view.add(Heading{"Your label", {}});
+    view.add(Heading{"Your label"});
     Rows artists;
     for (const SignedArtist& artist : state().saveAllSignedArtistList) {
       const int64_t pickedId = firstSignedArtistPick + artist.artistId;
@@ -107,7 +104,7 @@ View FeaturingViewController::view() const {
       artists.items.push_back(describe(pickedId, guest.name, guest.rating, guest.virality));
     }
     view.add(std::move(artists));
-    view.add(Heading{"For hire", {}});
+    view.add(Heading{"For hire"});
   }
   Rows guests;
   for (const FeaturedArtist& guest : guestTable(state())) {
@@ -120,10 +117,12 @@ View FeaturingViewController::view() const {
     guests.items.push_back(std::move(row));
   }
   view.add(std::move(guests));
-  view.help = Help{"Guests",
-                   "A guest lends the song half of their rating and half of their virality; several guests lend the "
-                   "mean of theirs. They are paid when the song is made.\n\nYour skill rating opens doors: each star "
-                   "asks for a certain one. Artists of your own label sing for free."};
+  view.help =
+      Help{.title = "Guests",
+           .text =
+               "A guest lends the song half of their rating and half of their virality; several guests lend the "
+               "mean of theirs. They are paid when the song is made.\n\nYour skill rating opens doors: each star "
+               "asks for a certain one. Artists of your own label sing for free."};
   return view;
 }
 

@@ -7,7 +7,6 @@
 #include "core/money.h"
 #include "core/own_photo.h"
 #include "core/record_codec.h"
-#include "core/view_words.h"
 #include "music/album_release.h"
 #include "music/screens/album_rows.h"
 #include "music/screens/song_rows.h"
@@ -80,29 +79,21 @@ Outcome MusicViewController::createSongButton() {
 Outcome MusicViewController::createAlbumButton() const { return goTo("goToCreateAnAlbum"); }
 
 View MusicViewController::view() const {
-  View view;
-  view.title = "Music";
-  view.subtitle = counted(static_cast<int64_t>(releasedSongs(state()).size()), "song") + " and " +
-                  counted(static_cast<int64_t>(releasedAlbums(state()).size()), "album") + " released";
-  view.picture = artistPicture(state());
-  Button song;
-  song.id = "createSongButton";
-  song.label = "Create a Song";
-  song.price = Price{.energy = songEnergy};
-  song.pulse = state().loginCount == 0;
-  song.style = Button::Style::primary;
-  view.add(std::move(song));
-  Button album;
-  album.id = "createAlbumButton";
-  album.label = "Create an Album";
-  view.add(std::move(album));
-  Choice kind;
-  kind.id = "kind";
-  kind.label = "Your music";
-  kind.style = Choice::Style::segments;
-  kind.options = {{"Songs", "", Tone::plain, {}}, {"Albums", "", Tone::plain, {}}};
-  kind.selected = showsAlbums_ ? 1 : 0;
-  view.add(std::move(kind));
+  View view{.title = "Music",
+            .subtitle = counted(static_cast<int64_t>(releasedSongs(state()).size()), "song") + " and " +
+                        counted(static_cast<int64_t>(releasedAlbums(state()).size()), "album") + " released",
+            .picture = artistPicture(state())};
+  view.add(Button{.id = "createSongButton",
+                  .label = "Create a Song",
+                  .price = Price{.energy = songEnergy},
+                  .style = Button::Style::primary,
+                  .pulse = state().loginCount == 0});
+  view.add(Button{.id = "createAlbumButton", .label = "Create an Album"});
+  view.add(Choice{.id = "kind",
+                  .label = "Your music",
+                  .options = {{.label = "Songs"}, {.label = "Albums"}},
+                  .selected = showsAlbums_ ? 1 : 0,
+                  .style = Choice::Style::segments});
   if (showsAlbums_) {
     describeAlbums(view);
   } else {
@@ -117,16 +108,17 @@ void MusicViewController::describeSongs(View& view) const {
   const std::vector<size_t> inProduction = positionsWhere(songs, false);
   const std::vector<size_t> released = releasedSongs(state());
   if (songs.empty()) {
-    view.add(EmptyHint{"note", "No songs yet. Write one, release it, and end the week to hear what the world says."});
+    view.add(EmptyHint{.icon = "note",
+                       .text = "No songs yet. Write one, release it, and end the week to hear what the world says."});
   }
   if (!inProduction.empty()) {
-    view.add(Heading{"In production", {}});
+    view.add(Heading{"In production"});
     Rows rows;
     for (const size_t i : inProduction) rows.items.push_back(songRow(state(), songs[i]));
     view.add(std::move(rows));
   }
   if (!released.empty()) {
-    view.add(Heading{"Released", {}});
+    view.add(Heading{"Released"});
     view.add(windowedRows("released", released_, static_cast<int64_t>(released.size()),
                           [&](size_t i) { return songRow(state(), songs[released[i]]); }));
   }
@@ -137,16 +129,17 @@ void MusicViewController::describeAlbums(View& view) const {
   const std::vector<size_t> inProduction = albumsInProduction(state());
   const std::vector<size_t> released = releasedAlbums(state());
   if (inProduction.empty() && released.empty()) {
-    view.add(EmptyHint{"album", "No albums yet. Create one, put three songs on it, and give it a price."});
+    view.add(
+        EmptyHint{.icon = "album", .text = "No albums yet. Create one, put three songs on it, and give it a price."});
   }
   if (!inProduction.empty()) {
-    view.add(Heading{"In production", {}});
+    view.add(Heading{"In production"});
     Rows rows;
     for (const size_t i : inProduction) rows.items.push_back(albumRow(state(), albums[i]));
     view.add(std::move(rows));
   }
   if (!released.empty()) {
-    view.add(Heading{"Released", {}});
+    view.add(Heading{"Released"});
     view.add(windowedRows("releasedAlbums", releasedAlbums_, static_cast<int64_t>(released.size()),
                           [&](size_t i) { return albumRow(state(), albums[released[released.size() - 1 - i]]); }));
   }

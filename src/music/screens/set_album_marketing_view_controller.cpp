@@ -48,38 +48,36 @@ Outcome SetAlbumMarketingViewController::selectButton(size_t tier) {
 Outcome SetAlbumMarketingViewController::setMarketingButton() { return applyMarketingPlan(game_, target_, plan_); }
 
 View SetAlbumMarketingViewController::view() const {
-  View view;
-  view.title = "Set Marketing";
   const auto title = titleOf(state(), target_);
   if (!title) {
-    view.add(EmptyHint{"megaphone", "There is nothing to market any more."});
-    return view;
+    View gone{.title = "Set Marketing"};
+    gone.add(EmptyHint{.icon = "megaphone", .text = "There is nothing to market any more."});
+    return gone;
   }
-  view.subtitle = *title;
+  View view{.title = "Set Marketing", .subtitle = *title};
   Rows rows;
   for (size_t tier = 0; tier < marketingPlans.size(); ++tier) {
     const MarketingPlan& plan = marketingPlans[tier];
-    Row row;
-    row.id = "plan:" + std::to_string(tier);
-    row.picture = icon(planTexts[tier].icon);
-    row.title = planTexts[tier].title;
-    row.subtitle = "Marketing " + std::to_string(plan.leastScore) + " to " + std::to_string(plan.greatestScore);
-    row.price = plan.cost;
-    row.selected = tier_ == tier;
-    rows.items.push_back(std::move(row));
+    rows.items.push_back(
+        {.picture = icon(planTexts[tier].icon),
+         .title = planTexts[tier].title,
+         .subtitle = "Marketing " + std::to_string(plan.leastScore) + " to " + std::to_string(plan.greatestScore),
+         .price = plan.cost,
+         .selected = tier_ == tier,
+         .id = "plan:" + std::to_string(tier)});
   }
   view.add(std::move(rows));
-  Button set;
-  set.id = "setMarketingButton";
-  set.label = tier_ ? "Set Marketing" : "Leave It As It Is";
-  if (tier_) set.price = plan_.cost;
-  set.style = Button::Style::primary;
-  view.mainAction = std::move(set);
-  view.help = Help{"What marketing does",
-                   "Marketing brings listeners who have never heard of you, and keeps a release in its strong weeks "
-                   "until it is used up. How much a plan brings is luck within its range.\n\nA plan replaces whatever "
-                   "marketing there was. An album's plan counts for each of its songs as well, and the album gains "
-                   "a little more with each song on it."};
+  view.mainAction = Button{.id = "setMarketingButton",
+                           .label = tier_ ? "Set Marketing" : "Leave It As It Is",
+                           .price = tier_ ? std::optional(plan_.cost) : std::nullopt,
+                           .style = Button::Style::primary};
+  view.help =
+      Help{.title = "What marketing does",
+           .text =
+               "Marketing brings listeners who have never heard of you, and keeps a release in its strong weeks "
+               "until it is used up. How much a plan brings is luck within its range.\n\nA plan replaces whatever "
+               "marketing there was. An album's plan counts for each of its songs as well, and the album gains "
+               "a little more with each song on it."};
   return view;
 }
 

@@ -1,8 +1,7 @@
 #include "music/screens/song_detail_view_controller.h"
 
-#include <algorithm>
-
 #include "core/money.h"
+#include "core/view_words.h"
 #include "music/album_release.h"
 #include "music/covers.h"
 #include "music/genres.h"
@@ -24,22 +23,6 @@ std::string hookOf(const GameState& state, const Song& song) {
     if (made.songId == song.songId && number < genres.size()) genre = genres[number];
   }
   return song.title + "|" + genre;
-}
-
-Button priced(std::string id, std::string label, const Price& price, Button::Style style = Button::Style::secondary) {
-  Button button;
-  button.id = std::move(id);
-  button.label = std::move(label);
-  button.price = price;
-  button.style = style;
-  return button;
-}
-
-Button leading(std::string id, std::string label) {
-  Button button;
-  button.id = std::move(id);
-  button.label = std::move(label);
-  return button;
 }
 
 std::string featuring(const Song& song) {
@@ -82,19 +65,18 @@ View SongDetailViewController::view() const {
   const auto position = songPosition(state(), songId_);
   if (!position) {
     view.title = "Song";
-    view.add(EmptyHint{"note", "This song is no longer there."});
+    view.add(EmptyHint{.icon = "note", .text = "This song is no longer there."});
     return view;
   }
   const Song& song = state().saveAllSongList[*position];
   view.title = song.title;
-  Cover head;
-  head.picture = coverOf(state(), song);
-  head.title = song.title;
-  head.text = song.album;
+  Cover head{.picture = coverOf(state(), song),
+             .title = song.title,
+             .text = song.album,
+             .badge = song.isExplicit >= 1 ? "E" : "",
+             .hook = hookOf(state(), song)};
   if (const std::string names = featuring(song); !names.empty()) head.text += "\n" + names;
   head.text += song.isReleased ? "\nReleased in " + std::to_string(song.releaseYear) : "\nIn production";
-  if (song.isExplicit >= 1) head.badge = "E";
-  head.hook = hookOf(state(), song);
   view.add(std::move(head));
   if (song.isReleased) {
     describeReleased(view, song);
@@ -105,34 +87,42 @@ View SongDetailViewController::view() const {
 }
 
 void SongDetailViewController::describeProduction(View& view, const Song& song) const {
-  view.add(Meter{"Production rating", withDecimals(song.productionRating, 2),
-                 std::clamp(song.productionRating / 100, 0.0, 1.0), Tone::plain});
-  view.add(Meter{"Virality", withDecimals(song.viralityScore, 2), std::clamp(song.viralityScore / 100, 0.0, 1.0),
-                 Tone::plain});
-  view.add(Heading{"Before the release", {}});
+  view.add(Meter{.label = "Production rating",
+                 .value = withDecimals(song.productionRating, 2),
+                 .share = shareOf(song.productionRating, 100.0)});
+  view.add(Meter{
+      .label = "Virality", .value = withDecimals(song.viralityScore, 2), .share = shareOf(song.viralityScore, 100.0)});
+  view.add(Heading{"Before the release"});
   // The button tells 1.0 and the boost gives 1.5: intended.
-  if (const auto cost = productionBoostCost(song)) view.add(priced("boostProduction", "Production +1.0", *cost));
-  if (const auto cost = viralityBoostCost(song)) view.add(priced("boostVirality", "Virality +0.5", *cost));
-  view.add(priced("announceButton", songAnnounced(state(), songId_) ? "Announced" : "Announce on Chirp", chirpCost));
-  view.add(leading("marketingButton", "Marketing"));
-  view.add(leading("addToAlbumButton", "Add to Album"));
-  view.mainAction = priced("releaseButton", "RELEASE", releaseCost, Button::Style::primary);
-  view.help = Help{"Before the release",
-                   "Nothing happens to a song until it is released. Boosts and an announcement only work before "
-                   "that.\n\nProduction decides how much of the audience listens, and for how many weeks the song "
-                   "lives. Virality multiplies its audience in the first weeks."};
+  if (const auto cost = productionBoostCost(song)) {
+    view.add(Button{.id = "boostProduction", .label = "Production +1.0", .price = cost});
+  }
+  if (const auto cost = viralityBoostCost(song)) {
+    view.add(Button{.id = "boostVirality", .label = "Virality +0.5", .price = cost});
+  }
+  view.add(Button{.id = "announceButton",
+                  .label = songAnnounced(state(), songId_) ? "Announced" : "Announce on Chirp",
+                  .price = chirpCost});
+  view.add(Button{.id = "marketingButton", .label = "Marketing"});
+  view.add(Button{.id = "addToAlbumButton", .label = "Add to Album"});
+  view.mainAction =
+      Button{.id = "releaseButton", .label = "RELEASE", .price = releaseCost, .style = Button::Style::primary};
+  view.help = Help{.title = "Before the release",
+                   .text =
+                       "Nothing happens to a song until it is released. Boosts and an announcement only work before "
+                       "that.\n\nProduction decides how much of the audience listens, and for how many weeks the song "
+                       "lives. Virality multiplies its audience in the first weeks."};
 }
 
 void SongDetailViewController::describeReleased(View& view, const Song& song) const {
   view.add(streamsChart(state(), song, weeksOnGraph));
-  Tiles tiles;
-  tiles.items.push_back({"star", "Rating", withDecimals(song.productionRating, 1), "", Tone::plain, ""});
-  tiles.items.push_back({"flame", "Virality", withDecimals(song.viralityScore, 1), "", Tone::plain, ""});
-  tiles.items.push_back({"chart", "Chart", song.chartRanking > 0 ? rank(song.chartRanking) : "–", "", Tone::plain, ""});
-  view.add(std::move(tiles));
+  view.add(
+      Tiles{{{.icon = "star", .label = "Rating", .value = withDecimals(song.productionRating, 1)},
+             {.icon = "flame", .label = "Virality", .value = withDecimals(song.viralityScore, 1)},
+             {.icon = "chart", .label = "Chart", .value = song.chartRanking > 0 ? rank(song.chartRanking) : "–"}}});
   view.add(songCertificationMeter(song));
-  view.add(Text{"RELEASED", Tone::good, Text::Style::caption});
-  view.add(leading("marketingButton", "Statistics"));
+  view.add(caption("RELEASED", Tone::good));
+  view.add(Button{.id = "marketingButton", .label = "Statistics"});
 }
 
 }  // namespace backbeat

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/view_words.h"
 #include "shell/navigator.h"
 
 namespace backbeat {
@@ -41,25 +42,23 @@ Outcome RestoreViewController::restore(std::string_view name) {
 }
 
 View RestoreViewController::view() const {
-  View view;
-  view.title = "Restore";
+  View view{.title = "Restore"};
   Rows rows;
   for (const Snapshot& snapshot : game_.saveFile.snapshots()) {
-    Row row;
-    row.picture = icon(snapshot.kind == SnapshotKind::newYear ? "calendar" : "restart");
-    row.title = snapshot.title;
-    row.subtitle = snapshot.about;
-    row.id = std::string(askVerb) + ":" + snapshot.name;
-    rows.items.push_back(std::move(row));
+    rows.items.push_back({.picture = icon(snapshot.kind == SnapshotKind::newYear ? "calendar" : "restart"),
+                          .title = snapshot.title,
+                          .subtitle = snapshot.about,
+                          .id = std::string(askVerb) + ":" + snapshot.name});
   }
   if (rows.items.empty()) {
-    view.add(EmptyHint{"hourglass",
-                       "At each New Year the game keeps a copy of your career. The first one is still to come."});
+    view.add(
+        EmptyHint{.icon = "hourglass",
+                  .text = "At each New Year the game keeps a copy of your career. The first one is still to come."});
     return view;
   }
   view.add(std::move(rows));
-  view.add(Text{"The last three New Years are kept, and what was there before a restart, an import and a way back.",
-                Tone::plain, Text::Style::caption});
+  view.add(
+      caption("The last three New Years are kept, and what was there before a restart, an import and a way back."));
   return view;
 }
 

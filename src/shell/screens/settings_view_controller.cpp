@@ -55,41 +55,27 @@ Outcome SettingsViewController::chooseAppearance(std::string_view option) {
 }
 
 View SettingsViewController::view() const {
-  View view;
-  view.title = "Settings";
-  view.add(Heading{"Look", {}});
-  Choice look;
-  look.id = "appearance";
-  look.label = "Appearance";
-  look.style = Choice::Style::segments;
+  View view{.title = "Settings"};
+  view.add(Heading{"Look"});
+  Choice look{.id = "appearance", .label = "Appearance", .style = Choice::Style::segments};
   for (size_t i = 0; i < appearances.size(); ++i) {
-    look.options.push_back({appearances[i].label, "", Tone::plain, {}});
+    look.options.push_back({.label = appearances[i].label});
     if (state().appearance == appearances[i].stored) look.selected = static_cast<int64_t>(i);
   }
   view.add(std::move(look));
-  view.add(Heading{"Names", {}});
-  Rows names;
-  names.items.push_back(wayTo("goToChangeFeaturedArtistName", "guest", "Featured artists", "Rename the guests"));
-  names.items.push_back(wayTo("goToChangeCameoNames", "video", "Cameos", "Rename the faces in videos"));
-  view.add(std::move(names));
-  view.add(Heading{"Your career", {}});
-  Rows career;
-  career.items.push_back(
-      wayTo(std::string(exportCareerSegue), "document", "Export", "Save it as a file, to keep or to carry over"));
-  career.items.push_back(wayTo(std::string(importCareerSegue), "box", "Import", "Go on with a career from a file"));
-  career.items.push_back(wayTo("goToRestore", "restart", "Restore", "Go back to a New Year, or undo a restart"));
-  view.add(std::move(career));
-  view.add(Heading{"Backbeat", {}});
-  Rows game;
-  game.items.push_back(wayTo("goToData", "box", "Data", "Make a long career lighter"));
-  game.items.push_back(wayTo("goToAbout", "info", "About", "What this is, and whose work is in it"));
-  view.add(std::move(game));
-  Button restart;
-  restart.id = "restartButton";
-  restart.label = "Restart";
-  restart.style = Button::Style::destructive;
-  view.add(std::move(restart));
-  view.add(Text{"Everything is saved by itself, on this device alone.", Tone::plain, Text::Style::caption});
+  view.add(Heading{"Names"});
+  view.add(Rows{{wayTo("goToChangeFeaturedArtistName", "guest", "Featured artists", "Rename the guests"),
+                 wayTo("goToChangeCameoNames", "video", "Cameos", "Rename the faces in videos")}});
+  view.add(Heading{"Your career"});
+  view.add(
+      Rows{{wayTo(std::string(exportCareerSegue), "document", "Export", "Save it as a file, to keep or to carry over"),
+            wayTo(std::string(importCareerSegue), "box", "Import", "Go on with a career from a file"),
+            wayTo("goToRestore", "restart", "Restore", "Go back to a New Year, or undo a restart")}});
+  view.add(Heading{"Backbeat"});
+  view.add(Rows{{wayTo("goToData", "box", "Data", "Make a long career lighter"),
+                 wayTo("goToAbout", "info", "About", "What this is, and whose work is in it")}});
+  view.add(Button{.id = "restartButton", .label = "Restart", .style = Button::Style::destructive});
+  view.add(caption("Everything is saved by itself, on this device alone."));
   return view;
 }
 

@@ -1,5 +1,6 @@
 #include "social/screens/create_twitter_message_view_controller.h"
 
+#include "core/view_words.h"
 #include "social/chirps.h"
 
 namespace backbeat {
@@ -24,26 +25,16 @@ Outcome CreateTwitterMessageViewController::chirpButton() {
 }
 
 View CreateTwitterMessageViewController::view() const {
-  View view;
-  view.title = "New Chirp";
-  view.theme = Theme::chirp;
-  view.picture = person(state().myArtistsName);
-  TextField field;
-  field.id = "message";
-  field.label = "Your Chirp";
-  field.value = message_;
-  field.placeholder = "What's happening?";
-  field.multiline = true;
-  view.add(std::move(field));
+  View view{.title = "New Chirp", .picture = person(state().myArtistsName), .theme = Theme::chirp};
+  view.add(TextField{.id = "message",
+                     .label = "Your Chirp",
+                     .value = message_,
+                     .placeholder = "What's happening?",
+                     .multiline = true});
   if (songId_ >= 0) {
-    view.add(Text{"This announces your song and gives it a little virality.", Tone::good, Text::Style::caption});
+    view.add(caption("This announces your song and gives it a little virality.", Tone::good));
   }
-  Button chirp;
-  chirp.id = "chirpButton";
-  chirp.label = "Chirp";
-  chirp.price = chirpCost;
-  chirp.style = Button::Style::primary;
-  view.mainAction = std::move(chirp);
+  view.mainAction = Button{.id = "chirpButton", .label = "Chirp", .price = chirpCost, .style = Button::Style::primary};
   return view;
 }
 

@@ -5,6 +5,7 @@
 #include "core/case_folding.h"
 #include "core/menu.h"
 #include "core/money.h"
+#include "core/view_words.h"
 #include "social/chirps.h"
 
 namespace backbeat {
@@ -31,30 +32,24 @@ std::string count(int64_t number) { return abbreviated(static_cast<double>(numbe
 
 Post describe(const GameState& state, const Chirp& chirp, Date now) {
   const std::string id = std::to_string(chirp.id);
-  Post post;
-  post.picture = portraitOf(chirp);
-  post.name = chirp.artistName;
-  post.handle = handleOf(chirp.artistName);
-  post.age = chirpAge(chirp, now);
-  post.message = chirp.message;
-  post.comments = count(chirp.commentCount);
-  post.reChirps = count(chirp.reChirpCount);
-  post.likes = count(chirp.likeCount);
+  Post post{.picture = portraitOf(chirp),
+            .name = chirp.artistName,
+            .handle = handleOf(chirp.artistName),
+            .age = chirpAge(chirp, now),
+            .message = chirp.message,
+            .comments = count(chirp.commentCount),
+            .reChirps = count(chirp.reChirpCount),
+            .likes = count(chirp.likeCount)};
   if (chirp.isPinned >= 1) {
     post.pinned = pinnedMark;
-    post.actions.push_back({"unpin:" + id, "Unpin from profile", Tone::plain});
+    post.actions.push_back({.id = "unpin:" + id, .label = "Unpin from profile"});
   } else {
-    post.actions.push_back({"pin:" + id, "Pin to your profile", Tone::plain});
+    post.actions.push_back({.id = "pin:" + id, .label = "Pin to your profile"});
   }
-  if (chirpDeletable(state, chirp)) post.actions.push_back({"delete:" + id, "Delete Chirp", Tone::bad});
+  if (chirpDeletable(state, chirp)) {
+    post.actions.push_back({.id = "delete:" + id, .label = "Delete Chirp", .tone = Tone::bad});
+  }
   return post;
-}
-
-Button turnPage(int64_t from, std::string label) {
-  Button button;
-  button.id = "feed:" + std::to_string(from);
-  button.label = std::move(label);
-  return button;
 }
 
 }  // namespace
@@ -87,57 +82,49 @@ Outcome TwitterProfileViewController::followButton() {
 }
 
 View TwitterProfileViewController::view() const {
-  View view;
-  view.title = "Chirp";
-  view.theme = Theme::chirp;
+  View view{.title = "Chirp", .theme = Theme::chirp};
   describeProfile(view);
   addMenu(view, game_, socialTab);
   describeFeed(view);
-  Button compose;
-  compose.id = "goToCreateTwitterMessage";
-  compose.label = "Chirp";
-  compose.price = chirpCost;
-  compose.style = Button::Style::primary;
-  view.mainAction = std::move(compose);
-  view.help = Help{"Chirp",
-                   "Followers come and go with your monthly listeners, and they are the ones who like, comment and "
-                   "re-chirp.\n\nA song in production can be announced from its own page, once: that gives it a "
-                   "little virality."};
+  view.mainAction =
+      Button{.id = "goToCreateTwitterMessage", .label = "Chirp", .price = chirpCost, .style = Button::Style::primary};
+  view.help = Help{.title = "Chirp",
+                   .text =
+                       "Followers come and go with your monthly listeners, and they are the ones who like, comment and "
+                       "re-chirp.\n\nA song in production can be announced from its own page, once: that gives it a "
+                       "little virality."};
   return view;
 }
 
 void TwitterProfileViewController::describeProfile(View& view) const {
-  Cover profile;
-  profile.picture = person(state().myArtistsName);
-  profile.title = state().myArtistsName;
-  profile.text = handleOf(state().myArtistsName) + "\n" + withCommas(state().followerCount) + " followers";
-  view.add(std::move(profile));
-  Button follow;
-  follow.id = "followButton";
-  follow.label = "Follow";
-  follow.pulse = pulses_;
-  view.add(std::move(follow));
+  view.add(Cover{.picture = person(state().myArtistsName),
+                 .title = state().myArtistsName,
+                 .text = handleOf(state().myArtistsName) + "\n" + withCommas(state().followerCount) + " followers"});
+  view.add(Button{.id = "followButton", .label = "Follow", .pulse = pulses_});
   view.add(
-      Text{"🎶 New music whenever it is ready, not a day sooner.\n📍 Somewhere between the studio and the "
-           "stage.\n💌 Reads everything, answers at night.",
-           Tone::plain, Text::Style::caption});
+      caption("🎶 New music whenever it is ready, not a day sooner.\n📍 Somewhere between the studio and the "
+              "stage.\n💌 Reads everything, answers at night."));
 }
 
 void TwitterProfileViewController::describeFeed(View& view) const {
   const std::vector<size_t> order = chirpsInOrder(state());
   if (order.empty()) {
-    view.add(EmptyHint{"chirp", "Nothing has been said yet. Chirp something: the first post is the hardest."});
+    view.add(EmptyHint{.icon = "chirp",
+                       .text = "Nothing has been said yet. Chirp something: the first post is the hardest."});
     return;
   }
   const auto total = static_cast<int64_t>(order.size());
   const int64_t first = feed_.first(total);
   const int64_t last = feed_.last(total);
-  if (first > 0) view.add(turnPage(std::max(first - ListWindow::pageSize, int64_t{0}), "Newer Chirps"));
+  if (first > 0) {
+    const int64_t newer = std::max(first - ListWindow::pageSize, int64_t{0});
+    view.add(Button{.id = "feed:" + std::to_string(newer), .label = "Newer Chirps"});
+  }
   for (int64_t i = first; i < last; ++i) {
     const Chirp& chirp = state().saveAllChirpList[order[static_cast<size_t>(i)]];
     view.add(describe(state(), chirp, game_.clock.now()));
   }
-  if (last < total) view.add(turnPage(last, "Older Chirps"));
+  if (last < total) view.add(Button{.id = "feed:" + std::to_string(last), .label = "Older Chirps"});
 }
 
 }  // namespace backbeat

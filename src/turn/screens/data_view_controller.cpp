@@ -1,22 +1,10 @@
 #include "turn/screens/data_view_controller.h"
 
 #include "core/money.h"
+#include "core/view_words.h"
 #include "turn/pruning.h"
 
 namespace backbeat {
-
-namespace {
-
-Row row(const char* id, const char* glyph, const char* title, std::string subtitle) {
-  Row shown;
-  shown.id = id;
-  shown.picture = icon(glyph);
-  shown.title = title;
-  shown.subtitle = std::move(subtitle);
-  return shown;
-}
-
-}  // namespace
 
 Outcome DataViewController::act(const Action& action) {
   if (action.id == "optimizeButton") return optimizeButton();
@@ -48,19 +36,19 @@ Outcome DataViewController::resetStartupsButton() const {
 }
 
 View DataViewController::view() const {
-  View view;
-  view.title = "Data";
+  View view{.title = "Data"};
   const PruningCounts counts = countForPruning(state());
   const int64_t songs = counts.songs + counts.signedSongs;
   const int64_t albums = counts.albums + counts.signedAlbums;
   const std::string found = songs + albums == 0 ? "Nothing is old enough to remove"
                                                 : counted(songs, "old song") + ", " + counted(albums, "old album");
-  Rows rows;
-  rows.items.push_back(row("optimizeButton", "spark", "Optimize", found));
-  rows.items.push_back(row("resetStartupsButton", "restart", "Reset Startups",
-                           counted(static_cast<int64_t>(state().saveAllVentureInvestments.size()), "investment")));
-  view.add(std::move(rows));
-  view.add(Text{"Both ask before they remove anything, and neither can be undone.", Tone::plain, Text::Style::caption});
+  const auto startups = static_cast<int64_t>(state().saveAllVentureInvestments.size());
+  view.add(Rows{{{.picture = icon("spark"), .title = "Optimize", .subtitle = found, .id = "optimizeButton"},
+                 {.picture = icon("restart"),
+                  .title = "Reset Startups",
+                  .subtitle = counted(startups, "investment"),
+                  .id = "resetStartupsButton"}}});
+  view.add(caption("Both ask before they remove anything, and neither can be undone."));
   return view;
 }
 

@@ -10,24 +10,16 @@ namespace backbeat {
 Outcome FinancialViewController::act(const Action& action) { return followMenu(game_, businessTab, action); }
 
 View FinancialViewController::view() const {
-  View view;
-  view.title = "Business";
-  view.subtitle = "Where the money comes from and goes";
-  view.theme = Theme::bank;
+  View view{.title = "Business", .subtitle = "Where the money comes from and goes", .theme = Theme::bank};
   const double net = standingWeeklyNet(state());
-  Figures cash;
-  cash.style = Figures::Style::large;
-  cash.items.push_back(
-      dollars("Cash", state().totalCashAvailable, state().totalCashAvailable < 0 ? Tone::bad : Tone::plain));
-  view.add(std::move(cash));
-  Row standing;
-  standing.picture = icon("cash");
-  standing.title = "Standing net";
-  standing.subtitle = "Job and weekly entries";
-  standing.value = currency(net);
-  standing.note = "a week";
-  standing.tone = toneOfAmount(net);
-  view.add(Rows{{std::move(standing)}});
+  const Tone toneOfCash = state().totalCashAvailable < 0 ? Tone::bad : Tone::plain;
+  view.add(Figures{.items = {dollars("Cash", state().totalCashAvailable, toneOfCash)}, .style = Figures::Style::large});
+  view.add(Rows{{{.picture = icon("cash"),
+                  .title = "Standing net",
+                  .subtitle = "Job and weekly entries",
+                  .value = currency(net),
+                  .note = "a week",
+                  .tone = toneOfAmount(net)}}});
   addMenu(view, game_, businessTab);
   return view;
 }

@@ -11,6 +11,7 @@
 #include "core/view_words.h"
 #include "music/screens/song_rows.h"
 #include "social/chirps.h"
+#include "turn/screens/money_figures.h"
 #include "turn/weekly_report.h"
 
 namespace backbeat {
@@ -47,12 +48,11 @@ Outcome ViewController::act(const Action& action) {
 }
 
 View ViewController::view() const {
-  View view;
-  view.title = state().myArtistsName.empty() ? "Backbeat" : state().myArtistsName;
-  view.subtitle = state().isLabelLaunched >= 1 ? state().myLabelName
-                  : state().underContract >= 1 ? "Signed artist"
-                                               : "Independent artist";
-  view.picture = artistPicture(state());
+  View view{.title = state().myArtistsName.empty() ? "Backbeat" : state().myArtistsName,
+            .subtitle = state().isLabelLaunched >= 1 ? state().myLabelName
+                        : state().underContract >= 1 ? "Signed artist"
+                                                     : "Independent artist",
+            .picture = artistPicture(state())};
   listNeeds(view, game_);
   describeStanding(view);
   describeWeek(view);
@@ -62,42 +62,37 @@ View ViewController::view() const {
 }
 
 void ViewController::describeStanding(View& view) const {
-  Chart listeners;
-  listeners.id = "goToMonthlyListenerDetail";
-  listeners.title = "Monthly listeners";
-  listeners.value = withCommas(state().totalFans);
   const std::vector<int64_t>& history = state().monthlyListenerData;
+  Chart listeners{.title = "Monthly listeners",
+                  .value = withCommas(state().totalFans),
+                  .points = {history.begin(), history.end()},
+                  .id = "goToMonthlyListenerDetail"};
   if (history.size() >= 2) {
     const int64_t change = history.back() - history[history.size() - 2];
     listeners.note = signedNumber(change) + " this week";
-    listeners.tone = change < 0 ? Tone::bad : change > 0 ? Tone::good : Tone::plain;
+    listeners.tone = toneOfChange(change);
   }
-  for (const int64_t value : history) listeners.points.push_back(static_cast<double>(value));
   view.add(std::move(listeners));
-  Tiles tiles;
-  tiles.items.push_back(
-      {"people", "Followers", abbreviated(static_cast<double>(state().followerCount)), "", Tone::plain, ""});
   const auto released = std::count_if(state().saveAllSongList.begin(), state().saveAllSongList.end(),
                                       [](const Song& song) { return song.isReleased; });
-  tiles.items.push_back({"note", "Songs out", withCommas(released), "", Tone::plain, ""});
   const int64_t best = bestChart(state());
-  tiles.items.push_back({"trophy", "Best chart", best > 0 ? rank(best) : "–", "", Tone::plain, "goToBillboard"});
-  view.add(std::move(tiles));
+  view.add(
+      Tiles{{{.icon = "people", .label = "Followers", .value = abbreviated(static_cast<double>(state().followerCount))},
+             {.icon = "note", .label = "Songs out", .value = withCommas(released)},
+             {.icon = "trophy", .label = "Best chart", .value = best > 0 ? rank(best) : "–", .id = "goToBillboard"}}});
 }
 
 void ViewController::describeWeek(View& view) const {
-  view.add(Heading{"Next week", {}});
-  Row energy = wayTo("goToEnergyTransparency", "bolt", "Energy", "After standing costs");
-  energy.value = std::to_string(nextWeeksEnergy(state()));
-  Row money;
-  money.picture = icon("cash");
-  money.title = "Standing net";
+  view.add(Heading{"Next week"});
   const double net = standingWeeklyNet(state());
   const bool needsWork = net < 0 && state().weeklyJobContractRemaining == 0;
-  money.subtitle = needsWork ? "No job: the Job Board in Life has one" : "Job and weekly entries";
-  money.value = currency(net);
-  money.tone = net < 0 ? Tone::bad : Tone::good;
-  view.add(Rows{{std::move(energy), std::move(money)}});
+  view.add(Rows{{wayTo("goToEnergyTransparency", "bolt", "Energy", "After standing costs",
+                       std::to_string(nextWeeksEnergy(state()))),
+                 {.picture = icon("cash"),
+                  .title = "Standing net",
+                  .subtitle = needsWork ? "No job: the Job Board in Life has one" : "Job and weekly entries",
+                  .value = currency(net),
+                  .tone = toneOfAmount(net)}}});
 }
 
 void ViewController::describeMusic(View& view) const {
@@ -113,21 +108,19 @@ void ViewController::describeMusic(View& view) const {
         songs.begin(), songs.begin() + static_cast<std::ptrdiff_t>(shown), songs.end(), [&](size_t a, size_t b) {
           return all[a].totalListen != all[b].totalListen ? all[a].totalListen > all[b].totalListen : a < b;
         });
-    view.add(Heading{"Top songs", {}});
+    view.add(Heading{"Top songs"});
     Rows rows;
     for (size_t i = 0; i < shown; ++i) rows.items.push_back(songRow(state(), all[songs[i]]));
     view.add(std::move(rows));
   }
   if (!state().saveAllChirpList.empty()) {
-    view.add(Heading{"From your feed", {}});
+    view.add(Heading{"From your feed"});
     const Chirp& chirp = state().saveAllChirpList[0];
-    Post post;
-    post.picture = person(chirp.artistName);
-    post.name = chirp.artistName;
-    post.age = chirpAge(chirp, game_.clock.now());
-    post.message = chirp.message;
-    post.likes = abbreviated(static_cast<double>(chirp.likeCount));
-    view.add(std::move(post));
+    view.add(Post{.picture = person(chirp.artistName),
+                  .name = chirp.artistName,
+                  .age = chirpAge(chirp, game_.clock.now()),
+                  .message = chirp.message,
+                  .likes = abbreviated(static_cast<double>(chirp.likeCount))});
   }
 }
 

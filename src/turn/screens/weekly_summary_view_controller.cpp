@@ -6,6 +6,7 @@
 #include "core/calendar.h"
 #include "core/money.h"
 #include "core/purse.h"
+#include "core/view_words.h"
 #include "label/weekly_label_updates.h"
 #include "life/children_events.h"
 #include "life/relationship_events.h"
@@ -32,8 +33,7 @@ void addExpense(Figures& figures, std::string label, double amount) {
 }
 
 Figures incomeOf(const WeeklyReport& report) {
-  Figures income;
-  income.title = "Income";
+  Figures income{.title = "Income", .total = dollars("Total revenue", report.totalRevenue, Tone::plain)};
   const std::string top = report.weeklySongListens.empty() ? "" : report.weeklySongListens.front().songTitle;
   addIncome(income, "Streams", report.streams, top);
   addIncome(income, "Albums", report.totalAlbumRevenue);
@@ -45,18 +45,15 @@ Figures incomeOf(const WeeklyReport& report) {
   addIncome(income, "My label", report.label);
   addIncome(income, "Job", report.job);
   addIncome(income, "Standing income", report.standingIncome);
-  income.total = dollars("Total revenue", report.totalRevenue, Tone::plain);
   return income;
 }
 
 Figures expensesOf(const WeeklyReport& report) {
-  Figures expenses;
-  expenses.title = "Cost";
+  Figures expenses{.title = "Cost", .total = dollars("Total cost", -report.totalExpenses, Tone::plain)};
   addExpense(expenses, "Standing expenses", report.standingExpenses);
   addExpense(expenses, "Family", report.family);
   addExpense(expenses, "Touring", std::max(-report.tour, 0.0));
   addExpense(expenses, "Office", report.labelExpenses);
-  expenses.total = dollars("Total cost", -report.totalExpenses, Tone::plain);
   return expenses;
 }
 
@@ -73,16 +70,13 @@ const char* badgeFor(Milestone::Kind kind) {
 }
 
 Card celebration(const GameState& state, const Milestone& milestone) {
-  Card card;
-  card.picture = icon("trophy");
+  Card card{.picture = icon("trophy"), .title = "🎉 " + milestone.text, .tone = Tone::good};
   for (const Song& song : state.saveAllSongList) {
     if (song.songId == milestone.songId) card.picture = coverOf(state, song);
   }
   for (const Album& album : state.saveAllAlbumList) {
     if (album.albumId == milestone.albumId) card.picture = coverOf(state, album);
   }
-  card.title = "🎉 " + milestone.text;
-  card.tone = Tone::good;
   return card;
 }
 
@@ -97,14 +91,12 @@ Rows songsOf(const GameState& state, const WeeklyReport& report, const std::vect
   Rows rows;
   for (size_t i = 0; i < std::min(mostListed, report.weeklySongListens.size()); ++i) {
     const WeeklySongListens& week = report.weeklySongListens[i];
-    Row row;
-    row.picture = coverOfSong(state, week.songId, week.songTitle);
-    row.badge = badgeOf(milestones, &Milestone::songId, week.songId);
-    row.title = week.songTitle;
-    row.subtitle = week.albumTitle;
-    row.value = withCommas(week.songListens);
-    row.note = "streams";
-    rows.items.push_back(std::move(row));
+    rows.items.push_back({.picture = coverOfSong(state, week.songId, week.songTitle),
+                          .title = week.songTitle,
+                          .subtitle = week.albumTitle,
+                          .value = withCommas(week.songListens),
+                          .note = "streams",
+                          .badge = badgeOf(milestones, &Milestone::songId, week.songId)});
   }
   return rows;
 }
@@ -116,16 +108,15 @@ Rows albumsOf(const GameState& state, const WeeklyReport& report, const std::vec
   Rows rows;
   for (size_t i = 0; i < std::min(mostListed, sales.size()); ++i) {
     if (sales[i].albumSales < 1) break;
-    Row row;
     const size_t found =
         state.saveAllAlbumList.find([&](const Album& album) { return album.albumId == sales[i].albumId; });
-    row.picture = found == state.saveAllAlbumList.size() ? cover(sales[i].albumTitle)
-                                                         : coverOf(state, state.saveAllAlbumList[found]);
-    row.title = sales[i].albumTitle;
-    row.badge = badgeOf(milestones, &Milestone::albumId, sales[i].albumId);
-    row.value = withCommas(sales[i].albumSales);
-    row.note = "sold";
-    rows.items.push_back(std::move(row));
+    const bool isThere = found != state.saveAllAlbumList.size();
+    rows.items.push_back(
+        {.picture = isThere ? coverOf(state, state.saveAllAlbumList[found]) : cover(sales[i].albumTitle),
+         .title = sales[i].albumTitle,
+         .value = withCommas(sales[i].albumSales),
+         .note = "sold",
+         .badge = badgeOf(milestones, &Milestone::albumId, sales[i].albumId)});
   }
   return rows;
 }
@@ -138,19 +129,14 @@ Rows showsOf(const WeeklyReport& report) {
     const auto soldOut =
         std::find_if(shows.begin(), shows.end(), [](const WeeklyTourSales& show) { return show.soldOut == 1; });
     const WeeklyTourSales& show = soldOut == shows.end() ? shows.front() : *soldOut;
-    Row row;
-    row.picture = icon("ticket");
-    row.title = soldOut == shows.end() ? show.tourStadium : "Sold Out Show 🔥";
-    row.subtitle = show.tourLocation;
-    row.value = withCommas(show.seatsSold);
-    row.note = "seats";
-    rows.items.push_back(std::move(row));
+    rows.items.push_back({.picture = icon("ticket"),
+                          .title = soldOut == shows.end() ? show.tourStadium : "Sold Out Show 🔥",
+                          .subtitle = show.tourLocation,
+                          .value = withCommas(show.seatsSold),
+                          .note = "seats"});
   }
   if (report.festival) {
-    Row row;
-    row.picture = icon("star");
-    row.title = report.festival->festivalName;
-    row.subtitle = report.festival->topReview;
+    Row row{.picture = icon("star"), .title = report.festival->festivalName, .subtitle = report.festival->topReview};
     for (int64_t i = 0; i < festivalStars(report.festival->reviewStars); ++i) row.value += "★";
     rows.items.push_back(std::move(row));
   }
@@ -229,62 +215,56 @@ void WeeklySummaryViewController::describeEvents(View& view) const {
       {&events_.buttonEvent3, "eventButton3"},
   };
   if (events_.buttonEvent1.id == 0) return;
-  view.add(Heading{"This week's chances", {}});
-  Tiles means;
-  means.items.push_back({"bolt", "Energy", std::to_string(state().totalEnergyAvailable),
-                         "of " + std::to_string(state().totalEnergyMax), Tone::plain, ""});
-  means.items.push_back({"cash", "Cash", currency(state().totalCashAvailable), "",
-                         state().totalCashAvailable < 0 ? Tone::bad : Tone::plain, ""});
-  view.add(std::move(means));
+  view.add(Heading{"This week's chances"});
+  view.add(Tiles{{{.icon = "bolt",
+                   .label = "Energy",
+                   .value = std::to_string(state().totalEnergyAvailable),
+                   .note = "of " + std::to_string(state().totalEnergyMax)},
+                  {.icon = "cash",
+                   .label = "Cash",
+                   .value = currency(state().totalCashAvailable),
+                   .tone = state().totalCashAvailable < 0 ? Tone::bad : Tone::plain}}});
   for (const auto& [button, press] : buttons) {
     if (button->shown()) view.add(eventCard(state(), events_, *button, press));
   }
 }
 
 View WeeklySummaryViewController::view() const {
-  View view;
-  view.theme = Theme::report;
-  view.title = "Week " + std::to_string(report_.week.week);
-  view.subtitle = std::to_string(report_.week.year) + " · Weekly report";
-  view.picture = person(state().myArtistsName);
+  View view{.title = "Week " + std::to_string(report_.week.week),
+            .subtitle = std::to_string(report_.week.year) + " · Weekly report",
+            .picture = person(state().myArtistsName),
+            .theme = Theme::report};
   const double net = report_.totalRevenue - report_.totalExpenses;
-  Figures headline;
-  headline.style = Figures::Style::large;
-  headline.items.push_back(dollars("Net", net, net < 0 ? Tone::bad : Tone::good,
-                                   "Cash " + currency(cashBefore_) + " → " + currency(cashBefore_ + net)));
   const int64_t change = game_.launch.weeklyFanChange;
-  Figure fan;
-  fan.label = "Listeners";
-  fan.value = (change > 0 ? "+" : "") + withCommas(change) + " FANS";
-  fan.amount = static_cast<double>(change);
-  fan.tone = change < 0 ? Tone::bad : change > 0 ? Tone::good : Tone::plain;
-  fan.note = withCommas(state().totalFans) + " monthly listeners";
-  headline.items.push_back(std::move(fan));
-  view.add(std::move(headline));
+  view.add(Figures{.items = {dollars("Net", net, toneOfAmount(net),
+                                     "Cash " + currency(cashBefore_) + " → " + currency(cashBefore_ + net)),
+                             {.label = "Listeners",
+                              .value = (change > 0 ? "+" : "") + withCommas(change) + " FANS",
+                              .amount = static_cast<double>(change),
+                              .tone = toneOfChange(change),
+                              .note = withCommas(state().totalFans) + " monthly listeners"}},
+                   .style = Figures::Style::large});
   if (!milestones_.empty()) view.add(celebration(state(), milestones_.front()));
   describeEvents(view);
   if (!report_.weeklySongListens.empty()) {
-    view.add(Heading{"POPULAR SONGS", {}});
+    view.add(Heading{"POPULAR SONGS"});
     view.add(songsOf(state(), report_, milestones_));
   }
   if (Rows albums = albumsOf(state(), report_, milestones_); !albums.items.empty()) {
-    view.add(Heading{"ALBUM SALES", {}});
+    view.add(Heading{"ALBUM SALES"});
     view.add(std::move(albums));
   }
   if (Rows shows = showsOf(report_); !shows.items.empty()) {
-    view.add(Heading{"ON STAGE", {}});
+    view.add(Heading{"ON STAGE"});
     view.add(std::move(shows));
   }
   if (report_.weeklySongListens.empty() && report_.weeklyAlbumSales.empty()) {
-    view.add(EmptyHint{"headphones", "Nobody heard anything new from you this week. Release a song to change that."});
+    view.add(EmptyHint{.icon = "headphones",
+                       .text = "Nobody heard anything new from you this week. Release a song to change that."});
   }
   view.add(incomeOf(report_));
   view.add(expensesOf(report_));
-  Button close;
-  close.id = "closeButton";
-  close.label = "Continue";
-  close.style = Button::Style::primary;
-  view.mainAction = std::move(close);
+  view.mainAction = Button{.id = "closeButton", .label = "Continue", .style = Button::Style::primary};
   return view;
 }
 
