@@ -19,19 +19,22 @@ bool isPermutation(const std::vector<uint32_t>& slots, size_t size) {
 
 template <class Entry>
 bool before(const Entry& a, const Entry& b) {
-  return a.first != b.first ? a.first > b.first : a.second < b.second;
+  return a.key != b.key ? a.key > b.key : a.position < b.position;
 }
 
-/// Takes the few entries that break the order out of `order`, which closes up behind them. Entries are sorted by key,
-/// greatest first.
+/// Takes the few entries that break the order out of `order`, which closes up behind them: keys fall, and equal ones
+/// stand by position.
 template <class Entry>
 std::vector<Entry> takeMisfits(std::vector<Entry>& order) {
   constexpr size_t patience = 8;
+  const auto rises = [](const Entry& last, const Entry& next) { return next.key > last.key; };
+  const auto firstRise = std::adjacent_find(order.begin(), order.end(), rises);
+  if (firstRise == order.end()) return {};
   std::vector<Entry> misfits;
-  size_t kept = 0;
+  size_t kept = static_cast<size_t>(firstRise - order.begin()) + 1;
   size_t misfitsInARow = 0;
-  for (size_t i = 0; i < order.size();) {
-    if (kept == 0 || !(order[i].first > order[kept - 1].first)) {
+  for (size_t i = kept; i < order.size();) {
+    if (kept == 0 || !rises(order[kept - 1], order[i])) {
       order[kept++] = order[i++];
       misfitsInARow = 0;
     } else if (misfitsInARow < patience) {
@@ -49,15 +52,16 @@ std::vector<Entry> takeMisfits(std::vector<Entry>& order) {
   return misfits;
 }
 
-/// Merges two sorted ranges into the first, from the back, so that what stands before them all is not touched.
+/// Merges the second of two sorted ranges into the first. What stands behind each of the few moves up in one block.
 template <class Entry>
-void mergeInto(std::vector<Entry>& order, const std::vector<Entry>& others) {
-  size_t left = order.size();
-  order.resize(order.size() + others.size());
-  size_t end = order.size();
-  for (auto next = others.rbegin(); next != others.rend();) {
-    const bool otherIsLast = left == 0 || before(order[left - 1], *next);
-    order[--end] = otherIsLast ? *next++ : order[--left];
+void mergeInto(std::vector<Entry>& order, const std::vector<Entry>& few) {
+  auto end = order.insert(order.end(), few.begin(), few.end());
+  auto free = order.end();
+  for (auto next = few.rbegin(); next != few.rend(); ++next) {
+    const auto place = std::upper_bound(order.begin(), end, *next, before<Entry>);
+    free = std::move_backward(place, end, free);
+    *--free = *next;
+    end = place;
   }
 }
 
@@ -188,7 +192,7 @@ void ChunkedList::sortByKeys(std::vector<SortEntry<Key>> order) {
   std::sort(misfits.begin(), misfits.end(), before<SortEntry<Key>>);
   mergeInto(order, misfits);
   std::vector<uint32_t> moved(order.size());
-  for (size_t i = 0; i < moved.size(); ++i) moved[i] = static_cast<uint32_t>(indexOf(order[i].second));
+  for (size_t i = 0; i < moved.size(); ++i) moved[i] = static_cast<uint32_t>(indexOf(order[i].position));
   if (hasSlots()) {
     slots_ = std::move(moved);
     orderChanged_ = true;

@@ -86,9 +86,12 @@ class ChunkedList {
   void markRecord(size_t position);
   void rebuildHistory();
 
-  /// What a list is sorted by: the key of a record and its position.
+  /// What a list is sorted by: the key of a record, and where it stands.
   template <class Key>
-  using SortEntry = std::pair<Key, uint32_t>;
+  struct SortEntry {
+    Key key;
+    uint32_t position;
+  };
 
   /// Stable sort by the keys, greatest first. Quick when few records are out of order, however long the list.
   void sortBy(std::vector<SortEntry<int64_t>> order);

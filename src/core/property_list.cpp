@@ -12,8 +12,8 @@ namespace {
 constexpr std::string_view magic = "bplist00";
 constexpr size_t trailerSize = 32;
 constexpr double secondsTo2001 = 978'307'200;  // property lists count dates from 2001-01-01
+// A larger table is given back: the few entries of a usual chunk would lie scattered in it, past the nearest cache.
 constexpr size_t firstTableSize = 256;
-constexpr size_t keptTableSize = 1 << 14;  // larger ones are given back: a chunk's few entries would be lost in them
 
 // The upper half of an object's marker byte.
 enum Kind : uint8_t {
@@ -360,8 +360,8 @@ void PropertyListWriter::forgetObjects() {
   textBytes_.clear();
   numberCount_ = textCount_ = 0;
   const bool roundsUsedUp = ++round_ == 0;
-  if (roundsUsedUp || numbers_.size() > keptTableSize) numbers_ = std::vector<KnownNumber>(firstTableSize);
-  if (roundsUsedUp || texts_.size() > keptTableSize) texts_ = std::vector<KnownText>(firstTableSize);
+  if (roundsUsedUp || numbers_.size() > firstTableSize) numbers_ = std::vector<KnownNumber>(firstTableSize);
+  if (roundsUsedUp || texts_.size() > firstTableSize) texts_ = std::vector<KnownText>(firstTableSize);
   if (roundsUsedUp) round_ = 1;
 }
 

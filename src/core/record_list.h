@@ -107,7 +107,7 @@ class RecordList final : public ChunkedList {
     std::vector<SortEntry<std::decay_t<decltype(key((*this)[0]))>>> order;
     order.reserve(size());
     for (auto record = begin(); record != end(); ++record) {
-      order.emplace_back(key(*record), static_cast<uint32_t>(record.position()));
+      order.push_back({key(*record), static_cast<uint32_t>(record.position())});
     }
     sortBy(std::move(order));
   }
