@@ -37,8 +37,10 @@ void copyItems(const ValueType& list, void* to, const void* from) {
 
 }  // namespace
 
-void value_type::addField(ValueType& record, std::string_view key, size_t offset, const ValueType& type) {
-  record.fields.push_back({key, offset, type});
+void value_type::addFields(ValueType& record, std::span<const std::string_view> keys, std::span<const size_t> offsets,
+                           std::span<const ValueType& (*const)()> types) {
+  record.fields.reserve(keys.size());
+  for (size_t i = 0; i < keys.size(); ++i) record.fields.push_back({keys[i], offsets[i], types[i]()});
 }
 
 bool sameValue(const ValueType& type, const void* a, const void* b) {

@@ -2,12 +2,15 @@
 // and not once a record.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <map>
 #include <new>
+#include <span>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -74,8 +77,9 @@ inline size_t bytesBetween(const void* from, const void* to) {
   return static_cast<size_t>(static_cast<const char*>(to) - static_cast<const char*>(from));
 }
 
-/// Out of line: it is called once for each field of each record.
-void addField(ValueType& record, std::string_view key, size_t offset, const ValueType& type);
+/// Fills the record's table from what each field brings.
+void addFields(ValueType& record, std::span<const std::string_view> keys, std::span<const size_t> offsets,
+               std::span<const ValueType& (*const)()> types);
 
 }  // namespace value_type
 
@@ -100,19 +104,24 @@ ValueType makeList() {
           .shrink = [](void* list, size_t count) { static_cast<List*>(list)->resize(count); }};
 }
 
+/// The table's parts are constants, so that nearly nothing of this is code of each record.
 template <class T>
 ValueType makeRecord() {
   static_assert(fieldCount<T> <= maxFields);
   static_assert(alignof(T) <= alignof(std::max_align_t));
+  static constexpr auto keys = fieldsOf<T>([](const auto&... field) { return std::array{field.key...}; });
+  static constexpr auto members = fieldsOf<T>([](const auto&... field) { return std::tuple{field.member...}; });
+  static constexpr auto types =
+      fieldsOf<T>([]<class... Values>(const Field<T, Values>&...) { return std::array{&typeOf<Values>...}; });
   const T record{};
+  const auto offsets =
+      std::apply([&](auto... member) { return std::array{bytesBetween(&record, &(record.*member))...}; }, members);
   ValueType type{.kind = ValueType::Kind::record,
                  .size = sizeof(T),
                  .make = [](void* place) { new (place) T(); },
                  .take = [](void* place, void* old) { new (place) T(std::move(*static_cast<T*>(old))); },
                  .end = [](void* old) { static_cast<T*>(old)->~T(); }};
-  forEachField<T>([&]<class Value>(const Field<T, Value>& field) {
-    addField(type, field.key, bytesBetween(&record, &(record.*field.member)), typeOf<Value>());
-  });
+  addFields(type, keys, offsets, types);
   if constexpr (historyKeyOf<T> != nullptr) type.historyKey = bytesBetween(&record, &(record.*historyKeyOf<T>));
   return type;
 }
