@@ -45,7 +45,7 @@ void SavedWorld::commitWholeLists() {
     std::vector<Write> whole;
     for (const auto& [key, list] : listsOf(recorded_.game.state)) {
       if (!keys.contains(std::string(key))) continue;
-      const auto all = RecordEncoder(writer).records(*list.type().item, list.records());
+      const auto all = RecordEncoder(writer).records(list.type(), list.records());
       whole.push_back({std::string(key), wholeRow, writer.finish(all)});
     }
     for (const Write& write : writes) {

@@ -9,9 +9,10 @@ traps=signed-integer-overflow,integer-divide-by-zero,float-cast-overflow,bounds,
 flags=(-std=c++20 -fno-exceptions -fno-rtti -ffp-contract=off -mbulk-memory -Wall -Wextra -Werror -Wshadow
   "-fsanitize=$traps" -fsanitize-trap=all -D_LIBCPP_HARDENING_MODE=_LIBCPP_HARDENING_MODE_FAST -I../../src)
 # Where a week spends its time; everything else is to be small.
-quick=(core/chunked_list core/json core/money core/numbers core/property_list core/random core/record_codec
-  core/save_file core/text music/album_sales music/chart music/listeners music/milestones music/streaming
-  shell/page_store shell/shown_json turn/week_cycle turn/weekly_report)
+quick=(core/chunked_list core/json core/money core/numbers core/property_list core/random core/record_buffer
+  core/record_codec core/save_file core/text core/value_type music/album_sales music/chart music/listeners
+  music/milestones music/streaming shell/page_store shell/shown_json turn/screens/view_controller turn/week_cycle
+  turn/weekly_report)
 # What nearly every source reads, parsed once. Without the time of the parsing in it, ccache knows it again.
 common=(algorithm array functional map optional string unordered_map variant vector core/game.h core/screen.h)
 parsed=(-fpch-instantiate-templates -Xclang -fno-pch-timestamp)

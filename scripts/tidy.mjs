@@ -1,6 +1,7 @@
-// Runs clang-tidy over the sources below src/ that changed since they were last found clean. A source counts as changed when
-// it, a header it includes or .clang-tidy differs; what was clean is remembered outside the tree, so that a fresh
-// clone of known sources costs nothing. Usage: node scripts/tidy.mjs, after a native build.
+// Runs clang-tidy over the sources below src/ whose own text, or .clang-tidy, changed since they were last found clean; a
+// changed header alone brings nobody back. With --all also over those for which only a header differs. What was clean is
+// remembered outside the tree, so that a fresh clone of known sources costs nothing. Usage, after a native build:
+// node scripts/tidy.mjs [--all]
 import { execFile, execFileSync } from 'node:child_process';
 import { createHash } from 'node:crypto';
 import { existsSync, mkdirSync, readFileSync, writeFileSync } from 'node:fs';
@@ -30,9 +31,10 @@ function filesByObject() {
   return files;
 }
 
-function keyOf(command, files) {
+/** By what a clean source is known again: its own text, or that of all the house's files it is made of. */
+function keyOf(files) {
   const hash = createHash('sha256').update(tidy).update(contentOf(join(house, '.clang-tidy')));
-  for (const file of [command.file, ...files.sort()]) hash.update(relative(house, file)).update('\0').update(contentOf(file));
+  for (const file of files) hash.update(relative(house, file)).update('\0').update(contentOf(file));
   return hash.digest('hex');
 }
 
@@ -50,9 +52,14 @@ const commands = JSON.parse(readFileSync(join(build, 'compile_commands.json'), '
 const objectOf = ({ command }) => / -o (\S+)/.exec(command)[1];
 const sources = commands
   .filter((command) => command.file.startsWith(join(house, 'src/')) && objects.has(objectOf(command)))
-  .map((command) => ({ file: command.file, key: keyOf(command, objects.get(objectOf(command))) }));
+  .map((command) => ({
+    file: command.file,
+    own: keyOf([command.file]),
+    whole: keyOf([command.file, ...objects.get(objectOf(command)).sort()]),
+  }));
 if (sources.length === 0) throw new Error('no source was built');
-const due = sources.filter(({ key }) => !existsSync(join(memory, key)));
+const all = process.argv.includes('--all');
+const due = sources.filter(({ own, whole }) => !existsSync(join(memory, all ? whole : own)));
 
 mkdirSync(memory, { recursive: true });
 let unclean = 0;
@@ -63,7 +70,7 @@ async function work() {
       ++unclean;
       console.log(findings.trim());
     } else {
-      writeFileSync(join(memory, next.key), '');
+      for (const key of [next.own, next.whole]) writeFileSync(join(memory, key), '');
     }
   }
 }

@@ -99,9 +99,9 @@ class CareerReader {
   }
 
   bool readList(PropertyListReader::Ref ref, ChunkedList& out) {
-    const std::shared_ptr<void> records = out.type().make();
-    if (!decoder_.read(ref, out.type(), records.get())) return false;
-    out.replaceWith(records.get());
+    RecordBuffer records(out.type());
+    if (!decoder_.readRecords(ref, records)) return false;
+    out.assign(std::move(records));
     return true;
   }
 
@@ -138,7 +138,7 @@ Bytes exportCareer(const GameState& state) {
   }
   for (const auto& [key, list] : listsOf(state)) {
     keys.push_back(writer.text(key));
-    values.push_back(encoder.records(*list.type().item, list.records()));
+    values.push_back(encoder.records(list.type(), list.records()));
   }
   return writer.finish(writer.dictionary(keys, values));
 }

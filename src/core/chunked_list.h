@@ -1,13 +1,15 @@
-// What the save needs of a list, whatever it holds: how it is cut into rows, which of them changed, and its records as
-// data.
+// A list of records that knows which of its parts changed, whatever its records are: how it is cut into rows, which of
+// them have to be written, and its records as data. Rules use core/record_list.h, which knows the type.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
+#include <unordered_map>
 #include <utility>
 #include <vector>
 
-#include "core/value_type.h"
+#include "core/record_buffer.h"
 
 namespace backbeat {
 
@@ -21,19 +23,36 @@ struct ListLayout {
 
 class ChunkedList {
  public:
-  explicit ChunkedList(ListLayout layout) : layout_(layout) {}
+  ChunkedList(const ValueType& record, ListLayout layout) : layout_(layout), records_(record) {}
+  ChunkedList(const ChunkedList&) = default;
+  ChunkedList(ChunkedList&&) = default;
+  /// Takes the records of a list of the same type; the layout stays. Every chunk counts as changed: what was here
+  /// before may be what is stored.
+  ChunkedList& operator=(ChunkedList other);
+  ~ChunkedList() = default;
 
   const ListLayout& layout() const { return layout_; }
+  /// The type of its records.
+  const ValueType& type() const { return records_.type(); }
 
-  virtual size_t size() const = 0;
-  /// The type of a vector of the list's records.
-  virtual const ValueType& type() const = 0;
+  size_t size() const { return records_.size(); }
+  bool empty() const { return size() == 0; }
   /// The records, in the order of the list.
   std::vector<const void*> records() const;
-  /// Takes all of `records`, a vector of type `type()`; every chunk counts as changed.
-  virtual void replaceWith(void* records) = 0;
-  /// Whether `other`, a list of the same records, holds the same.
-  virtual bool holdsSame(const ChunkedList& other) const = 0;
+  /// Whether `other`, a list of the same type, holds the same.
+  bool holdsSame(const ChunkedList& other) const;
+
+  /// Positions of the records whose history key is `id`, in list order. Good until records come, go or move, and until
+  /// the next call.
+  std::span<const uint32_t> historyOf(int64_t id) const;
+
+  void erase(size_t position) { eraseAll({static_cast<uint32_t>(position)}); }
+  void clear();
+
+  /// Replaces the whole list; every chunk counts as changed.
+  void assign(RecordBuffer records);
+
+  // For the save file only.
 
   /// How many chunks the list takes.
   uint32_t chunkCount() const;
@@ -41,10 +60,9 @@ class ChunkedList {
   std::vector<const void*> chunk(uint32_t number) const;
   /// The slot of each record in list order; empty unless the layout is `slots`.
   const std::vector<uint32_t>& slots() const { return slots_; }
-  /// Takes a list as it was stored: `places`, a vector of type `type()`, in their order, and for `slots` the slot of
-  /// each position; slots that are not named follow as they are. False, and the list is empty, when `slots` is no
-  /// permutation or missing.
-  virtual bool restore(void* places, std::vector<uint32_t> slots) = 0;
+  /// Takes a list as it was stored: `places` in their order, and for `slots` the slot of each position; slots that are
+  /// not named follow as they are. False, and the list is empty, when `slots` is no permutation or missing.
+  bool restore(RecordBuffer places, std::vector<uint32_t> slots);
 
   /// Each once, in no order; some may lie past the last chunk, when the list got shorter.
   const std::vector<uint32_t>& changedChunks() const { return changed_; }
@@ -54,33 +72,48 @@ class ChunkedList {
   void markAll();
 
  protected:
-  ChunkedList(const ChunkedList&) = default;
-  ChunkedList(ChunkedList&&) = default;
-  ChunkedList& operator=(const ChunkedList&) = default;
-  ChunkedList& operator=(ChunkedList&&) = default;
-  ~ChunkedList() = default;
-
   bool hasSlots() const { return layout_.order == ListLayout::Order::slots; }
-  size_t positionOfSlot(uint32_t slot) const;
-  void mark(uint32_t number);
-  void markRecord(size_t position);
-  /// After records went from between positions `first` and `last` of `before` records; not with slots.
-  void markGone(size_t first, size_t last, size_t before);
-  /// After records went whose slots were `freeSlots`: those in slots beyond the shorter list get the free ones. Returns
-  /// who moves, from slot to slot.
-  std::vector<std::pair<uint32_t, uint32_t>> closeSlots(const std::vector<uint32_t>& freeSlots);
-  void markOrder() { orderChanged_ = true; }
-  static bool isPermutation(const std::vector<uint32_t>& slots, size_t size);
+  size_t indexOf(size_t position) const { return hasSlots() ? slots_[position] : position; }
+  /// By slot where there are slots, else in list order.
+  const void* memory() const { return records_.data(); }
+  void* recordAt(size_t position) { return records_.at(indexOf(position)); }
 
-  std::vector<uint32_t> slots_;  // slot of the record at each position
+  /// One record more, made out of one that lies elsewhere.
+  void add(void* record);
+  void addFront(void* record);
+  /// Removes the records at these positions, which ascend.
+  void eraseAll(std::vector<uint32_t> positions);
+  void markRecord(size_t position);
+  void rebuildHistory();
+
+  /// What a list is sorted by: the key of a record, and where it stands.
+  template <class Key>
+  struct SortEntry {
+    Key key;
+    uint32_t position;
+  };
+
+  /// Stable sort by the keys, greatest first. Quick when few records are out of order, however long the list.
+  void sortBy(std::vector<SortEntry<int64_t>> order);
+  void sortBy(std::vector<SortEntry<double>> order);
 
  private:
-  /// Where the records lie in memory: one after the other, by slot where there are slots, else in list order.
-  virtual const void* memory() const = 0;
-  void markPlacesFrom(size_t first);
+  template <class Key>
+  void sortByKeys(std::vector<SortEntry<Key>> order);
+  void eraseSlots(const std::vector<uint32_t>& positions);
+  std::vector<std::pair<uint32_t, uint32_t>> closeSlots(const std::vector<uint32_t>& freeSlots);
+  size_t positionOfSlot(uint32_t slot) const;
+  void mark(uint32_t number);
+  void markGone(size_t first, size_t last, size_t before);
+  int64_t historyKeyAt(size_t index) const;
+  bool hasHistory() const { return type().historyKey != noHistoryKey; }
 
   ListLayout layout_;
-  mutable std::vector<uint32_t> positions_;  // of each slot, made when asked for
+  RecordBuffer records_;
+  std::vector<uint32_t> slots_;                                 // slot of the record at each position
+  std::unordered_map<int64_t, std::vector<uint32_t>> history_;  // indices into records_ by their key
+  mutable std::vector<uint32_t> found_;                         // the last answer of historyOf
+  mutable std::vector<uint32_t> positions_;                     // of each slot, made when asked for
   std::vector<bool> isChanged_;
   std::vector<uint32_t> changed_;
   bool orderChanged_ = false;

@@ -30,6 +30,11 @@ constexpr void forEachField(Visit&& visit) {
   fieldsOf<T>([&](const auto&... field) { (visit(field), ...); });
 }
 
+/// The member by which a list finds records of a type quickly, however long it is; specialised for the types that need
+/// it.
+template <class T>
+inline constexpr int64_t T::*historyKeyOf = nullptr;
+
 template <class T>
 inline constexpr size_t fieldCount = fieldsOf<T>([](const auto&... field) { return sizeof...(field); });
 

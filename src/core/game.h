@@ -106,11 +106,7 @@ struct Game {
  private:
   template <class T>
   void saveOne(RecordList<T> GameState::*member) {
-    forEachField<GameState>([&](const auto& field) {
-      if constexpr (std::is_same_v<decltype(field.member), RecordList<T> GameState::*>) {
-        if (field.member == member) saveFile.writeList(field.key, state.*member);
-      }
-    });
+    saveFile.writeList(keyOf(state, state.*member), state.*member);
   }
   template <class T>
   void saveOne(T GameState::*member) {

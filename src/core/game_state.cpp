@@ -21,4 +21,12 @@ std::vector<NamedList<const ChunkedList>> listsOf(const GameState& state) {
   });
 }
 
+std::string_view keyOf(const GameState& state, const ChunkedList& list) {
+  std::string_view key;
+  forEachField<GameState>([&](const auto& field) {
+    if (&(state.*field.member) == &list) key = field.key;
+  });
+  return key;
+}
+
 }  // namespace backbeat

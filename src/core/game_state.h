@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -497,5 +498,8 @@ struct NamedList {
 /// Every list of a state, in loading order.
 std::vector<NamedList<ChunkedList>> listsOf(GameState& state);
 std::vector<NamedList<const ChunkedList>> listsOf(const GameState& state);
+
+/// The key under which a list of this state is stored.
+std::string_view keyOf(const GameState& state, const ChunkedList& list);
 
 }  // namespace backbeat

@@ -12,8 +12,8 @@ namespace {
 constexpr std::string_view magic = "bplist00";
 constexpr size_t trailerSize = 32;
 constexpr double secondsTo2001 = 978'307'200;  // property lists count dates from 2001-01-01
+// A larger table is given back: the few entries of a usual chunk would lie scattered in it, past the nearest cache.
 constexpr size_t firstTableSize = 256;
-constexpr size_t keptTableSize = 1 << 14;  // larger ones are given back: a chunk's few entries would be lost in them
 
 // The upper half of an object's marker byte.
 enum Kind : uint8_t {
@@ -60,6 +60,18 @@ size_t widthOf(uint64_t value) {
   return value <= 0xFFFFFFFF ? 4 : 8;
 }
 
+// The head of an object that has a count: at most ten bytes.
+char* writeMarker(char* out, uint8_t kind, size_t count) {
+  if (count < longCount) {
+    *out++ = static_cast<char>(kind << 4 | count);
+    return out;
+  }
+  const size_t width = widthOf(count);
+  *out++ = static_cast<char>(kind << 4 | longCount);
+  *out++ = static_cast<char>(integral << 4 | std::countr_zero(width));
+  return writeBigEndian(out, count, width);
+}
+
 uint64_t mixed(uint64_t hash, uint64_t word) {
   hash = (hash ^ word) * 0x9E3779B97F4A7C15u;
   return hash ^ hash >> 32;
@@ -94,13 +106,16 @@ bool isAscii(std::string_view text) {
   return (seen & 0x8080808080808080u) == 0;
 }
 
-void putNumber(Bytes& out, uint64_t bits, uint8_t kind) {
-  if (kind == plain) return out.push_back(static_cast<char>(bits ? trueMarker : falseMarker));
+// Writes the object and tells how long it is; there is always room for eight bytes behind the marker.
+size_t writeNumber(char* out, uint64_t bits, uint8_t kind) {
+  if (kind == plain) {
+    *out = static_cast<char>(bits ? trueMarker : falseMarker);
+    return 1;
+  }
   const size_t width = kind == integral ? widthOf(bits) : 8;  // widths below eight bytes hold no sign
-  char object[9] = {static_cast<char>(kind << 4 | std::countr_zero(width))};
-  writeBigEndian<8>(object + 1, bits << (64 - 8 * width));
-  out.append(object, sizeof object);
-  out.resize(out.size() - 8 + width);  // a fixed size and a cut are quicker than a varying size
+  *out = static_cast<char>(kind << 4 | std::countr_zero(width));
+  writeBigEndian<8>(out + 1, bits << (64 - 8 * width));
+  return 1 + width;
 }
 
 std::string utf8FromUtf16(std::string_view bigEndian) {
@@ -121,11 +136,18 @@ std::string utf8FromUtf16(std::string_view bigEndian) {
 
 }  // namespace
 
-PropertyListWriter::PropertyListWriter() : scalars_(magic), numbers_(firstTableSize), texts_(firstTableSize) {}
+PropertyListWriter::PropertyListWriter()
+    : scalars_(magic), scalarsSize_(magic.size()), numbers_(firstTableSize), texts_(firstTableSize) {}
 
 PropertyListWriter::Ref PropertyListWriter::newScalar() {
-  offsets_.push_back(scalars_.size());
+  offsets_.push_back(scalarsSize_);
   return static_cast<Ref>(offsets_.size() - 1);
+}
+
+// Where the next scalar goes, which takes no more bytes than that. The caller counts those it took.
+char* PropertyListWriter::scalarBytes(size_t most) {
+  if (scalars_.size() < scalarsSize_ + most) scalars_.resize(2 * scalars_.size() + most);
+  return scalars_.data() + scalarsSize_;
 }
 
 PropertyListWriter::Ref PropertyListWriter::integer(int64_t value) {
@@ -150,7 +172,7 @@ PropertyListWriter::Ref PropertyListWriter::number(uint64_t bits, uint8_t kind) 
   }
   const Ref ref = newScalar();
   numbers_[place] = {bits, round_, kind, ref};
-  putNumber(scalars_, bits, kind);
+  scalarsSize_ += writeNumber(scalarBytes(9), bits, kind);
   if (++numberCount_ * 2 > numbers_.size()) growNumbers();
   return ref;
 }
@@ -196,20 +218,19 @@ void PropertyListWriter::growTexts() {
 }
 
 void PropertyListWriter::putMarker(uint8_t kind, size_t count) {
-  if (count < longCount) {
-    scalars_.push_back(static_cast<char>(kind << 4 | count));
-    return;
-  }
-  const size_t width = widthOf(count);
-  char out[10] = {static_cast<char>(kind << 4 | longCount), static_cast<char>(integral << 4 | std::countr_zero(width))};
-  writeBigEndian(out + 2, count, width);
-  scalars_.append(out, 2 + width);
+  char* const out = scalarBytes(10);
+  scalarsSize_ += static_cast<size_t>(writeMarker(out, kind, count) - out);
 }
 
 void PropertyListWriter::putText(std::string_view utf8) {
   if (!isAscii(utf8)) return putUtf16(utf8);
   putMarker(asciiText, utf8.size());
-  scalars_.append(utf8);
+  putBytes(utf8);
+}
+
+void PropertyListWriter::putBytes(std::string_view bytes) {
+  bytes.copy(scalarBytes(bytes.size()), bytes.size());
+  scalarsSize_ += bytes.size();
 }
 
 void PropertyListWriter::putUtf16(std::string_view utf8) {
@@ -224,96 +245,103 @@ void PropertyListWriter::putUtf16(std::string_view utf8) {
     }
   }
   putMarker(utf16Text, utf16_.size());
-  for (const char16_t unit : utf16_) {
-    char out[2];
-    writeBigEndian<2>(out, unit);
-    scalars_.append(out, 2);
-  }
+  char* out = scalarBytes(2 * utf16_.size());
+  for (const char16_t unit : utf16_) out = writeBigEndian<2>(out, unit);
+  scalarsSize_ += 2 * utf16_.size();
 }
 
 PropertyListWriter::Ref PropertyListWriter::data(std::string_view value) {
   const Ref ref = newScalar();
   putMarker(bytes, value.size());
-  scalars_.append(value);
+  putBytes(value);
   return ref;
 }
 
-PropertyListWriter::Ref PropertyListWriter::newContainer(size_t count, bool isDictionary) {
+PropertyListWriter::Room PropertyListWriter::room(size_t count) {
+  const Room room{refs_.size(), count};
+  refs_.resize(refs_.size() + count);
+  return room;
+}
+
+PropertyListWriter::Room PropertyListWriter::roomFor(std::span<const Ref> refs) {
+  const Room filled = room(refs.size());
+  std::copy(refs.begin(), refs.end(), refs_.begin() + static_cast<std::ptrdiff_t>(filled.first));
+  return filled;
+}
+
+PropertyListWriter::Ref PropertyListWriter::newContainer(bool isDictionary, Room keys, Room items) {
   offsets_.push_back(0);
   const Ref ref = static_cast<Ref>(offsets_.size() - 1);
-  containers_.push_back({ref, refs_.size(), static_cast<uint32_t>(count), isDictionary});
+  containers_.push_back({ref, isDictionary, keys, items});
   return ref;
 }
 
-PropertyListWriter::Ref PropertyListWriter::array(std::span<const Ref> items) {
-  const Ref ref = newContainer(items.size(), false);
-  refs_.insert(refs_.end(), items.begin(), items.end());
-  return ref;
+PropertyListWriter::Ref PropertyListWriter::closeArray(Room items) { return newContainer(false, {}, items); }
+
+PropertyListWriter::Ref PropertyListWriter::closeDictionary(Room keys, Room values) {
+  return newContainer(true, keys, values);
 }
+
+PropertyListWriter::Ref PropertyListWriter::array(std::span<const Ref> items) { return closeArray(roomFor(items)); }
 
 PropertyListWriter::Ref PropertyListWriter::dictionary(std::span<const Ref> keys, std::span<const Ref> values) {
-  const Ref ref = newContainer(keys.size(), true);
-  refs_.insert(refs_.end(), keys.begin(), keys.end());
-  refs_.insert(refs_.end(), values.begin(), values.end());
-  return ref;
+  const Room keyRoom = roomFor(keys);
+  return closeDictionary(keyRoom, roomFor(values));
 }
 
 size_t PropertyListWriter::containerBytes(size_t refSize) const {
-  size_t total = refs_.size() * refSize;
+  size_t total = 0;
   for (const Container& container : containers_) {
-    total += container.count < longCount ? 1 : 2 + widthOf(container.count);
+    const size_t count = container.items.count;
+    total += (count < longCount ? 1 : 2 + widthOf(count)) + (container.keys.count + count) * refSize;
   }
   return total;
+}
+
+// The containers, refs of `width` bytes in them, behind what is in the file already; tells where they end.
+template <size_t width>
+char* PropertyListWriter::writeContainers(char* file, char* out) {
+  for (const Container& container : containers_) {
+    offsets_[container.self] = static_cast<size_t>(out - file);
+    out = writeMarker(out, container.isDictionary ? table : list, container.items.count);
+    for (const Room room : {container.keys, container.items}) {
+      for (size_t i = 0; i < room.count; ++i) out = writeBigEndian<width>(out, refs_[room.first + i]);
+    }
+  }
+  return out;
 }
 
 namespace {
 
 template <size_t width>
-char* writeRefs(char* out, const PropertyListWriter::Ref* refs, size_t count) {
-  for (size_t i = 0; i < count; ++i) out = writeBigEndian<width>(out, refs[i]);
+char* writeOffsets(char* out, const std::vector<size_t>& offsets) {
+  for (const size_t offset : offsets) out = writeBigEndian<width>(out, offset);
   return out;
-}
-
-char* writeRefs(char* out, const PropertyListWriter::Ref* refs, size_t count, size_t width) {
-  switch (width) {
-    case 1: return writeRefs<1>(out, refs, count);
-    case 2: return writeRefs<2>(out, refs, count);
-    default: return writeRefs<4>(out, refs, count);
-  }
 }
 
 }  // namespace
 
-void PropertyListWriter::writeContainers(Bytes& file, size_t refSize) {
-  char* out = file.data() + scalars_.size();
-  for (const Container& container : containers_) {
-    offsets_[container.self] = static_cast<size_t>(out - file.data());
-    const uint8_t kind = container.isDictionary ? table : list;
-    if (container.count < longCount) {
-      *out++ = static_cast<char>(kind << 4 | container.count);
-    } else {
-      const size_t width = widthOf(container.count);
-      *out++ = static_cast<char>(kind << 4 | longCount);
-      *out++ = static_cast<char>(integral << 4 | std::countr_zero(width));
-      out = writeBigEndian(out, container.count, width);
-    }
-    const size_t refCount = container.isDictionary ? size_t{container.count} * 2 : container.count;
-    out = writeRefs(out, refs_.data() + container.firstRef, refCount, refSize);
-  }
-}
-
 Bytes PropertyListWriter::finish(Ref root) {
   const size_t refSize = widthOf(offsets_.size() - 1);
-  const size_t tableStart = scalars_.size() + containerBytes(refSize);
+  const size_t tableStart = scalarsSize_ + containerBytes(refSize);
   const size_t offsetSize = widthOf(tableStart);
-  Bytes file;
   const size_t fileSize = tableStart + offsets_.size() * offsetSize + trailerSize;
+  Bytes file;
   file.reserve(fileSize);
-  file.append(scalars_);
+  file.append(scalars_, 0, scalarsSize_);
   file.resize(fileSize);
-  writeContainers(file, refSize);
-  char* out = file.data() + tableStart;
-  for (const size_t offset : offsets_) out = writeBigEndian(out, offset, offsetSize);
+  char* out = file.data() + scalarsSize_;
+  switch (refSize) {
+    case 1: out = writeContainers<1>(file.data(), out); break;
+    case 2: out = writeContainers<2>(file.data(), out); break;
+    default: out = writeContainers<4>(file.data(), out); break;
+  }
+  switch (offsetSize) {
+    case 1: out = writeOffsets<1>(out, offsets_); break;
+    case 2: out = writeOffsets<2>(out, offsets_); break;
+    case 4: out = writeOffsets<4>(out, offsets_); break;
+    default: out = writeOffsets<8>(out, offsets_); break;
+  }
   out += 6;  // reserved bytes, zero
   *out++ = static_cast<char>(offsetSize);
   *out++ = static_cast<char>(refSize);
@@ -325,15 +353,15 @@ Bytes PropertyListWriter::finish(Ref root) {
 }
 
 void PropertyListWriter::forgetObjects() {
-  scalars_.resize(magic.size());
+  scalarsSize_ = magic.size();
   offsets_.clear();
   containers_.clear();
   refs_.clear();
   textBytes_.clear();
   numberCount_ = textCount_ = 0;
   const bool roundsUsedUp = ++round_ == 0;
-  if (roundsUsedUp || numbers_.size() > keptTableSize) numbers_ = std::vector<KnownNumber>(firstTableSize);
-  if (roundsUsedUp || texts_.size() > keptTableSize) texts_ = std::vector<KnownText>(firstTableSize);
+  if (roundsUsedUp || numbers_.size() > firstTableSize) numbers_ = std::vector<KnownNumber>(firstTableSize);
+  if (roundsUsedUp || texts_.size() > firstTableSize) texts_ = std::vector<KnownText>(firstTableSize);
   if (roundsUsedUp) round_ = 1;
 }
 

@@ -35,15 +35,26 @@ class PropertyListWriter {
   /// One value for each key.
   Ref dictionary(std::span<const Ref> keys, std::span<const Ref> values);
 
+  /// Room for the refs of a container: they can be put there one by one, while other objects are added, and several
+  /// dictionaries can share their keys.
+  struct Room {
+    size_t first = 0;
+    size_t count = 0;
+  };
+  Room room(size_t count);
+  void put(Room room, size_t i, Ref ref) { refs_[room.first + i] = ref; }
+  Ref closeArray(Room items);
+  Ref closeDictionary(Room keys, Room values);  ///< as many values as keys
+
   /// The whole file with `root` on top; the writer is empty afterwards.
   Bytes finish(Ref root);
 
  private:
   struct Container {
     Ref self;
-    size_t firstRef;  // where its refs begin in refs_
-    uint32_t count;
     bool isDictionary;
+    Room keys;   // of a dictionary
+    Room items;  // or values
   };
   struct KnownNumber {
     uint64_t bits;
@@ -60,18 +71,23 @@ class PropertyListWriter {
   };
 
   Ref newScalar();
-  Ref newContainer(size_t count, bool isDictionary);
+  Ref newContainer(bool isDictionary, Room keys, Room items);
+  Room roomFor(std::span<const Ref> refs);
+  char* scalarBytes(size_t most);
   Ref number(uint64_t bits, uint8_t kind);
   void growNumbers();
   void growTexts();
   void putMarker(uint8_t kind, size_t count);
   void putText(std::string_view utf8);
+  void putBytes(std::string_view bytes);
   void putUtf16(std::string_view utf8);
   size_t containerBytes(size_t refSize) const;
-  void writeContainers(Bytes& file, size_t refSize);
+  template <size_t width>
+  char* writeContainers(char* file, char* out);
   void forgetObjects();
 
-  Bytes scalars_;                      // the file's head: its magic word and every object that holds no refs
+  Bytes scalars_;  // the file's head, in its first bytes: the magic word and every object that holds no refs
+  size_t scalarsSize_;
   std::vector<size_t> offsets_;        // of each object in the file
   std::vector<Container> containers_;  // laid out behind the scalars once the width of a ref is known
   std::vector<Ref> refs_;

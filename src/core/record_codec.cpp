@@ -8,6 +8,8 @@ namespace {
 
 using Kind = ValueType::Kind;
 
+constexpr const char* doesNotFit = "is of another kind or does not fit";
+
 template <class T>
 const T& as(const void* value) {
   return *static_cast<const T*>(value);
@@ -41,60 +43,47 @@ RecordEncoder::Ref RecordEncoder::value(const ValueType& type, const void* from)
 RecordEncoder::Ref RecordEncoder::list(const ValueType& type, const void* from) {
   const ValueType& item = *type.item;
   const bool areRecords = item.kind == Kind::record;
-  const size_t first = pending_.size();
-  const size_t count = type.count(from);
   const void* items = type.items(from);
-  const Keys keys = areRecords ? keysOf(item) : Keys();
-  for (size_t i = 0; i < count; ++i) {
+  const Room keys = areRecords ? keysOf(item) : Room();
+  const Room refs = writer_.room(type.count(from));
+  for (size_t i = 0; i < refs.count; ++i) {
     const void* place = at(items, i * item.size);
-    const Ref ref = areRecords ? record(item, keys, place) : value(item, place);
-    pending_.push_back(ref);
+    writer_.put(refs, i, areRecords ? record(item, keys, place) : value(item, place));
   }
-  return closeArray(first);
+  return writer_.closeArray(refs);
 }
 
 RecordEncoder::Ref RecordEncoder::records(const ValueType& type, std::span<const void* const> items) {
-  const size_t first = pending_.size();
-  const Keys keys = keysOf(type);
-  for (const void* item : items) {
-    const Ref ref = record(type, keys, item);
-    pending_.push_back(ref);
-  }
-  return closeArray(first);
+  const Room keys = keysOf(type);
+  const Room refs = writer_.room(items.size());
+  for (size_t i = 0; i < items.size(); ++i) writer_.put(refs, i, record(type, keys, items[i]));
+  return writer_.closeArray(refs);
 }
 
 RecordEncoder::Ref RecordEncoder::texts(const std::map<std::string, std::string>& from) {
-  std::vector<Ref> keys;
-  std::vector<Ref> values;
+  const Room keys = writer_.room(from.size());
+  const Room values = writer_.room(from.size());
+  size_t i = 0;
   for (const auto& [key, text] : from) {
-    keys.push_back(writer_.text(key));
-    values.push_back(writer_.text(text));
+    writer_.put(keys, i, writer_.text(key));
+    writer_.put(values, i++, writer_.text(text));
   }
-  return writer_.dictionary(keys, values);
+  return writer_.closeDictionary(keys, values);
 }
 
-RecordEncoder::Keys RecordEncoder::keysOf(const ValueType& type) {
-  Keys keys;
-  keys.reserve(type.fields.size());
-  for (const FieldType& field : type.fields) keys.push_back(writer_.text(field.key));
+RecordEncoder::Room RecordEncoder::keysOf(const ValueType& type) {
+  const Room keys = writer_.room(type.fields.size());
+  for (size_t i = 0; i < keys.count; ++i) writer_.put(keys, i, writer_.text(type.fields[i].key));
   return keys;
 }
 
-RecordEncoder::Ref RecordEncoder::record(const ValueType& type, const Keys& keys, const void* from) {
-  const size_t first = pending_.size();
-  for (const FieldType& field : type.fields) {
-    const Ref ref = value(field.type, at(from, field.offset));
-    pending_.push_back(ref);
+RecordEncoder::Ref RecordEncoder::record(const ValueType& type, Room keys, const void* from) {
+  const Room values = writer_.room(keys.count);
+  for (size_t i = 0; i < values.count; ++i) {
+    const FieldType& field = type.fields[i];
+    writer_.put(values, i, value(field.type, at(from, field.offset)));
   }
-  const Ref ref = writer_.dictionary(keys, std::span(pending_).subspan(first));
-  pending_.resize(first);
-  return ref;
-}
-
-RecordEncoder::Ref RecordEncoder::closeArray(size_t first) {
-  const Ref ref = writer_.array(std::span(pending_).subspan(first));
-  pending_.resize(first);
-  return ref;
+  return writer_.closeDictionary(keys, values);
 }
 
 RecordDecoder::RecordDecoder(std::string_view propertyList)
@@ -107,15 +96,17 @@ std::optional<PropertyListReader::Entries> RecordDecoder::rootEntries() const {
 bool RecordDecoder::read(Ref ref, const ValueType& type, void* out) {
   problem_.clear();
   if (value(ref, type, out)) return true;
-  if (problem_.empty()) problem_ = "is of another kind or does not fit";
+  if (problem_.empty()) problem_ = doesNotFit;
   return false;
 }
 
-bool RecordDecoder::append(const ValueType& type, void* out) {
-  const size_t before = type.count(out);
-  const auto items = reader_ ? reader_->array(reader_->root()) : std::nullopt;
-  if (items && appendItems(*items, type, out)) return true;
-  type.shrink(out, before);
+bool RecordDecoder::readRecords(Ref ref, RecordBuffer& out) {
+  problem_.clear();
+  const size_t before = out.size();
+  const auto add = [](void* buffer) { return static_cast<RecordBuffer*>(buffer)->add(); };
+  if (appendItems(ref, {&out, add, out.type()})) return true;
+  if (problem_.empty()) problem_ = doesNotFit;
+  out.shrink(before);
   return false;
 }
 
@@ -134,20 +125,20 @@ bool RecordDecoder::value(Ref ref, const ValueType& type, void* out) {
     }
   }
   type.shrink(out, 0);
-  const auto items = reader_->array(ref);
-  return items && appendItems(*items, type, out);
+  return appendItems(ref, {out, type.add, *type.item});
 }
 
-// No `reserve`: chunk after chunk goes onto the same vector, and exact growth would copy it each time.
-bool RecordDecoder::appendItems(const PropertyListRefs& items, const ValueType& type, void* out) {
-  const ValueType& item = *type.item;
+bool RecordDecoder::appendItems(Ref ref, const Target& target) {
+  const auto items = reader_->array(ref);
+  if (!items) return false;
+  const ValueType& item = target.item;
   KnownKeys known;
-  for (size_t i = 0; i < items.size(); ++i) {
+  for (size_t i = 0; i < items->size(); ++i) {
     if (!allow(item.size)) return false;
-    void* place = type.add(out);
+    void* place = target.add(target.list);
     const bool isRecord = item.kind == Kind::record;
-    const bool read = isRecord ? record(items[i], item, known, place) : value(items[i], item, place);
-    if (!read) return refuse("entry " + std::to_string(i + 1), "is of another kind or does not fit");
+    const bool read = isRecord ? record((*items)[i], item, known, place) : value((*items)[i], item, place);
+    if (!read) return refuse("entry " + std::to_string(i + 1), doesNotFit);
   }
   return true;
 }
@@ -163,7 +154,7 @@ bool RecordDecoder::record(Ref ref, const ValueType& type, KnownKeys& known, voi
     const FieldType& field = fields[number];
     if (seen[number]) return refuse(field.key, "is there twice");
     if (!value(entries->values[i], field.type, at(out, field.offset))) {
-      return refuse(field.key, "is of another kind or does not fit");
+      return refuse(field.key, doesNotFit);
     }
     seen[number] = true;
   }
@@ -200,8 +191,8 @@ size_t RecordDecoder::fieldOf(const ValueType& type, Ref key, size_t place, Know
 }
 
 // Puts the place before what is known of the trouble; false for the caller to pass on.
-bool RecordDecoder::refuse(std::string_view place, const char* otherwise) {
-  const std::string trouble = problem_.empty() ? std::string(" ") + otherwise : ": " + problem_;
+bool RecordDecoder::refuse(std::string_view place, const char* reason) {
+  const std::string trouble = problem_.empty() ? std::string(" ") + reason : ": " + problem_;
   problem_ = std::string(place) + trouble;
   return false;
 }

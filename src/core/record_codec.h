@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/property_list.h"
+#include "core/record_buffer.h"
 #include "core/value_type.h"
 
 namespace backbeat {
@@ -33,16 +34,14 @@ class RecordEncoder {
   Ref records(const ValueType& type, std::span<const void* const> items);
 
  private:
-  using Keys = std::vector<Ref>;
+  using Room = PropertyListWriter::Room;
 
   Ref list(const ValueType& type, const void* from);
   Ref texts(const std::map<std::string, std::string>& from);
-  Keys keysOf(const ValueType& type);
-  Ref record(const ValueType& type, const Keys& keys, const void* from);
-  Ref closeArray(size_t first);
+  Room keysOf(const ValueType& type);
+  Ref record(const ValueType& type, Room keys, const void* from);
 
   PropertyListWriter& writer_;
-  std::vector<Ref> pending_;  // what is inside of the containers under construction, the inner ones behind the outer
 };
 
 /// Turns the objects of one property list back into values. Each value must be of its own kind; a record needs every
@@ -71,12 +70,15 @@ class RecordDecoder {
 
   bool read(Ref ref, const ValueType& type, void* out);
 
+  /// An array of the list, its items added to the end of `out`; when it is none, or one item does not fit, `problem()`
+  /// tells why and `out` holds no more than before.
+  bool readRecords(Ref ref, RecordBuffer& out);
+
   /// Why the last value was refused, with the way to the place: "entry 3: title is missing".
   const std::string& problem() const { return problem_; }
 
-  /// The list's root, an array, added to the end of the vector `out` of that type, which is cut back when an item
-  /// fails.
-  bool append(const ValueType& type, void* out);
+  /// The same of the list's root.
+  bool append(RecordBuffer& out) { return reader_ && readRecords(reader_->root(), out); }
 
  private:
   /// Which field the key at each place of a dictionary was found to be last time. One property list writes the
@@ -87,13 +89,20 @@ class RecordDecoder {
   };
   using KnownKeys = std::vector<KnownKey>;
 
+  /// Where the items of an array go as they are read.
+  struct Target {
+    void* list;
+    void* (*add)(void* list);  // one more item
+    const ValueType& item;
+  };
+
   bool value(Ref ref, const ValueType& type, void* out);
-  bool appendItems(const PropertyListRefs& items, const ValueType& type, void* out);
+  bool appendItems(Ref ref, const Target& target);
   bool record(Ref ref, const ValueType& type, KnownKeys& known, void* out);
   bool texts(Ref ref, std::map<std::string, std::string>& out);
   bool text(Ref ref, std::string& out);
   size_t fieldOf(const ValueType& type, Ref key, size_t place, KnownKeys& known) const;
-  bool refuse(std::string_view place, const char* otherwise);
+  bool refuse(std::string_view place, const char* reason);
   bool allow(uint64_t bytes);
 
   std::optional<PropertyListReader> reader_;

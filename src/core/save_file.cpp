@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
 
 #include "core/record_codec.h"
 
@@ -43,7 +42,7 @@ class ListLoader {
   /// Fills the list; false, and the list is as it was, when its rows are no whole list.
   bool finish() {
     if (stored.leftovers.empty()) return true;
-    const bool whole = !damaged_ && stored.chunks > 0 && list_.restore(places_.get(), std::move(slots_));
+    const bool whole = !damaged_ && stored.chunks > 0 && list_.restore(std::move(places_), std::move(slots_));
     if (!whole) {
       stored.chunks = 0;
       return false;
@@ -67,17 +66,15 @@ class ListLoader {
     if (chunk < 0 || static_cast<uint32_t>(chunk) != stored.chunks) return false;
     // Rows of another size come from a version that cut the list otherwise; the next save cuts it anew.
     const size_t chunkSize = list_.layout().chunkSize;
-    if (placeCount() != stored.chunks * chunkSize) cutOtherwise_ = true;
+    if (places_.size() != stored.chunks * chunkSize) cutOtherwise_ = true;
     ++stored.chunks;
-    if (!RecordDecoder(row).append(list_.type(), places_.get())) return false;
-    if (placeCount() > stored.chunks * chunkSize) cutOtherwise_ = true;
+    if (!RecordDecoder(row).append(places_)) return false;
+    if (places_.size() > stored.chunks * chunkSize) cutOtherwise_ = true;
     return true;
   }
 
-  size_t placeCount() const { return list_.type().count(places_.get()); }
-
   ChunkedList& list_;
-  std::shared_ptr<void> places_ = list_.type().make();
+  RecordBuffer places_{list_.type()};
   std::vector<uint32_t> slots_;
   bool damaged_ = false;
   bool cutOtherwise_ = false;
@@ -212,7 +209,7 @@ void SaveFile::writeList(std::string_view key, ChunkedList& list) {
 
 void SaveFile::putChunk(std::string_view key, const ChunkedList& list, uint32_t number) {
   RecordEncoder encoder(writer_);
-  put(key, static_cast<int32_t>(number), writer_.finish(encoder.records(*list.type().item, list.chunk(number))));
+  put(key, static_cast<int32_t>(number), writer_.finish(encoder.records(list.type(), list.chunk(number))));
 }
 
 void SaveFile::putOrder(std::string_view key, const std::vector<uint32_t>& slots) {

@@ -84,7 +84,7 @@ uint64_t stateHash(const GameState& state) {
     hasher.add(key);
     const std::vector<const void*> records = list.records();
     hasher.add(uint64_t{records.size()});
-    for (const void* record : records) hasher.add(*list.type().item, record);
+    for (const void* record : records) hasher.add(list.type(), record);
   }
   return hasher.result();
 }

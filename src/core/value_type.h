@@ -1,14 +1,18 @@
-// What the field tables tell, as data: reading, writing and hashing walk it, and so are code once and not once a
-// record.
+// What the field tables tell, as data: reading, writing, hashing, comparing and copying walk it, and so are code once
+// and not once a record.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <map>
-#include <memory>
+#include <new>
+#include <span>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include "core/fields.h"
@@ -27,21 +31,37 @@ struct FieldType {
   const ValueType& type;
 };
 
+/// No record type's history key lies there.
+inline constexpr size_t noHistoryKey = ~size_t{0};
+
 /// The type of a stored value. There is one object for each type; take it from `typeOf`.
 struct ValueType {
   /// texts: a map from text to text. list: a vector of `item`. record: a struct with a field table.
   enum class Kind { flag, integer, real, date, text, texts, list, record };
 
   Kind kind;
-  size_t size;                                ///< bytes in memory
-  std::vector<FieldType> fields = {};         ///< of a record, in the order of its table
-  const ValueType* item = nullptr;            ///< what a list holds; the following functions are a list's, too
-  std::shared_ptr<void> (*make)() = nullptr;  ///< an empty one
+  size_t size;  ///< bytes in memory
+
+  // Of a record.
+  std::vector<FieldType> fields = {};              ///< in the order of its table
+  size_t historyKey = noHistoryKey;                ///< bytes from the beginning of the record
+  void (*make)(void* place) = nullptr;             ///< a new one in raw memory, on its defaults
+  void (*take)(void* place, void* old) = nullptr;  ///< a new one in raw memory out of an old one, which is to end next
+  void (*end)(void* record) = nullptr;             ///< leaves raw memory
+
+  // Of a list.
+  const ValueType* item = nullptr;
   size_t (*count)(const void* list) = nullptr;
   const void* (*items)(const void* list) = nullptr;    ///< the first of them; they lie `item->size` apart
   void* (*add)(void* list) = nullptr;                  ///< one more item, on its defaults
   void (*shrink)(void* list, size_t count) = nullptr;  ///< down to so many
 };
+
+/// Whether two values of that type are equal, member by member.
+bool sameValue(const ValueType& type, const void* a, const void* b);
+
+/// Gives the value `to` what `from` holds, both of that type.
+void copyValue(const ValueType& type, void* to, const void* from);
 
 namespace value_type {
 
@@ -56,6 +76,10 @@ ValueType make();
 inline size_t bytesBetween(const void* from, const void* to) {
   return static_cast<size_t>(static_cast<const char*>(to) - static_cast<const char*>(from));
 }
+
+/// Fills the record's table from what each field brings.
+void addFields(ValueType& record, std::span<const std::string_view> keys, std::span<const size_t> offsets,
+               std::span<const ValueType& (*const)()> types);
 
 }  // namespace value_type
 
@@ -74,22 +98,32 @@ ValueType makeList() {
   return {.kind = ValueType::Kind::list,
           .size = sizeof(List),
           .item = &typeOf<T>(),
-          .make = [] { return std::shared_ptr<void>(std::make_shared<List>()); },
           .count = [](const void* list) { return static_cast<const List*>(list)->size(); },
           .items = [](const void* list) { return static_cast<const void*>(static_cast<const List*>(list)->data()); },
           .add = [](void* list) { return static_cast<void*>(&static_cast<List*>(list)->emplace_back()); },
           .shrink = [](void* list, size_t count) { static_cast<List*>(list)->resize(count); }};
 }
 
+/// The table's parts are constants, so that nearly nothing of this is code of each record.
 template <class T>
 ValueType makeRecord() {
   static_assert(fieldCount<T> <= maxFields);
+  static_assert(alignof(T) <= alignof(std::max_align_t));
+  static constexpr auto keys = fieldsOf<T>([](const auto&... field) { return std::array{field.key...}; });
+  static constexpr auto members = fieldsOf<T>([](const auto&... field) { return std::tuple{field.member...}; });
+  static constexpr auto types =
+      fieldsOf<T>([]<class... Values>(const Field<T, Values>&...) { return std::array{&typeOf<Values>...}; });
   const T record{};
-  const auto field = [&]<class Value>(const Field<T, Value>& entry) {
-    return FieldType{entry.key, bytesBetween(&record, &(record.*entry.member)), typeOf<Value>()};
-  };
-  const auto fields = [&](const auto&... entries) { return std::vector<FieldType>{field(entries)...}; };
-  return {.kind = ValueType::Kind::record, .size = sizeof(T), .fields = fieldsOf<T>(fields)};
+  const auto offsets =
+      std::apply([&](auto... member) { return std::array{bytesBetween(&record, &(record.*member))...}; }, members);
+  ValueType type{.kind = ValueType::Kind::record,
+                 .size = sizeof(T),
+                 .make = [](void* place) { new (place) T(); },
+                 .take = [](void* place, void* old) { new (place) T(std::move(*static_cast<T*>(old))); },
+                 .end = [](void* old) { static_cast<T*>(old)->~T(); }};
+  addFields(type, keys, offsets, types);
+  if constexpr (historyKeyOf<T> != nullptr) type.historyKey = bytesBetween(&record, &(record.*historyKeyOf<T>));
+  return type;
 }
 
 template <class T>

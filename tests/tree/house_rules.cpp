@@ -106,7 +106,7 @@ std::string_view chanceOrPlatformIn(const Word& word) {
 }
 
 std::string_view unstableOrderIn(const Word& word, std::string_view path) {
-  if (!word.text.starts_with("unordered_") || path == "src/core/record_list.h") return "";
+  if (!word.text.starts_with("unordered_") || path == "src/core/chunked_list.h") return "";
   return "the order of an unordered container differs between platforms";
 }
 

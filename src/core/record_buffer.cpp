@@ -1,0 +1,92 @@
+#include "core/record_buffer.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace backbeat {
+
+RecordBuffer::RecordBuffer(const RecordBuffer& other)
+    : type_(other.type_), bytes_(new char[other.size_ * other.type_->size]), capacity_(other.size_) {
+  while (size_ < other.size_) {
+    const size_t next = size_;
+    copyValue(*type_, add(), other.at(next));
+  }
+}
+
+RecordBuffer::RecordBuffer(RecordBuffer&& other) noexcept
+    : type_(other.type_),
+      bytes_(std::move(other.bytes_)),
+      size_(std::exchange(other.size_, 0)),
+      capacity_(std::exchange(other.capacity_, 0)) {}
+
+RecordBuffer& RecordBuffer::operator=(RecordBuffer other) noexcept {
+  std::swap(type_, other.type_);
+  std::swap(bytes_, other.bytes_);
+  std::swap(size_, other.size_);
+  std::swap(capacity_, other.capacity_);
+  return *this;
+}
+
+RecordBuffer::~RecordBuffer() { shrink(0); }
+
+void* RecordBuffer::add() {
+  makeRoom();
+  void* const place = at(size_++);
+  type_->make(place);
+  return place;
+}
+
+void RecordBuffer::insert(size_t i, void* record) {
+  makeRoom();
+  for (size_t place = size_; place > i; --place) relocate(at(place), at(place - 1));
+  type_->take(at(i), record);
+  ++size_;
+}
+
+void RecordBuffer::move(size_t to, size_t from) {
+  type_->end(at(to));
+  type_->take(at(to), at(from));
+}
+
+void RecordBuffer::erase(std::span<const uint32_t> positions) {
+  if (positions.empty()) return;
+  size_t kept = positions.front();
+  auto gone = positions.begin();
+  for (size_t i = kept; i < size_; ++i) {
+    if (gone != positions.end() && *gone == i) {
+      type_->end(at(i));
+      ++gone;
+    } else {
+      relocate(at(kept++), at(i));
+    }
+  }
+  size_ = kept;
+}
+
+void RecordBuffer::shrink(size_t count) {
+  while (size_ > count) type_->end(at(--size_));
+}
+
+void RecordBuffer::reorder(std::span<const uint32_t> order) {
+  std::unique_ptr<char[]> ordered(new char[size_ * type_->size]);
+  for (size_t i = 0; i < size_; ++i) relocate(ordered.get() + i * type_->size, at(order[i]));
+  bytes_ = std::move(ordered);
+  capacity_ = size_;
+}
+
+void RecordBuffer::makeRoom() {
+  if (size_ < capacity_) return;
+  const size_t wider = std::max(size_t{4}, 2 * capacity_);
+  std::unique_ptr<char[]> moved(new char[wider * type_->size]);
+  for (size_t i = 0; i < size_; ++i) relocate(moved.get() + i * type_->size, at(i));
+  bytes_ = std::move(moved);
+  capacity_ = wider;
+}
+
+// Raw memory takes what is at `from`, which is raw memory afterwards.
+void RecordBuffer::relocate(void* to, void* from) {
+  type_->take(to, from);
+  type_->end(from);
+}
+
+}  // namespace backbeat
