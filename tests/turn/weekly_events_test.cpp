@@ -125,6 +125,7 @@ TEST(WeeklyEvents, TheStationFollowsTheSkill) {
     for (int64_t* trait : {&state.songWriting, &state.vocalRange, &state.rhythm, &state.charisma, &state.virality}) {
       *trait = skill;
     }
+    world.settle();
     EXPECT_EQ(only(world.take(5)).title, title);
   }
 }
@@ -150,6 +151,7 @@ TEST(WeeklyEvents, AButtonIsTooDearByWhatAPressTakes) {
   world.state.totalEnergyAvailable = 0;
   EXPECT_EQ(priceOn(world.events.buttonEvent3).energy, 50);
   EXPECT_TRUE(affordable(world.state, priceOn(world.events.buttonEvent3))) << "a raise takes no energy";
+  world.settle();
 }
 
 TEST(WeeklyEvents, TheCheckupMovesTheCeilingForCash) {
