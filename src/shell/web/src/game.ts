@@ -1,5 +1,6 @@
 import { Engine, EngineFault, loadEngineModule, type Import, type Reply } from "./engine";
 import type { HandedFile } from "./files";
+import { askToKeep } from "./keeping";
 import { Messages } from "./messages";
 import type { Answer, PressScreen } from "./protocol";
 import { obey } from "./requests";
@@ -82,6 +83,7 @@ export class Game implements Player {
 
   act(screen: PressScreen, id: string, value = ""): void {
     if (!this.engine) return;
+    const before = this.answer;
     try {
       this.take(this.engine.act(Date.now(), screen, id, value));
     } catch (fault) {
@@ -89,6 +91,7 @@ export class Game implements Player {
     }
     forgetStops();
     this.onChange();
+    askToKeep(before, this.answer);
     if (this.answer.request) void obey(this, this.answer);
   }
 
