@@ -8,6 +8,7 @@ packages_for() {
     computer) echo clang-19 cmake ninja-build libcli11-dev libsqlite3-dev libutf8proc-dev ;;
     node) echo nodejs npm ca-certificates ;;
     tests) echo ccache libgtest-dev libgmock-dev libplist-utils python3 chromium fonts-noto-color-emoji ;;
+    engines) echo firefox-esr webkit2gtk-driver xvfb ;;
     bench) echo ccache libbenchmark-dev ;;
     fuzz) echo clang-19 libclang-rt-19-dev ;;
     lint) echo clang-format-14 clang-tidy-19 ;;

@@ -22,7 +22,12 @@ export function browser(driver) {
   /** Presses the button with that name as soon as it is there and nothing moves any more. */
   async function press(name, where = ".layer.top, .tab-bar") {
     await until(markButton, name, where);
-    await driver.click(await driver.find("#pressed"));
+    // What was drawn anew in between is found again.
+    await retry(
+      async () => (await driver.click(await driver.find("#pressed"))) ?? true,
+      `${name} can be pressed`,
+      3000,
+    );
   }
 
   /** Waits for the element and types into it. */
@@ -76,8 +81,10 @@ function markButton(name, where) {
   const buttons = [...document.querySelectorAll(where)].flatMap((place) => [...place.querySelectorAll("button")]);
   const button = buttons.find((each) => new RegExp(name).test(nameOf(each)));
   document.querySelector("#pressed")?.removeAttribute("id");
-  const ends = (animation) => animation.effect.getComputedTiming().endTime < Infinity;
-  if (!button || document.querySelector(".moving") || document.getAnimations().some(ends)) return false;
+  if (!button || document.querySelector(".moving")) return false;
+  for (let part = button; part; part = part.parentElement) {
+    if (part.getAnimations().some(({ playState }) => playState === "running")) return false;
+  }
   button.id = "pressed";
   button.scrollIntoView({ block: "center" });
   return true;

@@ -117,7 +117,7 @@ export function checkEngine(name, start) {
 
     test("a field of several lines grows with its text", async () => {
       await b.press("^Social");
-      await b.press("Chirp");
+      await b.press("^Chirp");
       await shown("CreateTwitterMessageViewController");
       await b.type(".layer.top textarea", "one line\nand one\nand one\nand one\nand one\nand one\nand one");
       const hidden = await b.run(() => {
