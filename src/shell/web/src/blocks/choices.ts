@@ -3,7 +3,7 @@ import { glyph } from "../pictures/icons";
 import { picture } from "../pictures/picture";
 import type { Choice, Option } from "../protocol";
 import type { Scene } from "../scene";
-import { factList, figureAndWords, pricePill, toneClass } from "./parts";
+import { factList, figureAndWords, pricePill, reveal, toneClass } from "./parts";
 
 /** Plans, one below the other; the chosen one is framed and has nothing to press. */
 export function planCards({ id, label, options = [], selected = 0 }: Choice, scene: Scene): TemplateResult {
@@ -30,7 +30,12 @@ function plan({ label, note, tone, price, value, facts }: Option, chosen: boolea
 /** A strip of pictures to choose one from. */
 export function pictureStrip({ id, label, options = [], selected = 0 }: Choice, scene: Scene): TemplateResult {
   const wide = options.some((option) => option.picture?.kind === "still" || option.picture?.kind === "scene");
-  return html`<div class="strip choices ${wide ? "wide" : ""}" role="group" aria-label=${label || "Choose one"}>
+  return html`<div
+    class="strip choices ${wide ? "wide" : ""}"
+    role="group"
+    aria-label=${label || "Choose one"}
+    @focusin=${reveal}
+  >
     ${options.map(
       (option, i) =>
         html`<button
