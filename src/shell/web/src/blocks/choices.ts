@@ -20,8 +20,9 @@ function plan({ label, note, tone, price, value, facts }: Option, chosen: boolea
     ${
       chosen
         ? html`<p class="plan-current">${glyph("check")}Current plan</p>`
-        : html`<button class="button secondary" type="button" aria-label="Select this plan: ${label}" @click=${press}>
-            <span class="button-label">Select this plan</span>${pricePill(price)}
+        : html`<button class="button secondary" type="button" @click=${press}>
+            <span class="button-label">Select this plan<span class="unseen">: ${label}</span></span
+            >${pricePill(price)}
           </button>`
     }
   </section>`;
