@@ -117,7 +117,7 @@ class DeckElement extends LitElement {
       { duration: outMs, easing: "ease-in" },
     );
     card.animate({ transform: ["scale(0.96)", "none"] }, { duration: outMs, easing: glide });
-    for (const part of card.children) {
+    for (const part of card.querySelectorAll(":scope > :not(.deck-mark)")) {
       part.animate({ opacity: [0, 1] }, { duration: 160, delay: outMs, fill: "backwards" });
     }
     void flight.finished
