@@ -218,11 +218,10 @@ std::vector<std::string> unbearableValues(const GameState& state, size_t most) {
     tell(std::string(scalar.key) + " is " + readable(static_cast<double>(value)));
   });
   for (const auto& [key, list] : listsOf(state)) {
-    forEachUnbearable(list.type(), list.records(),
-                      [&, name = key](const Number& number, const void* at, size_t i) {
-                        tell(std::string(name) + ", entry " + std::to_string(i + 1) + ": " + std::string(number.key) +
-                             " is " + readable(number.in(at)));
-                      });
+    forEachUnbearable(list.type(), list.records(), [&, name = key](const Number& number, const void* at, size_t i) {
+      tell(std::string(name) + ", entry " + std::to_string(i + 1) + ": " + std::string(number.key) + " is " +
+           readable(number.in(at)));
+    });
   }
   return found;
 }

@@ -29,8 +29,8 @@ Bounds boundsOfField(std::string_view key, bool isWhole);
 /// `most` of them. What the random player asks after each week.
 std::vector<std::string> unbearableValues(const GameState& state, size_t most);
 
-/// The records of a list as decoded: numbers out of bounds become the nearest that is in them, what is no number becomes
-/// 0 or the nearest to it. How many there were.
+/// The records of a list as decoded: numbers out of bounds become the nearest that is in them, what is no number
+/// becomes 0 or the nearest to it. How many there were.
 size_t mendRecords(RecordBuffer& records);
 
 /// The same for the scalars of a state; the keys of those that were mended.
