@@ -1,4 +1,4 @@
-/** Names the chunk of the game in the page, so that it comes beside the small part that begins, and not after it. */
+/** Names the chunks of the game in the page, so that they come beside the small part that begins, and not after it. */
 export function fetchTogether() {
   return {
     name: "fetch-together",
@@ -6,15 +6,16 @@ export function fetchTogether() {
     transformIndexHtml: {
       order: "post",
       handler(_, { bundle }) {
-        const game = Object.values(bundle).find(({ type, name }) => type === "chunk" && name === "main");
-        if (!game) return [];
-        return [
-          {
+        const chunks = Object.values(bundle).filter(({ type }) => type === "chunk");
+        const game = chunks.find(({ name }) => name === "main");
+        const together = game ? [game.fileName, ...game.imports] : [];
+        return together
+          .filter((name) => !bundle[name].isEntry)
+          .map((name) => ({
             tag: "link",
-            attrs: { rel: "modulepreload", crossorigin: true, href: `./${game.fileName}` },
+            attrs: { rel: "modulepreload", crossorigin: true, href: `./${name}` },
             injectTo: "head",
-          },
-        ];
+          }));
       },
     },
   };

@@ -7,6 +7,7 @@ import { obey } from "./requests";
 import type { Row } from "./rows";
 import { Save, type Trouble } from "./save";
 import { forgetStops, noteStop, stopsTooOften } from "./stops";
+import { warmUp } from "./warm";
 
 /** What the shell plays: the latest answer of the engine, and the way to press something. */
 export interface Player {
@@ -79,6 +80,11 @@ export class Game implements Player {
       }
     }
     return false;
+  }
+
+  /** Gets ready for the first presses, in idle moments. */
+  async warmUp(): Promise<void> {
+    await warmUp(await this.module).catch((fault: unknown) => console.warn("Nothing was warmed up.", fault));
   }
 
   act(screen: PressScreen, id: string, value = ""): void {
