@@ -22,6 +22,16 @@ export function checkEngine(name, start) {
       unplug();
     });
 
+    /** A test of the game that all of them play; where one fails, the next begins at a fresh launch. */
+    const check = (what, work) =>
+      test(what, async () => {
+        try {
+          await work();
+        } catch (failed) {
+          await b.reload();
+          throw failed;
+        }
+      });
     const unplug = () => {
       server.close();
       server.closeAllConnections();
@@ -49,9 +59,9 @@ export function checkEngine(name, start) {
       await answerAlerts();
     };
 
-    test("starts a career", begin);
+    check("starts a career", begin);
 
-    test("makes a song: a sheet comes up drawn, with the focus on what is chosen", async () => {
+    check("makes a song: a sheet comes up drawn, with the focus on what is chosen", async () => {
       await b.press("^Music");
       await b.press("^Create a Song");
       await b.press("^Suggest");
@@ -79,7 +89,7 @@ export function checkEngine(name, start) {
       await shown("MusicViewController");
     });
 
-    test("releases it", async () => {
+    check("releases it", async () => {
       await b.press("rating");
       await shown("SongDetailViewController");
       await b.press("^RELEASE");
@@ -89,7 +99,7 @@ export function checkEngine(name, start) {
       await shown("MusicViewController");
     });
 
-    test("plays a week, which is all there after a reload", async () => {
+    check("plays a week, which is all there after a reload", async () => {
       await endTheWeek();
       const there = await status();
       assert.match(there, /Week 2, 2023/);
@@ -97,7 +107,7 @@ export function checkEngine(name, start) {
       assert.equal(await status(), there);
     });
 
-    test("draws charts, sleeves, portraits and its own letters", async () => {
+    check("draws charts, sleeves, portraits and its own letters", async () => {
       await b.press("^Home");
       await b.press("^Monthly listeners");
       await b.until(() => {
@@ -115,7 +125,7 @@ export function checkEngine(name, start) {
       );
     });
 
-    test("a field of several lines grows with its text", async () => {
+    check("a field of several lines grows with its text", async () => {
       await b.press("^Social");
       await b.press("^Chirp");
       await shown("CreateTwitterMessageViewController");
@@ -129,7 +139,7 @@ export function checkEngine(name, start) {
     });
 
     for (const pointer of ["mouse", "touch"]) {
-      test(`goes back by a drag from the left edge (${pointer}), which selects nothing`, async () => {
+      check(`goes back by a drag from the left edge (${pointer}), which selects nothing`, async () => {
         await b.press("^Home");
         await b.press("^Settings");
         await shown("SettingsViewController");
@@ -144,14 +154,14 @@ export function checkEngine(name, start) {
       });
     }
 
-    test("goes back with the browser's own back", async () => {
+    check("goes back with the browser's own back", async () => {
       await b.press("^Settings");
       await shown("SettingsViewController");
       await b.back();
       await shown("ViewController");
     });
 
-    test("an alert asks, and Close keeps the career", async () => {
+    check("an alert asks, and Close keeps the career", async () => {
       await b.press("^Settings");
       await b.press("^Restart");
       await b.until(() => document.querySelector(".alert[open]")?.matches(":modal"));
@@ -159,7 +169,7 @@ export function checkEngine(name, start) {
       await b.until(() => !document.querySelector(".alert[open]"));
     });
 
-    test("exports a career and imports another", async () => {
+    check("exports a career and imports another", async () => {
       await b.run(() => {
         const { createObjectURL } = URL;
         URL.createObjectURL = (file) => {
@@ -187,7 +197,7 @@ export function checkEngine(name, start) {
       assert.match(await status(), /Week 1, 2024/);
     });
 
-    test("says when the device is full, and stores all as soon as it is not", async () => {
+    check("says when the device is full, and stores all as soon as it is not", async () => {
       await b.run(() => {
         const { put } = IDBObjectStore.prototype;
         window.makeRoom = () => (IDBObjectStore.prototype.put = put);
@@ -204,7 +214,7 @@ export function checkEngine(name, start) {
       assert.equal(await status(), there);
     });
 
-    test("goes on with a fresh engine after one that stopped", async () => {
+    check("goes on with a fresh engine after one that stopped", async () => {
       const there = await status();
       await b.run(() => {
         // An address that is none: the engine stops as it would on a fault of its own.
@@ -220,7 +230,7 @@ export function checkEngine(name, start) {
       assert.notEqual(await status(), there);
     });
 
-    test("a second tab is told, and may take over", async () => {
+    check("a second tab is told, and may take over", async () => {
       const there = await status();
       const take = async () => {
         await told("another tab", ".full-notice");
@@ -235,7 +245,7 @@ export function checkEngine(name, start) {
       await take();
     });
 
-    test("starts without a network", async () => {
+    check("starts without a network", async () => {
       const there = await status();
       await b.until(() => navigator.serviceWorker.controller !== null);
       unplug();
