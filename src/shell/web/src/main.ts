@@ -2,6 +2,7 @@ import "@fontsource-variable/inter";
 import "uplot/dist/uPlot.min.css";
 import "./theme.css";
 import { setAppearance } from "./appearance";
+import { takeDroppedFiles } from "./dropped-files";
 import { Game, launchSeed } from "./game";
 import { takeSave } from "./lock";
 import { installGlyphs } from "./pictures/icons";
@@ -15,10 +16,11 @@ setAppearance("system");
 installGlyphs();
 // With this the browser is asked to keep the save even when the device runs short of room.
 void navigator.storage?.persist?.();
+let game: Game | null = null;
+takeDroppedFiles(() => game);
 void begin(false);
 
 async function begin(steal: boolean): Promise<void> {
-  let game: Game | null = null;
   const elsewhere = (): void => {
     game?.close();
     showNotice({
