@@ -289,9 +289,11 @@ std::vector<std::string> unbearableValues(const GameState& state, size_t most) {
   return found;
 }
 
-size_t mendRecords(const ValueType& type, void* records) {
+size_t mendRecords(RecordBuffer& records) {
+  Records places;
+  for (size_t i = 0; i < records.size(); ++i) places.push_back(records.recordAt(i));
   size_t mended = 0;
-  forEachUnbearable(Shape(*type.item), itemsOf(type, records), [&](const Number& number, const void* at, size_t) {
+  forEachUnbearable(Shape(records.type()), places, [&](const Number& number, const void* at, size_t) {
     number.put(const_cast<void*>(at), nearest(number.bounds, number.in(at)));
     ++mended;
   });
