@@ -119,12 +119,12 @@ class Loader {
   std::vector<std::string> finish() {
     std::vector<std::string> damaged;
     for (const auto& [key, list] : listsOf(state_)) {
-      if (!lists_.at(key).finish()) damaged.emplace_back(key);
+      if (!lists_.find(key)->second.finish()) damaged.emplace_back(key);
     }
     return damaged;
   }
 
-  const StoredList& stored(std::string_view key) const { return lists_.at(key).stored; }
+  const StoredList& stored(std::string_view key) const { return lists_.find(key)->second.stored; }
   std::map<std::string, Bytes, std::less<>> otherObjects;
 
  private:

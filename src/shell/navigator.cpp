@@ -41,10 +41,7 @@ void Navigator::press(std::string_view screenKey, const Action& action) {
   const int64_t year = game_.state.yearNumber;
   dispatch(screenKey, action);
   game_.saveFile.commit();
-  if (game_.state.yearNumber > year) {
-    game_.saveFile.keepSnapshot(SnapshotKind::newYear, game_.state);
-    request_.kind = Request::Kind::newYear;
-  }
+  if (game_.state.yearNumber > year) game_.saveFile.keepSnapshot(SnapshotKind::newYear, game_.state);
   game_.saveFile.rest();
 }
 
@@ -160,6 +157,7 @@ bool Navigator::followReserved(const Go& go) {
     startOver();
   } else if (go.segue == exportCareerSegue) {
     request_ = {Request::Kind::exportCareer, ""};
+    game_.launch.exportedInYear = game_.state.yearNumber;
   } else if (go.segue == importCareerSegue) {
     request_ = {Request::Kind::importCareer, ""};
   } else if (go.segue == restoreSegue) {

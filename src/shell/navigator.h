@@ -32,7 +32,6 @@ struct Request {
     exportCareer,  ///< hand the player the career as a file
     importCareer,  ///< ask for a file and put the career in it in the place of this one
     restore,       ///< go back to the kept copy `snapshot`: put it in the place of the save and launch anew
-    newYear,       ///< nothing; a New Year has begun, a good moment to think of a copy elsewhere
   } kind = Kind::none;
   std::string snapshot;
 };

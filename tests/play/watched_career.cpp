@@ -3,6 +3,7 @@
 #include <map>
 #include <utility>
 
+#include "core/career_check.h"
 #include "core/career_file.h"
 #include "core/snapshots.h"
 #include "play/glass.h"
@@ -70,8 +71,7 @@ std::string WatchedCareer::obeyRequest(uint64_t seed) {
     case Request::Kind::exportCareer:
     case Request::Kind::importCareer: return carryOver(seed);
     case Request::Kind::restore: return goBackTo(request.snapshot, seed);
-    case Request::Kind::none:
-    case Request::Kind::newYear: break;
+    case Request::Kind::none: break;
   }
   return {};
 }
@@ -111,7 +111,9 @@ std::string WatchedCareer::fault(Care care) {
   if (due || newHere) {
     if (std::string found = glassFault(session(), [&] { return shown(); }); !found.empty()) return found;
   }
-  return weekEnded ? weekFault(state(), week_) : "";
+  if (!weekEnded) return "";
+  const std::vector<std::string> unbearable = unbearableValues(state(), 1);
+  return unbearable.empty() ? weekFault(state(), week_) : "a rule wrote what no file may hold: " + unbearable.front();
 }
 
 }  // namespace backbeat

@@ -144,6 +144,59 @@ TEST(CommandLine, WhatIsNoFileIsRefusedInASentence) {
   }
 }
 
+/// What can stand where a command looks for a file, but for plain ones: each made anew by name.
+std::vector<std::string> oddPlaces() {
+  const std::string folder = freshFile("odd_places");
+  std::filesystem::remove_all(folder);
+  std::filesystem::create_directories(folder);
+  EXPECT_EQ(symlink("nowhere", (folder + "/dangling").c_str()), 0);
+  EXPECT_EQ(symlink("loop", (folder + "/loop").c_str()), 0);
+  EXPECT_EQ(mkfifo((folder + "/pipe").c_str(), 0600), 0);
+  writeFile(folder + "/text", "notes of somebody");
+  writeFile(folder + "/empty", "");
+  return {folder,
+          folder + "/dangling",
+          folder + "/loop",
+          folder + "/pipe",
+          folder + "/text",
+          folder + "/text/below",
+          folder + "/empty",
+          folder + "/missing",
+          folder + "/missing/below",
+          folder + "/" + std::string(300, 'n'),
+          folder + "/line\nbreak",
+          "/dev/null",
+          "/dev/zero",
+          "/dev/full",
+          "/proc/self/mem"};
+}
+
+TEST(CommandLine, EveryCommandComesToAnEndWhateverItIsPointedAt) {
+  const std::string save = freshFile("pointed");
+  ASSERT_EQ(runProgram({"play", "--save", save}, "1 Zoë Falk\nend\n").exitCode, 0);
+  const std::string career = contentOf(save);
+  const std::vector<std::vector<std::string>> commands = {{"play", "--save", ""},
+                                                          {"play", "--save", save, "--trace", ""},
+                                                          {"info", "--save", ""},
+                                                          {"export", "", "--save", save},
+                                                          {"export", "/dev/null", "--save", ""},
+                                                          {"import", "", "--save", save},
+                                                          {"import", "/nowhere", "--save", ""},
+                                                          {"replay", ""},
+                                                          {"simulate", "--careers", "1", "--years", "1", "--csv", ""}};
+  for (std::vector<std::string> words : commands) {
+    const auto target = static_cast<size_t>(std::find(words.begin(), words.end(), "") - words.begin());
+    const size_t places = oddPlaces().size();
+    for (size_t i = 0; i < places; ++i) {
+      words[target] = oddPlaces()[i];
+      const ProgramRun run = runProgram(words);
+      EXPECT_TRUE(run.exitCode == 0 || run.exitCode == 1) << ::testing::PrintToString(words) << run.output;
+      EXPECT_NE(run.output, "") << ::testing::PrintToString(words);
+    }
+    EXPECT_EQ(contentOf(save), career) << words[0];
+  }
+}
+
 TEST(CommandLine, DamagedListsAreToldAndLeftAloneByInfo) {
   const std::string save = freshFile("damaged");
   {

@@ -16,6 +16,7 @@ const RoomErrands errands({
       {"ask"},
       {"Restore"}}},
     {"carry the career over", {"new", "talkative"}, {{"Home"}, {"goToSettings"}, {"exportCareer"}}},
+    {"keep a copy of a new year", {"rich"}, {{"Home"}, {"Another year!"}}, 60},
     {"bring a career in", {"new", "signed"}, {{"Home"}, {"goToSettings"}, {"importCareer"}}},
 });
 

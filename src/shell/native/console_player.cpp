@@ -191,8 +191,7 @@ void ConsolePlayer::obeyRequest() {
       if (!store_.restoreSnapshot(request.snapshot))
         return say("\nThat copy could not be restored. Nothing has changed.");
       return relaunch();
-    case Request::Kind::none:
-    case Request::Kind::newYear: break;
+    case Request::Kind::none: break;
   }
 }
 

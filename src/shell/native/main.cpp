@@ -6,7 +6,6 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <random>
 
 #include "core/memory_store.h"
 #include "core/money.h"
@@ -37,8 +36,10 @@ int64_t unixMilliseconds() {
 }
 
 uint64_t seedOfTheSystem() {
-  std::random_device entropy;
-  return uint64_t{entropy()} << 32 | entropy();
+  uint64_t seed = 0;
+  // Without the system's own chance the hour is as good.
+  if (getentropy(&seed, sizeof seed) != 0) seed = static_cast<uint64_t>(unixMilliseconds());
+  return seed;
 }
 
 /// What a command was asked for, on the standard output; a full disk or a closed pipe is told.

@@ -4,6 +4,7 @@
 
 #include "core/new_game.h"
 #include "core/view_words.h"
+#include "shell/export_reminder.h"
 #include "shell/navigator.h"
 
 namespace backbeat {
@@ -67,10 +68,11 @@ View SettingsViewController::view() const {
   view.add(Rows{{wayTo("goToChangeFeaturedArtistName", "guest", "Featured artists", "Rename the guests"),
                  wayTo("goToChangeCameoNames", "video", "Cameos", "Rename the faces in videos")}});
   view.add(Heading{"Your career"});
-  view.add(
-      Rows{{wayTo(std::string(exportCareerSegue), "document", "Export", "Save it as a file, to keep or to carry over"),
-            wayTo(std::string(importCareerSegue), "box", "Import", "Go on with a career from a file"),
-            wayTo("goToRestore", "restart", "Restore", "Go back to a New Year, or undo a restart")}});
+  const char* whyExport =
+      exportIsDue(game_) ? "Another year! Worth a file of its own" : "Save it as a file, to keep or to carry over";
+  view.add(Rows{{wayTo(std::string(exportCareerSegue), "document", "Export", whyExport),
+                 wayTo(std::string(importCareerSegue), "box", "Import", "Go on with a career from a file"),
+                 wayTo("goToRestore", "restart", "Restore", "Go back to a New Year, or undo a restart")}});
   view.add(Heading{"Backbeat"});
   view.add(Rows{{wayTo("goToData", "box", "Data", "Make a long career lighter"),
                  wayTo("goToAbout", "info", "About", "What this is, and whose work is in it")}});

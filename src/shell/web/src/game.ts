@@ -59,6 +59,11 @@ export class Game implements Player {
     });
   }
 
+  /** False before the first launch, and while the save is being exchanged. */
+  get isPlaying(): boolean {
+    return this.engine !== null;
+  }
+
   /** Opens the save; the engine is still on its way. `seed` gives the seed of each start of the engine. */
   static async open(seed: () => string): Promise<Game> {
     const module = loadEngineModule("./engine.wasm");

@@ -1,4 +1,5 @@
 import { tellBroken } from "./broken";
+import { takeDroppedFiles } from "./dropped-files";
 import { Game, launchSeed } from "./game";
 import { takeSave } from "./lock";
 import { installGlyphs } from "./pictures/icons";
@@ -9,10 +10,11 @@ import "./shell/app";
 import { offerUpdates } from "./updates";
 
 installGlyphs();
+let game: Game | null = null;
+takeDroppedFiles(() => game);
 void begin(false);
 
 async function begin(steal: boolean): Promise<void> {
-  let game: Game | null = null;
   const elsewhere = (): void => {
     game?.close();
     showNotice({

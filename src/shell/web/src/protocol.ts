@@ -497,7 +497,7 @@ export interface Answer {
   appearance?: "system" | "dark" | "light";
   feedback?: "none" | "energyBounce" | "success" | "warning";
   alert?: Alert | null;
-  request?: "" | "export" | "import" | "restore" | "newYear";
+  request?: "" | "export" | "import" | "restore";
   snapshot?: string;
   notice?: string;
   view: View;
