@@ -227,9 +227,11 @@ std::vector<std::string> unbearableValues(const GameState& state, size_t most) {
   return found;
 }
 
-size_t mendRecords(const ValueType& type, void* records) {
+size_t mendRecords(RecordBuffer& records) {
+  Records each(records.size());
+  for (size_t i = 0; i < each.size(); ++i) each[i] = records.at(i);
   size_t mended = 0;
-  forEachUnbearable(*type.item, itemsOf(type, records), [&](const Number& number, const void* at, size_t) {
+  forEachUnbearable(records.type(), each, [&](const Number& number, const void* at, size_t) {
     number.put(const_cast<void*>(at), nearest(number.bounds, number.in(at)));
     ++mended;
   });

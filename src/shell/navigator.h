@@ -108,6 +108,7 @@ class Navigator {
     std::shared_ptr<Screen> from;  ///< kept alive until the alert is answered
   };
 
+  void tell(std::string_view what, const std::vector<std::string>& keys);
   void openFirstScreens();
   void startOver();
   const Open& top() const;
@@ -122,6 +123,7 @@ class Navigator {
   void closeToRoot(std::vector<Open>& stack);
   void closeTop();
   void endTheWeek();
+  void keepNewYear();
   void open(std::vector<Open>& stack, const Segue& segue, std::string_view argument);
   void follow(const std::shared_ptr<Screen>& from, Outcome outcome);
   bool admitted(const Segue& segue, const std::shared_ptr<Screen>& from);
