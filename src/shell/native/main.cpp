@@ -16,6 +16,7 @@
 #include "shell/native/copies_command.h"
 #include "shell/native/file_places.h"
 #include "shell/native/last_words.h"
+#include "shell/native/rescue_menu.h"
 #include "shell/native/save_info.h"
 #include "shell/native/sqlite_store.h"
 #include "shell/trace.h"
@@ -74,6 +75,7 @@ int play(const CommandLine& line) {
     if (!trace) return fail("the trace " + line.trace + " cannot be written.");
     record = [&](const std::string& event) { trace << event + '\n' << std::flush; };
   }
+  if (!rescue(*opened.store, launchProblem(*opened.store, now()), std::cin, std::cout, now)) return failed;
   QuietPlatform platform;
   TraceRecorder career(*opened.store, platform, record);
   career.play(launchEvent(unixMilliseconds(), line.seed.value_or(seedOfTheSystem())));
