@@ -13,13 +13,20 @@ Navigator::~Navigator() = default;
 void Navigator::start(const LoadReport& report) {
   if (!report.readable) {
     notice_ = "The save could not be read and is left as it is. This career is not being kept.";
-  } else if (!report.damagedLists.empty()) {
-    notice_ = "A part of the save was damaged and has been put aside:";
-    for (const std::string& key : report.damagedLists) notice_ += " " + key;
-    notice_ += ".";
   }
+  tell("A part of the save was damaged and has been put aside:", report.damagedLists);
+  tell("Numbers that no career can hold were put right in:", report.mended);
   openFirstScreens();
   game_.saveFile.commit();
+}
+
+/// One more sentence of the notice, when there is anything to name.
+void Navigator::tell(std::string_view what, const std::vector<std::string>& keys) {
+  if (keys.empty()) return;
+  if (!notice_.empty()) notice_ += ' ';
+  notice_ += what;
+  for (const std::string& key : keys) notice_ += " " + key;
+  notice_ += ".";
 }
 
 void Navigator::openFirstScreens() {
@@ -41,8 +48,19 @@ void Navigator::press(std::string_view screenKey, const Action& action) {
   const int64_t year = game_.state.yearNumber;
   dispatch(screenKey, action);
   game_.saveFile.commit();
-  if (game_.state.yearNumber > year) game_.saveFile.keepSnapshot(SnapshotKind::newYear, game_.state);
+  if (game_.state.yearNumber > year) keepNewYear();
   game_.saveFile.rest();
+}
+
+void Navigator::keepNewYear() {
+  if (game_.saveFile.keepSnapshot(SnapshotKind::newYear, game_.state, game_.clock.now())) return;
+  // Where nothing can be written the game tries again with every press and says so anyway.
+  if (!game_.saveFile.planSnapshot(SnapshotKind::newYear, game_.state).beyondBudget) return;
+  follow(top().screen,
+         news<"No Copy Kept">(
+             "\nThe kept copies take all the room there is for them, so this New Year has none. Settings, "
+             "Restore shows them; delete those that you can spare.",
+             Feedback::none));
 }
 
 void Navigator::dispatch(std::string_view screenKey, const Action& action) {

@@ -107,6 +107,7 @@ class Navigator {
     std::shared_ptr<Screen> from;  ///< kept alive until the alert is answered
   };
 
+  void tell(std::string_view what, const std::vector<std::string>& keys);
   void openFirstScreens();
   void startOver();
   const Open& top() const;
@@ -121,6 +122,7 @@ class Navigator {
   void closeToRoot(std::vector<Open>& stack);
   void closeTop();
   void endTheWeek();
+  void keepNewYear();
   void open(std::vector<Open>& stack, const Segue& segue, std::string_view argument);
   void follow(const std::shared_ptr<Screen>& from, Outcome outcome);
   bool admitted(const Segue& segue, const std::shared_ptr<Screen>& from);

@@ -83,7 +83,8 @@ std::string WatchedCareer::carryOver(uint64_t seed) {
   if (!career.state) return "its own export is refused: " + career.problem;
   if (!career.missing.empty()) return "its own export lacks " + career.missing.front();
   if (exportCareer(*career.state) != file) return "a career that was carried over is exported otherwise";
-  if (!keepSnapshot(store_, SnapshotKind::import, state())) return "no copy was kept before the import";
+  if (!keepSnapshot(store_, SnapshotKind::import, state(), Date{static_cast<double>(now_) / 1000}))
+    return "no copy was kept before the import";
   if (!store_.replaceAll(rowsOf(*career.state))) return "the import was not stored";
   launch(seed);
   return {};

@@ -5,6 +5,7 @@
 #include "core/new_game.h"
 #include "core/view_words.h"
 #include "shell/export_reminder.h"
+#include "shell/keep_aside.h"
 #include "shell/navigator.h"
 
 namespace backbeat {
@@ -25,6 +26,10 @@ constexpr const char* confirmedRestart = "restartConfirmed";
 Outcome SettingsViewController::act(const Action& action) {
   if (action.id == "restartButton") return restartButton();
   if (action.id == confirmedRestart) return restart();
+  if (action.verb() == giveUpVerb) {
+    game_.saveFile.dropSnapshot(action.argument());
+    return restart();
+  }
   if (action.id == "appearance") return chooseAppearance(action.value);
   for (const std::string_view segue :
        {exportCareerSegue, importCareerSegue, std::string_view("goToRestore"),
@@ -37,12 +42,13 @@ Outcome SettingsViewController::act(const Action& action) {
 
 Outcome SettingsViewController::restartButton() {
   return ask<"Restart?">(
-      "\nAll progress will be reset.\n\nAny permanent upgrades will be transferred to your new life.", "Close",
-      {"Restart", {confirmedRestart, ""}, AlertButton::Style::destructive});
+      "\nAll progress will be reset.\n\nAny permanent upgrades will be transferred to your new life." +
+          keptAsideText(game_, SnapshotKind::restart),
+      "Close", {"Restart", {confirmedRestart, ""}, AlertButton::Style::destructive});
 }
 
 Outcome SettingsViewController::restart() {
-  game_.saveFile.keepSnapshot(SnapshotKind::restart, state());
+  if (auto problem = keepAside(game_, SnapshotKind::restart)) return std::move(*problem);
   restartGame(game_);
   return goTo(std::string(startOverSegue));
 }

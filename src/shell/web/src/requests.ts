@@ -26,7 +26,7 @@ export async function offerCareer(game: Game, file: File): Promise<void> {
   if (read.problem) return messages.tell("Nothing Changed", `${file.name}\n\n${read.problem}`);
   const agreed = await messages.ask({
     title: "Import?",
-    message: `The career in ${file.name} takes the place of the one on this device, which is kept aside as "Before the import".${lacking(read.missing)}`,
+    message: `The career in ${file.name} takes the place of the one on this device, which is kept aside as "Before the import".${paragraphs([read.givesUp, ...read.mended])}${lacking(read.missing)}`,
     buttons: [
       { label: "Close", style: "cancel" },
       { label: "Import", style: "destructive" },
@@ -47,6 +47,10 @@ function notStored(game: Game): Promise<void> {
     "Nothing Changed",
     "It could not be stored on this device, perhaps for want of room. Today's career goes on as it was.",
   );
+}
+
+function paragraphs(sentences: string[]): string {
+  return sentences.map((sentence) => sentence && `\n\n${sentence}`).join("");
 }
 
 function lacking(keys: string[]): string {
