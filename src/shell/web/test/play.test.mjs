@@ -250,12 +250,15 @@ test("a song can be heard where that is wanted, and falls silent when one goes o
   settings.view.screen = "SettingsViewController";
   const { page, presses, answerNext, close } = await open(song);
   const hear = page.getByRole("button", { name: "Hear the hook" });
-  const wanted = page.getByRole("switch", { name: /Song hooks/ });
+  const wanted = page.getByRole("switch", { name: /Sound/ });
+  const offered = page.getByRole("button", { name: "Hear it?" });
   assert.equal(await hear.count(), 0, "off until asked for");
+  assert.equal(await offered.count(), 1);
   await answerNext(settings, song, song);
   await page.getByRole("button", { name: "Home" }).click();
   await wanted.click();
   await page.getByRole("button", { name: "Music" }).click();
+  assert.equal(await offered.count(), 0, "who has chosen is not asked again");
   await hear.click();
   await page.getByRole("button", { name: "Stop the hook" }).waitFor();
   await page.getByRole("button", { name: "Release" }).click();
@@ -280,6 +283,42 @@ test("a song can be heard where that is wanted, and falls silent when one goes o
     };
   });
   assert.deepEqual(told, { same: true, different: 40, whole: true });
+  await close();
+});
+
+test("a release plays once: the button says that it is out, the song is heard where that is wanted", async () => {
+  const cover = { kind: "cover", title: "Tide", picture: { kind: "cover", name: "Tide" }, hook: "Tide|Pop" };
+  const more = { key: 6, stack: [1, 6] };
+  const made = answer([cover], { ...more, mainAction: { id: "releaseButton", label: "RELEASE" } });
+  const out = answer([cover], { ...more, feedback: "success" });
+  const { page, answerNext, close } = await open(made);
+  const told = page.getByText("Out now");
+  await answerNext({ ...made, feedback: "energyBounce" }, out);
+  await page.getByRole("button", { name: "RELEASE" }).click();
+  assert.equal(await told.count(), 0, "a refusal is no release");
+  await page.getByRole("button", { name: "Hear it?" }).click();
+  await page.getByRole("button", { name: "RELEASE" }).click();
+  await told.waitFor();
+  await page.getByRole("button", { name: "Stop the hook" }).waitFor();
+  await answerNext(answer([], { key: 1, stack: [1] }), out);
+  await page.getByRole("button", { name: "Back" }).click();
+  await page.getByRole("heading", { name: "Screen 1" }).waitFor();
+  await page.getByRole("button", { name: "Home" }).click();
+  await page.getByRole("heading", { name: "Screen 6" }).waitFor();
+  assert.equal(await told.count(), 0);
+  await close();
+});
+
+test("a name has its face while it is typed", async () => {
+  const named = answer([{ kind: "field", id: "name", label: "Artist name" }], { modal: true });
+  Object.assign(named.view, { screen: "EnterNameViewController", picture: { kind: "person", name: "" } });
+  const { page, presses, close } = await open(named);
+  const face = page.locator(".title-row .picture.person img");
+  await page.getByRole("textbox").pressSequentially("No");
+  const first = await face.getAttribute("src");
+  await page.getByRole("textbox").pressSequentially("va");
+  await page.waitForFunction((first) => document.querySelector(".title-row img").src !== first, first);
+  assert.deepEqual(await presses(), [], "the engine hears of it when the field is left");
   await close();
 });
 

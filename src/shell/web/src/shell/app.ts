@@ -6,10 +6,11 @@ import { BackGesture } from "../back-gesture";
 import { tellDrafts } from "../drafts";
 import type { Player } from "../game";
 import type { Toast } from "../messages";
-import { prefersStillness } from "../motion";
+import { prefersStillness, takeOff } from "../motion";
+import { playSoft, soundOf, type SoftSound } from "../hooks/soft";
 import { glyph } from "../pictures/icons";
 import { picture } from "../pictures/picture";
-import type { Alert, Answer, Header, PressScreen, View } from "../protocol";
+import type { Alert, Answer, Header, Picture, PressScreen, View } from "../protocol";
 import type { Scene, SheetContent } from "../scene";
 import { Stack, type Layer, type Step } from "../stack";
 import "./alert";
@@ -19,6 +20,7 @@ import { dock, endWeekDock, headButtons, moodOf } from "./dock";
 import { EdgeSwipe } from "./edge-swipe";
 import { keySheet, listenForKeys } from "./keys";
 import { rail } from "./rail";
+import { isRelease, outNow, playRelease } from "./release";
 import "./sheet";
 import { shakeEnergy, statusRow } from "./status";
 import { tabBar } from "./tab-bar";
@@ -46,6 +48,12 @@ class AppElement extends LitElement {
   private drawn: Answer | null = null;
   private step: Step = { motion: "none", leaving: null };
   private moving: Animation[] = [];
+  private land: () => void = () => {};
+  /** The screen whose song has just come out. */
+  private released: Layer | null = null;
+  private told: Layer | null = null;
+  private typedName = "";
+  private heard: SoftSound | null = null;
   private pulledShare = 0;
   private room: Room = room();
   private toldDesk = 0;
@@ -85,6 +93,10 @@ class AppElement extends LitElement {
     const { panels } = this;
     this.step = this.stack.advance(answer);
     if (this.room === "desk") this.calm(panels);
+    if (this.step.motion !== "none") this.land = takeOff();
+    if (before !== this.stack.top) this.released = null;
+    if (this.seen && isRelease(this.seen, answer)) this.released = this.stack.top!;
+    this.heard = this.seen && soundOf(this.seen, answer);
     this.seen = answer;
     if (before !== this.stack.top || answer.alert) this.sheet = null;
     if (this.canGoBack) this.backGesture.arm();
@@ -203,10 +215,10 @@ class AppElement extends LitElement {
     const view = layer.view;
     const place = this.placeOf(layer);
     const top = place === "top";
-    const endWeek = top && answer.endWeek && this.room === "phone";
     const scene = this.sceneOf(layer);
     const root = layer.key === this.stack.ofTab[0]?.key || layer === this.stack.home;
     return html`<section
+      @input=${view?.screen === "EnterNameViewController" ? this.faceOf : nothing}
       class="layer ${place} ${panel} ${layer.modal ? "modal" : ""} theme-${view?.theme ?? "plain"} ${moodOf(view)}"
       data-screen=${view?.screen ?? nothing}
       aria-label=${view?.title || nothing}
@@ -218,10 +230,18 @@ class AppElement extends LitElement {
           ${this.topBar(layer, answer.header ?? {}, panel)} ${this.titled(layer, panel) ? this.bigTitle(view) : nothing}
           ${root ? headButtons(view, scene) : nothing}
           <bb-blocks class="blocks" .view=${view} .scene=${scene}></bb-blocks>
-          ${root ? (endWeek ? endWeekDock(answer.header ?? {}, () => this.endWeek()) : nothing) : dock(view, scene)}
+          ${this.foot(layer, root)}
         </div>
       </div>
     </section>`;
+  }
+
+  private foot(layer: Layer, root: boolean): TemplateResult | typeof nothing {
+    const { header = {}, endWeek } = this.player.answer;
+    if (layer === this.released) return outNow();
+    if (!root) return dock(layer.view, this.sceneOf(layer));
+    const here = endWeek && layer === this.stack.top && this.room === "phone";
+    return here ? endWeekDock(header, () => this.endWeek()) : nothing;
   }
 
   private placeOf(layer: Layer): "top" | "leaving" | "beneath" | "parked" {
@@ -265,8 +285,19 @@ class AppElement extends LitElement {
         ${view?.subtitle ? html`<p class="subtitle" dir="auto">${view.subtitle}</p>` : nothing}
         <h1 class="title" tabindex="-1" dir="auto">${view?.title}</h1>
       </div>
-      ${this.helpButton(view)} ${picture(view?.picture)}
+      ${this.helpButton(view)} ${picture(this.typedFace(view))}
     </div>`;
+  }
+
+  /** A name has its face while it is still being typed. */
+  private readonly faceOf = (event: Event): void => {
+    this.typedName = (event.target as HTMLInputElement).value;
+    this.requestUpdate();
+  };
+
+  private typedFace(view: View | null): Picture | undefined {
+    const typing = view?.screen === "EnterNameViewController" && this.typedName;
+    return typing ? { kind: "person", name: typing } : view?.picture;
   }
 
   private helpButton(view: View | null): TemplateResult | undefined {
@@ -383,6 +414,7 @@ class AppElement extends LitElement {
   }
 
   private stopMoving(): void {
+    this.land();
     for (const animation of this.moving) animation.cancel();
     this.moving = [];
     this.classList.remove("moving");
@@ -393,6 +425,9 @@ class AppElement extends LitElement {
   }
 
   private feel({ feedback }: Answer): void {
+    if (this.heard) playSoft(this.heard);
+    if (this.released && this.released !== this.told) playRelease(this.querySelector(".layer.top"));
+    this.told = this.released;
     if (feedback === "energyBounce") {
       shakeEnergy(this.querySelector(".layer.top"), prefersStillness());
       navigator.vibrate?.([20, 40, 20]);
