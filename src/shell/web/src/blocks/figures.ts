@@ -35,7 +35,8 @@ class FiguresElement extends LitElement {
     const told = JSON.stringify([...items, total].map((figure) => figure?.value));
     if (told === this.told) return;
     this.told = told;
-    if (!prefersStillness()) this.begin();
+    // Under sad news nothing counts.
+    if (!prefersStillness() && !this.closest(".mourning")) this.begin();
   }
 
   protected override render(): TemplateResult {
