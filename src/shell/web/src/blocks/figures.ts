@@ -36,7 +36,7 @@ class FiguresElement extends LitElement {
     const told = JSON.stringify([...items, total].map((figure) => figure?.value));
     if (told === this.told) return;
     this.told = told;
-    // Sad news is not counted up.
+    // Under sad news nothing counts.
     if (!prefersStillness() && !this.closest(".mourning")) this.begin();
   }
 
