@@ -65,6 +65,7 @@ void Navigator::keepNewYear() {
 
 void Navigator::dispatch(std::string_view screenKey, const Action& action) {
   if (screenKey == "alert") return answerAlert(action);
+  if (screenKey == "nav" && action.id == "desk") desk_ = action.value == "1";
   if (!alerts_.empty()) return;
   if (screenKey == "tabs") {
     const auto number = optionNumber(action.value, tabCount);
@@ -194,6 +195,13 @@ bool Navigator::onTabRoot() const { return stacks_[tab_].size() == 1; }
 
 bool Navigator::endWeekOffered() const { return modals_.empty() && onTabRoot() && alerts_.empty(); }
 
+/// The root of the tab, when a screen lies over it, else home; none on home itself and under a modal screen.
+const Navigator::Open* Navigator::besideTop() const {
+  if (!desk_ || !modals_.empty()) return nullptr;
+  if (!onTabRoot()) return &stacks_[tab_].front();
+  return tab_ == homeTab || stacks_[homeTab].empty() ? nullptr : &stacks_[homeTab].front();
+}
+
 bool Navigator::affordable(const Price& price) const { return backbeat::affordable(game_.state, price); }
 
 /// Home tells first of what waits for the player.
@@ -229,6 +237,9 @@ Shown Navigator::shown() const {
   shown.screen = top().segue->screen;
   shown.key = top().key;
   shown.view = top().screen->view();
+  if (const Open* beside = besideTop()) {
+    shown.beside = Shown::Beside{beside->segue->screen, beside->key, beside->screen->view()};
+  }
   return shown;
 }
 

@@ -58,6 +58,12 @@ struct Shown {
   std::string_view screen;
   int64_t key = 0;
   View view;
+  struct Beside {
+    std::string_view screen;
+    int64_t key = 0;
+    View view;
+  };
+  std::optional<Beside> beside;  ///< at a desk: what can be seen next to the screen of the tab that is on top
 };
 
 /// The way back to the beginning, for a screen to answer with instead of a segue: every screen of every tab and every
@@ -81,7 +87,8 @@ class Navigator {
   void start(const LoadReport& report);
 
   /// One press, one transaction. `screenKey` is the number of the screen it was meant for, or "tabs", "nav" or "alert";
-  /// a press for a screen that is not shown, or anything but the answer while an alert stands, is ignored.
+  /// a press for a screen that is not shown, or anything but the answer while an alert stands, is ignored. "desk" on
+  /// "nav" says whether two screens find room side by side, which holds for the rest of the launch.
   void press(std::string_view screenKey, const Action& action);
 
   Shown shown() const;
@@ -121,6 +128,7 @@ class Navigator {
   void selectTab(size_t number);
   void closeToRoot(std::vector<Open>& stack);
   void closeTop();
+  const Open* besideTop() const;
   void endTheWeek();
   void keepNewYear();
   void open(std::vector<Open>& stack, const Segue& segue, std::string_view argument);
@@ -134,6 +142,7 @@ class Navigator {
   std::vector<Open> modals_;
   std::deque<QueuedAlert> alerts_;
   size_t tab_ = homeTab;
+  bool desk_ = false;
   int64_t lastKey_ = 0;       ///< of a screen
   int64_t lastAlertKey_ = 0;  ///< counted by itself, so that what is asked moves no screen's key
   Feedback feedback_ = Feedback::none;

@@ -501,6 +501,8 @@ export interface Answer {
   snapshot?: string;
   notice?: string;
   view: View;
+  /** At a desk: what can be seen beside the shown screen. */
+  beside?: View;
 }
 
 /** The screen of a press: the key of the shown screen, or one of the reserved places around it. */

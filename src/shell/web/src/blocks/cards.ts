@@ -1,7 +1,7 @@
 import { html, nothing, type TemplateResult } from "lit";
 import "../hooks/button";
 import { picture } from "../pictures/picture";
-import { hooksOn } from "../preferences";
+import { soundOn, soundOpen } from "../preferences";
 import type { Card, Cover } from "../protocol";
 import type { Scene } from "../scene";
 import { buttonBlock } from "./controls";
@@ -53,7 +53,8 @@ export function coverBlock(head: Cover): TemplateResult {
   const rating = /^\d{1,2}(\.\d)?$|^100$/.test(head.badge ?? "") ? Number(head.badge) : null;
   return html`<section class="head card kind-${head.picture?.kind ?? "none"}">
     <div class="head-picture">
-      ${picture(head.picture)} ${head.hook && hooksOn() ? html`<bb-hook .hook=${head.hook}></bb-hook>` : nothing}
+      ${picture(head.picture)}
+      ${head.hook && (soundOn() || soundOpen()) ? html`<bb-hook .hook=${head.hook}></bb-hook>` : nothing}
     </div>
     <div class="head-texts">
       <h2 dir="auto">${head.title}</h2>

@@ -55,7 +55,7 @@ function scene(poster: Poster): TemplateResult {
           </div>`
         : nothing
     }
-    ${factList(facts, facts?.some(({ icon }) => icon) ? "specs card" : "poster-facts")}
+    ${factList(facts, facts?.some(({ icon }) => icon) ? "particulars card" : "poster-facts")}
   </section>`;
 }
 

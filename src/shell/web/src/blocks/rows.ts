@@ -87,10 +87,13 @@ function turnPage(list: Rows, label: string, to: number, scene: Scene): Template
 
 function rowLine(row: Row, scene: Scene): TemplateResult {
   const { id, title } = row;
+  const lit = id && id === scene.lit ? "true" : nothing;
   return html`
     ${
       id
-        ? html`<button class="row-main" type="button" @click=${() => scene.press(id)}>${rowBody(row, scene)}</button>`
+        ? html`<button class="row-main" type="button" aria-current=${lit} @click=${() => scene.press(id)}>
+            ${rowBody(row, scene)}
+          </button>`
         : html`<div class="row-main">${rowBody(row, scene)}</div>`
     }
     ${actionMenu(row.actions, title || "this row", scene)}
