@@ -279,8 +279,8 @@ bool SqliteStore::keepSnapshot(std::string_view name) {
   const bool read = visitRows([&](std::string_view key, int32_t chunk, const Value& value) {
     rows.push_back({std::string(key), chunk, value});
   });
-  const Bytes packed = read ? packRows(rows) : Bytes();
-  if (packed.empty()) return false;
+  const Value packed = read ? packRows(rows) : Bytes();  // bound below as it stands here
+  if (std::get<Bytes>(packed).empty()) return false;
   return transaction([&] {
     const Statement put = prepared("INSERT INTO snapshot_packed VALUES (?1, ?2)");
     if (!put || !runFor(name, {"INSERT INTO snapshot (name) VALUES (?1)"})) return false;
@@ -326,6 +326,7 @@ bool SqliteStore::restoreSnapshot(std::string_view name) {
   const int step = sqlite3_step(packed.get());
   if (step == SQLITE_ROW) {
     const auto rows = unpackRows(bytesAt(packed.get(), 0));
+    sqlite3_reset(packed.get());
     return rows && replaceAll(*rows);
   }
   if (step != SQLITE_DONE) return false;

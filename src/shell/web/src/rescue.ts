@@ -43,7 +43,8 @@ async function exportCareer(game: Game, tell: (text: string) => void): Promise<v
 /** The save that stops the game is kept aside like any other before a way back: the next version may well play it. */
 async function restore(game: Game, newest: string, copy: string, tell: (text: string) => void): Promise<void> {
   const number = String(Number(newest.split("|")[0]) + 1).padStart(6, "0");
-  const aside = `${number}|restore|Before going back|Kept when the game stopped`;
+  const seconds = Math.floor(Date.now() / 1000);
+  const aside = `${number}|restore::${seconds}|Before going back|Kept when the game stopped`; // without a fingerprint
   if (await game.goBackTo(copy, [{ key: aside, chunk: -10, value: null }])) startOver();
   else tell("The copy could not be put back, perhaps for want of room. Nothing has changed.");
 }
