@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "career/ledger.h"
 #include "core/new_game.h"
 #include "core/view_words.h"
 #include "shell/navigator.h"
@@ -43,6 +44,7 @@ Outcome SettingsViewController::restartButton() {
 Outcome SettingsViewController::restart() {
   game_.saveFile.keepSnapshot(SnapshotKind::restart, state());
   restartGame(game_);
+  ensureBasicNeeds(game_);
   return goTo(std::string(startOverSegue));
 }
 
