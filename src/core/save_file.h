@@ -19,6 +19,7 @@ namespace backbeat {
 struct LoadReport {
   std::vector<std::string> damagedLists;  ///< keys of lists that could not be read: empty now, the rows put aside
   bool readable = true;                   ///< false when the store itself could not be read
+  std::vector<std::string> mended;        ///< what a launch put right after it, each a sentence for the player
 };
 
 /// What a store holds of one list.

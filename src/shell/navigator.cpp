@@ -18,6 +18,7 @@ void Navigator::start(const LoadReport& report) {
     for (const std::string& key : report.damagedLists) notice_ += " " + key;
     notice_ += ".";
   }
+  for (const std::string& sentence : report.mended) notice_ += (notice_.empty() ? "" : " ") + sentence;
   openFirstScreens();
   game_.saveFile.commit();
 }

@@ -1,5 +1,6 @@
 #include "shell/session.h"
 
+#include "career/contract_end.h"
 #include "core/text.h"
 #include "recognition/leaderboards.h"
 #include "shell/registry.h"
@@ -12,6 +13,9 @@ Session::Session(Store& store, Platform& platform, uint64_t seed, Date now)
   game_.leaderboardPass = submitLeaderboards;
   game_.rooms = rooms();
   loadReport_ = game_.saveFile.load(game_.state);
+  if (freeFromLostContract(game_)) {
+    loadReport_.mended.emplace_back("Your label contract is lost: you are a free artist again and keep its advance.");
+  }
   navigator_.start(loadReport_);
 }
 
