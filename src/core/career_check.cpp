@@ -8,6 +8,7 @@
 #include <type_traits>
 
 #include "core/numbers.h"
+#include "core/text.h"
 
 namespace backbeat {
 
@@ -90,23 +91,50 @@ std::vector<Number> numbersOf(const ValueType& record) {
   return numbers;
 }
 
+constexpr const char* holdsANul = " holds a character that is none (NUL)";
+
 double nearest(const Bounds& bounds, double value) {
   return std::clamp(std::isnan(value) ? 0.0 : value, bounds.least, bounds.most);
 }
 
-/// The numbers of a record, and its lists of records, which have some of their own.
-struct Shape {
-  explicit Shape(const ValueType& record) : numbers(numbersOf(record)) {
-    for (const FieldType& field : record.fields) {
-      const bool holdsRecords =
-          field.type.kind == ValueType::Kind::list && field.type.item->kind == ValueType::Kind::record;
-      if (holdsRecords) lists.push_back(field);
+bool holdsNul(const ValueType& type, const void* value) {
+  switch (type.kind) {
+    case ValueType::Kind::text: return static_cast<const std::string*>(value)->find('\0') != std::string::npos;
+    case ValueType::Kind::list: {
+      if (type.item->kind != ValueType::Kind::text) return false;
+      const auto& texts = *static_cast<const std::vector<std::string>*>(value);
+      return std::any_of(texts.begin(), texts.end(),
+                         [&](const std::string& each) { return holdsNul(*type.item, &each); });
     }
+    default: return false;
   }
+}
+
+/// What is looked at in each record of a type: its numbers, its texts, and its lists of records in the same way.
+struct Shape {
+  struct Inner;
+
+  explicit Shape(const ValueType& record);
 
   std::vector<Number> numbers;
-  std::vector<FieldType> lists;
+  std::vector<FieldType> texts;
+  std::vector<Inner> lists;
 };
+
+struct Shape::Inner {
+  FieldType field;
+  Shape shape;
+};
+
+Shape::Shape(const ValueType& record) : numbers(numbersOf(record)) {
+  using Kind = ValueType::Kind;
+  for (const FieldType& field : record.fields) {
+    const bool isList = field.type.kind == Kind::list;
+    const ValueType& each = isList ? *field.type.item : field.type;
+    if (each.kind == Kind::text) texts.push_back(field);
+    if (isList && each.kind == Kind::record) lists.push_back({field, Shape(each)});
+  }
+}
 
 using Records = std::vector<const void*>;
 
@@ -118,19 +146,35 @@ Records itemsOf(const ValueType& list, const void* from) {
   return records;
 }
 
+const void* memberOf(const void* record, const FieldType& field) {
+  return static_cast<const char*>(record) + field.offset;
+}
+
 /// Calls `visit` with each number that is out of its bounds, the record that holds it, and which of `records` that is
 /// or is inside of.
-void forEachUnbearable(const ValueType& record, const Records& records,
+void forEachUnbearable(const Shape& shape, const Records& records,
                        const std::function<void(const Number&, const void*, size_t)>& visit) {
-  const Shape shape(record);
   for (size_t i = 0; i < records.size(); ++i) {
     for (const Number& number : shape.numbers) {
       if (!number.bounds.hold(number.in(records[i]))) visit(number, records[i], i);
     }
-    for (const FieldType& field : shape.lists) {
-      const void* inner = static_cast<const char*>(records[i]) + field.offset;
-      forEachUnbearable(*field.type.item, itemsOf(field.type, inner),
+    for (const auto& [field, inner] : shape.lists) {
+      forEachUnbearable(inner, itemsOf(field.type, memberOf(records[i], field)),
                         [&](const Number& number, const void* where, size_t) { visit(number, where, i); });
+    }
+  }
+}
+
+/// Calls `visit` with the key of each text that holds a NUL, and which of `records` holds it.
+void forEachNul(const Shape& shape, const Records& records,
+                const std::function<void(std::string_view, size_t)>& visit) {
+  for (size_t i = 0; i < records.size(); ++i) {
+    for (const FieldType& field : shape.texts) {
+      if (holdsNul(field.type, memberOf(records[i], field))) visit(field.key, i);
+    }
+    for (const auto& [field, inner] : shape.lists) {
+      forEachNul(inner, itemsOf(field.type, memberOf(records[i], field)),
+                 [&](std::string_view key, size_t) { visit(key, i); });
     }
   }
 }
@@ -194,13 +238,21 @@ void countSongs(GameState& state, Reconciled& found) {
   std::map<int64_t, int64_t> songs;
   for (const Song& song : state.saveAllSongList) songs[song.albumId] += 1;
   const auto all = static_cast<int64_t>(state.saveAllSongList.size());
+  constexpr size_t mostAlbumsNamed = 5;
+  size_t recounted = 0;
   for (size_t i = 0; i < state.saveAllAlbumList.size(); ++i) {
     const Album& album = state.saveAllAlbumList[i];
     const int64_t counted = songs[album.albumId];
     const bool possible = album.songCount >= counted && album.songCount <= all;
     if (album.isReleased || album.albumId == 0 || possible) continue;
-    found.mended.push_back("The songs on " + album.title + " were counted anew: " + std::to_string(counted) + ".");
+    if (++recounted <= mostAlbumsNamed) {
+      found.mended.push_back("The songs on " + firstCharacters(album.title, 40) +
+                             " were counted anew: " + std::to_string(counted) + ".");
+    }
     state.saveAllAlbumList.update(i, [&](Album& changed) { changed.songCount = counted; });
+  }
+  if (recounted > mostAlbumsNamed) {
+    found.mended.push_back("So were those on " + std::to_string(recounted - mostAlbumsNamed) + " more albums.");
   }
 }
 
@@ -217,19 +269,31 @@ std::vector<std::string> unbearableValues(const GameState& state, size_t most) {
   forEachUnbearableScalar(state, [&](const Scalar& scalar, auto value, const Bounds&) {
     tell(std::string(scalar.key) + " is " + readable(static_cast<double>(value)));
   });
+  for (const Scalar& scalar : scalars) {
+    const auto nulIn = [&](auto member) {
+      return holdsNul(typeOf<std::remove_cvref_t<decltype(state.*member)>>(), &(state.*member));
+    };
+    if (std::visit(nulIn, scalar.member)) tell(std::string(scalar.key) + holdsANul);
+  }
   for (const auto& [key, list] : listsOf(state)) {
-    forEachUnbearable(*list.type().item, list.records(),
-                      [&, name = key](const Number& number, const void* at, size_t i) {
-                        tell(std::string(name) + ", entry " + std::to_string(i + 1) + ": " + std::string(number.key) +
-                             " is " + readable(number.in(at)));
-                      });
+    const Shape shape(list.type());
+    const Records records = list.records();
+    const auto place = [name = std::string(key)](size_t i, std::string_view field) {
+      return name + ", entry " + std::to_string(i + 1) + ": " + std::string(field);
+    };
+    forEachUnbearable(shape, records, [&](const Number& number, const void* at, size_t i) {
+      tell(place(i, number.key) + " is " + readable(number.in(at)));
+    });
+    forEachNul(shape, records, [&](std::string_view field, size_t i) { tell(place(i, field) + holdsANul); });
   }
   return found;
 }
 
-size_t mendRecords(const ValueType& type, void* records) {
+size_t mendRecords(RecordBuffer& records) {
+  Records places;
+  for (size_t i = 0; i < records.size(); ++i) places.push_back(records.recordAt(i));
   size_t mended = 0;
-  forEachUnbearable(*type.item, itemsOf(type, records), [&](const Number& number, const void* at, size_t) {
+  forEachUnbearable(Shape(records.type()), places, [&](const Number& number, const void* at, size_t) {
     number.put(const_cast<void*>(at), nearest(number.bounds, number.in(at)));
     ++mended;
   });

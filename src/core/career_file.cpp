@@ -14,6 +14,9 @@ using Ref = PropertyListWriter::Ref;
 
 constexpr const char* noCareer = "This file is a property list, but no career of this game.";
 
+// Many times what the game writes; files of other versions may hold keys of their own.
+constexpr size_t mostKeys = 10'000;
+
 /// Takes the keys of a file one by one.
 class CareerReader {
  public:
@@ -22,9 +25,11 @@ class CareerReader {
   ImportedCareer run(std::string_view file) {
     const auto entries = decoder_.rootEntries();
     if (!entries) return refusal(notAList(file));
+    if (entries->size() > mostKeys) return refusal("This file holds more keys than any career.");
     for (size_t i = 0; i < entries->size(); ++i) {
+      if (!decoder_.isText(entries->keys[i])) return refusal("This file is damaged: one of its keys is no text.");
       const std::optional<std::string> key = decoder_.keyText(entries->keys[i]);
-      if (!key) return refusal("This file is damaged: one of its keys is no text.");
+      if (!key) continue;
       if (!places_.emplace(*key, entries->values[i]).second) return refusal("This file holds " + *key + " twice.");
     }
     for (const Scalar& scalar : scalars) {

@@ -83,14 +83,14 @@ ChunkedList& ChunkedList::operator=(ChunkedList other) {
 
 std::vector<const void*> ChunkedList::records() const {
   std::vector<const void*> result(size());
-  for (size_t i = 0; i < result.size(); ++i) result[i] = records_.at(indexOf(i));
+  for (size_t i = 0; i < result.size(); ++i) result[i] = records_.recordAt(indexOf(i));
   return result;
 }
 
 bool ChunkedList::holdsSame(const ChunkedList& other) const {
   if (size() != other.size()) return false;
   for (size_t i = 0; i < size(); ++i) {
-    if (!sameValue(type(), records_.at(indexOf(i)), other.records_.at(other.indexOf(i)))) return false;
+    if (!sameValue(type(), records_.recordAt(indexOf(i)), other.records_.recordAt(other.indexOf(i)))) return false;
   }
   return true;
 }
@@ -214,7 +214,7 @@ std::vector<const void*> ChunkedList::chunk(uint32_t number) const {
   std::vector<const void*> result;
   result.reserve(last - first);
   for (size_t place = first; place < last; ++place) {
-    result.push_back(records_.at(backwards ? size() - 1 - place : place));
+    result.push_back(records_.recordAt(backwards ? size() - 1 - place : place));
   }
   return result;
 }
@@ -286,7 +286,7 @@ void ChunkedList::markGone(size_t first, size_t last, size_t before) {
 }
 
 int64_t ChunkedList::historyKeyAt(size_t index) const {
-  return *reinterpret_cast<const int64_t*>(static_cast<const char*>(records_.at(index)) + type().historyKey);
+  return *reinterpret_cast<const int64_t*>(static_cast<const char*>(records_.recordAt(index)) + type().historyKey);
 }
 
 // The index of a list with slots holds slots: they stay when the list is sorted.

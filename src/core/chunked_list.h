@@ -76,7 +76,7 @@ class ChunkedList {
   size_t indexOf(size_t position) const { return hasSlots() ? slots_[position] : position; }
   /// By slot where there are slots, else in list order.
   const void* memory() const { return records_.data(); }
-  void* recordAt(size_t position) { return records_.at(indexOf(position)); }
+  void* recordAt(size_t position) { return records_.recordAt(indexOf(position)); }
 
   /// One record more, made out of one that lies elsewhere.
   void add(void* record);

@@ -44,10 +44,16 @@ void MemoryStore::dropSnapshot(std::string_view name) {
   if (const auto found = snapshots_.find(name); found != snapshots_.end()) snapshots_.erase(found);
 }
 
-std::vector<std::string> MemoryStore::snapshots() {
-  std::vector<std::string> names;
-  for (const auto& [name, copy] : snapshots_) names.push_back(name);
-  return names;
+std::vector<KeptCopy> MemoryStore::snapshots() {
+  std::vector<KeptCopy> kept;
+  for (const auto& [name, copy] : snapshots_) {
+    KeptCopy& one = kept.emplace_back(KeptCopy{name});
+    for (const auto& [row, value] : copy) {
+      const auto* object = std::get_if<Bytes>(&value);
+      one.bytes += static_cast<int64_t>(row.first.size() + (object ? object->size() : sizeof(int64_t)));
+    }
+  }
+  return kept;
 }
 
 bool MemoryStore::restoreSnapshot(std::string_view name) {

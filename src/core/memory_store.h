@@ -1,4 +1,4 @@
-// A save that lives in memory: for tests.
+// A save that lives in memory: for tests, and for trials of a career.
 #pragma once
 
 #include <map>
@@ -9,7 +9,7 @@
 
 namespace backbeat {
 
-class MemoryStore final : public CareerStore {
+class MemoryStore : public CareerStore {
  public:
   using Rows = std::map<std::pair<std::string, int32_t>, Value>;
 
@@ -18,7 +18,7 @@ class MemoryStore final : public CareerStore {
   void quarantine(std::string_view key) override;
   bool keepSnapshot(std::string_view name) override;
   void dropSnapshot(std::string_view name) override;
-  std::vector<std::string> snapshots() override;
+  std::vector<KeptCopy> snapshots() override;
   bool restoreSnapshot(std::string_view name) override;
   bool replaceAll(std::span<const Write> rows) override;
 

@@ -455,6 +455,15 @@ std::optional<Date> PropertyListReader::date(Ref ref) const {
   return Date{std::bit_cast<double>(readBigEndian(bytes_.data() + found->body, 8)) + secondsTo2001};
 }
 
+std::optional<size_t> PropertyListReader::textUnits(Ref ref) const {
+  const std::optional<Object> found = object(ref);
+  if (!found) return {};
+  const uint8_t kind = found->marker >> 4;
+  if (kind != asciiText && kind != utf16Text) return {};
+  size_t body;
+  return count(*found, body);
+}
+
 std::optional<std::string> PropertyListReader::text(Ref ref) const {
   const std::optional<Object> found = object(ref);
   if (!found) return {};

@@ -143,6 +143,7 @@ class PropertyListReader {
   std::optional<bool> boolean(Ref) const;
   std::optional<Date> date(Ref) const;
   std::optional<std::string> text(Ref) const;  ///< as UTF-8; a lone surrogate becomes U+FFFD
+  std::optional<size_t> textUnits(Ref) const;  ///< how many bytes or UTF-16 units a text counts, unread
   std::optional<std::string_view> data(Ref) const;
   std::optional<PropertyListRefs> array(Ref) const;
   std::optional<Entries> dictionary(Ref) const;

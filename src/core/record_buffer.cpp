@@ -9,7 +9,7 @@ RecordBuffer::RecordBuffer(const RecordBuffer& other)
     : type_(other.type_), bytes_(new char[other.size_ * other.type_->size]), capacity_(other.size_) {
   while (size_ < other.size_) {
     const size_t next = size_;
-    copyValue(*type_, add(), other.at(next));
+    copyValue(*type_, add(), other.recordAt(next));
   }
 }
 
@@ -31,21 +31,21 @@ RecordBuffer::~RecordBuffer() { shrink(0); }
 
 void* RecordBuffer::add() {
   makeRoom();
-  void* const place = at(size_++);
+  void* const place = recordAt(size_++);
   type_->make(place);
   return place;
 }
 
 void RecordBuffer::insert(size_t i, void* record) {
   makeRoom();
-  for (size_t place = size_; place > i; --place) relocate(at(place), at(place - 1));
-  type_->take(at(i), record);
+  for (size_t place = size_; place > i; --place) relocate(recordAt(place), recordAt(place - 1));
+  type_->take(recordAt(i), record);
   ++size_;
 }
 
 void RecordBuffer::move(size_t to, size_t from) {
-  type_->end(at(to));
-  type_->take(at(to), at(from));
+  type_->end(recordAt(to));
+  type_->take(recordAt(to), recordAt(from));
 }
 
 void RecordBuffer::erase(std::span<const uint32_t> positions) {
@@ -54,22 +54,22 @@ void RecordBuffer::erase(std::span<const uint32_t> positions) {
   auto gone = positions.begin();
   for (size_t i = kept; i < size_; ++i) {
     if (gone != positions.end() && *gone == i) {
-      type_->end(at(i));
+      type_->end(recordAt(i));
       ++gone;
     } else {
-      relocate(at(kept++), at(i));
+      relocate(recordAt(kept++), recordAt(i));
     }
   }
   size_ = kept;
 }
 
 void RecordBuffer::shrink(size_t count) {
-  while (size_ > count) type_->end(at(--size_));
+  while (size_ > count) type_->end(recordAt(--size_));
 }
 
 void RecordBuffer::reorder(std::span<const uint32_t> order) {
   std::unique_ptr<char[]> ordered(new char[size_ * type_->size]);
-  for (size_t i = 0; i < size_; ++i) relocate(ordered.get() + i * type_->size, at(order[i]));
+  for (size_t i = 0; i < size_; ++i) relocate(ordered.get() + i * type_->size, recordAt(order[i]));
   bytes_ = std::move(ordered);
   capacity_ = size_;
 }
@@ -78,7 +78,7 @@ void RecordBuffer::makeRoom() {
   if (size_ < capacity_) return;
   const size_t wider = std::max(size_t{4}, 2 * capacity_);
   std::unique_ptr<char[]> moved(new char[wider * type_->size]);
-  for (size_t i = 0; i < size_; ++i) relocate(moved.get() + i * type_->size, at(i));
+  for (size_t i = 0; i < size_; ++i) relocate(moved.get() + i * type_->size, recordAt(i));
   bytes_ = std::move(moved);
   capacity_ = wider;
 }

@@ -23,8 +23,8 @@ class RecordBuffer {
   size_t size() const { return size_; }
   /// The first record; good until one comes or goes.
   const void* data() const { return bytes_.get(); }
-  void* at(size_t i) { return bytes_.get() + i * type_->size; }
-  const void* at(size_t i) const { return bytes_.get() + i * type_->size; }
+  void* recordAt(size_t i) { return bytes_.get() + i * type_->size; }
+  const void* recordAt(size_t i) const { return bytes_.get() + i * type_->size; }
 
   /// One more record at the end, on its defaults; gives it.
   void* add();

@@ -9,6 +9,21 @@ namespace {
 using Kind = ValueType::Kind;
 
 constexpr const char* doesNotFit = "is of another kind or does not fit";
+constexpr const char* asksForTooMuch = "asks for more room than the size of the list allows";
+
+// An honest list takes up to 12 bytes for each of its own; the small ones have room for whatever they say.
+constexpr uint64_t allowanceAtLeast = 32 << 20;
+constexpr uint64_t allowanceForEachByte = 24;
+
+// What things cost beside the bytes of their content.
+constexpr uint64_t entryCost = 16;
+constexpr uint64_t keyCost = 64;   // that has to be read
+constexpr uint64_t textCost = 16;  // outside of its string
+constexpr uint64_t nodeCost = 96;  // of a map
+
+// No record has nearly as many fields, nor any key as many letters.
+constexpr size_t mostEntries = 1000;
+constexpr size_t longestKey = 100;
 
 template <class T>
 const T& as(const void* value) {
@@ -87,10 +102,16 @@ RecordEncoder::Ref RecordEncoder::record(const ValueType& type, Room keys, const
 }
 
 RecordDecoder::RecordDecoder(std::string_view propertyList)
-    : reader_(PropertyListReader::open(propertyList)), allowance_(32 * uint64_t{propertyList.size()} + (64 << 20)) {}
+    : reader_(PropertyListReader::open(propertyList)),
+      allowance_(allowanceAtLeast + allowanceForEachByte * propertyList.size()) {}
 
 std::optional<PropertyListReader::Entries> RecordDecoder::rootEntries() const {
   return reader_ ? reader_->dictionary(reader_->root()) : std::nullopt;
+}
+
+std::optional<std::string> RecordDecoder::keyText(Ref ref) const {
+  const std::optional<size_t> units = reader_->textUnits(ref);
+  return units && *units <= longestKey ? reader_->text(ref) : std::nullopt;
 }
 
 bool RecordDecoder::read(Ref ref, const ValueType& type, void* out) {
@@ -146,10 +167,13 @@ bool RecordDecoder::appendItems(Ref ref, const Target& target) {
 bool RecordDecoder::record(Ref ref, const ValueType& type, KnownKeys& known, void* out) {
   const std::vector<FieldType>& fields = type.fields;
   const auto entries = reader_->dictionary(ref);
-  if (!entries || !allow(8 * uint64_t{entries->size()})) return false;
+  if (!entries) return false;
+  if (entries->size() > mostEntries) return refuse("a record", "has too many fields");
+  if (!allow(entryCost * entries->size())) return false;
   std::bitset<maxFields> seen;
   for (size_t i = 0; i < entries->size(); ++i) {
     const size_t number = fieldOf(type, entries->keys[i], i, known);
+    if (!problem_.empty()) return false;
     if (number == fields.size()) continue;
     const FieldType& field = fields[number];
     if (seen[number]) return refuse(field.key, "is there twice");
@@ -170,19 +194,24 @@ bool RecordDecoder::texts(Ref ref, std::map<std::string, std::string>& out) {
   for (size_t i = 0; i < entries->size(); ++i) {
     std::string key;
     std::string value;
-    if (!text(entries->keys[i], key) || !text(entries->values[i], value)) return false;
+    if (!allow(nodeCost) || !text(entries->keys[i], key) || !text(entries->values[i], value)) return false;
     if (!out.emplace(std::move(key), std::move(value)).second) return false;
   }
   return true;
 }
 
-bool RecordDecoder::text(Ref ref, std::string& out) { return take(reader_->text(ref), &out) && allow(out.size()); }
+// A UTF-16 unit takes up to three bytes.
+bool RecordDecoder::text(Ref ref, std::string& out) {
+  const std::optional<size_t> units = reader_->textUnits(ref);
+  return units && allow(textCost + *units) && take(reader_->text(ref), &out);
+}
 
 // The number of the field of that key, or the count of fields when none has it.
-size_t RecordDecoder::fieldOf(const ValueType& type, Ref key, size_t place, KnownKeys& known) const {
+size_t RecordDecoder::fieldOf(const ValueType& type, Ref key, size_t place, KnownKeys& known) {
   if (place < known.size() && known[place].key == key) return known[place].field;
   const std::vector<FieldType>& fields = type.fields;
-  const std::optional<std::string> name = reader_->text(key);
+  if (!allow(keyCost)) return fields.size();
+  const std::optional<std::string> name = keyText(key);
   size_t field = 0;
   while (field < fields.size() && name != fields[field].key) ++field;
   if (place >= known.size() && place < 2 * fields.size()) known.resize(place + 1, {~Ref{0}, 0});
@@ -197,9 +226,11 @@ bool RecordDecoder::refuse(std::string_view place, const char* reason) {
   return false;
 }
 
-// A genuine list never asks for much more than it holds; one that names the same large object over and over does.
 bool RecordDecoder::allow(uint64_t bytes) {
-  if (bytes > allowance_) return false;
+  if (bytes > allowance_) {
+    problem_ = asksForTooMuch;
+    return false;
+  }
   allowance_ -= bytes;
   return true;
 }

@@ -46,6 +46,10 @@ class RecordEncoder {
 
 /// Turns the objects of one property list back into values. Each value must be of its own kind; a record needs every
 /// one of its fields, once. Entries that no field knows are passed over, so that a save survives a field's removal.
+///
+/// Whatever the bytes say, decoding takes time and memory in proportion to how many they are: everything that is made
+/// or looked up is paid from one allowance, and a list that asks for more is refused. A list may name one object over
+/// and over, so a few bytes could ask for any amount.
 class RecordDecoder {
  public:
   using Ref = PropertyListReader::Ref;
@@ -60,7 +64,9 @@ class RecordDecoder {
 
   /// The entries of the list's root; nothing when it is no dictionary.
   std::optional<PropertyListReader::Entries> rootEntries() const;
-  std::optional<std::string> keyText(Ref ref) const { return reader_->text(ref); }
+  bool isText(Ref ref) const { return reader_->textUnits(ref).has_value(); }
+  /// The text of a key; nothing when it is none, or longer than any key of the game.
+  std::optional<std::string> keyText(Ref ref) const;
 
   /// One object of the list as a value of type T; when it is none, `problem()` tells why.
   template <class T>
@@ -101,12 +107,12 @@ class RecordDecoder {
   bool record(Ref ref, const ValueType& type, KnownKeys& known, void* out);
   bool texts(Ref ref, std::map<std::string, std::string>& out);
   bool text(Ref ref, std::string& out);
-  size_t fieldOf(const ValueType& type, Ref key, size_t place, KnownKeys& known) const;
+  size_t fieldOf(const ValueType& type, Ref key, size_t place, KnownKeys& known);
   bool refuse(std::string_view place, const char* reason);
   bool allow(uint64_t bytes);
 
   std::optional<PropertyListReader> reader_;
-  uint64_t allowance_;  // bytes of memory that decoding may still take
+  uint64_t allowance_;  // bytes that decoding may still take; a look-up counts as some
   std::string problem_;
 };
 

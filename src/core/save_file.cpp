@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/career_check.h"
 #include "core/record_codec.h"
 
 namespace backbeat {
@@ -42,17 +43,19 @@ class ListLoader {
   /// Fills the list; false, and the list is as it was, when its rows are no whole list.
   bool finish() {
     if (stored.leftovers.empty()) return true;
+    mended = !damaged_ && mendRecords(places_) > 0;
     const bool whole = !damaged_ && stored.chunks > 0 && list_.restore(std::move(places_), std::move(slots_));
     if (!whole) {
       stored.chunks = 0;
       return false;
     }
     stored.leftovers.clear();
-    stored.current = !cutOtherwise_;
+    stored.current = !cutOtherwise_ && !mended;
     return true;
   }
 
   StoredList stored;
+  bool mended = false;
 
  private:
   bool takeOrder(const Bytes& row) {
@@ -119,12 +122,13 @@ class Loader {
   std::vector<std::string> finish() {
     std::vector<std::string> damaged;
     for (const auto& [key, list] : listsOf(state_)) {
-      if (!lists_.at(key).finish()) damaged.emplace_back(key);
+      if (!lists_.find(key)->second.finish()) damaged.emplace_back(key);
     }
     return damaged;
   }
 
-  const StoredList& stored(std::string_view key) const { return lists_.at(key).stored; }
+  const StoredList& stored(std::string_view key) const { return lists_.find(key)->second.stored; }
+  bool mended(std::string_view key) const { return lists_.find(key)->second.mended; }
   std::map<std::string, Bytes, std::less<>> otherObjects;
 
  private:
@@ -160,6 +164,16 @@ LoadReport SaveFile::load(GameState& state) {
   for (const auto& [key, list] : listsOf(state)) lists_.emplace(key, loader.stored(key));
   otherObjects_ = std::move(loader.otherObjects);
   for (const std::string& key : report.damagedLists) store_.quarantine(key);
+  report.mended = mendScalars(state);
+  for (const Scalar& scalar : scalars) {
+    const auto& keys = report.mended;
+    if (std::find(keys.begin(), keys.end(), scalar.key) != keys.end()) writeScalar(state, scalar);
+  }
+  for (const auto& [key, list] : listsOf(state)) {
+    if (!loader.mended(key)) continue;
+    writeList(key, list);
+    report.mended.emplace_back(key);
+  }
   return report;
 }
 
@@ -238,8 +252,12 @@ bool SaveFile::commit() {
   return false;
 }
 
-bool SaveFile::keepSnapshot(SnapshotKind kind, const GameState& state, std::string_view spared) {
-  return !keeping_ || (commit() && backbeat::keepSnapshot(store_, kind, state, spared));
+bool SaveFile::keepSnapshot(SnapshotKind kind, const GameState& state, Date now, std::string_view spared) {
+  return !writes() || (commit() && backbeat::keepSnapshot(store_, kind, state, now, spared));
+}
+
+SnapshotPlan SaveFile::planSnapshot(SnapshotKind kind, const GameState& state, std::string_view spared) const {
+  return writes() ? backbeat::planSnapshot(store_, kind, state, spared) : SnapshotPlan();
 }
 
 std::vector<std::string> differencesFromStore(const GameState& state, Store& store) {

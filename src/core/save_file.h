@@ -18,8 +18,9 @@ namespace backbeat {
 /// What loading found.
 struct LoadReport {
   std::vector<std::string> damagedLists;  ///< keys of lists that could not be read: empty now, the rows put aside
+  std::vector<std::string> mended;        ///< keys that held a number no rule can carry: the nearest stands there now
   bool readable = true;                   ///< false when the store itself could not be read
-  std::vector<std::string> mended;        ///< what a launch put right after it, each a sentence for the player
+  bool contractLost = false;              ///< the artist was under a contract that is not there, and is free now
 };
 
 /// What a store holds of one list.
@@ -59,11 +60,22 @@ class SaveFile {
   bool keeping() const { return keeping_; }
 
   /// Ends the transaction and keeps a copy of the whole save, which is `state`; see core/snapshots.h. False when that
-  /// did not work. A save that could not be read has nothing worth a copy: true then.
-  bool keepSnapshot(SnapshotKind kind, const GameState& state, std::string_view spared = {});
+  /// did not work. What is not being kept anyway has nothing worth a copy: true then.
+  bool keepSnapshot(SnapshotKind kind, const GameState& state, Date now, std::string_view spared = {});
+
+  /// What that would do with the copies that are there.
+  SnapshotPlan planSnapshot(SnapshotKind kind, const GameState& state, std::string_view spared = {}) const;
 
   /// The kept copies, newest first.
   std::vector<Snapshot> snapshots() const { return snapshotsOf(store_); }
+
+  /// The copy that is missed least; see core/snapshots.h.
+  std::optional<Snapshot> dispensableSnapshot(std::string_view spared = {}) const {
+    return backbeat::dispensableSnapshot(store_, spared);
+  }
+
+  /// Forgets a kept copy.
+  void dropSnapshot(std::string_view name) { store_.dropSnapshot(name); }
 
   /// Tells the store that a quiet moment has come.
   void rest() { store_.rest(); }
@@ -91,5 +103,8 @@ std::vector<std::string> differencesFromStore(const GameState& state, Store& sto
 
 /// A fingerprint of the whole state, equal on every platform; what replays compare.
 uint64_t stateHash(const GameState& state);
+
+/// The same, but for what no load gives back: equal for two careers that go on alike.
+uint64_t careerHash(const GameState& state);
 
 }  // namespace backbeat

@@ -72,11 +72,11 @@ class Hasher {
   uint64_t hash_ = 0;
 };
 
-}  // namespace
-
-uint64_t stateHash(const GameState& state) {
+template <class Wanted>
+uint64_t hashOf(const GameState& state, const Wanted& wanted) {
   Hasher hasher;
   for (const Scalar& scalar : scalars) {
+    if (!wanted(scalar)) continue;
     hasher.add(scalar.key);
     std::visit([&](auto member) { hasher.add(state.*member); }, scalar.member);
   }
@@ -87,6 +87,16 @@ uint64_t stateHash(const GameState& state) {
     for (const void* record : records) hasher.add(list.type(), record);
   }
   return hasher.result();
+}
+
+}  // namespace
+
+uint64_t stateHash(const GameState& state) {
+  return hashOf(state, [](const Scalar&) { return true; });
+}
+
+uint64_t careerHash(const GameState& state) {
+  return hashOf(state, [](const Scalar& scalar) { return scalar.loading != Loading::writeOnly; });
 }
 
 }  // namespace backbeat

@@ -31,6 +31,12 @@ struct Write {
   std::optional<Value> value;
 };
 
+/// A kept copy of all rows, as a store knows it.
+struct KeptCopy {
+  std::string name;
+  int64_t bytes = 0;  ///< the room that it takes; 0 while nobody knows yet
+};
+
 class Store {
  public:
   virtual ~Store() = default;
@@ -53,8 +59,8 @@ class Store {
   /// Forgets a kept copy.
   virtual void dropSnapshot(std::string_view) {}
 
-  /// The names of the kept copies, in alphabetical order.
-  virtual std::vector<std::string> snapshots() { return {}; }
+  /// The kept copies, in the alphabetical order of their names.
+  virtual std::vector<KeptCopy> snapshots() { return {}; }
 
   /// Work for a quiet moment after the turn (a checkpoint, say).
   virtual void rest() {}
@@ -74,6 +80,10 @@ class CareerStore : public Store {
   /// The rows of a kept copy take the place of all rows. False when there is no such copy or it failed; nothing has
   /// changed then.
   virtual bool restoreSnapshot(std::string_view name) = 0;
+
+  /// Puts the whole save out of the way as it stands, unread, its copies with it, and begins an empty one. Where it is
+  /// now, for the player; "" when that failed, and nothing has changed then.
+  virtual std::string setAside() { return {}; }
 };
 
 /// Keeps nothing: for simulations.

@@ -13,14 +13,24 @@ Navigator::~Navigator() = default;
 void Navigator::start(const LoadReport& report) {
   if (!report.readable) {
     notice_ = "The save could not be read and is left as it is. This career is not being kept.";
-  } else if (!report.damagedLists.empty()) {
-    notice_ = "A part of the save was damaged and has been put aside:";
-    for (const std::string& key : report.damagedLists) notice_ += " " + key;
-    notice_ += ".";
   }
-  for (const std::string& sentence : report.mended) notice_ += (notice_.empty() ? "" : " ") + sentence;
+  tell("A part of the save was damaged and has been put aside:", report.damagedLists);
+  tell("Numbers that no career can hold were put right in:", report.mended);
+  if (report.contractLost) {
+    notice_ += notice_.empty() ? "" : " ";
+    notice_ += "Your label contract is lost: you are a free artist again and keep its advance.";
+  }
   openFirstScreens();
   game_.saveFile.commit();
+}
+
+/// One more sentence of the notice, when there is anything to name.
+void Navigator::tell(std::string_view what, const std::vector<std::string>& keys) {
+  if (keys.empty()) return;
+  if (!notice_.empty()) notice_ += ' ';
+  notice_ += what;
+  for (const std::string& key : keys) notice_ += " " + key;
+  notice_ += ".";
 }
 
 void Navigator::openFirstScreens() {
@@ -42,15 +52,24 @@ void Navigator::press(std::string_view screenKey, const Action& action) {
   const int64_t year = game_.state.yearNumber;
   dispatch(screenKey, action);
   game_.saveFile.commit();
-  if (game_.state.yearNumber > year) {
-    game_.saveFile.keepSnapshot(SnapshotKind::newYear, game_.state);
-    request_.kind = Request::Kind::newYear;
-  }
+  if (game_.state.yearNumber > year) keepNewYear();
   game_.saveFile.rest();
+}
+
+void Navigator::keepNewYear() {
+  if (game_.saveFile.keepSnapshot(SnapshotKind::newYear, game_.state, game_.clock.now())) return;
+  // Where nothing can be written the game tries again with every press and says so anyway.
+  if (!game_.saveFile.planSnapshot(SnapshotKind::newYear, game_.state).beyondBudget) return;
+  follow(top().screen,
+         news<"No Copy Kept">(
+             "\nThe kept copies take all the room there is for them, so this New Year has none. Settings, "
+             "Restore shows them; delete those that you can spare.",
+             Feedback::none));
 }
 
 void Navigator::dispatch(std::string_view screenKey, const Action& action) {
   if (screenKey == "alert") return answerAlert(action);
+  if (screenKey == "nav" && action.id == "desk") desk_ = action.value == "1";
   if (!alerts_.empty()) return;
   if (screenKey == "tabs") {
     const auto number = optionNumber(action.value, tabCount);
@@ -161,6 +180,7 @@ bool Navigator::followReserved(const Go& go) {
     startOver();
   } else if (go.segue == exportCareerSegue) {
     request_ = {Request::Kind::exportCareer, ""};
+    game_.launch.exportedInYear = game_.state.yearNumber;
   } else if (go.segue == importCareerSegue) {
     request_ = {Request::Kind::importCareer, ""};
   } else if (go.segue == restoreSegue) {
@@ -178,6 +198,13 @@ std::vector<Navigator::Open>& Navigator::stackOfTop() { return modals_.empty() ?
 bool Navigator::onTabRoot() const { return stacks_[tab_].size() == 1; }
 
 bool Navigator::endWeekOffered() const { return modals_.empty() && onTabRoot() && alerts_.empty(); }
+
+/// The root of the tab, when a screen lies over it, else home; none on home itself and under a modal screen.
+const Navigator::Open* Navigator::besideTop() const {
+  if (!desk_ || !modals_.empty()) return nullptr;
+  if (!onTabRoot()) return &stacks_[tab_].front();
+  return tab_ == homeTab || stacks_[homeTab].empty() ? nullptr : &stacks_[homeTab].front();
+}
 
 bool Navigator::affordable(const Price& price) const { return backbeat::affordable(game_.state, price); }
 
@@ -214,6 +241,9 @@ Shown Navigator::shown() const {
   shown.screen = top().segue->screen;
   shown.key = top().key;
   shown.view = top().screen->view();
+  if (const Open* beside = besideTop()) {
+    shown.beside = Shown::Beside{beside->segue->screen, beside->key, beside->screen->view()};
+  }
   return shown;
 }
 

@@ -32,7 +32,6 @@ struct Request {
     exportCareer,  ///< hand the player the career as a file
     importCareer,  ///< ask for a file and put the career in it in the place of this one
     restore,       ///< go back to the kept copy `snapshot`: put it in the place of the save and launch anew
-    newYear,       ///< nothing; a New Year has begun, a good moment to think of a copy elsewhere
   } kind = Kind::none;
   std::string snapshot;
 };
@@ -59,6 +58,12 @@ struct Shown {
   std::string_view screen;
   int64_t key = 0;
   View view;
+  struct Beside {
+    std::string_view screen;
+    int64_t key = 0;
+    View view;
+  };
+  std::optional<Beside> beside;  ///< at a desk: what can be seen next to the screen of the tab that is on top
 };
 
 /// The way back to the beginning, for a screen to answer with instead of a segue: every screen of every tab and every
@@ -82,7 +87,8 @@ class Navigator {
   void start(const LoadReport& report);
 
   /// One press, one transaction. `screenKey` is the number of the screen it was meant for, or "tabs", "nav" or "alert";
-  /// a press for a screen that is not shown, or anything but the answer while an alert stands, is ignored.
+  /// a press for a screen that is not shown, or anything but the answer while an alert stands, is ignored. "desk" on
+  /// "nav" says whether two screens find room side by side, which holds for the rest of the launch.
   void press(std::string_view screenKey, const Action& action);
 
   Shown shown() const;
@@ -108,6 +114,7 @@ class Navigator {
     std::shared_ptr<Screen> from;  ///< kept alive until the alert is answered
   };
 
+  void tell(std::string_view what, const std::vector<std::string>& keys);
   void openFirstScreens();
   void startOver();
   const Open& top() const;
@@ -121,7 +128,9 @@ class Navigator {
   void selectTab(size_t number);
   void closeToRoot(std::vector<Open>& stack);
   void closeTop();
+  const Open* besideTop() const;
   void endTheWeek();
+  void keepNewYear();
   void open(std::vector<Open>& stack, const Segue& segue, std::string_view argument);
   void follow(const std::shared_ptr<Screen>& from, Outcome outcome);
   bool admitted(const Segue& segue, const std::shared_ptr<Screen>& from);
@@ -133,6 +142,7 @@ class Navigator {
   std::vector<Open> modals_;
   std::deque<QueuedAlert> alerts_;
   size_t tab_ = homeTab;
+  bool desk_ = false;
   int64_t lastKey_ = 0;       ///< of a screen
   int64_t lastAlertKey_ = 0;  ///< counted by itself, so that what is asked moves no screen's key
   Feedback feedback_ = Feedback::none;

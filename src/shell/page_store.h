@@ -3,8 +3,6 @@
 #pragma once
 
 #include <map>
-#include <optional>
-#include <set>
 #include <string>
 #include <utility>
 
@@ -20,8 +18,11 @@ class PageStore final : public Store {
   /// Forgets the rows that were handed in: once the game is loaded nobody reads them again.
   void dropRows() { rows_.clear(); }
 
-  /// Takes the name of a copy that the page keeps, before the game starts.
-  void addSnapshot(std::string name) { snapshots_.insert(std::move(name)); }
+  /// Takes the name of a copy that the page keeps, and the room that it takes, before the game starts.
+  void addSnapshot(std::string name, int64_t bytes) { snapshots_.insert_or_assign(std::move(name), bytes); }
+
+  /// What a copy takes, which the page knows only after a while; one that is not there any more is ignored.
+  void measureSnapshot(std::string_view name, int64_t bytes);
 
   /// Every write since the last call, in order; one transaction for the page. Empty when there is none.
   Bytes takeBatch();
@@ -38,11 +39,11 @@ class PageStore final : public Store {
   /// Has the page keep a copy of its rows as they stand at this place of the batch, or forget one.
   bool keepSnapshot(std::string_view name) override;
   void dropSnapshot(std::string_view name) override;
-  std::vector<std::string> snapshots() override { return {snapshots_.begin(), snapshots_.end()}; }
+  std::vector<KeptCopy> snapshots() override;
 
  private:
   std::map<std::pair<std::string, int32_t>, Value> rows_;
-  std::set<std::string, std::less<>> snapshots_;
+  std::map<std::string, int64_t, std::less<>> snapshots_;  // name and room
   Bytes batch_;
 };
 

@@ -13,16 +13,25 @@ Session::Session(Store& store, Platform& platform, uint64_t seed, Date now)
   game_.leaderboardPass = submitLeaderboards;
   game_.rooms = rooms();
   loadReport_ = game_.saveFile.load(game_.state);
-  if (freeFromLostContract(game_)) {
-    loadReport_.mended.emplace_back("Your label contract is lost: you are a free artist again and keep its advance.");
-  }
+  loadReport_.contractLost = freeFromLostContract(game_);
   navigator_.start(loadReport_);
 }
 
+namespace {
+
+/// What a player typed, as the game can keep it: no program that reads a career expects a NUL in a text.
+std::string storable(std::string_view typed) {
+  std::string text = validUtf8(typed);
+  std::erase(text, '\0');
+  return text;
+}
+
+}  // namespace
+
 void Session::press(Date now, std::string_view screenKey, Action action) {
   clock_.set(now);
-  action.id = validUtf8(action.id);
-  action.value = validUtf8(action.value);
+  action.id = storable(action.id);
+  action.value = storable(action.value);
   navigator_.press(screenKey, action);
 }
 

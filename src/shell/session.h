@@ -19,7 +19,8 @@ class Session {
   /// with a seed of its own.
   Session(Store& store, Platform& platform, uint64_t seed, Date now);
 
-  /// One press at a time `now`. Text of a press that is no UTF-8 is mended before anything sees it.
+  /// One press at a time `now`. Text of a press that is no UTF-8, or holds a NUL, is mended before anything
+  /// sees it.
   void press(Date now, std::string_view screenKey, Action action);
 
   Shown shown() const { return navigator_.shown(); }

@@ -120,6 +120,15 @@ void writeAlert(JsonWriter& json, const std::optional<Shown::ShownAlert>& shown)
   json.endObject();
 }
 
+void writeView(ViewWriter& writer, std::string_view name, std::string_view screen, int64_t key, const View& view) {
+  JsonWriter& json = writer.json();
+  json.key(name).beginObject();
+  json.key("screen").text(screen);
+  json.key("key").number(key);
+  writer.members(view);
+  json.endObject();
+}
+
 }  // namespace
 
 std::string shownAsJson(const Navigator& navigator, const Shown& shown) {
@@ -141,11 +150,8 @@ std::string shownAsJson(const Navigator& navigator, const Shown& shown) {
   json.key("notice").text(shown.notice);
   json.key("request").text(nameOf(shown.request.kind));
   if (!shown.request.snapshot.empty()) json.key("snapshot").text(shown.request.snapshot);
-  json.key("view").beginObject();
-  json.key("screen").text(shown.screen);
-  json.key("key").number(shown.key);
-  writer.members(shown.view);
-  json.endObject();
+  writeView(writer, "view", shown.screen, shown.key, shown.view);
+  if (const auto& beside = shown.beside) writeView(writer, "beside", beside->screen, beside->key, beside->view);
   json.endObject();
   return json.str();
 }

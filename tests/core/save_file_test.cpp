@@ -101,7 +101,7 @@ TEST_F(SaveFileTest, AScalarOfAnotherKindKeepsItsDefaultUnlessItFits) {
   for (const Value& value : {Value(12.5), Value(notANumber), Value(0x1p63), Value(encodeValue(writer, int64_t{12}))}) {
     EXPECT_EQ(loadedWith("weekNumber", value).weekNumber, 1);
   }
-  EXPECT_EQ(loadedWith("weekNumber", -0x1p63).weekNumber, std::numeric_limits<int64_t>::min());
+  EXPECT_EQ(loadedWith("weekNumber", -0x1p63).weekNumber, 1) << "fits, but no calendar has it";
   EXPECT_EQ(loadedWith("streamingPayRate", int64_t{2}).streamingPayRate, 2.0);
   EXPECT_EQ(loadedWith("streamingPayRate", Bytes("damaged")).streamingPayRate, 0.001);
   EXPECT_EQ(loadedWith("typeOfOffice", encodeValue(writer, std::string("LOFT"))).typeOfOffice, "LOFT");

@@ -51,7 +51,7 @@ TEST(ViewFields, EnumerationsAreToldByTheirOwnNames) {
   expectEveryName<Theme>();
   expectEveryName<Feedback>();
   expectEveryName<AlertButton::Style>();
-  EXPECT_EQ(enumeratorName<static_cast<Request::Kind>(viewNames<Request::Kind>.size() - 1)>(), "newYear");
+  EXPECT_EQ(enumeratorName<static_cast<Request::Kind>(viewNames<Request::Kind>.size() - 1)>(), "restore");
 }
 
 /// What a view says: the members that are told, and every value of its enumerations.

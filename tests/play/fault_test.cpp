@@ -74,8 +74,8 @@ TEST(Fault, AnImportThatFailsAnywhereChangesNothingAndSaysSo) {
     FailingStore store(n, 1);
     settleInto(store.inner, namedWorld("rich"));
     const MemoryStore::Rows before = store.inner.rows;
-    ImportedCareer career = readCareer(file);
-    const std::string problem = putInPlace(career, store);
+    ImportedCareer career = readCareer(file, Date());
+    const std::string problem = putInPlace(career, store, Date(), false).problem;
     if (store.failed() == 0) {
       EXPECT_EQ(problem, "");
       EXPECT_GT(n, 2) << "the copy and the career are two writes";

@@ -17,7 +17,8 @@ namespace backbeat {
 namespace {
 
 const std::string folder = BACKBEAT_SOURCE_DIR "/tests/play/saves/";
-constexpr const char* databases[] = {"computer_1.save", "computer_2.save"};  // form 1 kept no copies yet
+constexpr const char* databases[] = {"computer_1.save", "computer_2.save",
+                                     "computer_3.save"};  // form 1 kept no copies yet, form 2 did not pack them
 constexpr const char* pageRows = "page_1.rows";
 constexpr const char* careerFile = "career_1.plist";
 
@@ -29,7 +30,7 @@ void playInto(Store& store) {
     career.play(event);
     if (career.session().game().state.weekNumberForTracking > 12) break;
   }
-  EXPECT_TRUE(keepSnapshot(store, SnapshotKind::newYear, career.session().game().state));
+  EXPECT_TRUE(keepSnapshot(store, SnapshotKind::newYear, career.session().game().state, Date()));
 }
 
 /// What a page keeps of the store's rows: each as a batch would bring it.
@@ -79,7 +80,8 @@ TEST(SavedForms, LoadForEver) {
     ASSERT_TRUE(opened.store) << opened.problem;
     first = loaded(*opened.store);
     expectTheCareer(first);
-    EXPECT_TRUE(keepSnapshot(*opened.store, SnapshotKind::restart, first)) << "an old form learns to keep copies";
+    EXPECT_TRUE(keepSnapshot(*opened.store, SnapshotKind::restart, first, Date()))
+        << "an old form learns to keep copies";
     for (const Snapshot& kept : snapshotsOf(*opened.store)) {
       EXPECT_TRUE(opened.store->restoreSnapshot(kept.name));
       EXPECT_EQ(differencesFromStore(first, *opened.store), std::vector<std::string>()) << kept.name;

@@ -3,6 +3,7 @@
 #include <map>
 #include <utility>
 
+#include "core/career_check.h"
 #include "core/career_file.h"
 #include "core/snapshots.h"
 #include "play/glass.h"
@@ -70,8 +71,7 @@ std::string WatchedCareer::obeyRequest(uint64_t seed) {
     case Request::Kind::exportCareer:
     case Request::Kind::importCareer: return carryOver(seed);
     case Request::Kind::restore: return goBackTo(request.snapshot, seed);
-    case Request::Kind::none:
-    case Request::Kind::newYear: break;
+    case Request::Kind::none: break;
   }
   return {};
 }
@@ -83,7 +83,8 @@ std::string WatchedCareer::carryOver(uint64_t seed) {
   if (!career.state) return "its own export is refused: " + career.problem;
   if (!career.missing.empty()) return "its own export lacks " + career.missing.front();
   if (exportCareer(*career.state) != file) return "a career that was carried over is exported otherwise";
-  if (!keepSnapshot(store_, SnapshotKind::import, state())) return "no copy was kept before the import";
+  if (!keepSnapshot(store_, SnapshotKind::import, state(), Date{static_cast<double>(now_) / 1000}))
+    return "no copy was kept before the import";
   if (!store_.replaceAll(rowsOf(*career.state))) return "the import was not stored";
   launch(seed);
   return {};
@@ -111,7 +112,9 @@ std::string WatchedCareer::fault(Care care) {
   if (due || newHere) {
     if (std::string found = glassFault(session(), [&] { return shown(); }); !found.empty()) return found;
   }
-  return weekEnded ? weekFault(state(), week_) : "";
+  if (!weekEnded) return "";
+  const std::vector<std::string> unbearable = unbearableValues(state(), 1);
+  return unbearable.empty() ? weekFault(state(), week_) : "a rule wrote what no file may hold: " + unbearable.front();
 }
 
 }  // namespace backbeat

@@ -8,7 +8,9 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "core/career_file.h"
 #include "play/worlds.h"
+#include "shell/native/last_words.h"
 #include "shell/native/sqlite_store.h"
 #include "support/program.h"
 
@@ -150,6 +152,59 @@ TEST(CommandLine, WhatIsNoFileIsRefusedInASentence) {
   }
 }
 
+/// What can stand where a command looks for a file, but for plain ones: each made anew by name.
+std::vector<std::string> oddPlaces() {
+  const std::string folder = freshFile("odd_places");
+  std::filesystem::remove_all(folder);
+  std::filesystem::create_directories(folder);
+  EXPECT_EQ(symlink("nowhere", (folder + "/dangling").c_str()), 0);
+  EXPECT_EQ(symlink("loop", (folder + "/loop").c_str()), 0);
+  EXPECT_EQ(mkfifo((folder + "/pipe").c_str(), 0600), 0);
+  writeFile(folder + "/text", "notes of somebody");
+  writeFile(folder + "/empty", "");
+  return {folder,
+          folder + "/dangling",
+          folder + "/loop",
+          folder + "/pipe",
+          folder + "/text",
+          folder + "/text/below",
+          folder + "/empty",
+          folder + "/missing",
+          folder + "/missing/below",
+          folder + "/" + std::string(300, 'n'),
+          folder + "/line\nbreak",
+          "/dev/null",
+          "/dev/zero",
+          "/dev/full",
+          "/proc/self/mem"};
+}
+
+TEST(CommandLine, EveryCommandComesToAnEndWhateverItIsPointedAt) {
+  const std::string save = freshFile("pointed");
+  ASSERT_EQ(runProgram({"play", "--save", save}, "1 Zoë Falk\nend\n").exitCode, 0);
+  const std::string career = contentOf(save);
+  const std::vector<std::vector<std::string>> commands = {{"play", "--save", ""},
+                                                          {"play", "--save", save, "--trace", ""},
+                                                          {"info", "--save", ""},
+                                                          {"export", "", "--save", save},
+                                                          {"export", "/dev/null", "--save", ""},
+                                                          {"import", "", "--save", save},
+                                                          {"import", "/nowhere", "--save", ""},
+                                                          {"replay", ""},
+                                                          {"simulate", "--careers", "1", "--years", "1", "--csv", ""}};
+  for (std::vector<std::string> words : commands) {
+    const auto target = static_cast<size_t>(std::find(words.begin(), words.end(), "") - words.begin());
+    const size_t places = oddPlaces().size();
+    for (size_t i = 0; i < places; ++i) {
+      words[target] = oddPlaces()[i];
+      const ProgramRun run = runProgram(words);
+      EXPECT_TRUE(run.exitCode == 0 || run.exitCode == 1) << ::testing::PrintToString(words) << run.output;
+      EXPECT_NE(run.output, "") << ::testing::PrintToString(words);
+    }
+    EXPECT_EQ(contentOf(save), career) << words[0];
+  }
+}
+
 TEST(CommandLine, DamagedListsAreToldAndLeftAloneByInfo) {
   const std::string save = freshFile("damaged");
   {
@@ -166,20 +221,45 @@ TEST(CommandLine, DamagedListsAreToldAndLeftAloneByInfo) {
   EXPECT_THAT(runProgram({"info", "--save", save}).output, ::testing::Not(HasSubstr("DAMAGED")));
 }
 
-TEST(CommandLine, AnAmountThatOutgrowsItsNumberEndsTheProgramWithOneLine) {
-  const std::string save = freshFile("endless");
-  {
-    const SqliteStore::Opened opened = SqliteStore::open(save);
-    ASSERT_TRUE(opened.store);
-    settleInto(*opened.store, {"endless", [](GameState& state) {
-                                 state.promptToEnterName = 1;
-                                 state.weekNumberForTracking = INT64_MAX;
-                               }});
-  }
-  const ProgramRun run = runProgram({"play", "--save", save}, "end\n");
-  EXPECT_EQ(run.exitCode, 70);
-  EXPECT_THAT(run.output,
-              HasSubstr("An amount grew past what the game can count. The save holds the last whole step."));
+TEST(LastWords, TellAnAmountThatOutgrowsItsNumberInOneLine) {
+  volatile int64_t amount = INT64_MAX;
+  EXPECT_EXIT(
+      {
+        tellLastWords();
+        amount = amount + 1;
+      },
+      testing::ExitedWithCode(outgrown),
+      "An amount grew past what the game can count. The save holds the last whole step.");
+}
+
+TEST(CommandLine, CopiesAreListedGoneBackToAndDeletedAfterAQuestion) {
+  const std::string save = freshFile("copies");
+  const auto copies = [&](std::vector<std::string> words) {
+    words.insert(words.begin(), "copies");
+    words.insert(words.end(), {"--save", save});
+    return runProgram(words);
+  };
+  EXPECT_EQ(copies({}).exitCode, 1) << "there is no save yet";
+  const auto liveAs = [&](const std::string& artist) {
+    GameState state;
+    state.promptToEnterName = 1;
+    state.myArtistsName = artist;
+    const std::string file = freshFile("other.plist");
+    writeFile(file, exportCareer(state));
+    return runProgram({"import", file, "--save", save});
+  };
+  for (const char* artist : {"Ada", "Bo", "Cy", "Di", "Ed", "Flo"}) EXPECT_EQ(liveAs(artist).exitCode, 0);
+  EXPECT_THAT(copies({"list"}).output, HasSubstr("1   Before the import   Ed · Week 1, 2023"));
+  const ProgramRun refused = liveAs("Gus");
+  EXPECT_EQ(refused.exitCode, 1) << "the oldest of five copies is given up only when told to";
+  EXPECT_THAT(refused.output, HasSubstr("Ada"));
+  EXPECT_EQ(copies({"restore", "3"}).exitCode, 0);
+  EXPECT_THAT(runProgram({"info", "--save", save}).output, HasSubstr("Cy"));
+  EXPECT_THAT(copies({}).output, HasSubstr("1   Before going back   Flo"));
+  EXPECT_EQ(copies({"delete", "1"}).exitCode, 1);
+  EXPECT_EQ(copies({"delete", "1", "--force"}).exitCode, 0);
+  EXPECT_THAT(copies({}).output, testing::Not(HasSubstr("Flo")));
+  EXPECT_EQ(copies({"restore", "17"}).exitCode, 1);
 }
 
 }  // namespace

@@ -19,9 +19,12 @@ std::vector<ScreenFigures> screens() {
           {.segue = "goToRestore",
            .figures =
                [](Game&) {
-                 return Standings{{"Before the restart: subtitle", "Mara Voss · Week 36, 2049 · $5,432,109"}};
+                 return Standings{{"Before the restart: subtitle",
+                                   "Mara Voss · Week 36, 2049 · $5,432,109\nKept 24 Nov 2025, 0.1 MB"},
+                                  {"text", "These copies take 0.1 MB of 100 MB."}};
                },
-           .before = [](Game& game) { game.saveFile.keepSnapshot(SnapshotKind::restart, game.state); }},
+           .before =
+               [](Game& game) { game.saveFile.keepSnapshot(SnapshotKind::restart, game.state, Date{1'764'000'000}); }},
           {.segue = "goToAbout",
            .figures = [](Game&) { return Standings(); },
            .noFigures = {"subtitle", "Open Peeps", "Inter", "@dicebear/core", "lit", "ionicons"}}};

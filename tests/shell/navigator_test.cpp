@@ -50,6 +50,27 @@ TEST(Navigator, AFirstStartAsksForTheNameAndNothingElseIsInReach) {
   EXPECT_EQ(again.screen(), "ViewController") << "later launches begin at home";
 }
 
+TEST(Navigator, AtADeskTheRootLiesBesideWhatItLedToAndElseHomeDoes) {
+  MemoryStore store;
+  Play play(store);
+  play.to("nav", "desk", "1");
+  EXPECT_FALSE(play.shown().beside) << "the name is asked for over everything";
+  play.nameTheArtist();
+  ASSERT_TRUE(play.shown().beside);
+  EXPECT_EQ(play.shown().beside->screen, "ViewController");
+  const int64_t music = play.shown().key;
+  play.press("createSongButton");
+  EXPECT_EQ(play.shown().beside->key, music);
+  EXPECT_EQ(play.shown().beside->screen, "MusicViewController");
+  play.tab(homeTab);
+  EXPECT_FALSE(play.shown().beside);
+  play.endWeek();
+  EXPECT_FALSE(play.shown().beside) << "under the report";
+  play.tab(musicTab);
+  play.to("nav", "desk", "0");
+  EXPECT_FALSE(play.shown().beside);
+}
+
 TEST(Navigator, TabsKeepTheirScreensAndOldPressesAreIgnored) {
   MemoryStore store;
   Play play(store);

@@ -55,7 +55,7 @@ TEST(PageStore, WritesTheRowsThatTheProtocolTells) {
 TEST(PageStore, ASaveSurvivesThePage) {
   Page page;
   GameState state;
-  state.totalFans = std::numeric_limits<int64_t>::min();
+  state.totalFans = 98'765'432'109;
   state.totalCashAvailable = -0.0;
   state.myArtistsName = "NUL\0🎤"s;
   {

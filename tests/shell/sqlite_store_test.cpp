@@ -83,7 +83,7 @@ class SqliteStoreTest : public testing::Test {
 
 GameState career() {
   GameState state;
-  state.totalFans = std::numeric_limits<int64_t>::min();
+  state.totalFans = 98'765'432'109;
   state.totalCashAvailable = -0.0;
   state.realEstateIndex = 3.0;
   state.myArtistsName = "Zoë 🎤";
@@ -104,19 +104,49 @@ bool saveAll(Store& store, GameState& state) {
 
 TEST_F(SqliteStoreTest, KeepsASaveAcrossReopening) {
   GameState state = career();
-  state.netWorthSinceLastChecked = std::nan("");
   ASSERT_TRUE(saveAll(*open(), state));
   const auto store = open();
-  EXPECT_THAT(differencesFromStore(state, *store), ElementsAre("netWorthSinceLastChecked")) << "no number equals none";
+  EXPECT_THAT(differencesFromStore(state, *store), IsEmpty());
   GameState loaded;
   SaveFile(*store).load(loaded);
-  EXPECT_TRUE(std::isnan(loaded.netWorthSinceLastChecked));
   EXPECT_EQ(stateHash(loaded), stateHash(state));
   std::vector<std::pair<std::string, int32_t>> places;
   store->visitRows([&](std::string_view key, int32_t chunk, const Value&) { places.emplace_back(key, chunk); });
   EXPECT_TRUE(std::is_sorted(places.begin(), places.end()));
   store->rest();
   EXPECT_EQ(stateHash(loaded), stateHash(state));
+}
+
+TEST_F(SqliteStoreTest, WhatIsNoNumberIsPutRightToldAndWritten) {
+  GameState state = career();
+  state.netWorthSinceLastChecked = std::nan("");
+  state.saveAllSongList.update(7, [](Song& song) { song.viralityScore = std::nan(""); });
+  ASSERT_TRUE(saveAll(*open(), state));
+  GameState loaded;
+  const auto store = open();
+  SaveFile saveFile(*store);
+  EXPECT_THAT(saveFile.load(loaded).mended, ElementsAre("netWorthSinceLastChecked", "saveAllSongList"));
+  EXPECT_EQ(loaded.netWorthSinceLastChecked, 0);
+  EXPECT_EQ(loaded.saveAllSongList[7].viralityScore, 0);
+  EXPECT_TRUE(saveFile.commit());
+  EXPECT_THAT(SaveFile(*store).load(loaded).mended, IsEmpty());
+  EXPECT_EQ(loaded.saveAllSongList.size(), state.saveAllSongList.size());
+}
+
+TEST_F(SqliteStoreTest, AnUnreadableSaveIsSetAsideAsItStands) {
+  GameState state = career();
+  ASSERT_TRUE(saveAll(*open(), state));
+  const Bytes before = bytes();
+  auto store = open();
+  const std::string place = store->setAside();
+  EXPECT_EQ(place, path.string() + ".unreadable");
+  GameState empty;
+  EXPECT_TRUE(SaveFile(*store).load(empty).readable);
+  EXPECT_EQ(empty.totalFans, GameState().totalFans);
+  EXPECT_TRUE(saveAll(*store, state)) << "the store goes on with the fresh file";
+  EXPECT_EQ(store->setAside(), place + "-2");
+  path = place;
+  EXPECT_EQ(bytes(), before);
 }
 
 TEST_F(SqliteStoreTest, ADamagedListIsPutAsideForGood) {
@@ -164,8 +194,10 @@ TEST_F(SqliteStoreTest, RefusesWhatIsNoSaveAndLeavesItAlone) {
   refusedWith(bytes(), "not a save of this game");
   std::filesystem::remove(path);
   open();
-  tamper("PRAGMA user_version = 99");
+  tamper("PRAGMA user_version = 99; PRAGMA journal_mode = DELETE");
+  const Bytes newer = bytes();
   EXPECT_THAT(problem(), HasSubstr("newer version"));
+  EXPECT_EQ(bytes(), newer);
 }
 
 TEST_F(SqliteStoreTest, ADamageFurtherInIsNeverTakenForAShorterCareer) {

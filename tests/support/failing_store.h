@@ -21,7 +21,7 @@ class FailingStore final : public CareerStore {
   void quarantine(std::string_view key) override { inner.quarantine(key); }
   bool keepSnapshot(std::string_view name) override { return works() && inner.keepSnapshot(name); }
   void dropSnapshot(std::string_view name) override { inner.dropSnapshot(name); }
-  std::vector<std::string> snapshots() override { return inner.snapshots(); }
+  std::vector<KeptCopy> snapshots() override { return inner.snapshots(); }
   bool replaceAll(std::span<const Write> rows) override { return works() && inner.replaceAll(rows); }
   bool restoreSnapshot(std::string_view name) override { return works() && inner.restoreSnapshot(name); }
 

@@ -118,6 +118,32 @@ std::string_view unstableSizeIn(const Word& word, std::string_view path) {
   return "";
 }
 
+/// How many commas stand in the brackets of a call, as far as the line goes.
+ptrdiff_t commasIn(const Word& call) {
+  const std::string_view arguments = call.after.substr(0, call.after.find_last_of(')'));
+  return std::count(arguments.begin(), arguments.end(), ',');
+}
+
+/// Calls that refuse by throwing, which ends a program that is built without exceptions.
+std::string_view throwingIn(const Word& word, std::string_view path) {
+  if (!path.starts_with("src/") || path == "src/shell/native/command_line.cpp") return "";
+  const bool isMember = endsWithAny(word.before, {".", "->"});
+  if (word.text == "at" && isMember && word.isCalled()) return "throws past the end; look first";
+  if (word.text == "value" && isMember && word.after.starts_with("()")) return "throws without a value; * does not";
+  if (isOneOf(word.text, {"stoi", "stol", "stoll", "stoul", "stoull", "stof", "stod", "stold"})) {
+    return "throws at what is no number; std::from_chars does not";
+  }
+  if (isOneOf(word.text, {"istreambuf_iterator", "ostreambuf_iterator"}))
+    return "throws at a folder; readFile does not";
+  if (isOneOf(word.text, {"regex", "random_device", "vformat", "any_cast", "bad_alloc", "throw"})) return "throws";
+  if (!word.before.ends_with("filesystem::") && !word.before.ends_with("fs::")) return "";
+  if (word.text.ends_with("directory_iterator")) return "its steps throw";
+  const bool asksForTwo = isOneOf(word.text, {"rename", "copy", "copy_file", "equivalent", "resize_file"});
+  return word.isCalled() && word.text != "path" && commasIn(word) < (asksForTwo ? 2 : 1)
+             ? "throws without an error code"
+             : "";
+}
+
 /// Where energy and cash change hands without the purse: the settlement of the week, the refill, another life.
 bool mayOpenThePurse(std::string_view path) {
   return isOneOf(
@@ -175,6 +201,7 @@ void checkCode(std::string_view path, std::string_view text, std::vector<Complai
         if (!what.empty()) found.push_back({number, std::string(word.text) + ": " + std::string(what)});
       };
       complain(spendingIn(word, path));
+      complain(throwingIn(word, path));
       if (!isRule) return;
       complain(chanceOrPlatformIn(word));
       complain(unstableOrderIn(word, path));

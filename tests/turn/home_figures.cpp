@@ -41,6 +41,10 @@ Standings offeredHomeFigures(Game& twin) {
   return standings;
 }
 
+Standings newYearHomeFigures(Game& twin) {
+  return homeFigures(twin) + Standings{{"Another year!", "", "exportCareer"}};
+}
+
 Standings dataFigures(Game&) {
   return {{"Optimize: subtitle", "3 old songs, 2 old albums"}, {"Reset Startups: subtitle", "1 investment"}};
 }
@@ -55,6 +59,7 @@ std::vector<ScreenFigures> screens() {
              game.launch.contractOfferState = 1;
              game.state.underContract = 0;
            }},
+      {.segue = "home", .figures = newYearHomeFigures, .before = [](Game& game) { game.state.weekNumber = 2; }},
       {.segue = "goToData", .figures = dataFigures},
   };
 }

@@ -9,8 +9,11 @@ const list = new URL('careers.json', folder);
 /** By name: the file, the hour at which it goes on, and for a golden career its trace, its beginning and its end. */
 export const careers = existsSync(list) ? JSON.parse(readFileSync(list, 'utf8')) : {};
 
+/** Where the file of a career is. */
+export const careerFileAt = (name) => new URL((careers[name] ?? fail(name)).file, folder);
+
 /** A career as the file that a player would carry over. */
-export const careerFile = (name) => readFileSync(new URL((careers[name] ?? fail(name)).file, folder));
+export const careerFile = (name) => readFileSync(careerFileAt(name));
 
 /** The rows of a save that holds the career. */
 export const careerRows = (name) => importedRows(careerFile(name));

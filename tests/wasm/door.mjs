@@ -115,9 +115,10 @@ export function importedRows(file) {
   const door = new WebAssembly.Instance(module, {}).exports;
   const bytes = (address, size) => new Uint8Array(door.memory.buffer, address >>> 0, size >>> 0);
   door._initialize();
-  const address = door.bb_alloc(file.length);
-  bytes(address, file.length).set(file);
-  door.bb_import(address, file.length);
+  const input = new Uint8Array([...encoder.encode('0\0'), ...file]);
+  const address = door.bb_alloc(input.length);
+  bytes(address, input.length).set(input);
+  door.bb_import(address, input.length);
   const { problem } = JSON.parse(decoder.decode(bytes(door.bb_out(), door.bb_out_size())));
   if (problem) throw new Error(problem);
   const batch = decodeBatch(bytes(door.bb_batch(), door.bb_batch_size()).slice());

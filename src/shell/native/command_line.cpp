@@ -25,6 +25,7 @@ class Reader {
     addPlay();
     addReplay();
     addInfo();
+    addCopies();
     addTransfers();
     addSimulate();
   }
@@ -85,6 +86,19 @@ class Reader {
 
   void addInfo() { addSave(command("info", Command::info, "Tell what a save holds"), "The save to look into"); }
 
+  void addCopies() {
+    CLI::App& copies = command("copies", Command::copies, "List the kept copies of a save, go back to one, delete one");
+    copies.add_option("task", line_.copiesTask, "What to do")
+        ->check(CLI::IsMember({"list", "restore", "delete"}))
+        ->capture_default_str();
+    copies.add_option("number", line_.copy, "Which one, by its number in the list")
+        ->check(CLI::Range(int64_t{1}, int64_t{1000}))
+        ->type_name("N");
+    addSave(copies, "The save that they belong to");
+    copies.add_flag("--force", line_.force,
+                    "Delete it, or give up the oldest copy where there is no room for one more");
+  }
+
   void addTransfers() {
     CLI::App& out = command("export", Command::exportCareer, "Write the whole career into one binary property list");
     text(out, "file", line_.career, "The file that gets it").type_name("FILE")->required();
@@ -94,6 +108,7 @@ class Reader {
                            "Put the career of such a file in the place of the one in the save, which is kept aside");
     text(in, "file", line_.career, "The file that holds it").type_name("FILE")->required();
     addSave(in, "The save to put it into");
+    in.add_flag("--force", line_.force, "Give up the oldest kept copy where there is no room for one more");
   }
 
   void addSimulate() {

@@ -18,17 +18,20 @@ struct CommandLine {
     info,
     exportCareer,
     importCareer,
+    copies,
     simulate,
     help,  ///< `help` is all there is to say: what was asked for, or the version
   } command = Command::help;
-  std::string save;              ///< the save's file, of play, info, export and import
-  std::optional<uint64_t> seed;  ///< of play
-  std::string trace;             ///< of play: the file that a trace goes to, "" for none; of replay: the one to play
-  std::string career;            ///< of export and import: the file that holds or gets the career
-  bool force = false;            ///< of what writes a file: one that is there is replaced without a question
-  SimulateOptions simulate;      ///< of simulate
-  std::string help;              ///< of help: the text that was asked for
-  std::string problem;           ///< why the words make no sense, with the usage; "" when they do
+  std::string save;                 ///< the save's file, of play, info, copies, export and import
+  std::optional<uint64_t> seed;     ///< of play
+  std::string trace;                ///< of play: the file that a trace goes to, "" for none; of replay: the one to play
+  std::string career;               ///< of export and import: the file that holds or gets the career
+  std::string copiesTask = "list";  ///< of copies: list, restore or delete
+  int64_t copy = 0;                 ///< of copies: the number of one in the list; 0 for none
+  bool force = false;               ///< what else would be refused is done: a file replaced, a copy given up
+  SimulateOptions simulate;         ///< of simulate
+  std::string help;                 ///< of help: the text that was asked for
+  std::string problem;              ///< why the words make no sense, with the usage; "" when they do
 };
 
 /// Reads the words behind the program's name. `defaultSave` is used where no save is named.

@@ -24,6 +24,7 @@ constexpr const char* helpText =
     "  info                about this screen      again         shows it once more\n"
     "  export FILE         the career as a file   import FILE   goes on with such a file\n"
     "  export --force FILE when the file is there already\n"
+    "  import --force FILE when the oldest kept copy has to go for it\n"
     "  help                this text              quit          leaves; everything is kept\n"
     "✗ stands behind a price that you cannot pay now.\n";
 
@@ -198,8 +199,7 @@ void ConsolePlayer::obeyRequest() {
       if (!store_.restoreSnapshot(request.snapshot))
         return say("\nThat copy could not be restored. Nothing has changed.");
       return relaunch();
-    case Request::Kind::none:
-    case Request::Kind::newYear: break;
+    case Request::Kind::none: break;
   }
 }
 
@@ -213,13 +213,17 @@ void ConsolePlayer::exportTo(std::string_view words) {
   say(problem.empty() ? "Your career is in " + path + "." : problem);
 }
 
-void ConsolePlayer::importFrom(std::string_view path) {
+void ConsolePlayer::importFrom(std::string_view words) {
+  const auto [first, rest] = firstWord(words);
+  const bool force = first == "--force";
+  const std::string path(force ? rest : words);
   if (path.empty()) return say("Type the name of a file behind it: import nova.plist");
-  ImportedCareer career = readCareer(std::string(path));
+  const Date now{static_cast<double>(now_()) / 1000};
+  ImportedCareer career = readCareer(path, now);
   if (!career.state) return say(career.problem);
-  const std::string problem = putInPlace(career, store_);
-  if (!problem.empty()) return say(problem);
-  say(importMessage(career));
+  const PutInPlace done = putInPlace(career, store_, now, force);
+  if (!done.problem.empty()) return say(done.problem);
+  say(importMessage(career, done));
   relaunch();
   show();
 }

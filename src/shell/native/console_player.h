@@ -28,7 +28,7 @@ class ConsolePlayer {
   bool obey(std::string_view input);
   bool obeyWord(const std::string& word, std::string_view value);
   void exportTo(std::string_view words);
-  void importFrom(std::string_view path);
+  void importFrom(std::string_view words);
   void relaunch();
   void obeyRequest();
   void pressNumber(size_t number, std::string_view value);

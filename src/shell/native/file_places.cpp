@@ -77,15 +77,15 @@ bool writeAll(const OpenFile& file, std::string_view bytes) {
   return ::fsync(file.number()) == 0;
 }
 
-std::string cannotBeWritten(const std::string& path, int code) {
-  return "The file " + path + " cannot be written: " + std::strerror(code) + ".";
+std::string cannotBeWritten(const std::string& path, const std::string& why) {
+  return "The file " + path + " cannot be written: " + why + ".";
 }
 
 }  // namespace
 
 std::string targetRefusal(const std::string& path, const std::string& save, bool force) {
   struct stat found = {};
-  if (::stat(path.c_str(), &found) != 0) return errno == ENOENT ? "" : cannotBeWritten(path, errno);
+  if (::stat(path.c_str(), &found) != 0) return errno == ENOENT ? "" : cannotBeWritten(path, std::strerror(errno));
   if (!isPlain(found)) return path + " is " + kindOf(found) + "; name a file.";
   if (!save.empty() && isSameFile(found, save)) return path + " is the save itself; name another file.";
   // An empty file is what a player's script may have made ready.
@@ -123,12 +123,12 @@ std::string writeWhole(const std::string& path, std::string_view bytes) {
   std::error_code problem;
   // A link stays a link: what it points at is replaced.
   const std::filesystem::path place = std::filesystem::weakly_canonical(path, problem);
-  if (problem) return cannotBeWritten(path, problem.value());
+  if (problem) return cannotBeWritten(path, problem.message());
   std::string beside = place.string() + ".XXXXXX";
   int code = 0;
   {
     const OpenFile file(::mkostemp(beside.data(), O_CLOEXEC));
-    if (!file.isOpen()) return cannotBeWritten(path, errno);
+    if (!file.isOpen()) return cannotBeWritten(path, std::strerror(errno));
     // mkostemp keeps others out; an exported career is a file like any other.
     const mode_t mask = ::umask(0);
     ::umask(mask);
@@ -138,7 +138,7 @@ std::string writeWhole(const std::string& path, std::string_view bytes) {
   if (code == 0 && std::rename(beside.c_str(), place.c_str()) == 0) return "";
   if (code == 0) code = errno;
   std::remove(beside.c_str());
-  return cannotBeWritten(path, code);
+  return cannotBeWritten(path, std::strerror(code));
 }
 
 }  // namespace backbeat

@@ -13,9 +13,7 @@ namespace backbeat {
 
 namespace {
 
-enum ExitCode { outgrown = 70, outOfMemory = 71, fault = 72 };
-
-[[noreturn]] void stop(std::string_view message, ExitCode code) {
+[[noreturn]] void stop(std::string_view message, StopCode code) {
   // Nothing can be done about a message that does not get out.
   [[maybe_unused]] const ssize_t written = ::write(STDERR_FILENO, message.data(), message.size());
   _exit(code);

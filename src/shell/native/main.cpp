@@ -6,16 +6,17 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <random>
 
 #include "core/memory_store.h"
 #include "core/money.h"
 #include "shell/native/career_transfer.h"
 #include "shell/native/command_line.h"
 #include "shell/native/console_player.h"
+#include "shell/native/copies_command.h"
 #include "shell/native/file_places.h"
 #include "shell/native/last_words.h"
 #include "shell/native/line_input.h"
+#include "shell/native/rescue_menu.h"
 #include "shell/native/save_info.h"
 #include "shell/native/sqlite_store.h"
 #include "shell/trace.h"
@@ -37,9 +38,13 @@ int64_t unixMilliseconds() {
   return duration_cast<milliseconds>(system_clock::now().time_since_epoch()).count();
 }
 
+Date now() { return {static_cast<double>(unixMilliseconds()) / 1000}; }
+
 uint64_t seedOfTheSystem() {
-  std::random_device entropy;
-  return uint64_t{entropy()} << 32 | entropy();
+  uint64_t seed = 0;
+  // Without the system's own chance the hour is as good.
+  if (getentropy(&seed, sizeof seed) != 0) seed = static_cast<uint64_t>(unixMilliseconds());
+  return seed;
 }
 
 /// What a command was asked for, on the standard output; a full disk or a closed pipe is told.
@@ -76,6 +81,7 @@ int play(const CommandLine& line) {
     if (!trace) return fail("the trace " + line.trace + " cannot be written.");
     record = [&](const std::string& event) { trace << event + '\n' << std::flush; };
   }
+  if (!rescue(*opened.store, launchProblem(*opened.store, now()), std::cin, std::cout, now)) return failed;
   QuietPlatform platform;
   TraceRecorder career(*opened.store, platform, record);
   if (!line.trace.empty() && holdsCareer(*opened.store)) {
@@ -118,6 +124,18 @@ int info(const CommandLine& line) {
   return answer(saveInfo(*opened.store));
 }
 
+int copies(const CommandLine& line) {
+  const SqliteStore::Opened opened = openExisting(line.save);
+  if (!opened.store) return fail(opened.problem);
+  if (line.copiesTask == "list") return answer(listOfCopies(*opened.store));
+  const auto copy = numberedCopy(*opened.store, line.copy);
+  if (!copy) return fail("there is no such copy; backbeat copies lists them.");
+  const bool deletes = line.copiesTask == "delete";
+  const CopyTask done =
+      deletes ? deleteCopy(*opened.store, *copy, line.force) : goBackTo(*opened.store, *copy, now(), line.force);
+  return done.done ? answer(done.text + "\n") : fail(done.text);
+}
+
 int exportCareerFile(const CommandLine& line) {
   const std::string refusal = targetRefusal(line.career, line.save, line.force);
   if (!refusal.empty()) return fail(refusal);
@@ -134,13 +152,13 @@ int exportCareerFile(const CommandLine& line) {
 
 int importCareerFile(const CommandLine& line) {
   // Read before the save is opened: a file that is no career begins none.
-  ImportedCareer career = readCareer(line.career);
+  ImportedCareer career = readCareer(line.career, now());
   if (!career.state) return fail(career.problem);
   const SqliteStore::Opened opened = SqliteStore::open(line.save);
   if (!opened.store) return fail(opened.problem);
-  const std::string problem = putInPlace(career, *opened.store);
-  if (!problem.empty()) return fail(problem);
-  return answer(importMessage(career) + "\n");
+  const PutInPlace put = putInPlace(career, *opened.store, now(), line.force);
+  if (!put.problem.empty()) return fail(put.problem);
+  return answer(importMessage(career, put) + "\n");
 }
 
 int run(const CommandLine& line) {
@@ -154,6 +172,7 @@ int run(const CommandLine& line) {
     case CommandLine::Command::play: return play(line);
     case CommandLine::Command::replay: return replay(line);
     case CommandLine::Command::info: return info(line);
+    case CommandLine::Command::copies: return copies(line);
     case CommandLine::Command::exportCareer: return exportCareerFile(line);
     case CommandLine::Command::importCareer: return importCareerFile(line);
     case CommandLine::Command::simulate: return runSimulation(line.simulate);

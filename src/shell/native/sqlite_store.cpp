@@ -4,16 +4,19 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <filesystem>
 #include <limits>
 #include <system_error>
 #include <utility>
 
+#include "shell/native/packed_rows.h"
+
 namespace backbeat {
 namespace {
 
 constexpr int applicationId = 0x42424254;
-constexpr int formatVersion = 2;
+constexpr int formatVersion = 3;
 constexpr int newerFormat = SQLITE_MISMATCH;  // SQLite itself never answers so to what is asked here
 
 // The first access after this takes the file's lock and keeps it until the store is closed.
@@ -32,7 +35,9 @@ constexpr const char* tables =
     "CREATE TABLE IF NOT EXISTS quarantine (key TEXT, chunk INT, value, taken TEXT DEFAULT CURRENT_TIMESTAMP);"
     // Since version 2: whole copies of both.
     "CREATE TABLE IF NOT EXISTS snapshot (name TEXT PRIMARY KEY, taken TEXT DEFAULT CURRENT_TIMESTAMP);"
-    "CREATE TABLE IF NOT EXISTS snapshot_row (name TEXT, key TEXT, chunk INT, value, PRIMARY KEY (name, key, chunk));";
+    "CREATE TABLE IF NOT EXISTS snapshot_row (name TEXT, key TEXT, chunk INT, value, PRIMARY KEY (name, key, chunk));"
+    // Since version 3 a copy is one packed value; those of version 2 stay as they are.
+    "CREATE TABLE IF NOT EXISTS snapshot_packed (name TEXT PRIMARY KEY, rows BLOB);";
 
 std::string problemText(int code, const std::string& path) {
   switch (code & 0xFF) {
@@ -75,11 +80,16 @@ int checkOwner(sqlite3* database) {
   return id == applicationId || (id == 0 && objects == 0) ? SQLITE_OK : SQLITE_NOTADB;
 }
 
+int checkVersion(sqlite3* database) {
+  int code;
+  const int version = queryNumber(database, "PRAGMA user_version", code);
+  return code == SQLITE_OK && version > formatVersion ? newerFormat : code;
+}
+
 int makeTables(sqlite3* database) {
   int code;
   const int version = queryNumber(database, "PRAGMA user_version", code);
   if (code != SQLITE_OK || version == formatVersion) return code;
-  if (version > formatVersion) return newerFormat;
   return execute(database, std::string("BEGIN;") + tables + "PRAGMA application_id = " + std::to_string(applicationId) +
                                "; PRAGMA user_version = " + std::to_string(formatVersion) + "; COMMIT;");
 }
@@ -114,13 +124,31 @@ Value valueAt(sqlite3_stmt* statement, int column) {
   }
 }
 
+bool isThere(const std::string& path) {
+  std::error_code problem;
+  return std::filesystem::exists(path, problem);
+}
+
+bool renamed(const std::string& from, const std::string& to) { return std::rename(from.c_str(), to.c_str()) == 0; }
+
+/// The name, or the name with the first number that nobody has; "" when a thousand are taken.
+std::string freshName(const std::string& wanted) {
+  if (!isThere(wanted)) return wanted;
+  for (int number = 2; number < 1000; ++number) {
+    const std::string name = wanted + "-" + std::to_string(number);
+    if (!isThere(name)) return name;
+  }
+  return {};
+}
+
 }  // namespace
 
 void SqliteStore::CloseDatabase::operator()(sqlite3* database) const { sqlite3_close(database); }
 
 void SqliteStore::FinishStatement::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 
-SqliteStore::SqliteStore(Database database) : database_(std::move(database)) {}
+SqliteStore::SqliteStore(std::string path, Database database)
+    : path_(std::move(path)), database_(std::move(database)) {}
 
 SqliteStore::~SqliteStore() = default;
 
@@ -136,12 +164,19 @@ SqliteStore::Opened SqliteStore::open(const std::string& path) {
       sqlite3_open_v2(path.c_str(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
   Database database(raw);
   if (code == SQLITE_OK && sqlite3_db_readonly(raw, "main") == 1) code = SQLITE_READONLY;
+  // Not even the journal of a save that is refused is folded into it.
+  const auto foldJournalWhenClosed = [&](bool folds) {
+    sqlite3_db_config(raw, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, folds ? 0 : 1, nullptr);
+  };
+  if (code == SQLITE_OK) foldJournalWhenClosed(false);
   if (code == SQLITE_OK) code = execute(raw, lock);
   if (code == SQLITE_OK) code = checkOwner(raw);
+  if (code == SQLITE_OK) code = checkVersion(raw);
   if (code == SQLITE_OK) code = execute(raw, tune);
   if (code == SQLITE_OK) code = makeTables(raw);
   if (code != SQLITE_OK) return {nullptr, problemText(code, path)};
-  std::unique_ptr<SqliteStore> store(new SqliteStore(std::move(database)));
+  foldJournalWhenClosed(true);
+  std::unique_ptr<SqliteStore> store(new SqliteStore(path, std::move(database)));
   if (!store->prepareStatements()) return {nullptr, problemText(sqlite3_errcode(raw), path)};
   return {std::move(store), ""};
 }
@@ -168,7 +203,7 @@ bool SqliteStore::run(sqlite3_stmt* statement) {
 
 SqliteStore::Statement SqliteStore::prepared(const char* sql) const {
   sqlite3_stmt* raw = nullptr;
-  sqlite3_prepare_v2(database_.get(), sql, -1, &raw, nullptr);
+  if (database_) sqlite3_prepare_v2(database_.get(), sql, -1, &raw, nullptr);
   return Statement(raw);
 }
 
@@ -240,24 +275,38 @@ void SqliteStore::quarantine(std::string_view key) {
 }
 
 bool SqliteStore::keepSnapshot(std::string_view name) {
+  std::vector<Write> rows;
+  const bool read = visitRows([&](std::string_view key, int32_t chunk, const Value& value) {
+    rows.push_back({std::string(key), chunk, value});
+  });
+  const Bytes packed = read ? packRows(rows) : Bytes();
+  if (packed.empty()) return false;
   return transaction([&] {
-    return runFor(
-        name, {"INSERT INTO snapshot (name) VALUES (?1)", "INSERT INTO snapshot_row SELECT ?1, key, -1, value FROM kv",
-               "INSERT INTO snapshot_row SELECT ?1, key, chunk, blob FROM list"});
+    const Statement put = prepared("INSERT INTO snapshot_packed VALUES (?1, ?2)");
+    if (!put || !runFor(name, {"INSERT INTO snapshot (name) VALUES (?1)"})) return false;
+    bindKey(put.get(), name, wholeRow);
+    bindValue(put.get(), 2, packed);
+    return run(put.get());
   });
 }
 
 void SqliteStore::dropSnapshot(std::string_view name) {
   transaction([&] {
-    return runFor(name, {"DELETE FROM snapshot WHERE name = ?1", "DELETE FROM snapshot_row WHERE name = ?1"});
+    return runFor(name, {"DELETE FROM snapshot WHERE name = ?1", "DELETE FROM snapshot_row WHERE name = ?1",
+                         "DELETE FROM snapshot_packed WHERE name = ?1"});
   });
 }
 
-std::vector<std::string> SqliteStore::snapshots() {
-  std::vector<std::string> names;
-  const Statement all = prepared("SELECT name FROM snapshot ORDER BY name");
-  while (all && sqlite3_step(all.get()) == SQLITE_ROW) names.emplace_back(bytesAt(all.get(), 0));
-  return names;
+std::vector<KeptCopy> SqliteStore::snapshots() {
+  std::vector<KeptCopy> kept;
+  const Statement all = prepared(
+      "SELECT name, coalesce((SELECT length(rows) FROM snapshot_packed AS packed WHERE packed.name = snapshot.name),"
+      " (SELECT sum(length(key) + length(value)) FROM snapshot_row AS row WHERE row.name = snapshot.name), 0)"
+      " FROM snapshot ORDER BY name");
+  while (all && sqlite3_step(all.get()) == SQLITE_ROW) {
+    kept.push_back({std::string(bytesAt(all.get(), 0)), sqlite3_column_int64(all.get(), 1)});
+  }
+  return kept;
 }
 
 bool SqliteStore::replaceAll(std::span<const Write> rows) {
@@ -268,8 +317,18 @@ bool SqliteStore::replaceAll(std::span<const Write> rows) {
 }
 
 bool SqliteStore::restoreSnapshot(std::string_view name) {
-  const std::vector<std::string> known = snapshots();
-  if (std::find(known.begin(), known.end(), name) == known.end()) return false;
+  const std::vector<KeptCopy> known = snapshots();
+  const auto found = std::find_if(known.begin(), known.end(), [&](const KeptCopy& copy) { return copy.name == name; });
+  if (found == known.end()) return false;
+  const Statement packed = prepared("SELECT rows FROM snapshot_packed WHERE name = ?1");
+  if (!packed) return false;
+  bindKey(packed.get(), name, wholeRow);
+  const int step = sqlite3_step(packed.get());
+  if (step == SQLITE_ROW) {
+    const auto rows = unpackRows(bytesAt(packed.get(), 0));
+    return rows && replaceAll(*rows);
+  }
+  if (step != SQLITE_DONE) return false;
   return transaction([&] {
     return runFor(name,
                   {"DELETE FROM kv", "DELETE FROM list",
@@ -278,8 +337,30 @@ bool SqliteStore::restoreSnapshot(std::string_view name) {
   });
 }
 
+void SqliteStore::dropStatements() {
+  for (Statement* statement : {&begin_, &commit_, &rollback_, &putWhole_, &removeWhole_, &putChunk_, &removeChunk_}) {
+    statement->reset();
+  }
+}
+
+std::string SqliteStore::setAside() {
+  const std::string place = freshName(path_ + ".unreadable");
+  if (place.empty()) return {};
+  dropStatements();
+  sqlite3_db_config(database_.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+  database_.reset();
+  const bool journalMoves = !isThere(path_ + "-wal") || renamed(path_ + "-wal", place + "-wal");
+  const bool moved = journalMoves && renamed(path_, place);
+  if (!moved) renamed(place + "-wal", path_ + "-wal");
+  Opened opened = open(path_);
+  if (!opened.store) return {};
+  opened.store->dropStatements();
+  database_ = std::move(opened.store->database_);
+  return prepareStatements() && moved ? place : "";
+}
+
 void SqliteStore::rest() {
-  sqlite3_wal_checkpoint_v2(database_.get(), nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+  if (database_) sqlite3_wal_checkpoint_v2(database_.get(), nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
 }
 
 }  // namespace backbeat

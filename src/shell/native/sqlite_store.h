@@ -34,9 +34,12 @@ class SqliteStore final : public CareerStore {
   void quarantine(std::string_view key) override;
   bool keepSnapshot(std::string_view name) override;
   void dropSnapshot(std::string_view name) override;
-  std::vector<std::string> snapshots() override;
+  std::vector<KeptCopy> snapshots() override;
   bool replaceAll(std::span<const Write> rows) override;
   bool restoreSnapshot(std::string_view name) override;
+
+  /// The file and its journal get a name that says so, and an empty save takes their place.
+  std::string setAside() override;
 
   /// Moves what was committed from the journal into the save's own pages.
   void rest() override;
@@ -51,15 +54,17 @@ class SqliteStore final : public CareerStore {
   using Database = std::unique_ptr<sqlite3, CloseDatabase>;
   using Statement = std::unique_ptr<sqlite3_stmt, FinishStatement>;
 
-  explicit SqliteStore(Database database);
+  SqliteStore(std::string path, Database database);
   bool prepareStatements();
+  void dropStatements();
   bool apply(const Write& write);
   bool transaction(const std::function<bool()>& body);
   bool run(sqlite3_stmt* statement);
   Statement prepared(const char* sql) const;
   bool runFor(std::string_view name, std::initializer_list<const char*> statements);
 
-  Database database_;
+  std::string path_;
+  Database database_;  ///< none only when the file went away while it was set aside
   Statement begin_;
   Statement commit_;
   Statement rollback_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/view_words.h"
+#include "shell/keep_aside.h"
 #include "shell/navigator.h"
 
 namespace backbeat {
@@ -11,44 +12,73 @@ namespace {
 
 constexpr std::string_view askVerb = "ask";
 constexpr std::string_view restoreVerb = "restore";
+constexpr std::string_view askToDeleteVerb = "askToDelete";
+constexpr std::string_view deleteVerb = "delete";
+
+std::string with(std::string_view verb, const std::string& name) { return std::string(verb) + ":" + name; }
+
+std::string pictureOf(SnapshotKind kind) {
+  switch (kind) {
+    case SnapshotKind::newYear: return "calendar";
+    case SnapshotKind::import: return "box";
+    case SnapshotKind::restart:
+    case SnapshotKind::restore: break;
+  }
+  return "restart";
+}
 
 }  // namespace
 
 Outcome RestoreViewController::act(const Action& action) {
-  if (!isKept(action.argument())) return {};
-  if (action.verb() == askVerb) return askToRestore(action.argument());
-  if (action.verb() == restoreVerb) return restore(action.argument());
+  const std::vector<Snapshot> kept = game_.saveFile.snapshots();
+  const auto chosen =
+      std::find_if(kept.begin(), kept.end(), [&](const Snapshot& each) { return each.name == action.argument(); });
+  if (chosen == kept.end()) return {};
+  if (action.verb() == askVerb) return askAbout(*chosen);
+  if (action.verb() == askToDeleteVerb) return askToDelete(*chosen);
+  if (action.verb() == deleteVerb) return deleteCopy(*chosen);
+  if (action.verb() == restoreVerb) return restore(chosen->name);
+  if (action.verb() == giveUpVerb && !wanted_.empty()) {
+    game_.saveFile.dropSnapshot(chosen->name);
+    return restore(wanted_);
+  }
   return {};
 }
 
-bool RestoreViewController::isKept(std::string_view name) const {
-  const std::vector<Snapshot> kept = game_.saveFile.snapshots();
-  return std::any_of(kept.begin(), kept.end(), [&](const Snapshot& snapshot) { return snapshot.name == name; });
+Outcome RestoreViewController::askAbout(const Snapshot& snapshot) {
+  Outcome question = ask<"Restore?">(
+      "\nYou go back to " + snapshot.told() + "." + keptAsideText(game_, SnapshotKind::restore, snapshot.name), "Close",
+      {"Restore", {with(restoreVerb, snapshot.name), ""}, AlertButton::Style::destructive});
+  question.alerts.front().buttons.push_back({"Delete Copy", {with(askToDeleteVerb, snapshot.name), ""}});
+  return question;
 }
 
-Outcome RestoreViewController::askToRestore(std::string_view name) {
-  const Snapshot snapshot = *readSnapshotName(name);
-  return ask<"Restore?">(
-      "\nYou go back to \"" + snapshot.title + "\": " + snapshot.about +
-          ".\n\nToday's career is kept aside as \"Before going back\".",
-      "Close", {"Restore", {std::string(restoreVerb) + ":" + std::string(name), ""}, AlertButton::Style::destructive});
+Outcome RestoreViewController::askToDelete(const Snapshot& snapshot) {
+  return ask<"Delete Copy?">("\nThe copy " + snapshot.told() + " will be gone for good. Today's career stays.", "Close",
+                             {"Delete", {with(deleteVerb, snapshot.name), ""}, AlertButton::Style::destructive});
+}
+
+Outcome RestoreViewController::deleteCopy(const Snapshot& snapshot) {
+  game_.saveFile.dropSnapshot(snapshot.name);
+  return {};
 }
 
 Outcome RestoreViewController::restore(std::string_view name) {
-  if (!game_.saveFile.keepSnapshot(SnapshotKind::restore, state(), name)) {
-    return refuse<"Nothing Changed">("\nToday's career could not be kept aside, so nothing was restored.");
-  }
-  return goTo(std::string(restoreSegue), std::string(name));
+  wanted_ = name;
+  if (auto problem = keepAside(game_, SnapshotKind::restore, name)) return std::move(*problem);
+  return goTo(std::string(restoreSegue), wanted_);
 }
 
 View RestoreViewController::view() const {
   View view{.title = "Restore"};
   Rows rows;
+  int64_t bytes = 0;
   for (const Snapshot& snapshot : game_.saveFile.snapshots()) {
-    rows.items.push_back({.picture = icon(snapshot.kind == SnapshotKind::newYear ? "calendar" : "restart"),
+    bytes += snapshot.bytes;
+    rows.items.push_back({.picture = icon(pictureOf(snapshot.kind)),
                           .title = snapshot.title,
-                          .subtitle = snapshot.about,
-                          .id = std::string(askVerb) + ":" + snapshot.name});
+                          .subtitle = snapshot.about + "\n" + snapshot.kept(),
+                          .id = with(askVerb, snapshot.name)});
   }
   if (rows.items.empty()) {
     view.add(
@@ -58,7 +88,10 @@ View RestoreViewController::view() const {
   }
   view.add(std::move(rows));
   view.add(
-      caption("The last three New Years are kept, and what was there before a restart, an import and a way back."));
+      caption("These copies take " + roomOf(bytes) + " of " + std::to_string(snapshotBudget / 1'000'000) + " MB."));
+  view.add(
+      caption("Five each are kept of New Years, and of what was there before a restart, an import and a way back; and "
+              "of what you went back from, the furthest week of each career."));
   return view;
 }
 

@@ -1,6 +1,8 @@
 // The kept copies of the save, and the way back to each.
 #pragma once
 
+#include <string>
+
 #include "core/screen.h"
 
 namespace backbeat {
@@ -12,9 +14,12 @@ class RestoreViewController final : public Screen {
   View view() const override;
 
  private:
-  Outcome askToRestore(std::string_view name);
+  Outcome askAbout(const Snapshot& snapshot);
+  Outcome askToDelete(const Snapshot& snapshot);
+  Outcome deleteCopy(const Snapshot& snapshot);
   Outcome restore(std::string_view name);
-  bool isKept(std::string_view name) const;
+
+  std::string wanted_;  ///< the copy to go back to, while another has to be given up for today's career
 };
 
 }  // namespace backbeat

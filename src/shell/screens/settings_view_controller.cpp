@@ -5,6 +5,8 @@
 #include "career/ledger.h"
 #include "core/new_game.h"
 #include "core/view_words.h"
+#include "shell/export_reminder.h"
+#include "shell/keep_aside.h"
 #include "shell/navigator.h"
 
 namespace backbeat {
@@ -25,6 +27,10 @@ constexpr const char* confirmedRestart = "restartConfirmed";
 Outcome SettingsViewController::act(const Action& action) {
   if (action.id == "restartButton") return restartButton();
   if (action.id == confirmedRestart) return restart();
+  if (action.verb() == giveUpVerb) {
+    game_.saveFile.dropSnapshot(action.argument());
+    return restart();
+  }
   if (action.id == "appearance") return chooseAppearance(action.value);
   for (const std::string_view segue :
        {exportCareerSegue, importCareerSegue, std::string_view("goToRestore"),
@@ -37,12 +43,13 @@ Outcome SettingsViewController::act(const Action& action) {
 
 Outcome SettingsViewController::restartButton() {
   return ask<"Restart?">(
-      "\nAll progress will be reset.\n\nAny permanent upgrades will be transferred to your new life.", "Close",
-      {"Restart", {confirmedRestart, ""}, AlertButton::Style::destructive});
+      "\nAll progress will be reset.\n\nAny permanent upgrades will be transferred to your new life." +
+          keptAsideText(game_, SnapshotKind::restart),
+      "Close", {"Restart", {confirmedRestart, ""}, AlertButton::Style::destructive});
 }
 
 Outcome SettingsViewController::restart() {
-  game_.saveFile.keepSnapshot(SnapshotKind::restart, state());
+  if (auto problem = keepAside(game_, SnapshotKind::restart)) return std::move(*problem);
   restartGame(game_);
   ensureBasicNeeds(game_);
   return goTo(std::string(startOverSegue));
@@ -69,10 +76,11 @@ View SettingsViewController::view() const {
   view.add(Rows{{wayTo("goToChangeFeaturedArtistName", "guest", "Featured artists", "Rename the guests"),
                  wayTo("goToChangeCameoNames", "video", "Cameos", "Rename the faces in videos")}});
   view.add(Heading{"Your career"});
-  view.add(
-      Rows{{wayTo(std::string(exportCareerSegue), "document", "Export", "Save it as a file, to keep or to carry over"),
-            wayTo(std::string(importCareerSegue), "box", "Import", "Go on with a career from a file"),
-            wayTo("goToRestore", "restart", "Restore", "Go back to a New Year, or undo a restart")}});
+  const char* whyExport =
+      exportIsDue(game_) ? "Another year! Worth a file of its own" : "Save it as a file, to keep or to carry over";
+  view.add(Rows{{wayTo(std::string(exportCareerSegue), "document", "Export", whyExport),
+                 wayTo(std::string(importCareerSegue), "box", "Import", "Go on with a career from a file"),
+                 wayTo("goToRestore", "restart", "Restore", "Go back to a New Year, or undo a restart")}});
   view.add(Heading{"Backbeat"});
   view.add(Rows{{wayTo("goToData", "box", "Data", "Make a long career lighter"),
                  wayTo("goToAbout", "info", "About", "What this is, and whose work is in it")}});

@@ -55,13 +55,17 @@ const GameState& currentState() {
   return *here.stored;
 }
 
-std::string importAsJson(const ImportedCareer& career) {
+std::string importAsJson(const ImportedCareer& career, const std::string& givesUp) {
   JsonWriter json;
   json.beginObject();
   json.key("problem").text(career.problem);
   json.key("missing").beginArray();
   for (const std::string& key : career.missing) json.text(key);
   json.endArray();
+  json.key("mended").beginArray();
+  for (const std::string& sentence : career.mended) json.text(sentence);
+  json.endArray();
+  json.key("givesUp").text(givesUp);
   json.endObject();
   return json.str();
 }
@@ -109,8 +113,15 @@ extern "C" {
   backbeat::answer();
 }
 
-[[clang::export_name("bb_snapshot")]] void bb_snapshot(const char* name, uint32_t size) {
-  door().store.addSnapshot({name, size});
+[[clang::export_name("bb_snapshot")]] void bb_snapshot(const char* bytes, uint32_t size) {
+  std::string_view copy(bytes, size);
+  const int64_t room = backbeat::wholeNumber(backbeat::nextPart(copy)).value_or(0);
+  auto& here = door();
+  if (here.session) {
+    here.store.measureSnapshot(copy, room);
+  } else {
+    here.store.addSnapshot(std::string(copy), room);
+  }
 }
 
 [[clang::export_name("bb_export")]] void bb_export() {
@@ -122,11 +133,15 @@ extern "C" {
 }
 
 [[clang::export_name("bb_import")]] void bb_import(const char* bytes, uint32_t size) {
-  backbeat::ImportedCareer career = backbeat::importCareer({bytes, size});
+  std::string_view file(bytes, size);
+  const backbeat::Date now = backbeat::dateFrom(backbeat::nextPart(file));
+  backbeat::ImportedCareer career = backbeat::importCareer(file);
   auto& here = door();
-  here.answer = backbeat::importAsJson(career);
+  constexpr auto kind = backbeat::SnapshotKind::import;
+  here.answer = backbeat::importAsJson(
+      career, career.state ? backbeat::planSnapshot(here.store, kind, backbeat::currentState()).told() : "");
   if (!career.state) return;
-  backbeat::keepSnapshot(here.store, backbeat::SnapshotKind::import, backbeat::currentState());
+  backbeat::keepSnapshot(here.store, kind, backbeat::currentState(), now);
   here.store.commit(backbeat::rowsOf(*career.state));
   here.batch = here.store.takeBatch();
 }

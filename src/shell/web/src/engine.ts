@@ -1,11 +1,12 @@
 import type { Answer, PressScreen } from "./protocol";
 import { decodeBatch, encodedSize, encodeRow, type Row, type StoredRow } from "./rows";
+import type { KeptCopy } from "./save";
 
 interface Exports {
   memory: WebAssembly.Memory;
   _initialize(): void;
   bb_alloc(size: number): number;
-  bb_row(address: number, size: number): void;
+  bb_row(address: number, size: number): number;
   bb_snapshot(address: number, size: number): void;
   bb_export(): void;
   bb_export_name(): void;
@@ -38,6 +39,10 @@ export interface Import {
   problem: string;
   /** Keys that the file lacks; they have their defaults. */
   missing: string[];
+  /** What contradicted itself in it and was put right, as sentences. */
+  mended: string[];
+  /** Which kept copy goes for the one of today's career, as a sentence; "" when none. */
+  givesUp: string;
   /** With no problem: orders, and all rows of the career in it. */
   batch: Row[];
 }
@@ -64,22 +69,22 @@ export class Engine {
     return engine;
   }
 
-  /** Before `start`: takes rows that are stored. */
-  hold(rows: StoredRow[]): void {
-    this.guard(() => {
-      for (const { key, chunk, value } of rows) {
+  /** Before `start`: takes rows that are stored. Answers with those that are none. */
+  hold(rows: StoredRow[]): StoredRow[] {
+    return this.guard(() =>
+      rows.filter(({ key, chunk, value }) => {
         const name = encoder.encode(key);
         const room = this.room(encodedSize(name, value));
         encodeRow(room, name, chunk, value);
-        this.door.bb_row(room.byteOffset, room.length);
-      }
-    });
+        return this.door.bb_row(room.byteOffset, room.length) === 0;
+      }),
+    );
   }
 
-  /** Before `start`: takes the names of the kept copies. */
-  holdCopies(names: string[]): void {
+  /** Before `start`: takes the kept copies. Later: what one of them takes, which is known only after a while. */
+  holdCopies(copies: KeptCopy[]): void {
     this.guard(() => {
-      for (const name of names) this.pass(encoder.encode(name), this.door.bb_snapshot);
+      for (const { name, bytes } of copies) this.pass(encoder.encode(`${bytes}\0${name}`), this.door.bb_snapshot);
     });
   }
 
@@ -104,9 +109,13 @@ export class Engine {
   }
 
   /** Reads a career file; what the engine itself plays stays as it is. */
-  import(file: Uint8Array): Import {
+  import(now: number, file: Uint8Array): Import {
     return this.guard(() => {
-      this.pass(file, this.door.bb_import);
+      const time = encoder.encode(`${now}\0`);
+      const room = this.room(time.length + file.length);
+      room.set(time);
+      room.set(file, time.length);
+      this.door.bb_import(room.byteOffset, room.length);
       const read = JSON.parse(decoder.decode(this.out())) as Omit<Import, "batch">;
       return { ...read, batch: read.problem ? [] : this.batch() };
     });

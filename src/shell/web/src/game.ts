@@ -1,11 +1,14 @@
 import { Engine, EngineFault, loadEngineModule, type Import, type Reply } from "./engine";
 import type { HandedFile } from "./files";
+import { askToKeep } from "./keeping";
 import { Messages } from "./messages";
 import type { Answer, PressScreen } from "./protocol";
 import { obey } from "./requests";
-import type { Row } from "./rows";
+import { asidesOf, isAside, type Row, type StoredRow } from "./rows";
 import { Save, type Trouble } from "./save";
 import { forgetStops, noteStop, stopsTooOften } from "./stops";
+import { trialProblem } from "./trial";
+import { warmUp } from "./warm";
 
 /** What the shell plays: the latest answer of the engine, and the way to press something. */
 export interface Player {
@@ -52,9 +55,16 @@ export class Game implements Player {
       this.onChange();
     };
     save.onCleared = () => void this.storeAnew();
+    save.onPacked = (copy) => this.engine?.holdCopies([copy]);
+    void save.packCopies();
     addEventListener("beforeunload", (event) => {
       if (this.unsaved) event.preventDefault(); // the browser asks before it throws the unsaved away
     });
+  }
+
+  /** False before the first launch, and while the save is being exchanged. */
+  get isPlaying(): boolean {
+    return this.engine !== null;
   }
 
   /** Opens the save; the engine is still on its way. `seed` gives the seed of each start of the engine. */
@@ -80,8 +90,14 @@ export class Game implements Player {
     return false;
   }
 
+  /** Gets ready for the first presses, in idle moments. */
+  async warmUp(): Promise<void> {
+    await warmUp(await this.module).catch((fault: unknown) => console.warn("Nothing was warmed up.", fault));
+  }
+
   act(screen: PressScreen, id: string, value = ""): void {
     if (!this.engine) return;
+    const before = this.answer;
     try {
       this.take(this.engine.act(Date.now(), screen, id, value));
     } catch (fault) {
@@ -89,6 +105,7 @@ export class Game implements Player {
     }
     forgetStops();
     this.onChange();
+    askToKeep(before, this.answer);
     if (this.answer.request) void obey(this, this.answer);
   }
 
@@ -107,10 +124,12 @@ export class Game implements Player {
     return (await this.engineOnShelf()).careerFile();
   }
 
-  /** What a career file holds; null when reading it stopped the engine. Nothing changes. */
+  /** What a career file holds, tried on an engine of its own; null when reading it stopped one. Nothing changes. */
   async readCareer(file: Uint8Array): Promise<Import | null> {
     try {
-      return (await this.engineOnShelf()).import(file);
+      const read = (await this.engineOnShelf()).import(Date.now(), file);
+      if (!read.problem) read.problem = trialProblem(await this.freshEngine(), read.batch, Date.now());
+      return read;
     } catch (fault) {
       console.warn("The file stopped the engine.", fault);
       return null;
@@ -129,7 +148,7 @@ export class Game implements Player {
 
   /** The names of the kept copies, the newest first. */
   async copies(): Promise<string[]> {
-    return (await this.save.copies()).reverse();
+    return (await this.save.copies()).map(({ name }) => name).reverse();
   }
 
   /** Resolves with true once everything is stored, and with false while writing fails. */
@@ -194,7 +213,7 @@ export class Game implements Player {
     this.engine = null;
     try {
       const { bytes } = engine.careerFile();
-      const { batch } = (await this.freshEngine()).import(bytes);
+      const { batch } = (await this.freshEngine()).import(Date.now(), bytes);
       this.save.write(batch.filter((row) => row.value));
     } catch (fault) {
       return this.onBroken(fault);
@@ -209,13 +228,26 @@ export class Game implements Player {
   private async engineOnShelf(): Promise<Engine> {
     // The save is read while the engine is still being made.
     const making = this.freshEngine();
+    const refused: StoredRow[] = [];
     const [engine, copies] = await Promise.all([
       making,
       this.save.copies(),
-      this.save.read(async (rows) => (await making).hold(rows)),
+      this.save.read(async (rows) => {
+        refused.push(...(await making).hold(rows.filter((row) => !isAside(row))));
+      }),
     ]);
     engine.holdCopies(copies);
+    if (refused.length > 0) this.putAside(refused);
     return engine;
+  }
+
+  private putAside(rows: StoredRow[]): void {
+    this.save.write(asidesOf(rows));
+    const keys = [...new Set(rows.map(({ key }) => key))].join(", ");
+    void this.messages.tell(
+      "Part of the save was damaged",
+      `It has been put aside, and everything else is here: ${keys}.`,
+    );
   }
 
   private async freshEngine(): Promise<Engine> {

@@ -9,3 +9,17 @@ export function prefersStillness(): boolean {
 export function tap(pattern: number | number[] = 8): void {
   if (navigator.userActivation?.hasBeenActive) navigator.vibrate?.(pattern);
 }
+
+let onItsWay: Promise<void> = Promise.resolve();
+
+/** Screens begin to move; the answer says that they have come to rest. */
+export function takeOff(): () => void {
+  let rest = (): void => {};
+  onItsWay = new Promise((done) => (rest = done));
+  return rest;
+}
+
+/** What counts or falls on a screen waits until the screen stands. */
+export function landed(): Promise<void> {
+  return onItsWay;
+}

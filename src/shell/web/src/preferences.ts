@@ -1,26 +1,31 @@
 /** What the page itself lets the player choose. It stays with this browser and is no part of the save. */
-const hooksPlace = "backbeat-song-hooks";
+const soundPlace = "backbeat-song-hooks";
 
-let hooks = read();
+let sound = read();
 
-/** A few seconds of a song can be heard on its screen. */
-export function hooksOn(): boolean {
-  return hooks;
+/** Songs and soft sounds may be heard. */
+export function soundOn(): boolean {
+  return sound === "1";
 }
 
-export function setHooks(on: boolean): void {
-  hooks = on;
+/** Nobody has said yes or no: a song may offer it, and nothing sounds by itself. */
+export function soundOpen(): boolean {
+  return sound === null;
+}
+
+export function setSound(on: boolean): void {
+  sound = on ? "1" : "0";
   try {
-    localStorage.setItem(hooksPlace, on ? "1" : "0");
+    localStorage.setItem(soundPlace, sound);
   } catch {
     // no such storage here: it holds until the page is closed
   }
 }
 
-function read(): boolean {
+function read(): string | null {
   try {
-    return localStorage.getItem(hooksPlace) === "1";
+    return localStorage.getItem(soundPlace);
   } catch {
-    return false;
+    return null;
   }
 }

@@ -497,10 +497,12 @@ export interface Answer {
   appearance?: "system" | "dark" | "light";
   feedback?: "none" | "energyBounce" | "success" | "warning";
   alert?: Alert | null;
-  request?: "" | "export" | "import" | "restore" | "newYear";
+  request?: "" | "export" | "import" | "restore";
   snapshot?: string;
   notice?: string;
   view: View;
+  /** At a desk: what can be seen beside the shown screen. */
+  beside?: View;
 }
 
 /** The screen of a press: the key of the shown screen, or one of the reserved places around it. */

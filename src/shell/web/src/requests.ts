@@ -5,9 +5,11 @@ import type { Answer } from "./protocol";
 /** Does what the engine asks of the page after a press. */
 export async function obey(game: Game, { request, snapshot }: Answer): Promise<void> {
   if (request === "export") await exportCareer(game);
-  if (request === "import") await importCareer(game);
+  if (request === "import") {
+    const file = await pickFile();
+    if (file) await offerCareer(game, file);
+  }
   if (request === "restore" && snapshot) await goBack(game, snapshot);
-  if (request === "newYear" && !isInstalled()) remindOfExport(game);
 }
 
 async function exportCareer(game: Game): Promise<void> {
@@ -15,17 +17,16 @@ async function exportCareer(game: Game): Promise<void> {
   if (file && (await handOver(file)) === "downloaded") game.messages.show({ text: `Saved as ${file.name}` });
 }
 
-async function importCareer(game: Game): Promise<void> {
+/** Reads the file and asks whether the career in it is to go on here. */
+export async function offerCareer(game: Game, file: File): Promise<void> {
   const { messages } = game;
-  const file = await pickFile();
-  if (!file) return;
   const bytes = await file.arrayBuffer().catch(() => null);
   const read = bytes && (await game.readCareer(new Uint8Array(bytes)));
   if (!read) return messages.tell("Nothing Changed", `${file.name} could not be read.`);
   if (read.problem) return messages.tell("Nothing Changed", `${file.name}\n\n${read.problem}`);
   const agreed = await messages.ask({
     title: "Import?",
-    message: `The career in ${file.name} takes the place of the one on this device, which is kept aside as "Before the import".${lacking(read.missing)}`,
+    message: `The career in ${file.name} takes the place of the one on this device, which is kept aside as "Before the import".${paragraphs([read.givesUp, ...read.mended])}${lacking(read.missing)}`,
     buttons: [
       { label: "Close", style: "cancel" },
       { label: "Import", style: "destructive" },
@@ -48,23 +49,13 @@ function notStored(game: Game): Promise<void> {
   );
 }
 
+function paragraphs(sentences: string[]): string {
+  return sentences.map((sentence) => sentence && `\n\n${sentence}`).join("");
+}
+
 function lacking(keys: string[]): string {
   if (keys.length === 0) return "";
   const told = keys.slice(0, 5).join(", ");
   const more = keys.length > 5 ? ` and ${keys.length - 5} more` : "";
   return `\n\nThe file lacks ${told}${more}; there the career begins anew.`;
-}
-
-function remindOfExport(game: Game): void {
-  game.messages.show({
-    text: "Another year! A file of your career is safe even if this browser forgets it.",
-    button: "Export",
-    press: () => void exportCareer(game),
-  });
-}
-
-/** Browsers hardly ever throw away what an installed page keeps. */
-function isInstalled(): boolean {
-  const onIphone = (navigator as Navigator & { standalone?: boolean }).standalone === true;
-  return onIphone || matchMedia("(display-mode: standalone)").matches;
 }

@@ -29,6 +29,21 @@ export function isOrder(row: Row): boolean {
   return keepsCopy(row) || forgetsCopy(row);
 }
 
+const quarantinePrefix = "quarantine/";
+
+/** Whether it was put aside: out of the engine's way, but not out of the world. */
+export function isAside(row: Row): boolean {
+  return row.key.startsWith(quarantinePrefix);
+}
+
+/** The writes that put rows aside. */
+export function asidesOf(rows: StoredRow[]): Row[] {
+  return rows.flatMap((row) => [
+    { ...row, value: null },
+    { ...row, key: quarantinePrefix + row.key },
+  ]);
+}
+
 export function identity({ key, chunk }: Row): string {
   return `${chunk} ${key}`;
 }
@@ -41,6 +56,7 @@ export function lastOfEach(rows: Row[]): Row[] {
 }
 
 const decoder = new TextDecoder();
+const encoder = new TextEncoder();
 
 /** Reads a batch that the engine hands out; the values are views into `bytes`. */
 export function decodeBatch(bytes: Uint8Array): Row[] {
@@ -82,4 +98,28 @@ export function encodeRow(bytes: Uint8Array, name: Uint8Array, chunk: number, va
   view.setUint8(8 + name.length, 0);
   view.setUint32(9 + name.length, value.length, true);
   bytes.set(value, 13 + name.length);
+}
+
+/** A copy as it is kept: its rows, in the form of a batch, compressed with a checksum. */
+export async function packRows(rows: StoredRow[]): Promise<Uint8Array> {
+  const named = rows.map((row) => ({ ...row, name: encoder.encode(row.key) }));
+  const plain = new Uint8Array(named.reduce((size, { name, value }) => size + encodedSize(name, value), 0));
+  let at = 0;
+  for (const { name, chunk, value } of named) {
+    const size = encodedSize(name, value);
+    encodeRow(plain.subarray(at, at + size), name, chunk, value);
+    at += size;
+  }
+  return through(plain, new CompressionStream("gzip"));
+}
+
+/** The rows of a packed copy; fails when a single byte is not what was packed. */
+export async function unpackRows(packed: Uint8Array): Promise<StoredRow[]> {
+  const rows = decodeBatch(await through(packed, new DecompressionStream("gzip")));
+  return rows.map((row) => ({ ...row, value: row.value!.slice() }));
+}
+
+async function through(bytes: Uint8Array, stream: CompressionStream | DecompressionStream): Promise<Uint8Array> {
+  const body = new Blob([bytes as Uint8Array<ArrayBuffer>]).stream().pipeThrough(stream);
+  return new Uint8Array(await new Response(body).arrayBuffer());
 }

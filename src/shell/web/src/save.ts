@@ -1,9 +1,20 @@
 import { openDB, type IDBPDatabase, type IDBPTransaction } from "idb";
-import { forgetsCopy, identity, isOrder, keepsCopy, lastOfEach, type Row, type StoredRow } from "./rows";
+import {
+  forgetsCopy,
+  identity,
+  isAside,
+  isOrder,
+  keepsCopy,
+  lastOfEach,
+  packRows,
+  unpackRows,
+  type Row,
+  type StoredRow,
+} from "./rows";
 
 const rowStore = "rows";
 const copyStore = "copies";
-const quarantinePrefix = "quarantine/";
+const sizeStore = "sizes";
 const firstPause = 1000;
 const longestPause = 30_000;
 const pieceLength = 256;
@@ -11,6 +22,15 @@ const pieceLength = 256;
 type Key = [key: string, chunk: number];
 type Database = IDBPDatabase;
 type Writing = IDBPTransaction<unknown, string[], "readwrite">;
+
+/** A copy is kept as its rows, in the transaction that asks for it, and packed in a quiet moment after that. */
+type Copy = StoredRow[] | Uint8Array;
+
+/** A kept copy and the room that it takes, 0 while it is not packed. */
+export interface KeptCopy {
+  name: string;
+  bytes: number;
+}
 
 interface Batch {
   rows: Row[];
@@ -30,6 +50,8 @@ export class Save {
   onTrouble: (trouble: Trouble) => void = () => {};
   /** Told when the browser has thrown the whole save away while it was in use; the rows are gone, copies and all. */
   onCleared: () => void = () => {};
+  /** Told when the room that a copy takes has become known. */
+  onPacked: (copy: KeptCopy) => void = () => {};
 
   private unconfirmed: Batch[] = [];
   private running = 0;
@@ -38,6 +60,7 @@ export class Save {
   private timer = 0;
   private closed = false;
   private connecting: Promise<void> | null = null;
+  private packing: Promise<void> | null = null;
   private waiting: ((stored: boolean) => void)[] = [];
   private db!: Database;
 
@@ -62,15 +85,29 @@ export class Save {
     await take(waiting.filter((row): row is StoredRow => row.value !== null));
   }
 
-  /** The names of the kept copies, the oldest first. */
-  async copies(): Promise<string[]> {
+  /** The kept copies, the oldest first. */
+  async copies(): Promise<KeptCopy[]> {
     const waiting = this.waitingRows();
-    const names = new Set((await this.db.getAllKeys(copyStore)) as string[]);
+    const [names, measured, sizes] = await Promise.all([
+      this.db.getAllKeys(copyStore) as Promise<string[]>,
+      this.db.getAllKeys(sizeStore) as Promise<string[]>,
+      this.db.getAll(sizeStore) as Promise<number[]>,
+    ]);
+    const room = new Map(names.map((name) => [name, 0]));
+    measured.forEach((name, i) => room.has(name) && room.set(name, sizes[i]!));
     for (const row of waiting) {
-      if (keepsCopy(row)) names.add(row.key);
-      if (forgetsCopy(row)) names.delete(row.key);
+      if (keepsCopy(row)) room.set(row.key, 0);
+      if (forgetsCopy(row)) room.delete(row.key);
     }
-    return [...names].sort();
+    return [...room].map(([name, bytes]) => ({ name, bytes })).sort((a, b) => (a.name < b.name ? -1 : 1));
+  }
+
+  /** Packs the copies that are not yet, one after the other. Whatever fails leaves a copy as it was. */
+  packCopies(): Promise<void> {
+    this.packing ??= this.packEach()
+      .catch((failed: unknown) => console.warn("A copy could not be packed.", failed))
+      .finally(() => (this.packing = null));
+    return this.packing;
   }
 
   /** Stores one batch, all or nothing. Returns at once. */
@@ -96,13 +133,14 @@ export class Save {
 
   /** Puts the copy of that name in the place of every row, `orders` first; all or nothing, and not tried again. */
   restore(name: string, orders: Row[] = []): Promise<boolean> {
-    return this.exchange(async (tx) => {
-      const copy = (await tx.objectStore(copyStore).get(name)) as StoredRow[] | undefined;
-      if (!copy) throw new Error(`There is no copy named ${name}.`);
-      await put(tx, orders);
-      await tx.objectStore(rowStore).clear();
-      await put(tx, copy);
-    });
+    return this.exchange(
+      async (tx, rows) => {
+        await put(tx, orders);
+        await tx.objectStore(rowStore).clear();
+        await put(tx, rows);
+      },
+      () => this.rowsOfCopy(name),
+    );
   }
 
   /** Resolves with true once every batch is stored, and with false while writing fails. */
@@ -134,17 +172,44 @@ export class Save {
     else this.confirm(batches);
   }
 
-  private async exchange(work: (tx: Writing) => Promise<void>): Promise<boolean> {
+  private async exchange(
+    work: (tx: Writing, rows: StoredRow[]) => Promise<void>,
+    prepare: () => Promise<StoredRow[] | null> = async () => [],
+  ): Promise<boolean> {
     // A batch that is written later than this would mix two careers.
     if (!(await this.settled()) || this.closed) return false;
-    return (await this.transact(work)) === null;
+    const rows = await prepare().catch(() => null);
+    return rows !== null && !this.closed && (await this.transact((tx) => work(tx, rows))) === null;
+  }
+
+  private async rowsOfCopy(name: string): Promise<StoredRow[] | null> {
+    const copy = (await this.db.get(copyStore, name)) as Copy | undefined;
+    if (!copy) return null;
+    return Array.isArray(copy) ? copy : unpackRows(copy);
+  }
+
+  private async packEach(): Promise<void> {
+    const measured = new Set(await this.db.getAllKeys(sizeStore));
+    for (const name of (await this.db.getAllKeys(copyStore)) as string[]) {
+      if (measured.has(name) || this.closed) continue;
+      const copy = (await this.db.get(copyStore, name)) as Copy | undefined;
+      if (!Array.isArray(copy)) continue;
+      const packed = await packRows(copy);
+      const failed = await this.transact(async (tx) => {
+        const copies = tx.objectStore(copyStore);
+        if ((await copies.getKey(name)) === undefined) return; // forgotten meanwhile
+        await copies.put(packed, name);
+        await tx.objectStore(sizeStore).put(packed.length, name);
+      });
+      if (!failed) this.onPacked({ name, bytes: packed.length });
+    }
   }
 
   /** Runs `work` in one transaction; answers with what went wrong, or null. */
   private async transact(work: (tx: Writing) => Promise<void>): Promise<unknown> {
     let tx: Writing;
     try {
-      tx = this.db.transaction([rowStore, copyStore], "readwrite");
+      tx = this.db.transaction([rowStore, copyStore, sizeStore], "readwrite");
     } catch (lost) {
       await this.reconnect(); // the browser may drop the connection; the next attempt has a new one
       return lost;
@@ -166,6 +231,7 @@ export class Save {
 
   private confirm(batches: Batch[]): void {
     for (const batch of batches) batch.confirmed = true;
+    if (batches.some(({ rows }) => rows.some(keepsCopy))) void this.packCopies();
     while (this.unconfirmed[0]?.confirmed) this.unconfirmed.shift();
     this.tellWaiting();
     if (!this.trouble) return;
@@ -203,11 +269,12 @@ export class Save {
 
   private async connect(): Promise<boolean> {
     let fresh = false;
-    this.db = await openDB(this.name, 2, {
+    this.db = await openDB(this.name, 3, {
       upgrade: (db, oldVersion) => {
         fresh = oldVersion === 0;
         if (oldVersion < 1) db.createObjectStore(rowStore);
         if (oldVersion < 2) db.createObjectStore(copyStore);
+        if (oldVersion < 3) db.createObjectStore(sizeStore);
       },
       // Whoever throws the save away does not wait for this tab, and what comes after that is seen to at once.
       blocking: () => {
@@ -241,14 +308,17 @@ export class Save {
   }
 }
 
+type Stores = [Kept, Kept, Kept];
+type Kept = ReturnType<Writing["objectStore"]>;
+
 async function put(tx: Writing, rows: Row[]): Promise<void> {
-  const [kept, copies] = [tx.objectStore(rowStore), tx.objectStore(copyStore)];
+  const [kept, copies, sizes] = [rowStore, copyStore, sizeStore].map((name) => tx.objectStore(name)) as Stores;
   for (const row of rows) {
     const at: Key = [row.key, row.chunk];
     // A copy is what the rows hold right here, so only an order of that kind is waited for; what else fails fails the
     // transaction, which tells.
     if (keepsCopy(row)) await copies.put(await rowsToCopy(tx), row.key);
-    else if (forgetsCopy(row)) copies.delete(row.key).catch(() => {});
+    else if (forgetsCopy(row)) for (const store of [copies, sizes]) store.delete(row.key).catch(() => {});
     else (row.value ? kept.put(row.value, at) : kept.delete(at)).catch(() => {});
   }
 }
@@ -256,7 +326,7 @@ async function put(tx: Writing, rows: Row[]): Promise<void> {
 async function rowsToCopy(tx: Writing): Promise<StoredRow[]> {
   const all: StoredRow[] = [];
   await readRows(tx.objectStore(rowStore), (rows) => all.push(...rows));
-  return all.filter(({ key }) => !key.startsWith(quarantinePrefix));
+  return all.filter((row) => !isAside(row));
 }
 
 interface Readable {
@@ -288,10 +358,15 @@ function abort(tx: Writing): void {
   }
 }
 
-/** The last write of each row between one order to keep a copy and the next, so that each copy stays what it was. */
+/**
+ * The last write of each row between one order to keep a copy and the next, so that each copy stays what it was. What
+ * is forgotten goes first: that makes room on a device that is full.
+ */
 function folded(rows: Row[]): Row[] {
-  const done: Row[] = [];
+  const forgotten = new Set(rows.filter(forgetsCopy).map(({ key }) => key));
+  const done: Row[] = lastOfEach(rows.filter(forgetsCopy));
   let since: Row[] = [];
+  rows = rows.filter((row) => !isOrder(row) || (keepsCopy(row) && !forgotten.has(row.key)));
   for (const row of rows) {
     if (keepsCopy(row)) done.push(...lastOfEach(since.splice(0)), row);
     else since.push(row);

@@ -23,6 +23,8 @@ export interface Scene {
   readonly key: number;
   /** The face of the app that the screen belongs to. */
   readonly theme: Theme;
+  /** What was pressed to open the screen that lies beside; "" when none does. */
+  readonly lit?: string;
   press(id: string, value?: string): void;
   open(sheet: SheetContent): void;
 }

@@ -9,6 +9,8 @@ export interface Layer {
   /** Lies on another screen of its tab, to which one can go back. */
   pushed: boolean;
   focus: HTMLElement | null;
+  /** The id that was pressed last. */
+  pressed: string;
 }
 
 /** How the screens change places. */
@@ -28,6 +30,16 @@ export class Stack {
 
   get top(): Layer | undefined {
     return this.layers.at(-1);
+  }
+
+  /** The screens of the shown tab without what lies over the tabs, root first. */
+  get ofTab(): Layer[] {
+    return this.layers.filter(({ modal }) => !modal);
+  }
+
+  /** The root of the first tab, once it was seen. */
+  get home(): Layer | null {
+    return (this.tab === 0 ? this.layers : this.kept.get(0))?.[0] ?? null;
   }
 
   /** The screens of all tabs. */
@@ -53,7 +65,18 @@ export class Stack {
 
     const step = this.move(was, top, tab === this.tab ? before : null);
     this.tab = tab;
+    if (answer.beside) this.seeBeside(answer.beside);
     return step;
+  }
+
+  /** Beside the top lies the root of its tab or home, which may never have been on top itself. */
+  private seeBeside(view: View): void {
+    let layer = this.everywhere.find(({ key }) => key === view.key);
+    if (!layer) {
+      layer = fresh(view.key);
+      this.kept.set(0, [layer]);
+    }
+    layer.view = view;
   }
 
   private move(was: Layer | undefined, top: Layer, before: Layer[] | null): Step {
@@ -68,5 +91,5 @@ export class Stack {
 }
 
 function fresh(key: number): Layer {
-  return { key, view: null, modal: false, pushed: false, focus: null };
+  return { key, view: null, modal: false, pushed: false, focus: null, pressed: "" };
 }

@@ -128,17 +128,42 @@ describe("a career", { skip: !existsSync(engine) && "the engine is not built for
     await close();
   });
 
-  test("is worth a copy elsewhere once a year, where the page is not installed", async () => {
+  test("is worth a copy elsewhere once a year", async () => {
     const { page, close } = await open();
     const eve = "career['weekNumber'] = career['weekNumberForTracking'] = 52; career['yearNumber'] = 2023";
     await start(page);
     await takeCareer(page, "eve.plist", rewritten(played, eve));
     await endTheWeek(page);
-    const toast = page.locator(".toast", { hasText: "Another year" });
-    const { bytes } = await downloaded(page, () => toast.getByRole("button", { name: "Export" }).click());
+    const { bytes } = await downloaded(page, () => press(page, /^Another year/));
     assert.ok(bytes.length > 1000);
     await endTheWeek(page);
-    assert.equal(await toast.count(), 0);
+    assert.equal(await page.getByRole("button", { name: /^Another year/ }).count(), 0);
+    await close();
+  });
+
+  test("is offered for import when its file is dropped on the page, unless something else is asked", async () => {
+    const { page, close } = await open();
+    await start(page);
+    const home = page.url();
+    const drop = (name, bytes) =>
+      page.evaluate(
+        ([name, bytes]) => {
+          const dataTransfer = new DataTransfer();
+          dataTransfer.items.add(new File([new Uint8Array(bytes)], name));
+          const event = { dataTransfer, bubbles: true, cancelable: true };
+          const left = ["dragover", "drop"].map((kind) => document.body.dispatchEvent(new DragEvent(kind, event)));
+          return left.some(Boolean);
+        },
+        [name, [...bytes]],
+      );
+    assert.equal(await drop("photo.jpg", Buffer.from("a photo")), false, "the browser would open it");
+    await seen(page, /photo\.jpg/);
+    assert.equal(await drop("mara.plist", played), false);
+    await answerAlerts(page);
+    assert.equal(await alert(page).count(), 0, "what was dropped on a question is left alone");
+    assert.equal(await drop("mara.plist", played), false);
+    await launched(page, () => alert(page).getByRole("button", { name: "Import" }).click());
+    assert.equal(page.url(), home);
     await close();
   });
 

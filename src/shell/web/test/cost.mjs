@@ -64,6 +64,33 @@ function mainThreadTime(events, number) {
   return tasks.reduce((sum, { tdur }) => sum + tdur, 0) / 1000;
 }
 
+/**
+ * How long presses take from the finger to the frame that shows their result, in milliseconds as the browser itself tells
+ * it, on a processor that is `slowdown` times slower. Gives a function that presses; its `waits` are the times by name.
+ */
+export async function timePresses(page, slowdown) {
+  const session = await page.context().newCDPSession(page);
+  await session.send("Emulation.setCPUThrottlingRate", { rate: slowdown });
+  await page.evaluate(() => {
+    const look = (list) => {
+      for (const { name, duration } of list.getEntries()) if (name === "click") window.waited = duration;
+    };
+    new PerformanceObserver(look).observe({ type: "event", durationThreshold: 16 });
+  });
+
+  async function time(name, button) {
+    await button.scrollIntoViewIfNeeded();
+    // What the press before it left to do belongs to no press, nor does its movement.
+    await page.waitForFunction(() => !document.querySelector(".moving"));
+    await page.evaluate(() => new Promise((idle) => requestIdleCallback(() => ((window.waited = null), idle()))));
+    await button.click({ delay: 80 }); // as long as a finger lies there
+    const waited = await page.waitForFunction(() => window.waited);
+    (time.waits[name] ??= []).push(await waited.jsonValue());
+  }
+  time.waits = {};
+  return time;
+}
+
 export function median(values) {
   const sorted = [...values].sort((a, b) => a - b);
   return sorted[Math.floor(sorted.length / 2)];

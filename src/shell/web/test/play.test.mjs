@@ -127,20 +127,24 @@ test("an alert must be answered, one after the other, by key or by hand", async 
   await close();
 });
 
-test("the main button never lies under the tabs, and everything scrolls clear of it", async () => {
+test("what is pinned never lies under the tabs, and everything scrolls clear of it", async () => {
   const blocks = Array.from({ length: 40 }, (_, i) => ({ kind: "text", text: `Line ${i}` }));
   const mainAction = { id: "go", label: "Release" };
-  for (const shown of [answer(blocks, { mainAction, endWeek: true }), answer([], { mainAction, endWeek: true })]) {
-    const { page, presses, close } = await open(shown, { width: 320, height: 568 });
-    const box = (name) => page.getByRole("button", { name, exact: true }).boundingBox();
+  const root = { mainAction, endWeek: true };
+  const pushed = { mainAction, stack: [1, 5] };
+  for (const [lines, more] of [blocks, []].flatMap((lines) => [root, pushed].map((more) => [lines, more]))) {
+    const { page, presses, close } = await open(answer(lines, more), { width: 320, height: 568 });
+    const box = (name) => page.getByRole("button", { name }).boundingBox();
+    const pinned = more === root ? /^END THE WEEK/ : "Release";
+    const [release, lowest] = [await box("Release"), await box(pinned)];
     const bar = await page.locator(".tab-bar").boundingBox();
-    const [release, end] = [await box("Release"), await box("END THE WEEK")];
-    assert.ok(release.y + release.height <= end.y && end.y + end.height <= bar.y);
-    assert.ok(bar.y - (end.y + end.height) < 24, "the button lies right above the tabs");
-    if (blocks === shown.view.blocks) {
+    const below = bar.y - (lowest.y + lowest.height);
+    assert.ok(below >= 0 && below < 24, "the button lies right above the tabs");
+    if (more === root) assert.ok(release.y < 200, "the root's own button stands at the head");
+    if (lines === blocks) {
       await page.locator(".layer.top .scroll").evaluate((scroll) => scroll.scrollTo(0, scroll.scrollHeight));
       const last = await page.getByText("Line 39").boundingBox();
-      assert.ok(last.y + last.height <= (await box("Release")).y);
+      assert.ok(last.y + last.height <= (await box(pinned)).y);
       const moved = await page.locator(".layer.top .scroll").evaluate((scroll) => {
         scroll.scrollTo(0, 300);
         for (const button of scroll.querySelectorAll(".dock button")) button.focus();
@@ -148,8 +152,8 @@ test("the main button never lies under the tabs, and everything scrolls clear of
       });
       assert.equal(moved, 0, "reaching a pinned button scrolls nothing");
     }
-    await page.getByRole("button", { name: "END THE WEEK" }).click();
-    assert.deepEqual(await presses(), [["nav", "endTheWeekButton", ""]]);
+    await page.getByRole("button", { name: pinned }).click();
+    assert.deepEqual(await presses(), [more === root ? ["nav", "endTheWeekButton", ""] : ["5", "go", ""]]);
     await close();
   }
 });
@@ -246,12 +250,15 @@ test("a song can be heard where that is wanted, and falls silent when one goes o
   settings.view.screen = "SettingsViewController";
   const { page, presses, answerNext, close } = await open(song);
   const hear = page.getByRole("button", { name: "Hear the hook" });
-  const wanted = page.getByRole("switch", { name: /Song hooks/ });
+  const wanted = page.getByRole("switch", { name: /Sound/ });
+  const offered = page.getByRole("button", { name: "Hear it?" });
   assert.equal(await hear.count(), 0, "off until asked for");
+  assert.equal(await offered.count(), 1);
   await answerNext(settings, song, song);
   await page.getByRole("button", { name: "Home" }).click();
   await wanted.click();
   await page.getByRole("button", { name: "Music" }).click();
+  assert.equal(await offered.count(), 0, "who has chosen is not asked again");
   await hear.click();
   await page.getByRole("button", { name: "Stop the hook" }).waitFor();
   await page.getByRole("button", { name: "Release" }).click();
@@ -276,6 +283,42 @@ test("a song can be heard where that is wanted, and falls silent when one goes o
     };
   });
   assert.deepEqual(told, { same: true, different: 40, whole: true });
+  await close();
+});
+
+test("a release plays once: the button says that it is out, the song is heard where that is wanted", async () => {
+  const cover = { kind: "cover", title: "Tide", picture: { kind: "cover", name: "Tide" }, hook: "Tide|Pop" };
+  const more = { key: 6, stack: [1, 6] };
+  const made = answer([cover], { ...more, mainAction: { id: "releaseButton", label: "RELEASE" } });
+  const out = answer([cover], { ...more, feedback: "success" });
+  const { page, answerNext, close } = await open(made);
+  const told = page.getByText("Out now");
+  await answerNext({ ...made, feedback: "energyBounce" }, out);
+  await page.getByRole("button", { name: "RELEASE" }).click();
+  assert.equal(await told.count(), 0, "a refusal is no release");
+  await page.getByRole("button", { name: "Hear it?" }).click();
+  await page.getByRole("button", { name: "RELEASE" }).click();
+  await told.waitFor();
+  await page.getByRole("button", { name: "Stop the hook" }).waitFor();
+  await answerNext(answer([], { key: 1, stack: [1] }), out);
+  await page.getByRole("button", { name: "Back" }).click();
+  await page.getByRole("heading", { name: "Screen 1" }).waitFor();
+  await page.getByRole("button", { name: "Home" }).click();
+  await page.getByRole("heading", { name: "Screen 6" }).waitFor();
+  assert.equal(await told.count(), 0);
+  await close();
+});
+
+test("a name has its face while it is typed", async () => {
+  const named = answer([{ kind: "field", id: "name", label: "Artist name" }], { modal: true });
+  Object.assign(named.view, { screen: "EnterNameViewController", picture: { kind: "person", name: "" } });
+  const { page, presses, close } = await open(named);
+  const face = page.locator(".title-row .picture.person img");
+  await page.getByRole("textbox").pressSequentially("No");
+  const first = await face.getAttribute("src");
+  await page.getByRole("textbox").pressSequentially("va");
+  await page.waitForFunction((first) => document.querySelector(".title-row img").src !== first, first);
+  assert.deepEqual(await presses(), [], "the engine hears of it when the field is left");
   await close();
 });
 

@@ -118,7 +118,7 @@ test("a copy holds the rows as they stood at its place, however late it is writt
     save.write([put("cash", 0, 3), put("songs", 0, 3), keep("second"), put("cash", 0, 4), gone("songs", 0)]);
     save.write([keep("third"), forget("third"), put("cash", 0, 5)]);
     const refused = await save.restore("first");
-    const names = await save.copies();
+    const names = (await save.copies()).map(({ name }) => name);
     window.breakDisk(false);
     save.write([put("week", 0, 1)]);
     await new Promise((done) => setTimeout(done, 50));
@@ -145,6 +145,49 @@ test("a copy holds the rows as they stood at its place, however late it is writt
     true,
     ["cash/0=1"],
   ]);
+  assert.deepEqual(faults, []);
+  await context.close();
+});
+
+test("a copy is packed in a quiet moment, told its room, and refused whole when a byte of it is another", async () => {
+  const { page, context, faults } = await stage.open();
+  await withSave(page);
+  const result = await page.evaluate(async () => {
+    const { save, put } = window;
+    const packed = new Promise((told) => (save.onPacked = told));
+    const rows = Array.from({ length: 50 }, (_, i) => put("songs", i, ...new Array(400).fill(i)));
+    save.write([...rows, put("cash", -1, 7), { key: "first", chunk: -10, value: null }]);
+    const { name, bytes } = await packed;
+    const listed = await save.copies();
+    save.write([put("cash", -1, 8)]);
+    const before = await window.stored();
+    const restored = [await save.restore("first"), await window.stored()];
+    const db = await new Promise((done) => {
+      const opening = indexedDB.open("backbeat");
+      opening.onsuccess = () => done(opening.result);
+    });
+    const store = () => db.transaction("copies", "readwrite").objectStore("copies");
+    const copy = await new Promise((done) => {
+      store().get("first").onsuccess = (event) => done(event.target.result);
+    });
+    copy[copy.length >> 1] ^= 4;
+    await new Promise((done) => (store().put(copy, "first").onsuccess = done));
+    db.close();
+    const damaged = [await save.restore("first"), await window.stored()];
+    save.write([{ key: "first", chunk: -11, value: null }]);
+    await save.settled();
+    return { name, bytes, listed, before, restored, damaged, left: await save.copies() };
+  });
+  assert.equal(result.name, "first");
+  assert.ok(result.bytes > 0 && result.bytes < 5000, `${result.bytes} of 20,000 bytes`);
+  assert.deepEqual(result.listed, [{ name: "first", bytes: result.bytes }]);
+  assert.equal(result.restored[0], true);
+  assert.deepEqual(
+    result.restored[1],
+    result.before.map((row) => row.replace("cash/-1=8", "cash/-1=7")),
+  );
+  assert.deepEqual(result.damaged, [false, result.restored[1]]);
+  assert.deepEqual(result.left, []);
   assert.deepEqual(faults, []);
   await context.close();
 });

@@ -5,7 +5,7 @@ import { request } from "node:http";
 import { tmpdir } from "node:os";
 import { join, resolve } from "node:path";
 import { after, before, test } from "node:test";
-import { serve } from "../tools/serve.mjs";
+import { addressOf, serve } from "../tools/serve.mjs";
 
 const script = resolve(import.meta.dirname, "../tools/serve.mjs");
 const policy = `<meta http-equiv="Content-Security-Policy" content="default-src 'none'">`;
@@ -68,15 +68,25 @@ test("nothing outside of the folder is given away", async () => {
   assert.equal((await ask("/..%2fsecret.txt")).status, 404);
 });
 
+const served = (...words) => spawnSync(process.execPath, [script, ...words], { encoding: "utf8", timeout: 10_000 });
+
 test("a port that is taken is told in one line", () => {
   const { port } = server.address();
-  const { status, stderr } = spawnSync(
-    process.execPath,
-    [script, "--port", String(port), "--root", join(folder, "root")],
-    {
-      encoding: "utf8",
-    },
-  );
+  const { status, stderr } = served("--port", String(port), "--root", join(folder, "root"));
   assert.equal(status, 1);
   assert.match(stderr, /^Port \d+ is taken.*\n$/);
+});
+
+test("misuse is told in one line", () => {
+  const senseless = [["--port"], ["--port", "http"], ["--port", "65536"], ["--port", "-1"], ["--tempo", "3"], ["dist"]];
+  for (const words of senseless) {
+    const { status, stderr } = served(...words);
+    assert.equal(status, 2, words.join(" "));
+    assert.match(stderr, /^[^\n]+ Usage: node tools\/serve\.mjs [^\n]*\n$/, words.join(" "));
+  }
+});
+
+test("an address of IPv6 stands in brackets", () => {
+  assert.equal(addressOf("::1", 8080), "http://[::1]:8080/");
+  assert.equal(addressOf("127.0.0.1", 8080), "http://127.0.0.1:8080/");
 });

@@ -70,23 +70,48 @@ async function fileFor(top, address) {
   }
 }
 
+const usage = "node tools/serve.mjs [--port 8080] [--host 127.0.0.1] [--root dist]";
+
+/** What the words of the command line ask for, or `misuse`, what is wrong with them. */
+function asked(words) {
+  try {
+    const { values } = parseArgs({
+      args: words,
+      options: {
+        port: { type: "string", default: "8080" },
+        host: { type: "string", default: "127.0.0.1" },
+        root: { type: "string", default: "dist" },
+      },
+    });
+    const port = /^\d{1,5}$/.test(values.port) ? Number(values.port) : Infinity;
+    if (port > 65535) return { misuse: `A port is a number from 0 to 65535, not "${values.port}".` };
+    return { ...values, port };
+  } catch (refused) {
+    return { misuse: refused.message.split(/[.\n]/)[0] + "." };
+  }
+}
+
+/** An address that a browser takes: those of IPv6 stand in brackets. */
+export function addressOf(host, port) {
+  return `http://${host.includes(":") ? `[${host}]` : host}:${port}/`;
+}
+
 async function main() {
-  const { values } = parseArgs({
-    options: {
-      port: { type: "string", default: "8080" },
-      host: { type: "string", default: "127.0.0.1" },
-      root: { type: "string", default: "dist" },
-    },
-  });
-  const { host, root } = values;
-  const port = Number(values.port);
+  const { misuse, host, root, port } = asked(process.argv.slice(2));
+  if (misuse) {
+    console.error(`${misuse} Usage: ${usage}`);
+    process.exitCode = 2;
+    return;
+  }
   try {
     const server = await serve({ root, port, host });
-    console.log(`Backbeat is at http://${host}:${server.address().port}/  (Ctrl+C ends it)`);
+    console.log(`Backbeat is at ${addressOf(host, server.address().port)}  (Ctrl+C ends it)`);
   } catch (failed) {
     const reasons = {
       EADDRINUSE: `Port ${port} is taken; choose another one with --port.`,
       EACCES: `Port ${port} is not allowed here; choose one above 1023 with --port.`,
+      ENOTFOUND: `There is no computer called ${host}; --host takes one of this computer's addresses.`,
+      EADDRNOTAVAIL: `${host} is no address of this computer.`,
       ENOENT: `There is no built page in ${root}; run "npm run build" first.`,
     };
     console.error(reasons[failed.code] ?? failed.message);

@@ -1,7 +1,7 @@
 import { html, nothing, type TemplateResult } from "lit";
 import "../hooks/button";
 import { picture } from "../pictures/picture";
-import { hooksOn } from "../preferences";
+import { soundOn, soundOpen } from "../preferences";
 import type { Card, Cover } from "../protocol";
 import type { Scene } from "../scene";
 import { buttonBlock } from "./controls";
@@ -11,13 +11,16 @@ import { meterBlock } from "./plain";
 /** A card that asks for attention. */
 export function cardBlock(card: Card, scene: Scene): TemplateResult {
   const { title, text, value, meters = [], buttons = [], note } = card;
+  // At a gala the badge says what the award is for.
+  const atGala = scene.theme === "gala";
   return html`<section
     class="event card ${toneClass(card.tone)} ${value ? "rated" : ""} ${card.picture ? "pictured" : ""}"
   >
+    ${atGala && card.badge ? html`<p class="award-field" dir="auto">${card.badge}</p>` : nothing}
     <div class="event-head">
       ${picture(card.picture)}
       <div class="event-texts">
-        ${title || card.badge ? html`<h3 dir="auto">${title} ${badge(card.badge)}</h3>` : nothing}
+        ${title || (card.badge && !atGala) ? html`<h3 dir="auto">${title} ${atGala ? nothing : badge(card.badge)}</h3>` : nothing}
         ${text ? html`<p dir="auto">${text}</p>` : nothing}
       </div>
       ${value ? html`<span class="event-value">${figureAndWords(value)}</span>` : nothing}
@@ -50,7 +53,8 @@ export function coverBlock(head: Cover): TemplateResult {
   const rating = /^\d{1,2}(\.\d)?$|^100$/.test(head.badge ?? "") ? Number(head.badge) : null;
   return html`<section class="head card kind-${head.picture?.kind ?? "none"}">
     <div class="head-picture">
-      ${picture(head.picture)} ${head.hook && hooksOn() ? html`<bb-hook .hook=${head.hook}></bb-hook>` : nothing}
+      ${picture(head.picture)}
+      ${head.hook && (soundOn() || soundOpen()) ? html`<bb-hook .hook=${head.hook}></bb-hook>` : nothing}
     </div>
     <div class="head-texts">
       <h2 dir="auto">${head.title}</h2>

@@ -1,6 +1,6 @@
 import { html, LitElement, type TemplateResult } from "lit";
 import { drawsOf, pick } from "../pictures/chance";
-import { prefersStillness, tap } from "../motion";
+import { landed, prefersStillness, tap } from "../motion";
 
 const pieces = 46;
 const fallMs = 1400;
@@ -26,19 +26,42 @@ class ConfettiElement extends LitElement {
     })}`;
   }
 
+  private falling: Animation[] = [];
+
+  override disconnectedCallback(): void {
+    super.disconnectedCallback();
+    this.end();
+  }
+
   protected override firstUpdated(): void {
+    if (prefersStillness()) return tap(20);
+    this.style.visibility = "hidden";
+    void landed().then(() => this.begin());
+  }
+
+  private begin(): void {
     tap(20);
-    if (prefersStillness()) return;
+    this.style.visibility = "";
+    addEventListener("pointerdown", this.end, { capture: true });
+    addEventListener("keydown", this.end, { capture: true });
     const draw = drawsOf(`${this.seed} falls`);
     for (const piece of this.querySelectorAll<HTMLElement>("i")) {
       const from = `translate(${(draw() - 0.5) * 120}px, ${-180 - draw() * 160}px) rotate(${(draw() - 0.5) * 900}deg)`;
       const duration = fallMs * (0.6 + draw() * 0.4);
-      piece.animate(
+      const fall = piece.animate(
         { transform: [from, "none"], opacity: ["0", "1", piece.style.opacity] },
         { duration, easing: "ease-out" },
       );
+      this.falling.push(fall);
     }
   }
+
+  /** Whoever goes on need not wait: any tap or key lets all of it lie. */
+  private readonly end = (): void => {
+    removeEventListener("pointerdown", this.end, { capture: true });
+    removeEventListener("keydown", this.end, { capture: true });
+    for (const fall of this.falling.splice(0)) fall.finish();
+  };
 }
 
 customElements.define("bb-confetti", ConfettiElement);

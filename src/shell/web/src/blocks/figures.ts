@@ -1,5 +1,5 @@
 import { html, LitElement, nothing, type PropertyValues, type TemplateResult } from "lit";
-import { prefersStillness } from "../motion";
+import { landed, prefersStillness } from "../motion";
 import type { Figure, Figures } from "../protocol";
 import { between } from "./counting";
 import { toneClass } from "./parts";
@@ -14,6 +14,7 @@ class FiguresElement extends LitElement {
 
   private told = "";
   private frame = 0;
+  private run = 0;
 
   constructor() {
     super();
@@ -35,7 +36,8 @@ class FiguresElement extends LitElement {
     const told = JSON.stringify([...items, total].map((figure) => figure?.value));
     if (told === this.told) return;
     this.told = told;
-    if (!prefersStillness()) this.begin();
+    // Under sad news nothing counts.
+    if (!prefersStillness() && !this.closest(".mourning")) this.begin();
   }
 
   protected override render(): TemplateResult {
@@ -87,18 +89,23 @@ class FiguresElement extends LitElement {
     this.share = 0;
     addEventListener("pointerdown", this.finish, { capture: true });
     addEventListener("keydown", this.finish, { capture: true });
-    const start = performance.now();
+    let start = 0;
     const step = (now: number): void => {
+      start ||= now;
       const passed = Math.min(1, Math.max(0, (now - start) / duration));
       this.share = 1 - (1 - passed) ** 3;
       if (passed < 1) this.frame = requestAnimationFrame(step);
       else this.finish();
     };
-    this.frame = requestAnimationFrame(step);
+    const run = (this.run += 1);
+    void landed().then(() => {
+      if (run === this.run) this.frame = requestAnimationFrame(step);
+    });
   }
 
   private readonly finish = (): void => {
     cancelAnimationFrame(this.frame);
+    this.run += 1;
     removeEventListener("pointerdown", this.finish, { capture: true });
     removeEventListener("keydown", this.finish, { capture: true });
     this.share = 1;

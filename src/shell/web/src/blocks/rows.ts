@@ -3,7 +3,7 @@ import { hasPicture, picture } from "../pictures/picture";
 import { glyph } from "../pictures/icons";
 import type { PictureGrid, Row, Rows } from "../protocol";
 import type { Scene } from "../scene";
-import { actionMenu, badge, bar, pricePill, toneClass } from "./parts";
+import { actionMenu, badge, bar, pricePill, reveal, toneClass } from "./parts";
 import { film, shelfItem, stop, stripItem, wireLine } from "./row-styles";
 import { spark } from "./spark";
 
@@ -35,7 +35,7 @@ function styled({ style = "list", items = [], columns = [] }: Rows, scene: Scene
     case "strip": {
       // With nothing in it to press, the keys need the strip itself to scroll it.
       const tab = items.some(({ id }) => id) ? nothing : "0";
-      return html`<ul class="strip ${stripLook(items)}" tabindex=${tab}>
+      return html`<ul class="strip ${stripLook(items)}" tabindex=${tab} @focusin=${reveal}>
         ${items.map((row) => stripItem(row, scene))}
       </ul>`;
     }
@@ -88,10 +88,13 @@ function turnPage(list: Rows, label: string, to: number, scene: Scene): Template
 function rowLine(row: Row, underHeads: boolean, scene: Scene): TemplateResult {
   const { id, title } = row;
   const body = rowBody(row, underHeads, scene);
+  const lit = id && id === scene.lit ? "true" : nothing;
   return html`
     ${
       id
-        ? html`<button class="row-main" type="button" @click=${() => scene.press(id)}>${body}</button>`
+        ? html`<button class="row-main" type="button" aria-current=${lit} @click=${() => scene.press(id)}>
+            ${body}
+          </button>`
         : html`<div class="row-main">${body}</div>`
     }
     ${actionMenu(row.actions, title || "this row", scene)}

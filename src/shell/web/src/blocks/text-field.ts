@@ -5,6 +5,8 @@ import { glyph } from "../pictures/icons";
 import type { TextField } from "../protocol";
 import type { Scene } from "../scene";
 
+const growsByItself = CSS.supports("field-sizing", "content");
+
 /** A text to type: it keeps what is being typed until it is told to the engine. */
 class TextFieldElement extends LitElement {
   static override properties = { field: { attribute: false }, scene: { attribute: false } };
@@ -70,6 +72,11 @@ class TextFieldElement extends LitElement {
     </div>`;
   }
 
+  protected override updated(): void {
+    const area = this.querySelector("textarea");
+    if (area) grow(area);
+  }
+
   private readonly tell = (): void => {
     dropDraft(this.tell);
     if (this.typed !== (this.field.value ?? "")) this.scene.press(this.field.id, this.typed);
@@ -84,6 +91,7 @@ class TextFieldElement extends LitElement {
       if (characters.length > limit) input.value = characters.slice(0, limit).join("");
     }
     this.typed = input.value;
+    if (input instanceof HTMLTextAreaElement) grow(input);
     draft(this.tell);
   }
 
@@ -92,6 +100,13 @@ class TextFieldElement extends LitElement {
     tellDrafts();
     (event.target as HTMLElement).blur();
   }
+}
+
+/** As high as its text; how high at most, the style says. */
+function grow(area: HTMLTextAreaElement): void {
+  if (growsByItself) return;
+  area.style.height = "auto";
+  area.style.height = `${area.scrollHeight + area.offsetHeight - area.clientHeight}px`;
 }
 
 customElements.define("bb-text-field", TextFieldElement);

@@ -1,11 +1,9 @@
+import { audio } from "./audio";
 import { hookLength, tuneOf, type Note, type Tune } from "./tune";
-
-let context: AudioContext | null = null;
 
 /** Plays a hook from its beginning; the answer stops it. `ended` is called when it is over, but not when it is stopped. */
 export function playHook(hook: string, ended: () => void): () => void {
-  context ??= new AudioContext();
-  void context.resume();
+  const context = audio();
   const out = context.createGain();
   const start = context.currentTime + 0.05;
   const end = start + hookLength;

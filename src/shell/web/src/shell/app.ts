@@ -6,21 +6,29 @@ import { BackGesture } from "../back-gesture";
 import { tellDrafts } from "../drafts";
 import type { Player } from "../game";
 import type { Toast } from "../messages";
-import { prefersStillness } from "../motion";
+import { prefersStillness, takeOff } from "../motion";
+import { playSoft, soundOf, type SoftSound } from "../hooks/soft";
 import { glyph } from "../pictures/icons";
 import { picture } from "../pictures/picture";
-import type { Alert, Answer, Header, PressScreen, View } from "../protocol";
+import type { Alert, Answer, Header, Picture, PressScreen, View } from "../protocol";
 import type { Scene, SheetContent } from "../scene";
 import { Stack, type Layer, type Step } from "../stack";
 import "./alert";
 import "./blocks";
-import { dock, moodOf } from "./dock";
+import { onRoomChange, room, type Room } from "./desk";
+import { dock, endWeekDock, headButtons, moodOf } from "./dock";
 import { EdgeSwipe } from "./edge-swipe";
+import { keySheet, listenForKeys } from "./keys";
+import { rail } from "./rail";
+import { isRelease, outNow, playRelease } from "./release";
 import "./sheet";
 import { shakeEnergy, statusRow } from "./status";
 import { tabBar } from "./tab-bar";
 import { toastPlace } from "./toast";
 import { play } from "./transition";
+
+/** Where a screen lies while two find room: the root, what it led to, or a screen that has both places. */
+type Panel = "" | "left" | "right" | "wide";
 
 /** The phone: the stack of screens, the tabs, and what comes up over them. */
 class AppElement extends LitElement {
@@ -40,12 +48,28 @@ class AppElement extends LitElement {
   private drawn: Answer | null = null;
   private step: Step = { motion: "none", leaving: null };
   private moving: Animation[] = [];
+  private land: () => void = () => {};
+  /** The screen whose song has just come out. */
+  private released: Layer | null = null;
+  private told: Layer | null = null;
+  private typedName = "";
+  private heard: SoftSound | null = null;
   private pulledShare = 0;
+  private room: Room = room();
+  private toldDesk = 0;
 
   constructor() {
     super();
     this.sheet = null;
-    addEventListener("keydown", (event) => this.key(event));
+    onRoomChange(() => this.enterRoom());
+    listenForKeys({
+      tab: (number) => this.press("tabs", "tab", String(number)),
+      back: () => this.canGoBack && this.press("nav", "back"),
+      endWeek: () => this.endWeek(),
+      show: (sheet) => (this.sheet = sheet),
+      agree: () => (this.stack.top?.modal && !this.stack.top.view?.aside ? this.mainButton() : null),
+      busy: () => Boolean(this.sheet) || this.alerting,
+    });
   }
 
   protected override createRenderRoot(): this {
@@ -66,11 +90,56 @@ class AppElement extends LitElement {
     if (this.launches !== this.player.launches) this.stack = new Stack(); // the screens of another launch are gone
     this.launches = this.player.launches;
     const before = this.stack.top;
+    const { panels } = this;
     this.step = this.stack.advance(answer);
+    if (this.room === "desk") this.calm(panels);
+    if (this.step.motion !== "none") this.land = takeOff();
+    if (before !== this.stack.top) this.released = null;
+    if (this.seen && isRelease(this.seen, answer)) this.released = this.stack.top!;
+    this.heard = this.seen && soundOf(this.seen, answer);
     this.seen = answer;
     if (before !== this.stack.top || answer.alert) this.sheet = null;
     if (this.canGoBack) this.backGesture.arm();
     setAppearance(answer.appearance);
+    this.tellDesk();
+  }
+
+  private enterRoom(): void {
+    this.room = room();
+    this.stopMoving();
+    this.tellDesk();
+    this.requestUpdate();
+  }
+
+  /** Each start of the engine has to hear it again. */
+  private tellDesk(): void {
+    const told = this.toldDesk === this.launches;
+    if (told === (this.room === "desk")) return;
+    this.toldDesk = told ? 0 : this.launches;
+    queueMicrotask(() => this.player.act("nav", "desk", told ? "0" : "1"));
+  }
+
+  /** The screens to be seen at a desk, from left to right. */
+  private get panels(): Layer[] {
+    const { ofTab, home } = this.stack;
+    const [root] = ofTab;
+    if (this.room !== "desk" || !root) return [];
+    const right = ofTab.length > 1 ? ofTab.at(-1)! : home;
+    return right && right !== root ? [root, right] : [root];
+  }
+
+  private panelOf(layer: Layer, panels: Layer[]): Panel {
+    if (!panels.includes(layer)) return "";
+    if (panels.length === 1) return "wide";
+    return layer === panels[0] ? "left" : "right";
+  }
+
+  /** Side by side nothing slides over anything: what comes fades in where it lies. */
+  private calm(before: Layer[]): void {
+    const { motion } = this.step;
+    if (motion === "rise" || motion === "fall" || motion === "none") return;
+    const same = this.panels.every((layer) => before.includes(layer));
+    this.step = { motion: same ? "none" : "fade", leaving: null };
   }
 
   private get toast(): Toast | null {
@@ -102,15 +171,36 @@ class AppElement extends LitElement {
     const modal = top!.modal;
     // In an order in which none ever has to move: moved, it would lose its scroll position.
     const shown = [...new Set(leaving ? [...everywhere, leaving] : everywhere)].sort((a, b) => a.key - b.key);
-    return html`<div class="phone">
+    const { panels } = this;
+    const { tabs = [], tab = 0, header = {} } = answer;
+    const press = (tab: number): void => this.press("tabs", "tab", String(tab));
+    return html`<div class="phone ${this.room}">
+      ${
+        this.room === "phone"
+          ? nothing
+          : rail({
+              header,
+              tabs,
+              tab,
+              home: this.stack.home?.view ?? null,
+              covered: modal,
+              press,
+              endWeek: () => this.endWeek(),
+              help: () => (this.sheet = keySheet),
+            })
+      }
       ${repeat(
         shown,
         (layer) => `${this.launches} ${layer.key}`,
-        // Nobody sees a parked layer: it stays as it was drawn until it comes back.
-        (layer) => guard([this.placeOf(layer) === "parked" ? "parked" : {}], () => this.layer(layer, answer)),
+        (layer) => {
+          const panel = this.panelOf(layer, panels);
+          // Nobody sees a parked layer: it stays as it was drawn until it comes back.
+          const unseen = this.placeOf(layer) === "parked" && !panel;
+          return guard([unseen ? "parked" : {}], () => this.layer(layer, answer, panel));
+        },
       )}
-      ${this.canGoBack ? this.edge() : nothing}
-      ${tabBar(answer.tabs ?? [], answer.tab ?? 0, modal, (tab) => this.press("tabs", "tab", String(tab)))}
+      ${this.canGoBack && this.room !== "desk" ? this.edge() : nothing}
+      ${this.room === "phone" ? tabBar(tabs, tab, modal, press) : html`<div class="veil" ?hidden=${!modal}></div>`}
       ${toastPlace(this.toast, () => messages.dropToast())}
       <bb-sheet .content=${this.sheet} .dismiss=${() => (this.sheet = null)}></bb-sheet>
       <bb-alert
@@ -121,26 +211,37 @@ class AppElement extends LitElement {
     </div>`;
   }
 
-  private layer(layer: Layer, answer: Answer): TemplateResult {
+  private layer(layer: Layer, answer: Answer, panel: Panel): TemplateResult {
     const view = layer.view;
     const place = this.placeOf(layer);
     const top = place === "top";
-    const endWeek = top && answer.endWeek;
+    const scene = this.sceneOf(layer);
+    const root = layer.key === this.stack.ofTab[0]?.key || layer === this.stack.home;
     return html`<section
-      class="layer ${place} ${layer.modal ? "modal" : ""} theme-${view?.theme ?? "plain"} ${moodOf(view)}"
+      @input=${view?.screen === "EnterNameViewController" ? this.faceOf : nothing}
+      class="layer ${place} ${panel} ${layer.modal ? "modal" : ""} theme-${view?.theme ?? "plain"} ${moodOf(view)}"
       data-screen=${view?.screen ?? nothing}
       aria-label=${view?.title || nothing}
       role=${top ? "main" : nothing}
-      ?inert=${!top}
+      ?inert=${!top && !(panel && !this.stack.top!.modal)}
     >
       <div class="scroll">
         <div class="page">
-          ${this.topBar(layer, answer.header ?? {})} ${layer.pushed ? nothing : this.bigTitle(view)}
-          <bb-blocks class="blocks" .view=${view} .scene=${this.sceneOf(layer)}></bb-blocks>
-          ${dock(view, this.sceneOf(layer), endWeek ? this.endWeekButton() : null)}
+          ${this.topBar(layer, answer.header ?? {}, panel)} ${this.titled(layer, panel) ? this.bigTitle(view) : nothing}
+          ${root ? headButtons(view, scene) : nothing}
+          <bb-blocks class="blocks" .view=${view} .scene=${scene}></bb-blocks>
+          ${this.foot(layer, root)}
         </div>
       </div>
     </section>`;
+  }
+
+  private foot(layer: Layer, root: boolean): TemplateResult | typeof nothing {
+    const { header = {}, endWeek } = this.player.answer;
+    if (layer === this.released) return outNow();
+    if (!root) return dock(layer.view, this.sceneOf(layer));
+    const here = endWeek && layer === this.stack.top && this.room === "phone";
+    return here ? endWeekDock(header, () => this.endWeek()) : nothing;
   }
 
   private placeOf(layer: Layer): "top" | "leaving" | "beneath" | "parked" {
@@ -150,11 +251,17 @@ class AppElement extends LitElement {
     return layer === layers.at(-2) ? "beneath" : "parked";
   }
 
-  private topBar({ view, pushed, modal }: Layer, header: Header): TemplateResult {
-    const notices = [this.player.unsaved, this.player.answer.notice ?? ""];
+  /** A pushed screen has its title between the buttons of its bar, when there is one. */
+  private titled({ view, pushed }: Layer, panel: Panel): boolean {
+    return !(pushed && !panel) && !isUntitled(view);
+  }
+
+  private topBar(layer: Layer, header: Header, panel: Panel): TemplateResult {
+    const { view, pushed, modal } = layer;
+    const notices = layer === this.stack.top ? [this.player.unsaved, this.player.answer.notice ?? ""] : [];
     return html`<header class="top-bar">
       ${
-        pushed
+        pushed && !panel
           ? html`<div class="nav-row">
               <button class="round" type="button" aria-label="Back" @click=${() => this.press("nav", "back")}>
                 ${glyph("back")}
@@ -167,19 +274,30 @@ class AppElement extends LitElement {
             </div>`
           : nothing
       }
-      ${modal ? nothing : statusRow(header)}
+      ${modal || this.room !== "phone" ? nothing : statusRow(header)}
       ${notices.map((notice) => (notice ? html`<p class="notice" role="status" dir="auto">${notice}</p>` : nothing))}
     </header>`;
   }
 
   private bigTitle(view: View | null): TemplateResult {
-    return html`<div class="title-row">
+    return html`<div class="title-row ${coverSaysTitle(view) ? "said-below" : ""}">
       <div class="titles">
         ${view?.subtitle ? html`<p class="subtitle" dir="auto">${view.subtitle}</p>` : nothing}
         <h1 class="title" tabindex="-1" dir="auto">${view?.title}</h1>
       </div>
-      ${this.helpButton(view)} ${picture(view?.picture)}
+      ${this.helpButton(view)} ${picture(this.typedFace(view))}
     </div>`;
+  }
+
+  /** A name has its face while it is still being typed. */
+  private readonly faceOf = (event: Event): void => {
+    this.typedName = (event.target as HTMLInputElement).value;
+    this.requestUpdate();
+  };
+
+  private typedFace(view: View | null): Picture | undefined {
+    const typing = view?.screen === "EnterNameViewController" && this.typedName;
+    return typing ? { kind: "person", name: typing } : view?.picture;
   }
 
   private helpButton(view: View | null): TemplateResult | undefined {
@@ -196,10 +314,17 @@ class AppElement extends LitElement {
     </button>`;
   }
 
-  private endWeekButton(): TemplateResult {
-    return html`<button class="button primary" type="button" @click=${() => this.press("nav", "endTheWeekButton")}>
-      <span class="button-label">END THE WEEK</span>
-    </button>`;
+  private mainButton(): HTMLElement | null {
+    const { price } = this.stack.top?.view?.mainAction ?? {};
+    return price ? null : this.querySelector<HTMLElement>(".layer.top .dock .primary");
+  }
+
+  /** It waits on the roots of the tabs: from elsewhere the way goes there first. */
+  private endWeek(): void {
+    const { layers, ofTab } = this.stack;
+    if (this.room === "phone" && layers.length > 1) return;
+    if (ofTab.length > 1) this.press("tabs", "tab", String(this.player.answer.tab ?? 0));
+    if (this.player.answer.endWeek && !this.player.answer.alert) this.press("nav", "endTheWeekButton");
   }
 
   private edge(): TemplateResult {
@@ -217,12 +342,20 @@ class AppElement extends LitElement {
     let scene = this.scenes.get(layer);
     if (!scene) {
       const { key } = layer;
+      const isBeside = (): boolean =>
+        this.room === "desk" && layer === this.stack.ofTab[0] && layer.key !== this.seenKey;
       scene = {
         key,
+        get lit() {
+          return isBeside() ? layer.pressed : "";
+        },
         get theme() {
           return layer.view?.theme ?? "plain";
         },
-        press: (id, value) => this.press(key, id, value),
+        press: (id, value) => {
+          layer.pressed = id;
+          this.press(key, id, value);
+        },
         open: (sheet) => {
           tellDrafts();
           if (!this.alerting) this.sheet = sheet;
@@ -235,7 +368,17 @@ class AppElement extends LitElement {
 
   private press(screen: PressScreen, id: string, value = ""): void {
     tellDrafts();
+    if (typeof screen === "number" && this.room === "desk") this.comeTo(screen);
     this.player.act(screen, id, value);
+  }
+
+  /** At a desk the screen beside can be pressed as well: it comes back to the top first. */
+  private comeTo(key: number): void {
+    const { home, ofTab } = this.stack;
+    const tab = ofTab[0]?.key === key ? (this.player.answer.tab ?? 0) : home?.key === key ? 0 : -1;
+    const here = (): boolean => this.player.answer.view.key === key;
+    // The first press of another tab shows it, the second goes back to its root.
+    for (let presses = 0; tab >= 0 && presses < 2 && !here(); presses += 1) this.player.act("tabs", "tab", String(tab));
   }
 
   private readonly answerAlert = (alert: Alert, button: number): void => {
@@ -263,13 +406,15 @@ class AppElement extends LitElement {
     const focused = top.focus?.isConnected ? top.focus : element.querySelector<HTMLElement>("h1");
     focused?.focus({ preventScroll: true });
     const [beneath, leaving] = [".beneath", ".leaving"].map((place) => this.querySelector<HTMLElement>(place));
-    this.moving = play(step.motion, { top: element, beneath, leaving }, this.pulledShare);
+    const fading = step.motion === "fade" && this.querySelector<HTMLElement>(".layer:is(.right, .wide)");
+    this.moving = play(step.motion, { top: fading || element, beneath, leaving }, this.pulledShare);
     this.pull(0);
     await Promise.all(this.moving.map((animation) => animation.finished)).catch(() => {});
     if (this.step === step) this.stopMoving();
   }
 
   private stopMoving(): void {
+    this.land();
     for (const animation of this.moving) animation.cancel();
     this.moving = [];
     this.classList.remove("moving");
@@ -280,6 +425,9 @@ class AppElement extends LitElement {
   }
 
   private feel({ feedback }: Answer): void {
+    if (this.heard) playSoft(this.heard);
+    if (this.released && this.released !== this.told) playRelease(this.querySelector(".layer.top"));
+    this.told = this.released;
     if (feedback === "energyBounce") {
       shakeEnergy(this.querySelector(".layer.top"), prefersStillness());
       navigator.vibrate?.([20, 40, 20]);
@@ -312,11 +460,20 @@ class AppElement extends LitElement {
     return this.canGoBack;
   }
 
-  private key(event: KeyboardEvent): void {
-    const typing = event.target instanceof HTMLInputElement || event.target instanceof HTMLTextAreaElement;
-    if (event.key !== "Escape" || typing || this.sheet || this.alerting || !this.canGoBack) return;
-    this.press("nav", "back");
+  private get seenKey(): number | undefined {
+    return this.seen?.view.key;
   }
+}
+
+/** The head of the screen says the same once more, and larger. */
+function coverSaysTitle(view: View | null): boolean {
+  const first = view?.blocks?.[0];
+  return first?.kind === "cover" && first.title === view?.title;
+}
+
+/** A screen whose first block is its head. */
+function isUntitled(view: View | null): boolean {
+  return view !== null && !view.title && !view.subtitle && !view.picture && !view.help;
 }
 
 customElements.define("backbeat-app", AppElement);

@@ -1,12 +1,15 @@
 import { html, nothing, type TemplateResult } from "lit";
 import { buttonBlock } from "../blocks/controls";
-import type { Story, View } from "../protocol";
+import type { Header, Story, View } from "../protocol";
 import type { Scene } from "../scene";
+import { endWeekButton } from "./end-week";
 import "./share-button";
 import "./totals";
 
-/** What is pinned under the thumb: what the press would come to, the main button, a second one beside it, END THE WEEK. */
-export function dock(view: View | null, scene: Scene, endWeek: TemplateResult | null): TemplateResult | typeof nothing {
+type Part = TemplateResult | typeof nothing;
+
+/** What is pinned under the thumb: what the press would come to, the main button, a second one beside it. */
+export function dock(view: View | null, scene: Scene): Part {
   const { totals = [], mainAction, aside, blocks = [] } = view ?? {};
   const story = blocks.find(
     (block): block is Story & { share: string } => block.kind === "story" && Boolean(block.share),
@@ -16,11 +19,25 @@ export function dock(view: View | null, scene: Scene, endWeek: TemplateResult | 
     mainAction ? buttonBlock({ style: "primary", ...mainAction }, scene) : null,
     story ? html`<bb-share-button .story=${story}></bb-share-button>` : null,
   ].filter((button) => button !== null);
-  if (buttons.length === 0 && !endWeek && totals.length === 0) return nothing;
+  if (buttons.length === 0 && totals.length === 0) return nothing;
   return html`<div class="dock ${totals.length > 0 ? "high" : ""}">
     ${totals.length > 0 ? html`<bb-totals .totals=${totals}></bb-totals>` : nothing}
-    <div class="dock-buttons ${aside && buttons.length > 1 ? "with-aside" : ""}">${buttons} ${endWeek}</div>
+    <div class="dock-buttons ${aside && buttons.length > 1 ? "with-aside" : ""}">${buttons}</div>
   </div>`;
+}
+
+/** On the root of a tab the foot belongs to END THE WEEK; the root's own buttons stand at its head. */
+export function headButtons(view: View | null, scene: Scene): Part {
+  const { mainAction, aside } = view ?? {};
+  if (!mainAction && !aside) return nothing;
+  return html`<div class="head-buttons">
+    ${mainAction ? buttonBlock({ style: "primary", ...mainAction }, scene) : nothing}
+    ${aside ? buttonBlock(aside, scene) : nothing}
+  </div>`;
+}
+
+export function endWeekDock(header: Header, press: () => void): TemplateResult {
+  return html`<div class="dock"><div class="dock-buttons">${endWeekButton(header, press)}</div></div>`;
 }
 
 /** Sad news takes the warmth out of its whole screen. */

@@ -59,7 +59,12 @@ class SheetElement extends LitElement {
     if (this.content && !dialog.open) {
       dialog.showModal();
       this.querySelector(".sheet-content")!.scrollTop = 0;
-      this.querySelector<HTMLElement>(".chosen-item")?.scrollIntoView({ block: "nearest" });
+      // Where there is something to choose the focus belongs there, not on the list that scrolls.
+      const [chosen] = [".chosen-item", ".row"].flatMap(
+        (row) => this.querySelector<HTMLElement>(`${row} button`) ?? [],
+      );
+      chosen?.focus({ preventScroll: true });
+      chosen?.parentElement!.scrollIntoView({ block: "nearest" });
     }
     if (!this.content && dialog.open) dialog.close();
   }

@@ -1,0 +1,74 @@
+#include "shell/native/career_trial.h"
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+#include "core/memory_store.h"
+#include "shell/native/last_words.h"
+#include "shell/session.h"
+
+namespace backbeat {
+
+namespace {
+
+enum TrialEnd { played = 0, stuck = 1 };
+
+constexpr unsigned mostSeconds = 60;  // a week in the hundredth year takes a fifth of one
+constexpr int mostAlerts = 200;       // more than a launch ever has to say
+
+TrialEnd play(std::span<const Write> rows, Trial trial, Date now) {
+  MemoryStore store;
+  store.replaceAll(rows);
+  QuietPlatform platform;
+  Session session(store, platform, 1, now);
+  Shown shown = session.shown();
+  if (trial == Trial::launch) return played;
+  for (int answered = 0; shown.alert && answered < mostAlerts; ++answered, shown = session.shown()) {
+    session.press(now, "alert", {std::to_string(shown.alert->key), "0"});
+  }
+  const int64_t week = session.game().state.weekNumberForTracking;
+  session.press(now, "nav", {"endTheWeekButton", ""});
+  session.shown();
+  return session.game().state.weekNumberForTracking == week + 1 ? played : stuck;
+}
+
+/// What the process says as it stops is nothing that a player should read twice.
+void beSilent() {
+  const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+  ::dup2(nowhere, STDOUT_FILENO);
+  ::dup2(nowhere, STDERR_FILENO);
+}
+
+std::string problemOf(int status) {
+  const int code = WIFEXITED(status) ? WEXITSTATUS(status) : 0;
+  const int signal = WIFSIGNALED(status) ? WTERMSIG(status) : 0;
+  if (code == outgrown) return "The game stops on this career: an amount in it grows past what can be counted.";
+  if (code == outOfMemory) return "The game stops on this career: it needs more memory than there is.";
+  if (signal == SIGALRM) return "The game does not come to an end with a week of this career.";
+  if (code == stuck) return "The week of this career cannot be ended.";
+  return code == played && signal == 0 ? "" : "The game stops on this career.";
+}
+
+}  // namespace
+
+std::string trialProblem(std::span<const Write> rows, Trial trial, Date now) {
+  const pid_t child = ::fork();
+  if (child < 0) return "This computer has no room for a second process to try the career in.";
+  if (child == 0) {
+    tellLastWords();
+    beSilent();
+    ::signal(SIGALRM, SIG_DFL);
+    ::alarm(mostSeconds);
+    _exit(play(rows, trial, now));
+  }
+  int status = 0;
+  while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
+  }
+  return problemOf(status);
+}
+
+}  // namespace backbeat

@@ -1,0 +1,4 @@
+import { checkEngine } from "./checks.mjs";
+import { firefox } from "./firefox.mjs";
+
+checkEngine("Firefox", firefox);
