@@ -79,6 +79,13 @@ Outcome checkContractDeadlines(Game& game) {
       Feedback::warning);
 }
 
+bool freeFromLostContract(Game& game) {
+  const GameState& state = game.state;
+  if (state.underContract == 0 || runningContract(state) != state.saveAllContractLabelList.size()) return false;
+  freeArtist(game);
+  return true;
+}
+
 Outcome endContract(const GameState& state) {
   const size_t running = runningContract(state);
   if (state.underContract < 1 || running == state.saveAllContractLabelList.size()) return {};

@@ -23,6 +23,11 @@ bool contractFulfilled(const ContractLabel& contract);
 /// its rates, until the artist ends it.
 Outcome checkContractDeadlines(Game& game);
 
+/// What a launch asks: an artist whose contract is not in the save any more, since its list was damaged or edited, is
+/// free again and keeps the advance. Such an artist would get no other offer and find no way out. False when nothing
+/// was amiss.
+bool freeFromLostContract(Game& game);
+
 /// The wish to end the contract: refused on tour; otherwise asks whether the artist is sure, and says what it costs.
 /// "Yes" sends `confirmEndContract` to the screen.
 Outcome endContract(const GameState& state);

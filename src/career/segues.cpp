@@ -157,7 +157,7 @@ void addNeeds(const Game& game, std::vector<Need>& needs) {
   needs.push_back({.priority = 300,
                    .picture = icon("label"),
                    .title = "A record label wants to talk",
-                   .subtitle = "The offer waits until the week ends",
+                   .subtitle = "Read it now: the offer may go with the week",
                    .badge = "!",
                    .segue = "goToContractOffer"});
 }

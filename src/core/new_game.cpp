@@ -25,11 +25,11 @@ void restartGame(Game& game) {
   state.totalEnergyMax += state.permanentEnergyUpgrade;
   state.totalEnergyAvailable = state.totalEnergyMax;
   game.save(&GameState::totalEnergyAvailable, &GameState::totalEnergyMax);
-  // What only this launch knows of the old life goes with it; a pass of the leaderboards that was made stays made.
-  const bool passDone = game.launch.leaderboardPassDone;
+  // What only this launch knows of the old life goes with it; what it does once stays done.
+  const Launch before = game.launch;
   game.launch = Launch();
-  game.launch.leaderboardPassDone = passDone;
-  game.launch.musicScreenLoaded = true;
+  game.launch.leaderboardPassDone = before.leaderboardPassDone;
+  game.launch.musicScreenLoaded = before.musicScreenLoaded;
   stateChanged(game);
 }
 

@@ -46,9 +46,11 @@ PhotoField photoField(const std::string& taken) {
   return {.id = "photo", .label = "Your own photo", .taken = !taken.empty()};
 }
 
-Picture artistPicture(const GameState& state) {
+Picture artistPicture(const GameState& state) { return artistPicture(state, state.myArtistsName); }
+
+Picture artistPicture(const GameState& state, const std::string& name) {
   if (dataOf(state.twitterProfileImage)) return {Picture::Kind::photo, state.twitterProfileImage};
-  return person(state.myArtistsName);
+  return person(name);
 }
 
 }  // namespace backbeat

@@ -19,7 +19,8 @@ std::optional<Outcome> photoRefusal(std::string_view address);
 /// The field that takes a photo; its press, "photo", carries the address, or nothing to do without one.
 PhotoField photoField(const std::string& taken);
 
-/// The artist's portrait: the player's own photo, or one drawn after the name.
+/// The artist's portrait: the player's own photo, or one drawn after the name, which may be one that is being typed.
 Picture artistPicture(const GameState& state);
+Picture artistPicture(const GameState& state, const std::string& name);
 
 }  // namespace backbeat

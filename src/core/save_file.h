@@ -20,6 +20,7 @@ struct LoadReport {
   std::vector<std::string> damagedLists;  ///< keys of lists that could not be read: empty now, the rows put aside
   std::vector<std::string> mended;        ///< keys that held a number no rule can carry: the nearest stands there now
   bool readable = true;                   ///< false when the store itself could not be read
+  bool contractLost = false;              ///< the artist was under a contract that is not there, and is free now
 };
 
 /// What a store holds of one list.

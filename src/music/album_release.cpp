@@ -64,6 +64,16 @@ std::vector<size_t> albumsInProduction(const GameState& state) {
   return positions;
 }
 
+std::vector<size_t> albumsOpenTo(const GameState& state, int64_t songId) {
+  const auto song = songPosition(state, songId);
+  if (!song) return {};
+  std::vector<size_t> positions = albumsInProduction(state);
+  std::erase_if(positions, [&](size_t position) {
+    return state.saveAllAlbumList[position].albumId == state.saveAllSongList[*song].albumId;
+  });
+  return positions;
+}
+
 Outcome setAlbumPricing(Game& game, int64_t albumId, double price) {
   const auto position = albumPosition(game.state, albumId);
   if (!position || game.state.saveAllAlbumList[*position].isReleased) return {};

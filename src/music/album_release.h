@@ -18,6 +18,9 @@ inline constexpr int64_t fewestSongsOnAlbum = 3;
 /// Positions of the albums in production, oldest first, without the built-in "Single".
 std::vector<size_t> albumsInProduction(const GameState& state);
 
+/// Those of them that the song can still go on: all but the one it is on. None for a song that is not there.
+std::vector<size_t> albumsOpenTo(const GameState& state, int64_t songId);
+
 /// Sets what a copy costs; a released album keeps its price. A contract's price stands only until this changes it.
 Outcome setAlbumPricing(Game& game, int64_t albumId, double price);
 

@@ -16,6 +16,10 @@ void Navigator::start(const LoadReport& report) {
   }
   tell("A part of the save was damaged and has been put aside:", report.damagedLists);
   tell("Numbers that no career can hold were put right in:", report.mended);
+  if (report.contractLost) {
+    notice_ += notice_.empty() ? "" : " ";
+    notice_ += "Your label contract is lost: you are a free artist again and keep its advance.";
+  }
   openFirstScreens();
   game_.saveFile.commit();
 }

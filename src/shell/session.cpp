@@ -1,5 +1,6 @@
 #include "shell/session.h"
 
+#include "career/contract_end.h"
 #include "core/text.h"
 #include "recognition/leaderboards.h"
 #include "shell/registry.h"
@@ -12,6 +13,7 @@ Session::Session(Store& store, Platform& platform, uint64_t seed, Date now)
   game_.leaderboardPass = submitLeaderboards;
   game_.rooms = rooms();
   loadReport_ = game_.saveFile.load(game_.state);
+  loadReport_.contractLost = freeFromLostContract(game_);
   navigator_.start(loadReport_);
 }
 

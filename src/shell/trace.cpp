@@ -9,6 +9,7 @@ namespace backbeat {
 
 namespace {
 
+constexpr const char* foreignCareerLine = "another career";
 constexpr std::string_view hexDigits = "0123456789ABCDEF";
 
 std::string escaped(std::string_view text) {
@@ -116,6 +117,7 @@ Trace readTrace(std::string_view text) {
     const std::string_view line = text.substr(0, end);
     text.remove_prefix(std::min(end + 1, text.size()));
     if (line.empty()) continue;
+    if (line == foreignCareerLine) return refuse(number, "it goes on with a career that the trace does not hold");
     auto event = eventFrom(line);
     if (!event) return refuse(number, "this is neither a launch nor a press");
     if (trace.events.empty() && event->kind != TraceEvent::Kind::launch) {
@@ -138,6 +140,10 @@ std::string hashText(uint64_t hash) {
 
 TraceRecorder::TraceRecorder(Store& store, Platform& platform, std::function<void(const std::string&)> record)
     : store_(store), platform_(platform), record_(std::move(record)) {}
+
+void TraceRecorder::noteForeignCareer() {
+  if (record_) record_(foreignCareerLine);
+}
 
 void TraceRecorder::play(const TraceEvent& event) {
   if (record_) record_(traceLine(event));

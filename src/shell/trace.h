@@ -36,7 +36,8 @@ struct Trace {
   std::string problem;  ///< when the text is no trace, what is wrong, with the number of the line; then no events
 };
 
-/// Reads lines as `traceLine` writes them; empty lines are skipped. A trace begins with a launch.
+/// Reads lines as `traceLine` writes them; empty lines are skipped. A trace begins with a launch. One
+/// that goes on with a career it does not hold says so and is refused.
 Trace readTrace(std::string_view text);
 
 /// 16 hexadecimal digits: how the fingerprint of a state is told.
@@ -51,6 +52,9 @@ class TraceRecorder {
 
   /// A press before the first launch is ignored.
   void play(const TraceEvent& event);
+
+  /// Marks the trace: the next launch finds a career that none of its events made, so nobody can replay it.
+  void noteForeignCareer();
 
   /// The running session. There is none before the first launch.
   Session& session() { return *session_; }

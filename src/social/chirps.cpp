@@ -5,6 +5,7 @@
 
 #include "core/calendar.h"
 #include "core/numbers.h"
+#include "core/own_photo.h"
 #include "core/purse.h"
 
 namespace backbeat {
@@ -136,6 +137,11 @@ std::vector<size_t> chirpsInOrder(const GameState& state) {
     if (chirps[i].isPinned < 1) order.push_back(i);
   }
   return order;
+}
+
+Picture portraitOf(const GameState& state, const Chirp& chirp) {
+  if (chirp.typeOfAccount == account::player) return artistPicture(state, chirp.artistName);
+  return chirp.typeOfAccount == account::company ? icon("business") : person(chirp.artistName);
 }
 
 std::string chirpAge(const Chirp& chirp, Date now) {

@@ -7,6 +7,7 @@
 #include "core/game.h"
 #include "core/outcome.h"
 #include "core/price.h"
+#include "core/view.h"
 
 namespace backbeat {
 
@@ -44,6 +45,9 @@ bool chirpDeletable(const GameState& state, const Chirp& chirp);
 
 /// Positions in order of display: the pinned one first, then newest first.
 std::vector<size_t> chirpsInOrder(const GameState& state);
+
+/// The face beside a post. The artist has one face everywhere, also on what was posted before it was chosen.
+Picture portraitOf(const GameState& state, const Chirp& chirp);
 
 /// "5h": whole hours since the post.
 std::string chirpAge(const Chirp& chirp, Date now);

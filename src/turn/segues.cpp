@@ -28,8 +28,12 @@ constexpr Segue segues[] = {
 void describeLiving(const Game& game, Row& row) { row.value = currency(-livingExpenses(game.state)); }
 
 void describeStatement(const Game& game, Row& row) {
+  if (!anyWeekReported(game.state)) {
+    row.subtitle = "After your first week";
+    return;
+  }
   const IncomeStatement statement = incomeStatement(game.state);
-  row.subtitle = "Week " + std::to_string(reportedWeek(game.state).week);
+  row.subtitle = "Week " + std::to_string(reportedWeek(game.state).week) + ", without job pay";
   row.value = currency(statement.income() - statement.expenses());
 }
 

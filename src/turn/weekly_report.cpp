@@ -95,6 +95,8 @@ CalendarWeek reportedWeek(const GameState& state) {
   return {state.weekNumber - 1, state.yearNumber};
 }
 
+bool anyWeekReported(const GameState& state) { return state.weekNumberForTracking > 1; }
+
 WeeklyReport buildWeeklyReport(Game& game) {
   const GameState& state = game.state;
   WeeklyReport report;

@@ -36,13 +36,17 @@ struct WeeklyReport {
   double standingExpenses = 0;
   double family = 0;
   double labelExpenses = 0;  ///< perks and rent
+  double bonusPaidBack = 0;  ///< the advance of a contract that ended with this report; moved by that rule itself
   double totalRevenue = 0;
-  double totalExpenses = 0;
+  double totalExpenses = 0;  ///< of the settlement, without what was paid back
   int64_t merchUnits = 0;
 };
 
 /// The week before the one that the calendar shows; week 1 reports week 52 of the year before.
 CalendarWeek reportedWeek(const GameState& state);
+
+/// False in the very first week of a family, which has no week before it to tell of.
+bool anyWeekReported(const GameState& state);
 
 /// Gathers the records of the reported week and tells the feed of its show.
 WeeklyReport buildWeeklyReport(Game& game);

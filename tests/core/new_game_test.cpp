@@ -80,6 +80,7 @@ TEST(NewGame, RestartLeavesOnlyWhatOutlivesEveryArtist) {
   world.game.launch.contractOfferState = 2;
   world.game.launch.selectedFeaturedArtists = {3};
   world.game.launch.leaderboardPassDone = true;
+  world.game.launch.musicScreenLoaded = true;
 
   restartGame(world.game);
 
@@ -89,7 +90,7 @@ TEST(NewGame, RestartLeavesOnlyWhatOutlivesEveryArtist) {
   EXPECT_EQ(world.state.totalEnergyAvailable, 107);
   EXPECT_EQ(world.game.launch.contractOfferState, 0);
   EXPECT_TRUE(world.game.launch.selectedFeaturedArtists.empty());
-  EXPECT_TRUE(world.game.launch.leaderboardPassDone);
+  EXPECT_TRUE(world.game.launch.leaderboardPassDone && world.game.launch.musicScreenLoaded);
   world.expectSaved();
   GameState loaded;
   SaveFile(world.store).load(loaded);

@@ -174,6 +174,8 @@ TEST(AddToAlbum, NeedsAnAlbumInProduction) {
   EXPECT_EQ(titleOfAlert(screen.addToAlbumButton()), "🎧 No Unreleased Albums 🎧");
   world.state.saveAllAlbumList.append(albumInProduction(9, "Next", 0));
   EXPECT_EQ(screen.addToAlbumButton().go->segue, "goToAddToAlbum");
+  addSongToAlbum(world.game, 12, "Next");
+  EXPECT_EQ(titleOfAlert(screen.addToAlbumButton()), "🎧 No Unreleased Albums 🎧") << "it is on the only one";
 }
 
 TEST(AlbumRelease, TakesItsSongsAlongAndTellsTheFeed) {

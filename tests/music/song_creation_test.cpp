@@ -204,6 +204,12 @@ TEST(SongCreation, TheScreenOffersAlbumsUpToTwentySongsAndTheLabelsStudio) {
   EXPECT_EQ(draft.finalMusicalityRating, 1);
   EXPECT_EQ(draft.productionCost, 1'125);
   EXPECT_EQ(drawProductionOptions(world.game).studio.size(), 7u);
+
+  world.state.underContract = 0;
+  world.random.integerIs(0, 10, 3).integerIs(0, 10, 3).integerIs(0, 10, 3);
+  CreateASongViewController later(world.game);
+  later.open();
+  EXPECT_EQ(later.draft().productionCost, 1'125) << "the writer is remembered; the own studio takes the label's place";
 }
 
 TEST(SongRelease, BoostsNineTimesAndReleasesWithTheLastTenEnergy) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/icons.h"
+#include "core/own_photo.h"
 #include "core/pictures.h"
 #include "core/view_fields.h"
 #include "core/view_find.h"
@@ -46,6 +47,18 @@ std::string unknownIconOf(const View& view) {
   return found;
 }
 
+/// Whether the artist, who has a photo, is drawn with another face.
+bool hidesThePhoto(const View& view, const GameState& state) {
+  if (artistPicture(state).kind != Picture::Kind::photo) return false;
+  bool found = false;
+  forEachRecord(view, [&](const ViewType& type, const void* record) {
+    if (&type != &viewType<Picture>) return;
+    const Picture& picture = *static_cast<const Picture*>(record);
+    found = found || (picture.kind == Picture::Kind::person && picture.name == state.myArtistsName);
+  });
+  return found;
+}
+
 std::string tooWideLine(const std::string& text) {
   constexpr size_t widest = 80;
   for (size_t begin = 0; begin < text.size();) {
@@ -70,6 +83,7 @@ std::string glassFault(const Session& session, const std::function<Shown()>& sho
   }
   if (stateHash(state) != before) return "describing it changed the state";
   if (const std::string icon = unknownIconOf(once.view); !icon.empty()) return "nobody draws " + icon;
+  if (hidesThePhoto(once.view, state)) return "the artist has another face than the photo";
   return {};
 }
 

@@ -66,7 +66,7 @@ std::string typedFor(const PlayedCareer& played) {
         return each.screenKey == event.screenKey && each.action.id == event.action.id && sameButton;
       });
       typed += std::to_string(chosen - offered.begin() + 1);
-      if (chosen != offered.end() && chosen->takes == Pressable::Takes::text) typed += " " + event.action.value;
+      if (chosen != offered.end() && chosen->takes == Pressable::Takes::text) typed += "\n" + event.action.value;
       if (chosen != offered.end() && chosen->takes == Pressable::Takes::option) {
         typed += " " + std::to_string(wholeNumber(event.action.value).value_or(0) + 1);
       }

@@ -57,7 +57,7 @@ TEST(GoldenYear, EndsTheSameWhenTypedIntoTheConsole) {
   career.play(golden.events.at(0));
   size_t next = 1;
   const auto clock = [&] { return golden.events[std::min(next++, golden.events.size() - 1)].unixMilliseconds; };
-  ConsolePlayer(career, store, typed, printed, {}, clock).run();
+  ConsolePlayer(career, store, linesFrom(typed), printed, false, clock).run();
   EXPECT_EQ(differenceOf(summaryOf(golden.end), summaryOf(career.session().game().state)), "");
   EXPECT_EQ(printed.str().find('\x1b'), std::string::npos) << "no colours over a pipe";
 }

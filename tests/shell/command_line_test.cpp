@@ -96,6 +96,12 @@ TEST(CommandLine, ACareerGoesOnWhereItWasLeftAndInfoTellsOfIt) {
   EXPECT_THAT(info.output, HasSubstr("Week 2, 2023"));
   EXPECT_THAT(info.output, HasSubstr("saveAllWeeklyLineItems"));
   EXPECT_EQ(contentOf(save), before);
+
+  const std::string trace = freshFile("goes_on.trace");
+  EXPECT_THAT(runProgram({"play", "--save", save, "--trace", trace}).output, HasSubstr("cannot be replayed"));
+  const ProgramRun replay = runProgram({"replay", trace});
+  EXPECT_EQ(replay.exitCode, 1);
+  EXPECT_THAT(replay.output, HasSubstr("a career that the trace does not hold"));
 }
 
 TEST(CommandLine, NothingIsWrittenOverByMistake) {

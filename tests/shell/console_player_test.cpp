@@ -28,7 +28,7 @@ struct ConsoleRun {
     launched_ = true;
     std::istringstream in(script);
     std::ostringstream out;
-    ConsolePlayer(career, store, in, out, {false, colour}, [] { return int64_t{1'672'660'800'000}; }).run();
+    ConsolePlayer(career, store, linesFrom(in), out, colour, [] { return int64_t{1'672'660'800'000}; }).run();
     said = out.str();
   }
   const GameState& state() { return career.session().game().state; }
@@ -52,6 +52,8 @@ struct ConsoleRun {
 
 TEST(ConsolePlayer, PlaysAWeekFromTheNameOn) {
   ConsoleRun run;
+  run.type("");
+  EXPECT_THAT(run.said, HasSubstr("or help.")) << "the first screen says where help is";
   run.type("1 Zoë Falk\n2\nhome\nEND\n");
   EXPECT_EQ(run.state().myArtistsName, "Zoë Falk");
   EXPECT_EQ(run.state().weekNumberForTracking, 2);
@@ -66,8 +68,12 @@ TEST(ConsolePlayer, FillsTextsOptionsAndSwitchesAndTellsWhatANumberWants) {
   const std::string title = run.number("title");
   const std::string writing = run.number("writing");
   const std::string isExplicit = run.number("explicit");
-  run.type(title + "\n");
-  EXPECT_THAT(run.said, HasSubstr(title + " Your words"));
+  run.type(title + "\n  Paper Boats\r\n");
+  EXPECT_THAT(run.said, HasSubstr("\"Paper Boats\""));
+  run.type(title + "\n\n");
+  EXPECT_THAT(run.said, HasSubstr("(Name your song)")) << "an empty line empties it";
+  run.type(title);
+  EXPECT_THAT(run.said, HasSubstr("See you.")) << "the input may end there";
   run.type(writing + "\n" + writing + " 9\n" + writing + " 0\n" + writing + " x\n");
   EXPECT_THAT(run.said, HasSubstr("1 to 6"));
   EXPECT_THAT(run.said, Not(HasSubstr("2 ✓ Ghost Writer")));
@@ -115,6 +121,16 @@ TEST(ConsolePlayer, AFailedSaveIsToldUntilItWorksAgain) {
   run.type("again\n");
   EXPECT_THAT(run.said, Not(HasSubstr("Nothing could be saved")));
   EXPECT_EQ(differencesFromStore(run.state(), run.store), std::vector<std::string>());
+}
+
+TEST(ConsolePlayer, ANoticeIsToldOnce) {
+  ConsoleRun run;
+  settleInto(run.store, namedWorld("rich"));
+  run.store.rows[{"saveAllChirpList", 0}] = Bytes("no list");
+  run.type("again\nmusic\n");
+  const size_t told = run.said.find("A part of the save was damaged");
+  EXPECT_NE(told, std::string::npos);
+  EXPECT_EQ(run.said.find("A part of the save was damaged", told + 1), std::string::npos);
 }
 
 TEST(ConsolePlayer, LongListsArePaged) {

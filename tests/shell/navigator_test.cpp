@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "core/memory_store.h"
+#include "core/view_find.h"
+#include "play/worlds.h"
 #include "shell/session.h"
 
 namespace backbeat {
@@ -187,9 +189,32 @@ TEST(Navigator, ARestartBeginsAnewAtTheMusicTab) {
   play.tab(homeTab);
   EXPECT_EQ(play.screen(), "ViewController");
   EXPECT_TRUE(play.shown().endWeek);
+  EXPECT_EQ(rowTitled(play.shown().view, "Standing net").value, "-$50") << "life costs something from the first day";
+  play.tab(businessTab);
+  EXPECT_EQ(rowTitled(play.shown().view, "Income Statement").subtitle, "After your first week");
   play.tab(socialTab);
   EXPECT_EQ(play.screen(), "TwitterProfileViewController");
   EXPECT_TRUE(differencesFromStore(play.state(), store).empty());
+}
+
+TEST(Navigator, ALostContractFreesTheArtistAndSaysSoOnce) {
+  MemoryStore store;
+  settleInto(store, namedWorld("signed"));
+  for (auto& [place, row] : store.rows) {
+    if (place.first == "saveAllContractLabelList") row = Bytes("no list");
+  }
+  Play play(store);
+  EXPECT_NE(play.shown().notice.find("saveAllContractLabelList. Your label contract is lost"), std::string::npos);
+  EXPECT_EQ(rowWithId(play.shown().view, "labelContract").subtitle, "No offer");
+  EXPECT_EQ(play.state().underContract, 0);
+  EXPECT_DOUBLE_EQ(play.state().streamingPayRate, 0.001);
+  EXPECT_DOUBLE_EQ(play.state().contractFeatureDiscount, 1);
+  EXPECT_TRUE(differencesFromStore(play.state(), store).empty());
+  EXPECT_EQ(Play(store).shown().notice, "");
+
+  MemoryStore whole;
+  settleInto(whole, namedWorld("signed"));
+  EXPECT_EQ(Play(whole).state().underContract, 1);
 }
 
 }  // namespace

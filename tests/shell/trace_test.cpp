@@ -38,5 +38,15 @@ TEST(Trace, TellsTheLineThatIsNone) {
   EXPECT_NE(readTrace("").problem, "");
 }
 
+TEST(Trace, OneThatGoesOnWithAnotherCareerIsNotReplayed) {
+  MemoryStore store;
+  QuietPlatform platform;
+  std::string text;
+  TraceRecorder career(store, platform, [&](const std::string& line) { text += line + "\n"; });
+  career.noteForeignCareer();
+  career.play(launchEvent(0, 1));
+  EXPECT_EQ(readTrace(text).problem, "line 1: it goes on with a career that the trace does not hold");
+}
+
 }  // namespace
 }  // namespace backbeat

@@ -92,6 +92,15 @@ TEST(IncomeStatement, SumsTheReportedWeekAloneWithFamilyAndOffice) {
   EXPECT_EQ(screen.view().subtitle, "Week 52, 2023");
 }
 
+TEST(IncomeStatement, TellsOfNoWeekBeforeTheFirst) {
+  World world;
+  BalanceSheetViewController screen(world.game);
+  EXPECT_EQ(screen.view().subtitle, "");
+  EXPECT_TRUE(blocksOf<Figures>(screen.view()).empty());
+  world.state.weekNumber = world.state.weekNumberForTracking = 2;
+  EXPECT_EQ(screen.view().subtitle, "Week 1, 2023");
+}
+
 TEST(Finance, TheStandingNetLeavesOutAJobThatHasRunOut) {
   World world;
   world.state.weeklyJobIncome = 320;

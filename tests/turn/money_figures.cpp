@@ -72,7 +72,7 @@ Standings businessFigures(Game& twin) {
           {"Standing net", currency(standingNet(state))},
           {"Expenses", currency(-livingCosts(state)), "goToExpenseScreen"},
           {"Income Statement", currency(statement.ownWork + statement.label - statement.expenses), "goToBalanceSheet"},
-          {"Income Statement: subtitle", "Week 35"},
+          {"Income Statement: subtitle", "Week 35, without job pay"},
           {"Net Worth", currency(fortune(state)), "goToNetWorth"}};
 }
 

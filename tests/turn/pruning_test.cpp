@@ -50,6 +50,8 @@ void fillWithOldAndNew(World& world) {
   state.saveAllAlbumList.append(forever);
   Song draft = songInProduction(8, "Draft");
   state.saveAllSongList.append(draft);
+  state.saveAllSignedArtistSongList.append({.songId = 9});
+  state.saveAllSignedArtistAlbumList.append({.albumId = 9});
 }
 
 TEST(Pruning, DropsWhatIsOldAndOut) {
@@ -73,9 +75,10 @@ TEST(Pruning, DropsWhatIsOldAndOut) {
   EXPECT_EQ(state.saveAllAlbumList[1].albumId, 7);
   EXPECT_EQ(state.saveAllWeeklySongListens.historyOf(2033).size(), 1u);
   EXPECT_EQ(state.saveAllWeeklyAlbumSales.size(), 1u);
-  ASSERT_EQ(state.saveAllSignedArtistSongList.size(), 1u);
+  ASSERT_EQ(state.saveAllSignedArtistSongList.size(), 2u);
   EXPECT_EQ(state.saveAllSignedArtistSongList[0].releaseYear, 2043);
-  EXPECT_EQ(state.saveAllSignedArtistAlbumList.size(), 1u);
+  EXPECT_EQ(state.saveAllSignedArtistSongList[1].songId, 9) << "in production";
+  EXPECT_EQ(state.saveAllSignedArtistAlbumList.size(), 2u);
   EXPECT_EQ(state.saveAllSignedArtistWeeklySongListens.size(), 1u);
   EXPECT_EQ(state.saveAllSignedArtistWeeklyAlbumSales.size(), 1u);
   world.expectSaved();

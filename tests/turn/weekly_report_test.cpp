@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "career/builders.h"
 #include "career/ledger.h"
 #include "core/view_find.h"
 #include "support/world.h"
@@ -193,7 +194,32 @@ TEST(WeeklyReport, TheRatingOfferComesBackEveryYearUntilItIsAnswered) {
   EXPECT_EQ(world.platform.reviews, 0) << "only the best answer asks for more";
   EXPECT_TRUE(appeared().alerts.empty());
   screen.act(offer.alerts[0].buttons[0].action);
-  EXPECT_EQ(world.platform.reviews, 1);
+  EXPECT_EQ(world.state.totalEnergyAvailable, 350) << "an answer to what is not asked any more";
+  EXPECT_EQ(world.platform.reviews, 0);
+  ReportWorld pleased;
+  pleased.state.weekNumber = 31;
+  pleased.settle();
+  WeeklySummaryViewController(pleased.game).act(offer.alerts[0].buttons[0].action);
+  EXPECT_EQ(pleased.platform.reviews, 1);
+}
+
+TEST(WeeklyReport, ABonusThatIsTakenBackIsToldAsALine) {
+  ReportWorld world;
+  world.state.totalCashAvailable = 40'000;
+  ContractLabel contract = contractWith("Tall Ships", 1, 5);
+  contract.initialCash = 150'000;
+  contract.numberOfSongs = 1;
+  signContract(world.state, contract);
+  world.settle();
+  world.random.integerIs(0, 100, 0);
+  WeeklySummaryViewController screen(world.game);
+  screen.open();
+  ASSERT_EQ(screen.appear().alerts.size(), 1u);
+  EXPECT_EQ(figureLabelled(screen.view(), "Signing bonus paid back").value, "-$150,000");
+  EXPECT_EQ(figureLabelled(screen.view(), "Total cost").value, "-$150,050");
+  EXPECT_EQ(figureLabelled(screen.view(), "Net").value, "-$150,050");
+  EXPECT_EQ(figureLabelled(screen.view(), "Net").note, "Cash $40,000 → -$110,050");
+  EXPECT_DOUBLE_EQ(world.state.totalCashAvailable, -110'050);
 }
 
 TEST(WeeklyReport, AppearingTwiceRunsItsChainOnce) {
@@ -217,6 +243,8 @@ TEST(WeeklyReport, SideGigsStandAsCardsUntilTheyArePressed) {
   EXPECT_EQ(world.state.totalEnergyAvailable, 75) << "paid once";
   EXPECT_EQ(cardPresses(screen.view()), (std::vector<std::string>{"eventButton2"}));
   EXPECT_TRUE(screen.act({"eventButton3", ""}).alerts.empty());
+  screen.act({"eventButton2", ""});
+  for (const Heading& heading : blocksOf<Heading>(screen.view())) EXPECT_NE(heading.text, "This week's chances");
   EXPECT_TRUE(screen.act({"closeButton", ""}).go.has_value());
 }
 

@@ -24,13 +24,13 @@ bool ContractOfferViewController::hasOffer() const {
 
 View ContractOfferViewController::view() const {
   View view{.title = "Label contract"};
-  view.help =
-      Help{.title = "How labels work",
-           .text =
-               "A label that likes your numbers may write in any week once you have more than 35,000 listeners; the "
-               "more listeners, the greater the label. Its offer waits until the week ends.\n\nA deal brings cash at "
-               "once, better pay for each stream and view, a studio, marketing, and tours. In return the label takes "
-               "its share and expects records by a deadline. Miss it and you pay the signing bonus back."};
+  view.help = Help{
+      .title = "How labels work",
+      .text =
+          "A label that likes your numbers may write in any week once you have more than 35,000 listeners; the "
+          "more listeners, the greater the label. Its offer may be gone when the week ends.\n\nA deal brings cash at "
+          "once, better pay for each stream and view, a studio, marketing, and tours. In return the label takes "
+          "its share and expects records by a deadline. Miss it and you pay the signing bonus back."};
   if (!hasOffer()) {
     view.add(EmptyHint{.icon = "label",
                        .text = state().isLabelLaunched >= 1

@@ -103,7 +103,7 @@ View EnergyTransparencyViewController::view() const {
       Help{.title = "Energy",
            .text =
                "Every week your energy refills to the ceiling, less what your duties cost. What you do not use is "
-               "gone; only energy above the ceiling stays.\n\nEach birthday takes one point of ceiling. A better "
+               "gone; only energy above the ceiling stays.\n\nEach New Year takes one point of ceiling. A better "
                "life gives some back."};
   return view;
 }

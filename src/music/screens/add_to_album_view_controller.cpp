@@ -10,28 +10,18 @@ Outcome AddToAlbumViewController::act(const Action& action) {
   if (action.id == "albums") albums_.moveTo(action.value);
   if (action.verb() != "album") return {};
   const auto id = wholeNumber(action.argument());
-  for (const size_t position : offered()) {
+  for (const size_t position : albumsOpenTo(state(), songId_)) {
     const Album& album = state().saveAllAlbumList[position];
     if (album.albumId == id) return addSongToAlbum(game_, songId_, album.title);
   }
   return {};
 }
 
-std::vector<size_t> AddToAlbumViewController::offered() const {
-  std::vector<size_t> positions = albumsInProduction(state());
-  const auto song = songPosition(state(), songId_);
-  if (!song) return {};
-  std::erase_if(positions, [&](size_t position) {
-    return state().saveAllAlbumList[position].albumId == state().saveAllSongList[*song].albumId;
-  });
-  return positions;
-}
-
 View AddToAlbumViewController::view() const {
   View view{.title = "Add to Album"};
   const auto song = songPosition(state(), songId_);
   if (song) view.subtitle = state().saveAllSongList[*song].title;
-  const std::vector<size_t> positions = offered();
+  const std::vector<size_t> positions = albumsOpenTo(state(), songId_);
   if (positions.empty()) {
     view.add(EmptyHint{.icon = "album",
                        .text = "The song is on the only album in production. Create another one on the Music tab."});

@@ -12,9 +12,6 @@ class AddToAlbumViewController final : public Screen {
   View view() const override;
 
  private:
-  /// Positions of the albums in production that the song is not on.
-  std::vector<size_t> offered() const;
-
   int64_t songId_;
   ListWindow albums_;
 };

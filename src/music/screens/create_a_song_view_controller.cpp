@@ -48,7 +48,9 @@ Outcome CreateASongViewController::open() {
   options_ = drawProductionOptions(game_);
   genre_ = std::clamp<int64_t>(state().saveGenreForNextTime, 0, static_cast<int64_t>(genres.size()) - 1);
   for (size_t list = 0; list < chosen_.size(); ++list) {
-    chosen_[list] = std::min(game_.launch.lastProductionChoices[list], listOf(options_, list).size() - 1);
+    // The studio of a label that is gone gives way to the own one, not to the dearest.
+    const size_t last = game_.launch.lastProductionChoices[list];
+    chosen_[list] = last < listOf(options_, list).size() ? last : 0;
   }
   ensureSingleAlbum(game_);
   return {};

@@ -1,6 +1,7 @@
 #include "music/screens/enter_name_view_controller.h"
 
 #include "core/calendar.h"
+#include "core/own_photo.h"
 
 namespace backbeat {
 
@@ -19,7 +20,7 @@ Outcome EnterNameViewController::saveButton() {
 }
 
 View EnterNameViewController::view() const {
-  View view{.title = "Who are you?", .subtitle = "Week 1, 2023", .picture = person(name_)};
+  View view{.title = "Who are you?", .subtitle = "Week 1, 2023", .picture = artistPicture(state(), name_)};
   view.add(Text{
       .text = "A microphone, an empty notebook and a city that has not heard of you yet. Every legend starts with a "
               "name.",

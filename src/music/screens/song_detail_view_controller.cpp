@@ -53,7 +53,7 @@ Outcome SongDetailViewController::marketingButton() const {
 Outcome SongDetailViewController::addToAlbumButton() const {
   const auto position = songPosition(state(), songId_);
   if (!position || state().saveAllSongList[*position].isReleased) return {};
-  if (albumsInProduction(state()).empty()) {
+  if (albumsOpenTo(state(), songId_).empty()) {
     return refuse<"🎧 No Unreleased Albums 🎧">(
         "\nCreate a new album under 'Create a Song' on the main page to add this song to an album list.");
   }

@@ -1,7 +1,6 @@
 #include "shell/native/console_player.h"
 
 #include <algorithm>
-#include <istream>
 #include <ostream>
 #include <utility>
 
@@ -18,6 +17,7 @@ namespace {
 constexpr const char* helpText =
     "Type the number of what you want to press.\n"
     "  3 Midnight Rivers   fills a text           5 2           takes option 2\n"
+    "  3                   asks for the text      and an empty line empties it\n"
     "  4 on, 4 off         turns a switch         more, earlier moves in a long list\n"
     "  home, music, life, business, social        the tabs\n"
     "  back                one screen back        end           END THE WEEK\n"
@@ -38,19 +38,12 @@ std::pair<std::string_view, std::string_view> firstWord(std::string_view input) 
 
 }  // namespace
 
-ConsolePlayer::ConsolePlayer(TraceRecorder& career, CareerStore& store, std::istream& in, std::ostream& out, Look look,
+ConsolePlayer::ConsolePlayer(TraceRecorder& career, CareerStore& store, LineInput input, std::ostream& out, bool colour,
                              std::function<int64_t()> now)
-    : career_(career), store_(store), in_(in), out_(out), look_(look), now_(std::move(now)) {}
+    : career_(career), store_(store), input_(std::move(input)), out_(out), colour_(colour), now_(std::move(now)) {}
 
 void ConsolePlayer::run() {
-  show();
-  std::string line;
-  do {
-    if (look_.prompt) out_ << "> ";
-    out_.flush();
-    if (!std::getline(in_, line)) break;
-    if (line.ends_with('\r')) line.pop_back();
-  } while (obey(line));
+  for (std::optional<std::string> line = "again"; line && obey(*line); line = input_("> ")) out_.flush();
   const SaveFile& saveFile = career_.session().game().saveFile;
   const bool kept = saveFile.keeping() && !saveFile.failing();
   out_ << (kept ? "See you. Your career is kept up to here.\n" : "See you. The last steps are not kept.\n");
@@ -60,9 +53,16 @@ void ConsolePlayer::run() {
 void ConsolePlayer::show() {
   const Session& session = career_.session();
   shown_ = session.shown();
-  printed_ = printScreen(session.navigator(), shown_, look_.colour);
+  if (shown_.notice == noticeTold_) shown_.notice.clear();
+  if (!shown_.notice.empty()) noticeTold_ = shown_.notice;
+  printed_ = printScreen(session.navigator(), shown_, colour_);
   out_ << '\n' << printed_.text;
-  if (shown_.endWeek && !shown_.alert) say("Type end to END THE WEEK, a number to press, or help.");
+  if (shown_.endWeek && !shown_.alert) {
+    say("Type end to END THE WEEK, a number to press, or help.");
+  } else if (!helpNamed_) {
+    say("Type the number of what you want to press, or help.");
+  }
+  helpNamed_ = true;
   if (shown_.feedback == Feedback::energyBounce) say("⚡ This week's energy does not reach for that.");
   if (session.game().saveFile.failing()) {
     say("Nothing could be saved just now. The game tries again with every press; do not leave before it works.");
@@ -125,14 +125,12 @@ void ConsolePlayer::pressNumber(size_t number, std::string_view value) {
   const std::string name = std::to_string(number);
   switch (chosen.takes) {
     case Pressable::Takes::text:
-      if (value.empty()) return say("Type the text behind the number: " + name + " Your words");
-      action.value =
-          chosen.maxLength > 0 ? firstCharacters(value, static_cast<size_t>(chosen.maxLength)) : std::string(value);
+    case Pressable::Takes::photo: {
+      const auto text = value.empty() ? askForText(chosen) : std::string(value);
+      if (!text || (text->empty() && chosen.takes == Pressable::Takes::photo)) return;
+      action.value = chosen.maxLength > 0 ? firstCharacters(*text, static_cast<size_t>(chosen.maxLength)) : *text;
       break;
-    case Pressable::Takes::photo:
-      if (value.empty()) return say("Paste the picture behind the number: " + name + " data:image/png;base64,...");
-      action.value = value;
-      break;
+    }
     case Pressable::Takes::option: {
       const auto option = wholeNumber(value);
       if (!option || *option < 1 || *option > chosen.options) {
@@ -150,6 +148,15 @@ void ConsolePlayer::pressNumber(size_t number, std::string_view value) {
     case Pressable::Takes::row: break;
   }
   press(chosen.screenKey, action);
+}
+
+std::optional<std::string> ConsolePlayer::askForText(const Pressable& field) {
+  say(field.takes == Pressable::Takes::photo ? "Paste the picture as a data: address; an empty line leaves it as it is."
+                                             : "Type the text; an empty line empties it.");
+  out_.flush();
+  const auto line = input_(oneLine(field.label, 30) + ": ");
+  if (!line) return std::nullopt;
+  return trimmed(validUtf8(*line));
 }
 
 void ConsolePlayer::pressTab(size_t tab) {
@@ -224,6 +231,8 @@ void ConsolePlayer::importFrom(std::string_view words) {
 /// Another career is in the save now.
 void ConsolePlayer::relaunch() {
   const int64_t time = now_();
+  noticeTold_.clear();
+  career_.noteForeignCareer();
   career_.play(launchEvent(time, static_cast<uint64_t>(time)));
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "shell/native/line_input.h"
 #include "shell/native/view_printer.h"
 #include "shell/trace.h"
 
@@ -13,13 +14,9 @@ namespace backbeat {
 
 class ConsolePlayer {
  public:
-  struct Look {
-    bool prompt = false;  ///< a sign before each input, for a person at a terminal
-    bool colour = false;
-  };
-
-  /// `career` plays on `store` and has been launched. `now` gives the time of each press, in milliseconds since 1970.
-  ConsolePlayer(TraceRecorder& career, CareerStore& store, std::istream& in, std::ostream& out, Look look,
+  /// `career` plays on `store` and has been launched. `colour` adds the terminal's colours to what is printed. `now`
+  /// gives the time of each press, in milliseconds since 1970.
+  ConsolePlayer(TraceRecorder& career, CareerStore& store, LineInput input, std::ostream& out, bool colour,
                 std::function<int64_t()> now);
 
   /// Plays until the player quits or the input ends.
@@ -35,6 +32,8 @@ class ConsolePlayer {
   void relaunch();
   void obeyRequest();
   void pressNumber(size_t number, std::string_view value);
+  /// The text for a field that was named by its number alone. Nothing once the input has ended.
+  std::optional<std::string> askForText(const Pressable& field);
   void pressTab(size_t tab);
   void pressBack();
   void pressEnd();
@@ -44,12 +43,14 @@ class ConsolePlayer {
 
   TraceRecorder& career_;
   CareerStore& store_;
-  std::istream& in_;
+  LineInput input_;
   std::ostream& out_;
-  Look look_;
+  bool colour_;
   std::function<int64_t()> now_;
   Shown shown_;
   PrintedScreen printed_;
+  std::string noticeTold_;
+  bool helpNamed_ = false;
 };
 
 }  // namespace backbeat

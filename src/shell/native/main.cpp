@@ -15,6 +15,7 @@
 #include "shell/native/copies_command.h"
 #include "shell/native/file_places.h"
 #include "shell/native/last_words.h"
+#include "shell/native/line_input.h"
 #include "shell/native/rescue_menu.h"
 #include "shell/native/save_info.h"
 #include "shell/native/sqlite_store.h"
@@ -59,9 +60,13 @@ int fail(const std::string& why) {
   return failed;
 }
 
-ConsolePlayer::Look look() {
-  const bool terminal = isatty(STDIN_FILENO) != 0 && isatty(STDOUT_FILENO) != 0;
-  return {terminal, isatty(STDOUT_FILENO) != 0 && environment("NO_COLOR").empty()};
+bool isTerminal(int file) { return isatty(file) != 0; }
+
+/// Whether anything was kept there before.
+bool holdsCareer(Store& store) {
+  bool found = false;
+  store.visitRows([&](std::string_view, int32_t, const Value&) { found = true; });
+  return found;
 }
 
 int play(const CommandLine& line) {
@@ -79,8 +84,15 @@ int play(const CommandLine& line) {
   if (!rescue(*opened.store, launchProblem(*opened.store, now()), std::cin, std::cout, now)) return failed;
   QuietPlatform platform;
   TraceRecorder career(*opened.store, platform, record);
+  if (!line.trace.empty() && holdsCareer(*opened.store)) {
+    career.noteForeignCareer();
+    std::cerr << "backbeat: this trace goes on with a career that is there already; it cannot be replayed.\n";
+  }
   career.play(launchEvent(unixMilliseconds(), line.seed.value_or(seedOfTheSystem())));
-  ConsolePlayer(career, *opened.store, std::cin, std::cout, look(), unixMilliseconds).run();
+  const bool colour = isTerminal(STDOUT_FILENO) && environment("NO_COLOR").empty();
+  const bool atTerminal = isTerminal(STDIN_FILENO) && isTerminal(STDOUT_FILENO);
+  LineInput input = atTerminal ? linesFromTerminal() : linesFrom(std::cin);
+  ConsolePlayer(career, *opened.store, std::move(input), std::cout, colour, unixMilliseconds).run();
   if (!line.trace.empty() && !trace) return fail("the trace " + line.trace + " is not complete.");
   if (career.session().game().saveFile.failing()) return fail("the last steps could not be saved.");
   return done;

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "career/ledger.h"
 #include "core/new_game.h"
 #include "core/view_words.h"
 #include "shell/export_reminder.h"
@@ -50,6 +51,7 @@ Outcome SettingsViewController::restartButton() {
 Outcome SettingsViewController::restart() {
   if (auto problem = keepAside(game_, SnapshotKind::restart)) return std::move(*problem);
   restartGame(game_);
+  ensureBasicNeeds(game_);
   return goTo(std::string(startOverSegue));
 }
 

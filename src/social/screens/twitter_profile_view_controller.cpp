@@ -5,6 +5,7 @@
 #include "core/case_folding.h"
 #include "core/menu.h"
 #include "core/money.h"
+#include "core/own_photo.h"
 #include "core/view_words.h"
 #include "social/chirps.h"
 
@@ -24,15 +25,11 @@ std::string handleOf(const std::string& name) {
   return handle == "@" ? "@nobody" : handle;
 }
 
-Picture portraitOf(const Chirp& chirp) {
-  return chirp.typeOfAccount == account::company ? icon("business") : person(chirp.artistName);
-}
-
 std::string count(int64_t number) { return abbreviated(static_cast<double>(number)); }
 
 Post describe(const GameState& state, const Chirp& chirp, Date now) {
   const std::string id = std::to_string(chirp.id);
-  Post post{.picture = portraitOf(chirp),
+  Post post{.picture = portraitOf(state, chirp),
             .name = chirp.artistName,
             .handle = handleOf(chirp.artistName),
             .age = chirpAge(chirp, now),
@@ -97,7 +94,7 @@ View TwitterProfileViewController::view() const {
 }
 
 void TwitterProfileViewController::describeProfile(View& view) const {
-  view.add(Cover{.picture = person(state().myArtistsName),
+  view.add(Cover{.picture = artistPicture(state()),
                  .title = state().myArtistsName,
                  .text = handleOf(state().myArtistsName) + "\n" + withCommas(state().followerCount) + " followers"});
   view.add(Button{.id = "followButton", .label = "Follow", .pulse = pulses_});

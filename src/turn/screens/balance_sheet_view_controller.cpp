@@ -46,23 +46,27 @@ Figures expensesOf(const IncomeStatement& statement) {
 }  // namespace
 
 View BalanceSheetViewController::view() const {
-  const CalendarWeek week = reportedWeek(state());
-  const IncomeStatement statement = incomeStatement(state());
-  const double net = statement.income() - statement.expenses();
-  View view{.title = "Income Statement",
-            .subtitle = "Week " + std::to_string(week.week) + ", " + std::to_string(week.year),
-            .theme = Theme::bank};
-  view.add(Figures{.items = {dollars("Net", net, toneOfAmount(net), "Without the pay of a job")},
-                   .style = Figures::Style::large});
-  view.add(incomeOf(statement));
-  view.add(labelIncomeOf(state(), statement));
-  view.add(expensesOf(statement));
+  View view{.title = "Income Statement", .theme = Theme::bank};
   view.help =
       Help{.title = "Income statement",
            .text =
                "The week of your last report, by kind: what its records earned, and what stands in your books as a "
-               "weekly expense.\n\nEvery song's streams are counted here, though only the most streamed song of a "
-               "week pays out."};
+               "weekly expense. The pay of a job and other standing income are not among it.\n\nEvery song's streams "
+               "are counted here, though only the most streamed song of a week pays out."};
+  if (!anyWeekReported(state())) {
+    view.add(EmptyHint{.icon = "document", .text = "No week has ended yet. Your first report fills these lines."});
+    return view;
+  }
+  const CalendarWeek week = reportedWeek(state());
+  const IncomeStatement statement = incomeStatement(state());
+  const double net = statement.income() - statement.expenses();
+  view.subtitle = "Week " + std::to_string(week.week) + ", " + std::to_string(week.year);
+  view.add(Figures{
+      .items = {dollars("Net", net, toneOfAmount(net), "Music, shows and label less standing costs; no job pay")},
+      .style = Figures::Style::large});
+  view.add(incomeOf(statement));
+  view.add(labelIncomeOf(state(), statement));
+  view.add(expensesOf(statement));
   return view;
 }
 

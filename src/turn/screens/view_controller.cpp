@@ -116,7 +116,7 @@ void ViewController::describeMusic(View& view) const {
   if (!state().saveAllChirpList.empty()) {
     view.add(Heading{"From your feed"});
     const Chirp& chirp = state().saveAllChirpList[0];
-    view.add(Post{.picture = person(chirp.artistName),
+    view.add(Post{.picture = portraitOf(state(), chirp),
                   .name = chirp.artistName,
                   .age = chirpAge(chirp, game_.clock.now()),
                   .message = chirp.message,

@@ -5,6 +5,7 @@
 #include "career/contract_end.h"
 #include "core/calendar.h"
 #include "core/money.h"
+#include "core/own_photo.h"
 #include "core/purse.h"
 #include "core/view_words.h"
 #include "label/weekly_label_updates.h"
@@ -48,12 +49,15 @@ Figures incomeOf(const WeeklyReport& report) {
   return income;
 }
 
+double costOf(const WeeklyReport& report) { return report.totalExpenses + report.bonusPaidBack; }
+
 Figures expensesOf(const WeeklyReport& report) {
-  Figures expenses{.title = "Cost", .total = dollars("Total cost", -report.totalExpenses, Tone::plain)};
+  Figures expenses{.title = "Cost", .total = dollars("Total cost", -costOf(report), Tone::plain)};
   addExpense(expenses, "Standing expenses", report.standingExpenses);
   addExpense(expenses, "Family", report.family);
   addExpense(expenses, "Touring", std::max(-report.tour, 0.0));
   addExpense(expenses, "Office", report.labelExpenses);
+  addExpense(expenses, "Signing bonus paid back", report.bonusPaidBack);
   return expenses;
 }
 
@@ -163,7 +167,9 @@ Outcome WeeklySummaryViewController::appear() {
   if (hasAppeared_) return {};
   hasAppeared_ = true;
   Outcome outcome = offerEnergyForRating();
+  const double cash = state().totalCashAvailable;
   outcome += checkContractDeadlines(game_);
+  report_.bonusPaidBack = cash - state().totalCashAvailable;
   outcome += runRelationshipEvents(game_);
   return outcome;
 }
@@ -179,8 +185,12 @@ Outcome WeeklySummaryViewController::act(const Action& action) {
   return {};
 }
 
+bool WeeklySummaryViewController::ratingOfferStands() const {
+  return state().weekNumber == ratingOfferWeek && state().writtenReview == 0;
+}
+
 Outcome WeeklySummaryViewController::offerEnergyForRating() const {
-  if (state().weekNumber != ratingOfferWeek || state().writtenReview != 0) return {};
+  if (!ratingOfferStands()) return {};
   std::vector<AlertButton> buttons;
   for (const char* label : {"It's Awesome! 🥳", "It's Great 😁", "It's Good 🙂", "It's Okay 😬"}) {
     const std::string number = std::to_string(buttons.size());
@@ -194,6 +204,7 @@ Outcome WeeklySummaryViewController::offerEnergyForRating() const {
 }
 
 Outcome WeeklySummaryViewController::answerRatingOffer(int64_t answer) {
+  if (!ratingOfferStands()) return {};
   game_.state.writtenReview += 1;
   game_.save(&GameState::writtenReview);
   earn(game_, ratingOfferGift);
@@ -214,7 +225,8 @@ void WeeklySummaryViewController::describeEvents(View& view) const {
       {&events_.buttonEvent2, "eventButton2"},
       {&events_.buttonEvent3, "eventButton3"},
   };
-  if (events_.buttonEvent1.id == 0) return;
+  if (std::none_of(std::begin(buttons), std::end(buttons), [](const auto& each) { return each.first->shown(); }))
+    return;
   view.add(Heading{"This week's chances"});
   view.add(Tiles{{{.icon = "bolt",
                    .label = "Energy",
@@ -232,9 +244,9 @@ void WeeklySummaryViewController::describeEvents(View& view) const {
 View WeeklySummaryViewController::view() const {
   View view{.title = "Week " + std::to_string(report_.week.week),
             .subtitle = std::to_string(report_.week.year) + " · Weekly report",
-            .picture = person(state().myArtistsName),
+            .picture = artistPicture(state()),
             .theme = Theme::report};
-  const double net = report_.totalRevenue - report_.totalExpenses;
+  const double net = report_.totalRevenue - costOf(report_);
   const int64_t change = game_.launch.weeklyFanChange;
   view.add(Figures{.items = {dollars("Net", net, toneOfAmount(net),
                                      "Cash " + currency(cashBefore_) + " → " + currency(cashBefore_ + net)),

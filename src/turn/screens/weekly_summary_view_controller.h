@@ -23,7 +23,8 @@ class WeeklySummaryViewController final : public Screen {
 
   /// In week 31, until it was answered once: 250 energy for an opinion.
   Outcome offerEnergyForRating() const;
-  /// Any answer gives the energy, over the ceiling too; only the first one asks for the platform's rating.
+  /// Any answer gives the energy, over the ceiling too; only the first one asks for the platform's rating. Nothing
+  /// happens when the offer does not stand.
   Outcome answerRatingOffer(int64_t answer);
   /// The week's side gigs; each button is good for one press and hides whatever comes of it.
   Outcome eventButton1() { return pressEventButton(game_, events_, events_.buttonEvent1); }
@@ -35,6 +36,7 @@ class WeeklySummaryViewController final : public Screen {
   const WeeklyReport& report() const { return report_; }
 
  private:
+  bool ratingOfferStands() const;
   void describeEvents(View& view) const;
 
   WeeklyReport report_;

@@ -13,6 +13,11 @@ const job = {
   kind: "rows",
   items: [{ title: "Guitar", price: { energy: 10, dollars: "$900" }, tone: "locked", id: "buy:1" }],
 };
+const chart = {
+  kind: "rows",
+  columns: ["LAST\nWEEK", "THIS\nWEEK"],
+  items: [{ title: "Copper Sky", value: "12", note: "40" }],
+};
 const genre = { kind: "choice", id: "genre", label: "Genre", options: [{ label: "Pop" }, { label: "Folk" }] };
 const toggle = { kind: "toggle", id: "band", label: "Invite the band" };
 const answer = (more = {}) => ({
@@ -24,7 +29,7 @@ const answer = (more = {}) => ({
     key: 5,
     title: "My Music",
     help: { title: "Songs", text: "What a song is." },
-    blocks: [{ kind: "heading", text: "Songs" }, song, job, genre, toggle],
+    blocks: [{ kind: "heading", text: "Songs" }, song, job, chart, genre, toggle],
     mainAction: { id: "go", label: "Release", price: { energy: 5, affordable: true } },
   },
   ...more,
@@ -173,6 +178,8 @@ test("a screen reader hears rows, prices and alerts in order", async () => {
     'heading "Songs"',
     "Paper Lanterns Single 1,204",
     "Guitar costs 10 energy and $900, more than you have locked",
+    "LAST WEEK THIS WEEK",
+    "Copper Sky 40 12",
     'button "Genre',
     'switch "Invite the band"',
     "Release costs 5 energy",

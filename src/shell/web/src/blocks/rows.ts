@@ -16,8 +16,8 @@ export function rowsBlock(list: Rows, scene: Scene): TemplateResult {
   const end = from + items.length;
   return html`<div class="list ${columns.length > 0 ? "columned" : ""}">
     ${columns.length > 0 ? html`<p class="list-heads">${columns.map((head) => html`<span>${head}</span>`)}</p>` : nothing}
-    ${from > 0 ? turnPage(list, "Earlier", Math.max(0, from - items.length), scene) : nothing}
-    ${styled(list.style ?? "list", items, scene)} ${end < total ? turnPage(list, "More", end, scene) : nothing}
+    ${from > 0 ? turnPage(list, "Earlier", Math.max(0, from - items.length), scene) : nothing} ${styled(list, scene)}
+    ${end < total ? turnPage(list, "More", end, scene) : nothing}
     ${
       total > items.length
         ? html`<p class="text caption">${count(from + 1)} to ${count(end)} of ${count(total)}</p>`
@@ -26,7 +26,7 @@ export function rowsBlock(list: Rows, scene: Scene): TemplateResult {
   </div>`;
 }
 
-function styled(style: NonNullable<Rows["style"]>, items: Row[], scene: Scene): TemplateResult {
+function styled({ style = "list", items = [], columns = [] }: Rows, scene: Scene): TemplateResult {
   switch (style) {
     case "shelf":
       return html`<ul class="shelf">
@@ -52,14 +52,14 @@ function styled(style: NonNullable<Rows["style"]>, items: Row[], scene: Scene): 
         ${items.map((row) => wireLine(row, scene))}
       </ul>`;
     case "list":
-      return grouped(items, scene);
+      return grouped(items, columns.length > 0, scene);
   }
 }
 
-function grouped(items: Row[], scene: Scene): TemplateResult {
+function grouped(items: Row[], underHeads: boolean, scene: Scene): TemplateResult {
   const pictured = items.some((row) => hasPicture(row.picture));
   return html`<ul class="group ${pictured ? "pictured" : ""} ${items.length > longList ? "long" : ""}">
-    ${items.map((row) => html`<li class="row ${toneClass(row.tone)} ${rowLook(row)}">${rowLine(row, scene)}</li>`)}
+    ${items.map((row) => html`<li class="row ${toneClass(row.tone)} ${rowLook(row)}">${rowLine(row, underHeads, scene)}</li>`)}
   </ul>`;
 }
 
@@ -85,22 +85,25 @@ function turnPage(list: Rows, label: string, to: number, scene: Scene): Template
   return html`<button class="button secondary page-turn" type="button" @click=${turn}>${label}</button>`;
 }
 
-function rowLine(row: Row, scene: Scene): TemplateResult {
+function rowLine(row: Row, underHeads: boolean, scene: Scene): TemplateResult {
   const { id, title } = row;
+  const body = rowBody(row, underHeads, scene);
   const lit = id && id === scene.lit ? "true" : nothing;
   return html`
     ${
       id
         ? html`<button class="row-main" type="button" aria-current=${lit} @click=${() => scene.press(id)}>
-            ${rowBody(row, scene)}
+            ${body}
           </button>`
-        : html`<div class="row-main">${rowBody(row, scene)}</div>`
+        : html`<div class="row-main">${body}</div>`
     }
     ${actionMenu(row.actions, title || "this row", scene)}
   `;
 }
 
-function rowBody(row: Row, scene: Scene): TemplateResult {
+function rowBody(row: Row, underHeads: boolean, scene: Scene): TemplateResult {
+  const value = row.value ? html`<span class="row-value" dir="auto">${row.value}</span>` : nothing;
+  const note = row.note ? html`<span class="row-note" dir="auto">${row.note}</span>` : nothing;
   const taken = isTaken(row) && row.selected && hasPicture(row.picture);
   return html`
     ${
@@ -118,10 +121,7 @@ function rowBody(row: Row, scene: Scene): TemplateResult {
     ${spark(row.points)}
     ${
       row.value || row.note
-        ? html`<span class="row-ends">
-            ${row.value ? html`<span class="row-value" dir="auto">${row.value}</span>` : nothing}
-            ${row.note ? html`<span class="row-note" dir="auto">${row.note}</span>` : nothing}
-          </span>`
+        ? html`<span class="row-ends">${underHeads ? [note, value] : [value, note]}</span>`
         : nothing
     }
     ${pricePill(row.price)}
