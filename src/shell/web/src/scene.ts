@@ -25,4 +25,6 @@ export interface Scene {
   readonly theme: Theme;
   press(id: string, value?: string): void;
   open(sheet: SheetContent): void;
+  /** Enter in a field: presses the main button where a text is all that the screen asks for. */
+  confirm(): void;
 }

@@ -14,7 +14,7 @@ import type { Scene, SheetContent } from "../scene";
 import { Stack, type Layer, type Step } from "../stack";
 import "./alert";
 import "./blocks";
-import { dock, moodOf } from "./dock";
+import { dock, moodOf, soleAnswer } from "./dock";
 import { EdgeSwipe } from "./edge-swipe";
 import "./sheet";
 import { shakeEnergy, statusRow } from "./status";
@@ -223,6 +223,10 @@ class AppElement extends LitElement {
           return layer.view?.theme ?? "plain";
         },
         press: (id, value) => this.press(key, id, value),
+        confirm: () => {
+          const id = soleAnswer(layer.view);
+          if (id) this.press(key, id);
+        },
         open: (sheet) => {
           tellDrafts();
           if (!this.alerting) this.sheet = sheet;
@@ -260,6 +264,8 @@ class AppElement extends LitElement {
     const element = this.querySelector<HTMLElement>(".layer.top")!;
     await element.querySelector<LitElement>("bb-blocks")!.updateComplete;
     if (top !== this.stack.top) return;
+    // A new week begins at the top of its screen.
+    if (step.leaving?.view?.theme === "report") element.querySelector(".scroll")!.scrollTop = 0;
     const focused = top.focus?.isConnected ? top.focus : element.querySelector<HTMLElement>("h1");
     focused?.focus({ preventScroll: true });
     const [beneath, leaving] = [".beneath", ".leaving"].map((place) => this.querySelector<HTMLElement>(place));
