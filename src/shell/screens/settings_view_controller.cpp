@@ -4,6 +4,7 @@
 
 #include "core/new_game.h"
 #include "core/view_words.h"
+#include "music/artist_name.h"
 #include "shell/navigator.h"
 
 namespace backbeat {
@@ -25,6 +26,7 @@ Outcome SettingsViewController::act(const Action& action) {
   if (action.id == "restartButton") return restartButton();
   if (action.id == confirmedRestart) return restart();
   if (action.id == "appearance") return chooseAppearance(action.value);
+  if (action.id == "artistName") nameArtist(game_, action.value);
   for (const std::string_view segue :
        {exportCareerSegue, importCareerSegue, std::string_view("goToRestore"),
         std::string_view("goToChangeFeaturedArtistName"), std::string_view("goToChangeCameoNames"),
@@ -64,6 +66,8 @@ View SettingsViewController::view() const {
   }
   view.add(std::move(look));
   view.add(Heading{"Names"});
+  view.add(TextField{
+      .id = "artistName", .label = "Artist name", .value = state().myArtistsName, .placeholder = "Enter a name"});
   view.add(Rows{{wayTo("goToChangeFeaturedArtistName", "guest", "Featured artists", "Rename the guests"),
                  wayTo("goToChangeCameoNames", "video", "Cameos", "Rename the faces in videos")}});
   view.add(Heading{"Your career"});
