@@ -28,7 +28,7 @@ constexpr Segue segues[] = {
 void describeLiving(const Game& game, Row& row) { row.value = currency(-livingExpenses(game.state)); }
 
 void describeStatement(const Game& game, Row& row) {
-  const IncomeStatement statement = incomeStatement(game.state);
+  const IncomeStatement statement = toldStatement(game.state);
   row.subtitle = "Week " + std::to_string(reportedWeek(game.state).week);
   row.value = currency(statement.income() - statement.expenses());
 }

@@ -47,7 +47,7 @@ Figures expensesOf(const IncomeStatement& statement) {
 
 View BalanceSheetViewController::view() const {
   const CalendarWeek week = reportedWeek(state());
-  const IncomeStatement statement = incomeStatement(state());
+  const IncomeStatement statement = toldStatement(state());
   const double net = statement.income() - statement.expenses();
   View view{.title = "Income Statement",
             .subtitle = "Week " + std::to_string(week.week) + ", " + std::to_string(week.year),
