@@ -6,7 +6,7 @@ import { resolve } from "node:path";
 import { after, before, describe, test } from "node:test";
 import { walk } from "../tools/walk.mjs";
 import { openWorld, world } from "../tools/worlds.mjs";
-import { barriers, brokenWords, drawnLate, quiet, tooWide, unreachable } from "./look.mjs";
+import { barriers, brokenWords, cutRings, drawnLate, quiet, tooWide, unreachable } from "./look.mjs";
 import { openGame } from "./open.mjs";
 
 const engine = resolve(import.meta.dirname, "../public/engine.wasm");
@@ -29,7 +29,7 @@ describe("every screen", { skip: !existsSync(engine) && "the engine is not built
         seen.add(name);
         const note = (where, faults) => found.push(...faults.map((fault) => `${name}, ${where}: ${fault}`));
         await quiet(page);
-        note("dark", [...(await barriers(page)), ...(await drawnLate(page))]);
+        note("dark", [...(await barriers(page)), ...(await drawnLate(page)), ...(await cutRings(page))]);
         await page.emulateMedia({ colorScheme: "light" });
         note("light", await barriers(page, "color-contrast"));
         await page.emulateMedia({ colorScheme: "dark" });

@@ -86,7 +86,7 @@ export function brokenWords(page) {
     while (texts.nextNode()) {
       const text = texts.currentNode;
       if (text.parentElement.closest(".unseen") || !text.parentElement.checkVisibility()) continue;
-      for (const { 0: word, index } of text.data.matchAll(/[\p{L}\p{N}$.,%]{2,14}(?=\s|$)/gu)) {
+      for (const { 0: word, index } of text.data.matchAll(/(?<=^|\s)[\p{L}\p{N}$.,%]{2,13}(?=\s|$)/gu)) {
         range.setStart(text, index);
         range.setEnd(text, index + word.length);
         const lines = new Set([...range.getClientRects()].map(({ top }) => Math.round(top)));
