@@ -16,10 +16,6 @@ Outcome EnterNameViewController::act(const Action& action) {
   if (action.id == "name") name_ = action.value;
   if (action.id == "saveButton") return startButton();
   if (action.id == nameless) return saveButton();
-  if (action.id == "dice") {
-    ++diceThrows_;
-    name_ = suggested();
-  }
   if (action.verb() == called) {
     name_ = action.argument();
     return saveButton();
@@ -42,9 +38,9 @@ Outcome EnterNameViewController::saveButton() {
   return successAndClose();
 }
 
-/// Another one at each throw, and another at each beginning.
+/// Another one at each beginning.
 std::string EnterNameViewController::suggested() const {
-  return suggestedStageName(hashOf(std::to_string(game_.clock.now().seconds), diceThrows_));
+  return suggestedStageName(hashOf(std::to_string(game_.clock.now().seconds)));
 }
 
 View EnterNameViewController::view() const {
@@ -53,8 +49,7 @@ View EnterNameViewController::view() const {
       .text = "A microphone, an empty notebook and a city that has not heard of you yet. Every legend starts with a "
               "name.",
       .style = Text::Style::lead});
-  view.add(TextField{
-      .id = "name", .label = "Artist name", .value = name_, .placeholder = "Enter a name", .suggest = "dice"});
+  view.add(TextField{.id = "name", .label = "Artist name", .value = name_, .placeholder = "Enter a name"});
   view.mainAction = Button{.id = "saveButton", .label = "Start the career", .style = Button::Style::primary};
   return view;
 }

@@ -19,7 +19,6 @@ class EnterNameViewController final : public Screen {
   std::string suggested() const;
 
   std::string name_;
-  uint64_t diceThrows_ = 0;
 };
 
 }  // namespace backbeat
