@@ -30,16 +30,20 @@ int64_t albumCertificationTier(const Album& album) {
   return album.albumAward >= 1 && album.albumAward <= diamond ? album.albumAward : 0;
 }
 
+int64_t streamsForTier(int64_t tier) { return songTiers[tier - 1].upTo + 1; }
+
+int64_t copiesForTier(int64_t tier) { return albumUnits[static_cast<size_t>(tier - 1)]; }
+
 std::optional<int64_t> nextSongCertification(int64_t totalListen) {
   const int64_t tier = songCertificationTier(totalListen);
   if (tier == diamond) return std::nullopt;
-  return songTiers[tier].upTo + 1;
+  return streamsForTier(tier + 1);
 }
 
 std::optional<int64_t> nextAlbumCertification(const Album& album) {
   const int64_t tier = albumCertificationTier(album);
   if (tier == diamond) return std::nullopt;
-  return albumUnits[static_cast<size_t>(tier)];
+  return copiesForTier(tier + 1);
 }
 
 CertificationCounts countCertifications(const GameState& state) {

@@ -17,6 +17,10 @@ int64_t songCertificationTier(int64_t totalListen);
 /// The stored tier; anything that is no tier counts as black.
 int64_t albumCertificationTier(const Album& album);
 
+/// Streams of a song, or copies of an album, that make tier 1 to 5.
+int64_t streamsForTier(int64_t tier);
+int64_t copiesForTier(int64_t tier);
+
 /// Streams or units that the next tier asks for; nothing at diamond.
 std::optional<int64_t> nextSongCertification(int64_t totalListen);
 std::optional<int64_t> nextAlbumCertification(const Album& album);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -26,7 +27,8 @@ inline constexpr std::array<std::string_view, 60> secondTitleWords = {
     "Valley",  "Whisper", "Youth",    "Zero",    "Confession", "Daylight", "Exit",    "Forever", "Glow",     "Mirage",
 };
 
-/// A title by hash, for a dice that suggests: the same salt gives the same title, and no random draw is spent.
-std::string suggestedTitle(uint64_t salt);
+/// A title for the dice: of one song or album, told by its number, and of one throw, from 1. Ten throws that follow
+/// each other begin with ten words. No random draw is spent.
+std::string suggestedTitle(int64_t number, int64_t nth);
 
 }  // namespace backbeat

@@ -1,5 +1,7 @@
 #include "turn/income_statement.h"
 
+#include <cmath>
+
 #include "career/ledger.h"
 #include "core/week_rows.h"
 #include "turn/weekly_report.h"
@@ -82,6 +84,17 @@ IncomeStatement incomeStatement(const GameState& state) {
   addIncome(state, statement);
   addExpenses(state, statement);
   return statement;
+}
+
+IncomeStatement toldStatement(const GameState& state) {
+  IncomeStatement told = incomeStatement(state);
+  for (double* line :
+       {&told.albums, &told.streams, &told.touring, &told.featuredStreams, &told.flatFees, &told.festival,
+        &told.labelAlbums, &told.labelStreams, &told.merch, &told.videos, &told.insurance, &told.officeStaff,
+        &told.merchandise, &told.lifestyle, &told.propertyTax, &told.family, &told.officePerks, &told.officeRent}) {
+    *line = std::nearbyint(*line);
+  }
+  return told;
 }
 
 }  // namespace backbeat

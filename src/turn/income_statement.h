@@ -35,4 +35,7 @@ struct IncomeStatement {
 
 IncomeStatement incomeStatement(const GameState& state);
 
+/// Each line rounded once, as it is told: what is summed up from them agrees to the dollar.
+IncomeStatement toldStatement(const GameState& state);
+
 }  // namespace backbeat

@@ -32,7 +32,7 @@ void describeStatement(const Game& game, Row& row) {
     row.subtitle = "After your first week";
     return;
   }
-  const IncomeStatement statement = incomeStatement(game.state);
+  const IncomeStatement statement = toldStatement(game.state);
   row.subtitle = "Week " + std::to_string(reportedWeek(game.state).week) + ", without job pay";
   row.value = currency(statement.income() - statement.expenses());
 }

@@ -114,9 +114,7 @@ Standings studioFigures(Game& twin) {
   for (const StudioPart& part : studioParts) {
     const std::string where(part.title);
     const int64_t level = state.*part.level;
-    standings.push_back({where, std::to_string(level)});
-    standings.push_back({where + ": note", "of 20"});
-    standings.push_back({where + ": subtitle", "+1 studio rating"});
+    standings.push_back({where + ": subtitle", "Level " + std::to_string(level) + " of 20"});
     standings.push_back({where + ": price", currency(static_cast<double>(level) * part.basePrice)});
     standings.push_back({where + ": share", shareText(static_cast<double>(level) / 20)});
   }

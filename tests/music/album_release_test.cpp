@@ -254,5 +254,21 @@ TEST(MusicScreen, MakingAnAlbumLetsNoNumberGoBy) {
   EXPECT_EQ(world.state.albumId, 1);
 }
 
+TEST(MusicScreen, GoesOnToTheAlbumThatWasJustMade) {
+  World world;
+  world.state.promptToEnterName = 1;
+  world.settle();
+  MusicViewController screen(world.game);
+  screen.act({"createAlbumButton", ""});
+  EXPECT_FALSE(screen.appear().go.has_value());
+  screen.act({"createAlbumButton", ""});
+  createAlbum(world.game, "First Light", "");
+  const Outcome way = screen.appear();
+  ASSERT_TRUE(way.go.has_value());
+  EXPECT_EQ(way.go->segue, "goToAlbumDetail");
+  EXPECT_EQ(way.go->argument, std::to_string(world.state.saveAllAlbumList.back().albumId));
+  EXPECT_FALSE(screen.appear().go.has_value());
+}
+
 }  // namespace
 }  // namespace backbeat

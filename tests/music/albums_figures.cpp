@@ -29,6 +29,7 @@ Standings albumInProductionFigures(Game& twin) {
                    {"Production rating: share", shareText(album.productionRating / 100)},
                    {"text", counted(fewestSongsOnAlbum - album.songCount, "more song") + " and it can come out."},
                    {"button", "SET PRICING (" + price(album.price) + ")"},
+                   {"MARKETING", withDecimals(album.marketingScore, 0), "goToSetAlbumMarketing 23"},
                    {"RELEASE: price", priceText(albumReleaseCost)}} +
          songFigures(state, "Night Bus");
 }

@@ -1,6 +1,8 @@
 // Tables of words, people and pictures: as many as the rules count on, no line empty, none twice.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <deque>
 #include <set>
 #include <string>
 
@@ -34,6 +36,20 @@ TEST(Pools, HoldEnoughAndNothingTwice) {
   expectDistinct(secondTitleWords, 60);
   expectDistinct(genres, 16);
   expectDistinct(albumCoverNames, 24);
+}
+
+TEST(Pools, TenTitlesOfTheDiceBeginWithTenWords) {
+  for (const int64_t throwsEach : {1, 2, 3, 10}) {
+    std::deque<std::string> last;
+    for (int64_t i = 0; i < 200; ++i) {
+      const std::string title = suggestedTitle(40 + i / throwsEach, 1 + i % throwsEach);
+      const std::string first = title.substr(0, title.find(' '));
+      EXPECT_NE(title, first + " " + first);
+      EXPECT_EQ(std::count(last.begin(), last.end(), first), 0) << title;
+      last.push_back(first);
+      if (last.size() == 10) last.pop_front();
+    }
+  }
 }
 
 TEST(Pools, GuestsAndCameosAreDifferentPeopleThatCostMoreTheBetterTheyAre) {

@@ -31,16 +31,31 @@ Standings albumTabFigures(Game& twin) {
          albumFigures(state, "Old Coats") + albumFigures(state, "Third Rail");
 }
 
+/// How often each metal was won, and where it never was, what it takes.
+struct Metal {
+  const char* name;
+  int64_t albums;
+  int64_t songs;
+  const char* copies;
+  const char* streams;
+};
+
 Standings certificationsFigures(Game& twin) {
   const GameState& state = twin.state;
   const CertificationCounts counts = countCertifications(state);
-  Standings standings = {
-      {"Diamond", withCommas(counts.diamondAlbums)},    {"Platinum", withCommas(counts.platinumAlbums)},
-      {"Gold", withCommas(counts.goldAlbums)},          {"Silver", withCommas(counts.silverAlbums)},
-      {"Bronze", withCommas(counts.bronzeAlbums)},      {"Black", withCommas(counts.blackAlbums)},
-      {"Diamond (2)", withCommas(counts.diamondSongs)}, {"Platinum (2)", withCommas(counts.platinumSongs)},
-      {"Gold (2)", withCommas(counts.goldSongs)},       {"Silver (2)", withCommas(counts.silverSongs)},
-      {"Bronze (2)", withCommas(counts.bronzeSongs)},   {"Black (2)", withCommas(counts.blackSongs)}};
+  const Metal metals[] = {{"Diamond", counts.diamondAlbums, counts.diamondSongs, "at 10.0M", "at 1.5B"},
+                          {"Platinum", counts.platinumAlbums, counts.platinumSongs, "at 1.0M", "at 150.0M"},
+                          {"Gold", counts.goldAlbums, counts.goldSongs, "at 500K", "at 75.0M"},
+                          {"Silver", counts.silverAlbums, counts.silverSongs, "at 250K", "at 37.5M"},
+                          {"Bronze", counts.bronzeAlbums, counts.bronzeSongs, "at 125K", "at 18.7M"}};
+  Standings standings = {{"Black", withCommas(counts.blackAlbums)}, {"Black (2)", withCommas(counts.blackSongs)}};
+  for (const Metal& metal : metals) {
+    const std::string name = metal.name;
+    standings.push_back({name, withCommas(metal.albums)});
+    standings.push_back({name + " (2)", withCommas(metal.songs)});
+    if (metal.albums == 0) standings.push_back({name + ": note", metal.copies});
+    if (metal.songs == 0) standings.push_back({name + (metal.albums == 0 ? ": note (2)" : ": note"), metal.streams});
+  }
   return standings + certificationFigures("Tin Roof", songTitled(state, "Tin Roof").totalListen, "Silver", 37'500'150) +
          certificationFigures("Glass Harbour", songTitled(state, "Glass Harbour").totalListen, "Gold", 75'000'150) +
          certificationFigures("Fever Line", songTitled(state, "Fever Line").totalListen, "Platinum", 150'000'150);

@@ -35,6 +35,8 @@ Standings songInProductionFigures(Game& twin) {
           {"button (2)", "Virality +0.5"},
           {"Virality +0.5: price", priceText(*viralityBoostCost(song))},
           {"Announce on Chirp: price", "5 energy"},
+          {"Marketing", withDecimals(song.marketingScore, 0), "goToSetSongMarketing 21"},
+          {"Add to Album", "", "goToAddToAlbum 21"},
           {"RELEASE: price", priceText(releaseCost)}};
 }
 
@@ -90,12 +92,12 @@ Standings guestFigures(Game& twin) {
                          {"Nova Reed: subtitle",
                           "Rating " + withDecimals(nova.rating, 0) + " · Virality " + withDecimals(nova.virality, 0)}};
   for (const FeaturedArtist& guest : guestTable(state)) {
+    const bool isShy = guest.minimumRating > overallSkillRating(state);
     standings.push_back({guest.name + ": subtitle",
-                         "Rating " + withDecimals(guest.rating, 0) + " · Virality " + withDecimals(guest.virality, 0)});
+                         "Rating " + withDecimals(guest.rating, 0) + " · Virality " + withDecimals(guest.virality, 0) +
+                             (isShy ? "\nAsks for a skill of " + std::to_string(guest.minimumRating) : "")});
     standings.push_back({guest.name + ": price",
                          priceText({0, std::trunc(static_cast<double>(guest.cost) * state.contractFeatureDiscount)})});
-    if (guest.minimumRating > overallSkillRating(state))
-      standings.push_back({guest.name + ": note", "Skill " + std::to_string(guest.minimumRating)});
   }
   return standings;
 }

@@ -7,8 +7,9 @@ namespace {
 std::vector<ScreenFigures> screens() {
   return {{.segue = "goToSettings",
            .figures =
-               [](Game&) {
-                 return Standings{{"Featured artists", "", "goToChangeFeaturedArtistName"},
+               [](Game& twin) {
+                 return Standings{{"Artist name", twin.state.myArtistsName},
+                                  {"Featured artists", "", "goToChangeFeaturedArtistName"},
                                   {"Cameos", "", "goToChangeCameoNames"},
                                   {"Export", "", "exportCareer"},
                                   {"Import", "", "importCareer"},

@@ -1,9 +1,14 @@
+#include <cmath>
+
 #include "core/money.h"
 #include "turn/figures.h"
 
 namespace backbeat {
 
 namespace {
+
+/// A line is rounded once, and what is summed up from lines agrees with them.
+double told(double amount) { return std::nearbyint(amount); }
 
 /// The lines of the statement, in dollars.
 struct Statement {
@@ -14,40 +19,46 @@ struct Statement {
 };
 
 Statement statementOf(const GameState& state) {
-  const double albums = earned(state.saveAllWeeklyAlbumSales, state, &WeeklyAlbumSales::albumRevenue);
-  const double streams = earned(state.saveAllWeeklySongListens, state, &WeeklySongListens::totalStreamRevenue);
-  const double touring = earned(state.saveAllWeeklyTourSales, state, &WeeklyTourSales::tourRevenue);
+  const double albums = told(earned(state.saveAllWeeklyAlbumSales, state, &WeeklyAlbumSales::albumRevenue));
+  const double streams = told(earned(state.saveAllWeeklySongListens, state, &WeeklySongListens::totalStreamRevenue));
+  const double touring = told(earned(state.saveAllWeeklyTourSales, state, &WeeklyTourSales::tourRevenue));
   const double verses =
-      earned(state.saveAllFeaturedOnWeeklySongListens, state, &FeaturedOnWeeklySongListens::totalStreamRevenue);
-  const double fee = state.saveAllFeaturedOnList[0].flatFee;
-  const double festival = state.saveAllFestivalList[0].payment;
-  const double videos = earned(state.saveAllWeeklyVideoViews, state, &WeeklyVideoViews::totalViewRevenue);
+      told(earned(state.saveAllFeaturedOnWeeklySongListens, state, &FeaturedOnWeeklySongListens::totalStreamRevenue));
+  const double fee = told(state.saveAllFeaturedOnList[0].flatFee);
+  const double festival = told(state.saveAllFestivalList[0].payment);
+  const double videos = told(earned(state.saveAllWeeklyVideoViews, state, &WeeklyVideoViews::totalViewRevenue));
   // What the label pays past the salaries counts as lifestyle: intended.
-  const double lifestyle = livingCosts(state) + entry(state, "Label campaign");
-  const double family = state.saveAllChildList[0].weeklyFinancialCost;
-  const double perks = 3 * state.labelOfficePerkSpend;
-  return {albums + streams + touring + verses + fee + festival + merchOf(state) + videos,
-          labelAlbums(state) + labelStreams(state),
-          lifestyle + family + perks + state.labelOfficeRent + entry(state, "Insurance of the boat") +
-              entry(state, "Tax of the villa") + entry(state, "Pay of the manager") + entry(state, "Web shop"),
+  const double lifestyle = told(livingCosts(state) + entry(state, "Label campaign"));
+  const double family = told(state.saveAllChildList[0].weeklyFinancialCost);
+  const double merch = told(merchOf(state));
+  const double ofLabel[] = {told(labelAlbums(state)), told(labelStreams(state))};
+  const double insurance = told(entry(state, "Insurance of the boat"));
+  const double tax = told(entry(state, "Tax of the villa"));
+  const double staff = told(entry(state, "Pay of the manager"));
+  const double shop = told(entry(state, "Web shop"));
+  const double rent = told(state.labelOfficeRent);
+  const double perks = told(3 * state.labelOfficePerkSpend);
+  return {albums + streams + touring + verses + fee + festival + merch + videos,
+          ofLabel[0] + ofLabel[1],
+          lifestyle + family + perks + rent + insurance + tax + staff + shop,
           {{"Albums", currency(albums)},
            {"Streams", currency(streams)},
            {"Touring", currency(touring)},
            {"Featured on", currency(verses)},
            {"Flat fees", currency(fee)},
            {"Festival", currency(festival)},
-           {"Merch", currency(merchOf(state))},
+           {"Merch", currency(merch)},
            {"Music videos", currency(videos)},
-           {"Albums (+12.5%)", currency(labelAlbums(state))},
-           {"Streams (+12.5%)", currency(labelStreams(state))},
+           {"Albums (+12.5%)", currency(ofLabel[0])},
+           {"Streams (+12.5%)", currency(ofLabel[1])},
            {"Lifestyle", currency(-lifestyle)},
            {"Family", currency(-family)},
-           {"Insurance", currency(-entry(state, "Insurance of the boat"))},
-           {"Property tax", currency(-entry(state, "Tax of the villa"))},
-           {"Merchandise", currency(-entry(state, "Web shop"))},
-           {"Office staff", currency(-entry(state, "Pay of the manager"))},
+           {"Insurance", currency(-insurance)},
+           {"Property tax", currency(-tax)},
+           {"Merchandise", currency(-shop)},
+           {"Office staff", currency(-staff)},
            {"Office perks", currency(-perks)},
-           {"Office rent", currency(-state.labelOfficeRent)}}};
+           {"Office rent", currency(-rent)}}};
 }
 
 Standings statementFigures(Game& twin) {

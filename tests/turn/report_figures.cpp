@@ -1,3 +1,6 @@
+#include <cmath>
+#include <numeric>
+
 #include "core/money.h"
 #include "turn/figures.h"
 #include "turn/week_cycle.h"
@@ -19,6 +22,14 @@ Standings songWeek(const GameState& state, const char* title, const char* badge)
   return weekFigures(title, week.albumTitle, week.songListens, badge);
 }
 
+double sumOf(const std::vector<double>& amounts) { return std::accumulate(amounts.begin(), amounts.end(), 0.0); }
+
+/// Of the amounts as they are told, in whole dollars.
+double toldSumOf(std::vector<double> amounts) {
+  for (double& amount : amounts) amount = std::nearbyint(amount);
+  return sumOf(amounts);
+}
+
 Standings reportFigures(Game& twin) {
   const GameState& state = twin.state;
   const auto paper = state.saveAllWeeklySongListens.historyOf(songTitled(state, "Paper Boats").songId);
@@ -34,17 +45,18 @@ Standings reportFigures(Game& twin) {
   const double rent = entry(state, "Rent of the flat");
   double costs = 0;
   for (const Entry& one : entries) costs += one.isExpense ? entry(state, one.title) : 0;
-  const double revenue =
-      streams + albums + videos + touring + festival + verses + merchOf(state) + label + state.weeklyJobIncome + rent;
-  const double expenses = costs + family + office;
+  const std::vector<double> income = {
+      streams, albums, videos, touring, festival, verses, merchOf(state), label, state.weeklyJobIncome, rent};
+  const std::vector<double> expenses = {costs, family, office};
+  const double net = sumOf(income) - sumOf(expenses);
   const double cash = state.totalCashAvailable;
   const auto sales = state.saveAllWeeklyAlbumSales.historyOf(20);
   const int64_t fans = twin.launch.weeklyFanChange;
   return Standings{{"title", "Week 36"},
                    {"subtitle", "2049 · Weekly report"},
                    {"card", "🎉 “Paper Boats” is number one!"},
-                   {"Net", currency(revenue - expenses)},
-                   {"Net: note", "Cash " + currency(cash) + " → " + currency(cash + revenue - expenses)},
+                   {"Net", currency(toldSumOf(income) - toldSumOf(expenses))},
+                   {"Net: note", "Cash " + currency(cash) + " → " + currency(cash + net)},
                    {"Listeners", (fans > 0 ? "+" : "") + withCommas(fans) + " FANS"},
                    {"Listeners: note", withCommas(state.totalFans) + " monthly listeners"},
                    {"Harbour Bowl", withCommas(state.saveAllWeeklyTourSales[1].seatsSold)},
@@ -63,14 +75,14 @@ Standings reportFigures(Game& twin) {
                    {"My label", currency(label)},
                    {"Job", currency(state.weeklyJobIncome)},
                    {"Standing income", currency(rent)},
-                   {"Total revenue", currency(revenue)},
+                   {"Total revenue", currency(toldSumOf(income))},
                    {"Standing expenses", currency(-costs)},
                    {"Family", currency(-family)},
                    {"Office", currency(-office)},
-                   {"Total cost", currency(-expenses)},
+                   {"Total cost", currency(-toldSumOf(expenses))},
                    {"Energy", std::to_string(state.totalEnergyAvailable)},
                    {"Energy: note", "of " + std::to_string(state.totalEnergyMax)},
-                   {"Cash", currency(cash + revenue - expenses)}} +
+                   {"Cash", currency(cash + net)}} +
          songWeek(state, "Paper Boats", "#1") + songWeek(state, "Fever Line", "DEBUT") +
          songWeek(state, "Glass Harbour", "PEAK") + songWeek(state, "Tin Roof", "CERTIFIED") +
          songWeek(state, "Small Hours", "RECORD") +

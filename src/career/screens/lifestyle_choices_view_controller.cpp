@@ -73,7 +73,13 @@ View LifestyleChoicesViewController::view() const {
     rows.items.push_back(optionRow(*category_, i, entry ? entry->title : ""));
   }
   view.add(std::move(rows));
-  view.add(Button{.id = "clearExpense", .label = "Clear Expense", .style = Button::Style::destructive});
+  Button clear{.id = "clearExpense", .label = "Clear Expense"};
+  if (entry) {
+    clear.style = Button::Style::destructive;
+  } else {
+    clear.tone = Tone::locked;
+  }
+  view.add(std::move(clear));
   view.help =
       Help{.title = "How you live",
            .text =

@@ -14,17 +14,14 @@ Row partRow(const GameState& state, const StudioPart& part) {
   const int64_t level = state.*part.level;
   Row row{.picture = icon(std::string(part.icon)),
           .title = std::string(part.title),
-          .value = std::to_string(level),
-          .note = "of " + std::to_string(highestStudioLevel),
+          .subtitle = "Level " + std::to_string(level) + " of " + std::to_string(highestStudioLevel),
           .share = shareOf(level, highestStudioLevel),
           .id = "upgradeStudio:" + std::string(part.key)};
   if (level >= highestStudioLevel) {
-    row.subtitle = "Finished";
     row.badge = "MAX";
     row.tone = Tone::good;
     return row;
   }
-  row.subtitle = "+1 studio rating";
   row.price = upgradeCost(state, part);
   return row;
 }

@@ -61,9 +61,14 @@ void AlbumDetailViewController::describeProduction(View& view, const Album& albu
     view.add(Text{.text = counted(missing, "more song") + " and it can come out.", .tone = Tone::warning});
   }
   view.add(Button{.id = "pricingButton", .label = "SET PRICING (" + price(album.price) + ")"});
-  view.add(Button{.id = "marketingButton", .label = "MARKETING"});
-  view.mainAction =
-      Button{.id = "releaseButton", .label = "RELEASE", .price = albumReleaseCost, .style = Button::Style::primary};
+  view.add(Rows{{wayTo("marketingButton", "megaphone", "MARKETING", "Brings listeners once it is out",
+                       withDecimals(album.marketingScore, 0))}});
+  view.mainAction = Button{.id = "releaseButton", .label = "RELEASE", .price = albumReleaseCost};
+  if (album.songCount < fewestSongsOnAlbum) {
+    view.mainAction->tone = Tone::locked;
+  } else {
+    view.mainAction->style = Button::Style::primary;
+  }
   view.help =
       Help{.title = "Before the release",
            .text =

@@ -15,16 +15,22 @@ constexpr size_t inReachShown = 3;
 
 using Counts = std::array<int64_t, certificationTiers>;
 
-/// The brightest first; two rows of three.
-void addTiles(View& view, const Counts& counts) {
+/// Black is no metal: it is what every record begins as.
+constexpr std::array<const char*, certificationTiers> trophies = {"album",  "bronzeTrophy",   "silverTrophy",
+                                                                  "trophy", "platinumTrophy", "diamondTrophy"};
+
+/// The brightest first; two rows of three. One that was never won is hollow and tells what it takes.
+void addTiles(View& view, const Counts& counts, int64_t (*asks)(int64_t tier)) {
   for (int64_t row = 1; row >= 0; --row) {
     Tiles tiles;
     for (int64_t tier = row * 3 + 2; tier >= row * 3; --tier) {
       const int64_t count = counts[static_cast<size_t>(tier)];
-      tiles.items.push_back({.icon = "trophy",
-                             .label = std::string(certificationName(tier)),
-                             .value = withCommas(count),
-                             .tone = tier > 0 && count > 0 ? Tone::good : Tone::plain});
+      Tile tile{.icon = trophies[static_cast<size_t>(tier)],
+                .label = std::string(certificationName(tier)),
+                .value = withCommas(count)};
+      if (count == 0) tile.tone = Tone::locked;
+      if (count == 0 && tier > 0) tile.note = "at " + abbreviated(static_cast<double>(asks(tier)));
+      tiles.items.push_back(std::move(tile));
     }
     view.add(std::move(tiles));
   }
@@ -54,11 +60,15 @@ View CertificationViewController::view() const {
   View view{.title = "Certifications"};
   const CertificationCounts counts = countCertifications(state());
   view.add(Heading{"Albums"});
-  addTiles(view, {counts.blackAlbums, counts.bronzeAlbums, counts.silverAlbums, counts.goldAlbums,
-                  counts.platinumAlbums, counts.diamondAlbums});
+  addTiles(view,
+           {counts.blackAlbums, counts.bronzeAlbums, counts.silverAlbums, counts.goldAlbums, counts.platinumAlbums,
+            counts.diamondAlbums},
+           copiesForTier);
   view.add(Heading{"Songs"});
-  addTiles(view, {counts.blackSongs, counts.bronzeSongs, counts.silverSongs, counts.goldSongs, counts.platinumSongs,
-                  counts.diamondSongs});
+  addTiles(view,
+           {counts.blackSongs, counts.bronzeSongs, counts.silverSongs, counts.goldSongs, counts.platinumSongs,
+            counts.diamondSongs},
+           streamsForTier);
   describeInReach(view, state());
   view.help =
       Help{.title = "What counts",

@@ -4,7 +4,7 @@
 
 #include "core/case_folding.h"
 #include "core/money.h"
-#include "core/random.h"
+#include "core/purse.h"
 #include "core/view_words.h"
 #include "music/covers.h"
 #include "music/genres.h"
@@ -19,19 +19,25 @@ constexpr int64_t songsThatFillAnAlbum = 20;
 constexpr std::array<const char*, 3> choiceIds = {"writing", "musicality", "studio"};
 constexpr std::array<const char*, 3> choiceLabels = {"Songwriting", "Musicality", "Studio"};
 
-/// Ratings are coloured below 25, 50, 80 and above.
-Tone toneOfRating(int64_t rating) {
-  if (rating < 25) return Tone::bad;
+constexpr int64_t weak = 25;
+
+/// Weak is red only for whom something better is within reach.
+Tone toneOfRating(int64_t rating, bool betterInReach) {
+  if (rating < weak) return betterInReach ? Tone::bad : Tone::plain;
   if (rating < 50) return Tone::warning;
   if (rating < 80) return Tone::plain;
   return Tone::good;
 }
 
-Choice describe(size_t list, const std::vector<ProductionOption>& options, size_t chosen) {
+Choice describe(const GameState& state, size_t list, const std::vector<ProductionOption>& options, size_t chosen) {
+  const bool betterInReach = std::any_of(options.begin(), options.end(), [&](const ProductionOption& option) {
+    return option.rating >= weak && hasCash(state, {.dollars = static_cast<double>(option.cost)});
+  });
   Choice choice{.id = choiceIds[list], .label = choiceLabels[list], .selected = static_cast<int64_t>(chosen)};
   for (const ProductionOption& option : options) {
-    Option shown{
-        .label = option.name, .note = "Rating | " + std::to_string(option.rating), .tone = toneOfRating(option.rating)};
+    Option shown{.label = option.name,
+                 .note = "Rating | " + std::to_string(option.rating),
+                 .tone = toneOfRating(option.rating, betterInReach)};
     if (option.cost > 0) shown.price = Price{.dollars = static_cast<double>(option.cost)};
     choice.options.push_back(std::move(shown));
   }
@@ -60,7 +66,7 @@ Outcome CreateASongViewController::act(const Action& action) {
   if (action.id == "createSongButton") return createSongButton();
   if (action.id == "goToFeaturedArtists") return goTo(action.id);
   if (action.id == "title") title_ = action.value;
-  if (action.id == "dice") title_ = suggestedTitle(hashOf(std::to_string(state().songId), ++diceThrows_));
+  if (action.id == "dice") title_ = suggestedTitle(state().songId, ++diceThrows_);
   if (action.id == "explicit") isExplicit_ = action.value == "1";
   for (size_t list = 0; list < choiceIds.size(); ++list) {
     if (action.id != choiceIds[list]) continue;
@@ -120,7 +126,7 @@ View CreateASongViewController::view() const {
       TextField{.id = "title", .label = "Title", .value = title_, .placeholder = "Name your song", .suggest = "dice"});
   view.add(Heading{"Production"});
   for (size_t list = 0; list < choiceIds.size(); ++list) {
-    view.add(describe(list, listOf(options_, list), chosen_[list]));
+    view.add(describe(state(), list, listOf(options_, list), chosen_[list]));
   }
   view.add(Heading{"Guests"});
   Row guests = wayTo("goToFeaturedArtists", "guest", "Featured artists");

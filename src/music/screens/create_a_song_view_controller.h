@@ -33,7 +33,7 @@ class CreateASongViewController final : public Screen {
   std::string albumLabel_ = "Single";
   int64_t genre_ = 0;
   bool isExplicit_ = false;
-  uint64_t diceThrows_ = 0;
+  int64_t diceThrows_ = 0;
 };
 
 }  // namespace backbeat

@@ -18,7 +18,7 @@ Outcome CreateAnAlbumViewController::open() {
 Outcome CreateAnAlbumViewController::act(const Action& action) {
   if (action.id == "createAlbumButton") return createAlbumButton();
   if (action.id == "title") title_ = action.value;
-  if (action.id == "dice") title_ = suggestedTitle(hashOf("album " + std::to_string(state().albumId), ++diceThrows_));
+  if (action.id == "dice") title_ = suggestedTitle(state().albumId, ++diceThrows_);
   if (action.id == "photo") return takePhoto(action.value);
   if (action.verb() == "cover") {
     if (const auto number = optionNumber(action.argument(), albumCoverNames.size())) {

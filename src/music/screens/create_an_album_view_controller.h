@@ -24,7 +24,7 @@ class CreateAnAlbumViewController final : public Screen {
   std::string title_;
   std::string photo_;  ///< data: address, or "" for a generated cover
   size_t cover_ = 0;
-  uint64_t diceThrows_ = 0;
+  int64_t diceThrows_ = 0;
 };
 
 }  // namespace backbeat

@@ -1,22 +1,47 @@
 #include "music/screens/enter_name_view_controller.h"
 
-#include "core/calendar.h"
 #include "core/own_photo.h"
+#include "core/random.h"
+#include "music/artist_name.h"
 
 namespace backbeat {
 
+namespace {
+
+constexpr const char* nameless = "startNameless";
+constexpr std::string_view called = "startCalled";
+
+}  // namespace
+
 Outcome EnterNameViewController::act(const Action& action) {
   if (action.id == "name") name_ = action.value;
-  if (action.id == "saveButton") return saveButton();
+  if (action.id == "saveButton") return startButton();
+  if (action.id == nameless) return saveButton();
+  if (action.verb() == called) {
+    name_ = action.argument();
+    return saveButton();
+  }
   return {};
 }
 
+/// Whoever has no name yet is asked for one first, and may go without.
+Outcome EnterNameViewController::startButton() {
+  if (!name_.empty()) return saveButton();
+  const std::string offered = suggested();
+  Outcome question = ask<"🎤 No Name Yet 🎤">("\nNobody can ask for your songs without one. How about " + offered + "?",
+                                            "Close", {"Be " + offered, {std::string(called) + ":" + offered, ""}});
+  question.alerts.back().buttons.push_back({"Start Without", {nameless, ""}});
+  return question;
+}
+
 Outcome EnterNameViewController::saveButton() {
-  game_.state.myArtistsName = name_;
-  game_.state.promptToEnterName = 1;
-  game_.save(&GameState::myArtistsName, &GameState::promptToEnterName);
-  stateChanged(game_);
+  nameArtist(game_, name_);
   return successAndClose();
+}
+
+/// Another one at each beginning.
+std::string EnterNameViewController::suggested() const {
+  return suggestedStageName(hashOf(std::to_string(game_.clock.now().seconds)));
 }
 
 View EnterNameViewController::view() const {

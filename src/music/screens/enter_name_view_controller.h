@@ -11,10 +11,13 @@ class EnterNameViewController final : public Screen {
   Outcome act(const Action& action) override;
   View view() const override;
 
-  /// Takes the field's text as it stands: nothing is trimmed, and an empty name is accepted, on purpose.
+  /// Takes the field's text as it stands, see nameArtist.
   Outcome saveButton();
 
  private:
+  Outcome startButton();
+  std::string suggested() const;
+
   std::string name_;
 };
 

@@ -112,7 +112,7 @@ View FeaturingViewController::view() const {
     row.price = guestCost(state(), guest);
     if (guest.minimumRating > skill) {
       row.tone = Tone::locked;
-      row.note = "Skill " + std::to_string(guest.minimumRating);
+      row.subtitle += "\nAsks for a skill of " + std::to_string(guest.minimumRating);
     }
     guests.items.push_back(std::move(row));
   }

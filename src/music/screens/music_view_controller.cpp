@@ -1,6 +1,7 @@
 #include "music/screens/music_view_controller.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "career/ledger.h"
 #include "core/menu.h"
@@ -17,6 +18,8 @@ namespace backbeat {
 namespace {
 
 constexpr std::string_view oldSongListKey = "AllSongList";
+/// Below a longer list nobody would find the menu.
+constexpr size_t shortList = 4;
 
 template <class T>
 std::vector<size_t> positionsWhere(const RecordList<T>& list, bool released) {
@@ -52,7 +55,7 @@ Outcome MusicViewController::open() {
 
 Outcome MusicViewController::appear() {
   if (game_.state.promptToEnterName == 0) return goTo("goToEnterName");
-  return {};
+  return toNewAlbum();
 }
 
 Outcome MusicViewController::act(const Action& action) {
@@ -76,7 +79,18 @@ Outcome MusicViewController::createSongButton() {
   return goTo("goToCreateASong");
 }
 
-Outcome MusicViewController::createAlbumButton() const { return goTo("goToCreateAnAlbum"); }
+Outcome MusicViewController::createAlbumButton() {
+  albumIdBefore_ = state().albumId;
+  return goTo("goToCreateAnAlbum");
+}
+
+Outcome MusicViewController::toNewAlbum() {
+  const auto before = std::exchange(albumIdBefore_, std::nullopt);
+  const RecordList<Album>& albums = state().saveAllAlbumList;
+  if (!before || albums.empty() || albums.back().albumId <= *before) return {};
+  showsAlbums_ = true;
+  return goTo("goToAlbumDetail", std::to_string(albums.back().albumId));
+}
 
 View MusicViewController::view() const {
   View view{.title = "Music",
@@ -89,6 +103,8 @@ View MusicViewController::view() const {
                   .style = Button::Style::primary,
                   .pulse = state().loginCount == 0});
   view.add(Button{.id = "createAlbumButton", .label = "Create an Album"});
+  const bool menuFirst = state().saveAllSongList.size() > shortList;
+  if (menuFirst) addMenu(view, game_, musicTab);
   view.add(Choice{.id = "kind",
                   .label = "Your music",
                   .options = {{.label = "Songs"}, {.label = "Albums"}},
@@ -99,7 +115,7 @@ View MusicViewController::view() const {
   } else {
     describeSongs(view);
   }
-  addMenu(view, game_, musicTab);
+  if (!menuFirst) addMenu(view, game_, musicTab);
   return view;
 }
 

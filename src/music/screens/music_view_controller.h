@@ -1,6 +1,8 @@
 // The music tab: the artist's songs and albums, and the way to new ones.
 #pragma once
 
+#include <optional>
+
 #include "core/screen.h"
 
 namespace backbeat {
@@ -12,7 +14,7 @@ class MusicViewController final : public Screen {
   /// At the first load of a launch: the cost of living is made sure of, and a song list under its old key replaces the
   /// loaded one.
   Outcome open() override;
-  /// Asks for the artist's name while there is none.
+  /// Asks for the artist's name while there is none, and goes on to an album that was just made.
   Outcome appear() override;
   Outcome act(const Action& action) override;
   View view() const override;
@@ -22,13 +24,16 @@ class MusicViewController final : public Screen {
   Outcome createSongButton();
 
   /// Opens the album screen; no number goes by here.
-  Outcome createAlbumButton() const;
+  Outcome createAlbumButton();
 
  private:
+  /// The page of the album that was made since its button was pressed.
+  Outcome toNewAlbum();
   void describeSongs(View& view) const;
   void describeAlbums(View& view) const;
 
   bool showsAlbums_ = false;
+  std::optional<int64_t> albumIdBefore_;
   ListWindow released_;
   ListWindow releasedAlbums_;
 };

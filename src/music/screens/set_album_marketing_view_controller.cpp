@@ -70,7 +70,7 @@ View SetAlbumMarketingViewController::view() const {
   view.mainAction = Button{.id = "setMarketingButton",
                            .label = tier_ ? "Set Marketing" : "Leave It As It Is",
                            .price = tier_ ? std::optional(plan_.cost) : std::nullopt,
-                           .style = Button::Style::primary};
+                           .style = tier_ ? Button::Style::primary : Button::Style::secondary};
   view.help =
       Help{.title = "What marketing does",
            .text =

@@ -100,11 +100,20 @@ void SongDetailViewController::describeProduction(View& view, const Song& song) 
   if (const auto cost = viralityBoostCost(song)) {
     view.add(Button{.id = "boostVirality", .label = "Virality +0.5", .price = cost});
   }
-  view.add(Button{.id = "announceButton",
-                  .label = songAnnounced(state(), songId_) ? "Announced" : "Announce on Chirp",
-                  .price = chirpCost});
-  view.add(Button{.id = "marketingButton", .label = "Marketing"});
-  view.add(Button{.id = "addToAlbumButton", .label = "Add to Album"});
+  Rows ways;
+  if (songAnnounced(state(), songId_)) {
+    ways.items.push_back({.picture = icon("chirp"),
+                          .title = "Announced",
+                          .subtitle = "Your followers know of it",
+                          .selected = true,
+                          .id = "announceButton"});
+  } else {
+    view.add(Button{.id = "announceButton", .label = "Announce on Chirp", .price = chirpCost});
+  }
+  ways.items.push_back(wayTo("marketingButton", "megaphone", "Marketing", "Brings listeners once it is out",
+                             withDecimals(song.marketingScore, 0)));
+  ways.items.push_back(wayTo("addToAlbumButton", "album", "Add to Album"));
+  view.add(std::move(ways));
   view.mainAction =
       Button{.id = "releaseButton", .label = "RELEASE", .price = releaseCost, .style = Button::Style::primary};
   view.help = Help{.title = "Before the release",
@@ -121,6 +130,12 @@ void SongDetailViewController::describeReleased(View& view, const Song& song) co
              {.icon = "flame", .label = "Virality", .value = withDecimals(song.viralityScore, 1)},
              {.icon = "chart", .label = "Chart", .value = song.chartRanking > 0 ? rank(song.chartRanking) : "–"}}});
   view.add(songCertificationMeter(song));
+  if (song.marketingScore > 0) {
+    view.add(Rows{{{.picture = icon("megaphone"),
+                    .title = "Marketing",
+                    .subtitle = "Still brings new listeners",
+                    .value = withDecimals(song.marketingScore, 0)}}});
+  }
   view.add(caption("RELEASED", Tone::good));
   view.add(Button{.id = "marketingButton", .label = "Statistics"});
 }

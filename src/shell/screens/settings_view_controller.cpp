@@ -5,6 +5,7 @@
 #include "career/ledger.h"
 #include "core/new_game.h"
 #include "core/view_words.h"
+#include "music/artist_name.h"
 #include "shell/export_reminder.h"
 #include "shell/keep_aside.h"
 #include "shell/navigator.h"
@@ -32,6 +33,7 @@ Outcome SettingsViewController::act(const Action& action) {
     return restart();
   }
   if (action.id == "appearance") return chooseAppearance(action.value);
+  if (action.id == "artistName") nameArtist(game_, action.value);
   for (const std::string_view segue :
        {exportCareerSegue, importCareerSegue, std::string_view("goToRestore"),
         std::string_view("goToChangeFeaturedArtistName"), std::string_view("goToChangeCameoNames"),
@@ -73,6 +75,8 @@ View SettingsViewController::view() const {
   }
   view.add(std::move(look));
   view.add(Heading{"Names"});
+  view.add(TextField{
+      .id = "artistName", .label = "Artist name", .value = state().myArtistsName, .placeholder = "Enter a name"});
   view.add(Rows{{wayTo("goToChangeFeaturedArtistName", "guest", "Featured artists", "Rename the guests"),
                  wayTo("goToChangeCameoNames", "video", "Cameos", "Rename the faces in videos")}});
   view.add(Heading{"Your career"});

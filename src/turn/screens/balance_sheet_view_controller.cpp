@@ -58,7 +58,7 @@ View BalanceSheetViewController::view() const {
     return view;
   }
   const CalendarWeek week = reportedWeek(state());
-  const IncomeStatement statement = incomeStatement(state());
+  const IncomeStatement statement = toldStatement(state());
   const double net = statement.income() - statement.expenses();
   view.subtitle = "Week " + std::to_string(week.week) + ", " + std::to_string(week.year);
   view.add(Figures{

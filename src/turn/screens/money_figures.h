@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "core/view.h"
 
@@ -9,6 +10,9 @@ namespace backbeat {
 
 /// A figure that counts up to an amount of dollars.
 Figure dollars(std::string label, double amount, Tone tone, std::string note = {});
+
+/// The sum of the lines as they are shown, to the dollar.
+Figure totalOf(std::string label, const std::vector<Figure>& lines);
 
 /// Good from 0 up, bad below.
 Tone toneOfAmount(double amount);

@@ -34,7 +34,7 @@ void addExpense(Figures& figures, std::string label, double amount) {
 }
 
 Figures incomeOf(const WeeklyReport& report) {
-  Figures income{.title = "Income", .total = dollars("Total revenue", report.totalRevenue, Tone::plain)};
+  Figures income{.title = "Income"};
   const std::string top = report.weeklySongListens.empty() ? "" : report.weeklySongListens.front().songTitle;
   addIncome(income, "Streams", report.streams, top);
   addIncome(income, "Albums", report.totalAlbumRevenue);
@@ -46,18 +46,20 @@ Figures incomeOf(const WeeklyReport& report) {
   addIncome(income, "My label", report.label);
   addIncome(income, "Job", report.job);
   addIncome(income, "Standing income", report.standingIncome);
+  income.total = totalOf("Total revenue", income.items);
   return income;
 }
 
 double costOf(const WeeklyReport& report) { return report.totalExpenses + report.bonusPaidBack; }
 
 Figures expensesOf(const WeeklyReport& report) {
-  Figures expenses{.title = "Cost", .total = dollars("Total cost", -costOf(report), Tone::plain)};
+  Figures expenses{.title = "Cost"};
   addExpense(expenses, "Standing expenses", report.standingExpenses);
   addExpense(expenses, "Family", report.family);
   addExpense(expenses, "Touring", std::max(-report.tour, 0.0));
   addExpense(expenses, "Office", report.labelExpenses);
   addExpense(expenses, "Signing bonus paid back", report.bonusPaidBack);
+  expenses.total = totalOf("Total cost", expenses.items);
   return expenses;
 }
 
@@ -246,16 +248,19 @@ View WeeklySummaryViewController::view() const {
             .subtitle = std::to_string(report_.week.year) + " · Weekly report",
             .picture = artistPicture(state()),
             .theme = Theme::report};
-  const double net = report_.totalRevenue - costOf(report_);
+  Figures income = incomeOf(report_);
+  Figures expenses = expensesOf(report_);
+  const double net = income.total->amount + expenses.total->amount;
+  const double cashAfter = cashBefore_ + report_.totalRevenue - costOf(report_);
   const int64_t change = game_.launch.weeklyFanChange;
-  view.add(Figures{.items = {dollars("Net", net, toneOfAmount(net),
-                                     "Cash " + currency(cashBefore_) + " → " + currency(cashBefore_ + net)),
-                             {.label = "Listeners",
-                              .value = (change > 0 ? "+" : "") + withCommas(change) + " FANS",
-                              .amount = static_cast<double>(change),
-                              .tone = toneOfChange(change),
-                              .note = withCommas(state().totalFans) + " monthly listeners"}},
-                   .style = Figures::Style::large});
+  view.add(Figures{
+      .items = {dollars("Net", net, toneOfAmount(net), "Cash " + currency(cashBefore_) + " → " + currency(cashAfter)),
+                {.label = "Listeners",
+                 .value = (change > 0 ? "+" : "") + withCommas(change) + " FANS",
+                 .amount = static_cast<double>(change),
+                 .tone = toneOfChange(change),
+                 .note = withCommas(state().totalFans) + " monthly listeners"}},
+      .style = Figures::Style::large});
   if (!milestones_.empty()) view.add(celebration(state(), milestones_.front()));
   describeEvents(view);
   if (!report_.weeklySongListens.empty()) {
@@ -274,8 +279,8 @@ View WeeklySummaryViewController::view() const {
     view.add(EmptyHint{.icon = "headphones",
                        .text = "Nobody heard anything new from you this week. Release a song to change that."});
   }
-  view.add(incomeOf(report_));
-  view.add(expensesOf(report_));
+  view.add(std::move(income));
+  view.add(std::move(expenses));
   view.mainAction = Button{.id = "closeButton", .label = "Continue", .style = Button::Style::primary};
   return view;
 }

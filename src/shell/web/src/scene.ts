@@ -27,4 +27,6 @@ export interface Scene {
   readonly lit?: string;
   press(id: string, value?: string): void;
   open(sheet: SheetContent): void;
+  /** Enter in a field: presses the main button where a text is all that the screen asks for. */
+  confirm(): void;
 }

@@ -6,7 +6,7 @@ import { resolve } from "node:path";
 import { after, before, describe, test } from "node:test";
 import { walk } from "../tools/walk.mjs";
 import { openWorld, world } from "../tools/worlds.mjs";
-import { barriers, quiet, tooWide, unreachable } from "./look.mjs";
+import { barriers, brokenWords, cutRings, drawnLate, quiet, tooWide, unreachable } from "./look.mjs";
 import { openGame } from "./open.mjs";
 
 const engine = resolve(import.meta.dirname, "../public/engine.wasm");
@@ -20,7 +20,7 @@ describe("every screen", { skip: !existsSync(engine) && "the engine is not built
   test("is open to everybody, in either light, in large letters on a small phone", async () => {
     const seen = new Set();
     const found = [];
-    for (const career of ["golden_decade", "new"]) {
+    for (const career of ["mid-career", "golden_decade", "new"]) {
       const { page, context, faults } = await house.open({ address: "about:blank", bypassCSP: true });
       await openWorld(page, house.home, world(career));
       await page.evaluate(axe);
@@ -29,14 +29,14 @@ describe("every screen", { skip: !existsSync(engine) && "the engine is not built
         seen.add(name);
         const note = (where, faults) => found.push(...faults.map((fault) => `${name}, ${where}: ${fault}`));
         await quiet(page);
-        note("dark", await barriers(page));
+        note("dark", [...(await barriers(page)), ...(await drawnLate(page)), ...(await cutRings(page))]);
         await page.emulateMedia({ colorScheme: "light" });
         note("light", await barriers(page, "color-contrast"));
         await page.emulateMedia({ colorScheme: "dark" });
         await page.setViewportSize({ width: 320, height: 568 });
         note("320 px", await tooWide(page));
         await page.evaluate(() => (document.documentElement.style.fontSize = "200%"));
-        note("200 %", [...(await tooWide(page)), ...(await unreachable(page))]);
+        note("200 %", [...(await tooWide(page)), ...(await unreachable(page)), ...(await brokenWords(page))]);
         await page.evaluate(() => (document.documentElement.style.fontSize = ""));
         await page.setViewportSize({ width: 390, height: 844 });
       });

@@ -56,7 +56,7 @@ export function tooWide(page) {
   });
 }
 
-/** Controls that a finger cannot get at, however it scrolls. */
+/** Controls that a finger cannot get at, however it scrolls. A toast covers some for a moment, and goes by itself. */
 export function unreachable(page) {
   return page.evaluate(() => {
     const dialog = document.querySelector("dialog[open]");
@@ -70,8 +70,64 @@ export function unreachable(page) {
         control.scrollIntoView({ block: "center" });
         const { left, top, width, height } = control.getBoundingClientRect();
         const hit = document.elementFromPoint(left + width / 2, top + height / 2);
-        return !hit || !(control.contains(hit) || control.closest("label")?.contains(hit));
+        return !hit || !(control.contains(hit) || control.closest("label")?.contains(hit) || hit.closest(".toast"));
       })
       .map((control) => `out of reach: ${control.outerHTML.slice(0, 120)}`);
+  });
+}
+
+/** Words of usual length that a line breaks in the middle. */
+export function brokenWords(page) {
+  return page.evaluate(() => {
+    const scroll = document.querySelector("dialog[open]") ?? document.querySelector(".layer.top .scroll");
+    const texts = document.createTreeWalker(scroll, NodeFilter.SHOW_TEXT);
+    const range = document.createRange();
+    const found = [];
+    while (texts.nextNode()) {
+      const text = texts.currentNode;
+      if (text.parentElement.closest(".unseen") || !text.parentElement.checkVisibility()) continue;
+      for (const { 0: word, index } of text.data.matchAll(/(?<=^|\s)[\p{L}\p{N}$.,%]{2,13}(?=\s|$)/gu)) {
+        range.setStart(text, index);
+        range.setEnd(text, index + word.length);
+        const lines = new Set([...range.getClientRects()].map(({ top }) => Math.round(top)));
+        if (lines.size > 1) found.push(`broken word: ${word} in ${text.parentElement.outerHTML.slice(0, 90)}`);
+      }
+    }
+    return found;
+  });
+}
+
+/** What a screen opens with and the browser is told to leave out until it has come near: it would slide in empty. */
+export function drawnLate(page) {
+  return page.evaluate(() =>
+    [...document.querySelectorAll(".layer.top .blocks *")]
+      .filter((piece) => getComputedStyle(piece).contentVisibility === "auto")
+      .filter((piece) => piece.getBoundingClientRect().top < innerHeight)
+      .map((piece) => `drawn late: ${piece.outerHTML.slice(0, 90)}`),
+  );
+}
+
+/** Rings around what the keyboard reached that something cuts off. */
+export async function cutRings(page) {
+  await page.keyboard.press("Shift");
+  return page.evaluate(() => {
+    const was = document.activeElement;
+    const root = document.querySelector("dialog[open]") ?? document.querySelector(".layer.top .blocks");
+    const cut = [...root.querySelectorAll("button, input, textarea")].filter((control) => {
+      control.focus({ preventScroll: true });
+      const { outlineStyle, outlineWidth, outlineOffset } = getComputedStyle(control);
+      if (outlineStyle === "none") return false;
+      const reach = parseFloat(outlineWidth) + parseFloat(outlineOffset) - 1;
+      const box = control.getBoundingClientRect();
+      for (let frame = control.parentElement; frame !== root.parentElement; frame = frame.parentElement) {
+        const { overflowX, overflowY } = getComputedStyle(frame);
+        const edge = frame.getBoundingClientRect();
+        if (overflowX !== "visible" && (box.left - reach < edge.left || box.right + reach > edge.right)) return true;
+        if (overflowY === "hidden" && (box.top - reach < edge.top || box.bottom + reach > edge.bottom)) return true;
+      }
+      return false;
+    });
+    was?.focus({ preventScroll: true });
+    return cut.map((control) => `cut ring: ${control.outerHTML.slice(0, 90)}`);
   });
 }

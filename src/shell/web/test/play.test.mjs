@@ -54,11 +54,25 @@ test("a typed text is told when the field is left, and before anything else is p
 
   await page.getByRole("button", { name: "Suggest: Title" }).click();
   assert.deepEqual(await presses(), [["5", "dice", ""]]);
+
+  const mainAction = { id: "start", label: "Start" };
+  await page.evaluate((next) => window.stage.show(next), answer([field], { key: 6, mainAction }));
+  await box.fill("Nova");
+  await box.press("Enter");
+  assert.deepEqual(await presses(), [
+    ["6", "title", "Nova"],
+    ["6", "start", ""],
+  ]);
   await close();
 });
 
 test("switches, segments, options and row menus press what they say, and show what the engine says", async () => {
-  const options = [{ label: "Pop" }, { label: "Rock", note: "Needs a guitar", tone: "locked" }, { label: "Folk" }];
+  const price = { dollars: "$560", affordable: true };
+  const options = [
+    { label: "Pop" },
+    { label: "Rock", note: "Needs a guitar", tone: "locked" },
+    { label: "Folk", note: "Rating | 15", price },
+  ];
   const { page, presses, close } = await open(
     answer([
       { kind: "toggle", id: "band", label: "Invite the band" },
@@ -69,7 +83,7 @@ test("switches, segments, options and row menus press what they say, and show wh
   );
   await page.getByRole("switch", { name: "Invite the band" }).click();
   await page.locator(".segment", { hasText: "Rock" }).click();
-  await page.getByRole("button", { name: "Genre" }).click();
+  await page.getByRole("button", { name: /Genre Folk Rating . 15 · .560/ }).click();
   await page.getByRole("dialog").getByRole("button", { name: "Rock" }).click();
   await page.getByRole("button", { name: "More for Ada" }).click();
   await page.getByRole("dialog").getByRole("button", { name: "Let go" }).click();

@@ -52,7 +52,7 @@ class ChartElement extends LitElement {
             : label
           : nothing
       }
-      ${value ? html`<span class="chart-value" dir="auto">${value}</span>` : nothing}
+      ${value ? html`<span class="chart-value" dir="auto" style="--letters:${value.length}">${value}</span>` : nothing}
       ${note ? html`<span class="chart-note" dir="auto">${note}</span>` : nothing}
       ${
         this.points().length > 0

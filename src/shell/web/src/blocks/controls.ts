@@ -89,9 +89,13 @@ function optionLine({ id, label, options = [], selected = 0 }: Choice, scene: Sc
       })),
     });
   const chosen = options[selected];
+  const about = [chosen?.note, chosen?.price?.dollars].filter(Boolean).join(" · ");
   return html`<button class="line" type="button" aria-haspopup="dialog" @click=${open}>
     ${label ? html`<span class="line-label" dir="auto">${label}</span>` : nothing}
-    <span class="line-value ${toneClass(chosen?.tone)}" dir="auto">${chosen?.label ?? "Choose"}</span>
+    <span class="line-value ${toneClass(chosen?.tone)}">
+      <span dir="auto">${chosen?.label ?? "Choose"}</span>
+      ${about ? html`<span class="line-note" dir="auto">${about}</span>` : nothing}
+    </span>
     <span class="updown" aria-hidden="true"></span>
   </button>`;
 }

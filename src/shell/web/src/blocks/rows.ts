@@ -7,8 +7,6 @@ import { actionMenu, badge, bar, pricePill, reveal, toneClass } from "./parts";
 import { film, shelfItem, stop, stripItem, wireLine } from "./row-styles";
 import { spark } from "./spark";
 
-const longList = 100;
-
 /** A list in any style; a windowed one has ways to the rows before and after. */
 export function rowsBlock(list: Rows, scene: Scene): TemplateResult {
   const { items = [], total = 0, from = 0, columns = [] } = list;
@@ -58,7 +56,7 @@ function styled({ style = "list", items = [], columns = [] }: Rows, scene: Scene
 
 function grouped(items: Row[], underHeads: boolean, scene: Scene): TemplateResult {
   const pictured = items.some((row) => hasPicture(row.picture));
-  return html`<ul class="group ${pictured ? "pictured" : ""} ${items.length > longList ? "long" : ""}">
+  return html`<ul class="group ${pictured ? "pictured" : ""}">
     ${items.map((row) => html`<li class="row ${toneClass(row.tone)} ${rowLook(row)}">${rowLine(row, underHeads, scene)}</li>`)}
   </ul>`;
 }

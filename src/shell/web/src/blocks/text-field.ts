@@ -99,6 +99,7 @@ class TextFieldElement extends LitElement {
     if (event.key !== "Enter" || event.isComposing) return;
     tellDrafts();
     (event.target as HTMLElement).blur();
+    this.scene.confirm();
   }
 }
 

@@ -1,7 +1,21 @@
 import { html, nothing, type TemplateResult } from "lit";
 import * as glyphs from "ionicons/icons";
 
-export type Tint = "red" | "orange" | "yellow" | "green" | "teal" | "blue" | "indigo" | "purple" | "pink" | "gray";
+export type Tint =
+  | "red"
+  | "orange"
+  | "yellow"
+  | "green"
+  | "teal"
+  | "blue"
+  | "indigo"
+  | "purple"
+  | "pink"
+  | "gray"
+  | "bronze"
+  | "silver"
+  | "platinum"
+  | "diamond";
 
 const guitar = `<svg viewBox='0 0 512 512'><path d='M478 34a30 30 0 0 0-42 0l-30 30a30 30 0 0 0-8 28l3 13-118 118c-31-17-69-14-93 10-13 13-20 29-21 46-1 14-11 25-25 27-29 3-56 15-77 36-47 47-45 114-4 155s108 43 155-4c21-21 33-48 36-77 2-14 13-24 27-25 17-1 33-8 46-21 24-24 27-62 10-93l118-118 13 3a30 30 0 0 0 28-8l30-30a30 30 0 0 0 0-42zM197 367a52 52 0 1 1-73-73 52 52 0 0 1 73 73z' fill-rule='evenodd'/></svg>`;
 const piano = `<svg viewBox='0 0 512 512'><path d='M80 96a48 48 0 0 0-48 48v224a48 48 0 0 0 48 48h64V272h-12a20 20 0 0 1-20-20V96zM200 96v156a20 20 0 0 1-20 20h-8v144h168V272h-8a20 20 0 0 1-20-20V96zM400 96v156a20 20 0 0 1-20 20h-12v144h64a48 48 0 0 0 48-48V144a48 48 0 0 0-48-48z'/></svg>`;
@@ -22,6 +36,10 @@ const named: Record<string, [drawing: string, tint: Tint]> = {
   chart: [glyphs.barChart, "indigo"],
   flame: [glyphs.flame, "orange"],
   trophy: [glyphs.trophy, "yellow"],
+  bronzeTrophy: [glyphs.trophy, "bronze"],
+  silverTrophy: [glyphs.trophy, "silver"],
+  platinumTrophy: [glyphs.trophy, "platinum"],
+  diamondTrophy: [glyphs.trophy, "diamond"],
   people: [glyphs.people, "green"],
   person: [glyphs.person, "teal"],
   bolt: [glyphs.flash, "yellow"],

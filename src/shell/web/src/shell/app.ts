@@ -16,7 +16,7 @@ import { Stack, type Layer, type Step } from "../stack";
 import "./alert";
 import "./blocks";
 import { onRoomChange, room, type Room } from "./desk";
-import { dock, endWeekDock, headButtons, moodOf } from "./dock";
+import { dock, endWeekDock, headButtons, moodOf, soleAnswer } from "./dock";
 import { EdgeSwipe } from "./edge-swipe";
 import { keySheet, listenForKeys } from "./keys";
 import { rail } from "./rail";
@@ -356,6 +356,10 @@ class AppElement extends LitElement {
           layer.pressed = id;
           this.press(key, id, value);
         },
+        confirm: () => {
+          const id = soleAnswer(layer.view);
+          if (id) this.press(key, id);
+        },
         open: (sheet) => {
           tellDrafts();
           if (!this.alerting) this.sheet = sheet;
@@ -403,6 +407,8 @@ class AppElement extends LitElement {
     const element = this.querySelector<HTMLElement>(".layer.top")!;
     await element.querySelector<LitElement>("bb-blocks")!.updateComplete;
     if (top !== this.stack.top) return;
+    // A new week begins at the top of its screen.
+    if (step.leaving?.view?.theme === "report") element.querySelector(".scroll")!.scrollTop = 0;
     const focused = top.focus?.isConnected ? top.focus : element.querySelector<HTMLElement>("h1");
     focused?.focus({ preventScroll: true });
     const [beneath, leaving] = [".beneath", ".leaving"].map((place) => this.querySelector<HTMLElement>(place));

@@ -40,6 +40,14 @@ export function endWeekDock(header: Header, press: () => void): TemplateResult {
   return html`<div class="dock"><div class="dock-buttons">${endWeekButton(header, press)}</div></div>`;
 }
 
+const besideTheAnswer = new Set(["text", "heading", "cover"]);
+
+/** The main button of a screen that asks for one text and nothing else. */
+export function soleAnswer(view: View | null): string | undefined {
+  const asked = (view?.blocks ?? []).filter(({ kind }) => !besideTheAnswer.has(kind));
+  return asked.length === 1 && asked[0]!.kind === "field" ? view?.mainAction?.id : undefined;
+}
+
 /** Sad news takes the warmth out of its whole screen. */
 export function moodOf(view: View | null): string {
   return view?.blocks?.some((block) => block.kind === "poster" && block.mood === "mourn") ? "mourning" : "";

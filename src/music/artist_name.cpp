@@ -1,0 +1,39 @@
+#include "music/artist_name.h"
+
+#include <array>
+#include <string_view>
+
+#include "core/calendar.h"
+#include "core/random.h"
+
+namespace backbeat {
+
+namespace {
+
+constexpr std::array<std::string_view, 24> givenNames = {
+    "Ada",  "Bruno", "Cleo",  "Dario", "Elsie", "Felix", "Greta", "Hugo", "Iris", "Jonas", "Kaya", "Leon",
+    "Mara", "Nico",  "Olive", "Pablo", "Ruby",  "Silas", "Thea",  "Ugo",  "Vera", "Wes",   "Yara", "Zane",
+};
+
+constexpr std::array<std::string_view, 24> stageNames = {
+    "Ashdown", "Bright",  "Calloway", "Driver", "Ember",   "Fontaine", "Gallant", "Hart",
+    "Ivory",   "Jericho", "Keys",     "Larkin", "Mercury", "North",    "Onyx",    "Palmer",
+    "Quill",   "Rivers",  "Sterling", "Tempo",  "Verse",   "Wilder",   "Young",   "Zephyr",
+};
+
+}  // namespace
+
+void nameArtist(Game& game, const std::string& name) {
+  game.state.myArtistsName = name;
+  game.state.promptToEnterName = 1;
+  game.save(&GameState::myArtistsName, &GameState::promptToEnterName);
+  stateChanged(game);
+}
+
+std::string suggestedStageName(uint64_t salt) {
+  const uint64_t hash = hashOf("stage name", salt);
+  return std::string(givenNames[hash % givenNames.size()]) + " " +
+         std::string(stageNames[hash / givenNames.size() % stageNames.size()]);
+}
+
+}  // namespace backbeat
