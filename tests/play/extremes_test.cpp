@@ -108,7 +108,7 @@ void put(const ChunkedList& list, const FieldType& field, double value) {
 TEST(Extremes, NoFieldThatItsBoundsAllowStopsTheGame) {
   for (const auto& [key, list] : listsOf(careerOfEverything())) {
     if (list.size() == 0) continue;
-    for (const FieldType& field : list.type().item->fields) {
+    for (const FieldType& field : list.type().fields) {
       const bool isWhole = field.type.kind == ValueType::Kind::integer;
       if (!isWhole && field.type.kind != ValueType::Kind::real) continue;
       const Bounds bounds = boundsOfField(field.key, isWhole);

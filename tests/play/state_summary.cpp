@@ -45,7 +45,7 @@ std::string told(const ChunkedList& list) {
   const std::vector<const void*> records = list.records();
   PropertyListWriter writer;
   RecordEncoder encoder(writer);
-  const Bytes bytes = writer.finish(encoder.records(*list.type().item, records));
+  const Bytes bytes = writer.finish(encoder.records(list.type(), records));
   return told(static_cast<int64_t>(records.size())) + " " + hashText(hashOf(bytes));
 }
 

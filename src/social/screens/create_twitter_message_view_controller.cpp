@@ -1,5 +1,6 @@
 #include "social/screens/create_twitter_message_view_controller.h"
 
+#include "core/own_photo.h"
 #include "core/view_words.h"
 #include "social/chirps.h"
 
@@ -25,7 +26,7 @@ Outcome CreateTwitterMessageViewController::chirpButton() {
 }
 
 View CreateTwitterMessageViewController::view() const {
-  View view{.title = "New Chirp", .picture = person(state().myArtistsName), .theme = Theme::chirp};
+  View view{.title = "New Chirp", .picture = artistPicture(state()), .theme = Theme::chirp};
   view.add(TextField{.id = "message",
                      .label = "Your Chirp",
                      .value = message_,

@@ -5,6 +5,7 @@
 #include "core/case_folding.h"
 #include "core/menu.h"
 #include "core/money.h"
+#include "core/own_photo.h"
 #include "core/view_words.h"
 #include "social/chirps.h"
 
@@ -97,7 +98,7 @@ View TwitterProfileViewController::view() const {
 }
 
 void TwitterProfileViewController::describeProfile(View& view) const {
-  view.add(Cover{.picture = person(state().myArtistsName),
+  view.add(Cover{.picture = artistPicture(state()),
                  .title = state().myArtistsName,
                  .text = handleOf(state().myArtistsName) + "\n" + withCommas(state().followerCount) + " followers"});
   view.add(Button{.id = "followButton", .label = "Follow", .pulse = pulses_});
