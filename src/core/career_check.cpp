@@ -218,18 +218,19 @@ std::vector<std::string> unbearableValues(const GameState& state, size_t most) {
     tell(std::string(scalar.key) + " is " + readable(static_cast<double>(value)));
   });
   for (const auto& [key, list] : listsOf(state)) {
-    forEachUnbearable(*list.type().item, list.records(),
-                      [&, name = key](const Number& number, const void* at, size_t i) {
-                        tell(std::string(name) + ", entry " + std::to_string(i + 1) + ": " + std::string(number.key) +
-                             " is " + readable(number.in(at)));
-                      });
+    forEachUnbearable(list.type(), list.records(), [&, name = key](const Number& number, const void* at, size_t i) {
+      tell(std::string(name) + ", entry " + std::to_string(i + 1) + ": " + std::string(number.key) + " is " +
+           readable(number.in(at)));
+    });
   }
   return found;
 }
 
-size_t mendRecords(const ValueType& type, void* records) {
+size_t mendRecords(RecordBuffer& records) {
+  Records places;
+  for (size_t i = 0; i < records.size(); ++i) places.push_back(records.at(i));
   size_t mended = 0;
-  forEachUnbearable(*type.item, itemsOf(type, records), [&](const Number& number, const void* at, size_t) {
+  forEachUnbearable(records.type(), places, [&](const Number& number, const void* at, size_t) {
     number.put(const_cast<void*>(at), nearest(number.bounds, number.in(at)));
     ++mended;
   });

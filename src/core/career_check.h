@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/game_state.h"
-#include "core/value_type.h"
+#include "core/record_buffer.h"
 
 namespace backbeat {
 
@@ -29,9 +29,9 @@ Bounds boundsOfField(std::string_view key, bool isWhole);
 /// `most` of them. What the random player asks after each week.
 std::vector<std::string> unbearableValues(const GameState& state, size_t most);
 
-/// The records of a list as decoded, a vector of type `type`: numbers out of bounds become the nearest that is in them,
-/// what is no number becomes 0 or the nearest to it. How many there were.
-size_t mendRecords(const ValueType& type, void* records);
+/// The records of a list as decoded: numbers out of bounds become the nearest that is in them, what is no number
+/// becomes 0 or the nearest to it. How many there were.
+size_t mendRecords(RecordBuffer& records);
 
 /// The same for the scalars of a state; the keys of those that were mended.
 std::vector<std::string> mendScalars(GameState& state);

@@ -117,7 +117,7 @@ void print(PrintedPage& page, const Tiles& tiles) {
   constexpr size_t labelColumns = 36;
   for (const Tile& tile : tiles.items) {
     Inked figure = page.inked(0).add(oneLine(tile.value, 30), colourOf(tile.tone));
-    if (!tile.note.empty()) figure.add(figure.columns() > 0 ? "  " : "").add(oneLine(tile.note, 30));
+    if (!tile.note.empty()) figure.add(figure.columns() > 0 ? "  " : "").add(oneLine(tile.note, 28));
     const Inked price = page.price(tile.price);
     if (price.columns() > 0) figure.add(figure.columns() > 0 ? "  " : "").add(price);
     const std::string number = page.numberOf(tile.id, tile.label);

@@ -18,6 +18,12 @@ const companies: Company[] = [
     starts: (block) => block.kind === "chart" && !block.points?.length,
     joins: (block) => block.kind === "gauges" && block.style === "split",
   },
+  // A channel's own head, on a wall of what it shows.
+  {
+    look: "channel card",
+    starts: (block, theme) => block.kind === "cover" && block.picture?.kind === "person" && theme === "video",
+    joins: (block) => block.kind === "button",
+  },
   // Somebody, and what they can.
   {
     look: "talent card",

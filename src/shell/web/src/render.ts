@@ -15,6 +15,7 @@ import { storyBlock } from "./blocks/story";
 import { tilesBlock } from "./blocks/tiles";
 import { treeBlock } from "./blocks/tree";
 import { companyAt } from "./company";
+import { picture } from "./pictures/picture";
 import type { Block } from "./protocol";
 import type { Scene } from "./scene";
 
@@ -84,8 +85,19 @@ export function renderBlocks(blocks: Block[], scene: Scene): TemplateResult[] {
   for (let i = 0; i < blocks.length;) {
     const company = companyAt(blocks, i, scene.theme);
     const together = blocks.slice(i, i + company.length).map((block) => renderBlock(block, scene));
+    if (company.look.startsWith("channel")) together.unshift(wall(blocks));
     drawn.push(company.look ? html`<div class=${company.look}>${together}</div>` : together[0]!);
     i += company.length;
   }
   return drawn;
+}
+
+/** The sleeves of the songs whose films are shown here. */
+function wall(blocks: Block[]): TemplateResult {
+  const films = blocks.flatMap((block) => (block.kind === "rows" ? (block.items ?? []) : []));
+  const songs = films.flatMap(({ picture }) =>
+    picture?.kind === "still" ? [/:(.*)/.exec(picture.name ?? "")?.[1] ?? ""] : [],
+  );
+  const filled = songs.length > 0 ? Array.from({ length: 8 }, (_, i) => songs[i % songs.length]!) : [];
+  return html`<div class="wall"><div>${filled.map((name) => picture({ kind: "cover", name }))}</div></div>`;
 }

@@ -52,7 +52,8 @@ function contrast(a, b) {
 
 test("colours of text stand out from everything that they are used on", async () => {
   const { page, close } = await open();
-  const themes = ["", "theme-chart", "theme-chirp", "theme-report", "theme-bank"];
+  const apps = "chart chirp report bank live merch video label gala love family estate".split(" ");
+  const themes = ["", ...apps.map((app) => `theme-${app}`), "mourning layer"];
   const readable = [
     // [text, grounds from below to the top, least contrast]
     ...["--text", "--text-2", "--text-3"].flatMap((text) => [

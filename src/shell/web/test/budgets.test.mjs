@@ -32,7 +32,7 @@ test("the page stays light on the line", async () => {
     [/^portraits.*\.js$/, 140],
     [/^drawings.*\.js$/, 25],
     [/^late-glyphs.*\.js$/, 18],
-    [/\.css$/, 14],
+    [/\.css$/, 24],
     [/^engine\.wasm$/, 380],
   ];
   for (const [pattern, limit] of limits) {

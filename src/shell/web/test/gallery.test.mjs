@@ -4,14 +4,15 @@ import { createRequire } from "node:module";
 import { resolve } from "node:path";
 import { after, before, test } from "node:test";
 import hostile from "./fixtures/hostile.mjs";
-import { barriers, quiet, tooWide } from "./look.mjs";
+import { screens as coming } from "./fixtures/screens.mjs";
+import { barriers, quiet, tooWide, unreachable } from "./look.mjs";
 import { openStage } from "./open.mjs";
 
 const here = import.meta.dirname;
 const fixture = async (name) => JSON.parse(await readFile(resolve(here, "fixtures", `${name}.json`), "utf8"));
 // Written by the engine's tests: every block with all that it can say, and with nothing.
 const engineMade = ["engine/every-block", "engine/barest-blocks"];
-const screens = { hostile };
+const screens = { hostile, ...coming };
 let stage;
 
 before(async () => {
@@ -41,7 +42,7 @@ for (const theme of ["dark", "light"]) {
   test(`no serious barrier for anybody, ${theme}`, async () => {
     const { page, context, faults } = await stage.open({ theme, bypassCSP: true });
     const axe = await readFile(createRequire(import.meta.url).resolve("axe-core/axe.min.js"), "utf8");
-    for (const name of ["home", "blocks", "report", "engine/every-block"]) {
+    for (const name of ["home", "blocks", "report", "engine/every-block", ...Object.keys(coming)]) {
       await show(page, screens[name]);
       await page.evaluate(axe);
       assert.deepEqual(await barriers(page), [], name);
@@ -50,6 +51,17 @@ for (const theme of ["dark", "light"]) {
     await context.close();
   });
 }
+
+test("with letters twice as large on a small phone nothing is cut off and everything can be pressed", async () => {
+  const { page, context, faults } = await stage.open({ width: 320, height: 568 });
+  await page.evaluate(() => (document.documentElement.style.fontSize = "200%"));
+  for (const [name, answer] of Object.entries(coming)) {
+    await show(page, answer);
+    assert.deepEqual([...(await tooWide(page)), ...(await unreachable(page))], [], name);
+  }
+  assert.deepEqual(faults, []);
+  await context.close();
+});
 
 /** The names that a list of the engine's header holds. */
 async function listed(header, list) {

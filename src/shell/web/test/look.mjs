@@ -42,7 +42,7 @@ export function tooWide(page) {
     const pieces = ".status > *, .row-main > *, .card > *, .button > *, .heading > *, .line > *, .dock > *";
     for (const piece of scroll.querySelectorAll(pieces)) {
       const box = piece.getBoundingClientRect();
-      if (box.width === 0 || piece.classList.contains("unseen") || piece.closest(".table")) continue;
+      if (box.width === 0 || piece.classList.contains("unseen") || piece.closest(".table, .strip, .tree")) continue;
       if (box.left < room.left - 0.5 || box.right > room.right + 0.5) found.push(piece.outerHTML.slice(0, 120));
     }
     const status = [...scroll.querySelectorAll(".status > *")].map((piece) => piece.getBoundingClientRect());

@@ -11,13 +11,16 @@ import { meterBlock } from "./plain";
 /** A card that asks for attention. */
 export function cardBlock(card: Card, scene: Scene): TemplateResult {
   const { title, text, value, meters = [], buttons = [], note } = card;
+  // At a gala the badge says what the award is for.
+  const atGala = scene.theme === "gala";
   return html`<section
     class="event card ${toneClass(card.tone)} ${value ? "rated" : ""} ${card.picture ? "pictured" : ""}"
   >
+    ${atGala && card.badge ? html`<p class="award-field" dir="auto">${card.badge}</p>` : nothing}
     <div class="event-head">
       ${picture(card.picture)}
       <div class="event-texts">
-        ${title || card.badge ? html`<h3 dir="auto">${title} ${badge(card.badge)}</h3>` : nothing}
+        ${title || (card.badge && !atGala) ? html`<h3 dir="auto">${title} ${atGala ? nothing : badge(card.badge)}</h3>` : nothing}
         ${text ? html`<p dir="auto">${text}</p>` : nothing}
       </div>
       ${value ? html`<span class="event-value">${figureAndWords(value)}</span>` : nothing}

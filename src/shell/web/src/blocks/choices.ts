@@ -3,7 +3,7 @@ import { glyph } from "../pictures/icons";
 import { picture } from "../pictures/picture";
 import type { Choice, Option } from "../protocol";
 import type { Scene } from "../scene";
-import { factList, figureAndWords, pricePill, toneClass } from "./parts";
+import { factList, figureAndWords, pricePill, reveal, toneClass } from "./parts";
 
 /** Plans, one below the other; the chosen one is framed and has nothing to press. */
 export function planCards({ id, label, options = [], selected = 0 }: Choice, scene: Scene): TemplateResult {
@@ -20,8 +20,9 @@ function plan({ label, note, tone, price, value, facts }: Option, chosen: boolea
     ${
       chosen
         ? html`<p class="plan-current">${glyph("check")}Current plan</p>`
-        : html`<button class="button secondary" type="button" aria-label="Select this plan: ${label}" @click=${press}>
-            <span class="button-label">Select this plan</span>${pricePill(price)}
+        : html`<button class="button secondary" type="button" @click=${press}>
+            <span class="button-label">Select this plan<span class="unseen">: ${label}</span></span
+            >${pricePill(price)}
           </button>`
     }
   </section>`;
@@ -30,7 +31,12 @@ function plan({ label, note, tone, price, value, facts }: Option, chosen: boolea
 /** A strip of pictures to choose one from. */
 export function pictureStrip({ id, label, options = [], selected = 0 }: Choice, scene: Scene): TemplateResult {
   const wide = options.some((option) => option.picture?.kind === "still" || option.picture?.kind === "scene");
-  return html`<div class="strip choices ${wide ? "wide" : ""}" role="group" aria-label=${label || "Choose one"}>
+  return html`<div
+    class="strip choices ${wide ? "wide" : ""}"
+    role="group"
+    aria-label=${label || "Choose one"}
+    @focusin=${reveal}
+  >
     ${options.map(
       (option, i) =>
         html`<button

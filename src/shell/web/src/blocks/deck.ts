@@ -1,8 +1,9 @@
 import { html, LitElement, nothing, type PropertyValues, type TemplateResult } from "lit";
 import { prefersStillness, tap } from "../motion";
+import { drawsOf, pick } from "../pictures/chance";
 import { glyph } from "../pictures/icons";
 import { picture } from "../pictures/picture";
-import type { Deck, DeckChoice } from "../protocol";
+import type { Deck, DeckChoice, Picture } from "../protocol";
 import type { Scene } from "../scene";
 import { toneClass } from "./parts";
 import { Swipe, type Pull } from "./swipe";
@@ -116,7 +117,7 @@ class DeckElement extends LitElement {
       { duration: outMs, easing: "ease-in" },
     );
     card.animate({ transform: ["scale(0.96)", "none"] }, { duration: outMs, easing: glide });
-    for (const part of card.children) {
+    for (const part of card.querySelectorAll(":scope > :not(.deck-mark)")) {
       part.animate({ opacity: [0, 1] }, { duration: 160, delay: outMs, fill: "backwards" });
     }
     void flight.finished
@@ -183,7 +184,7 @@ class DeckElement extends LitElement {
 
 function face({ picture: shown, title, aside, facts, text, tags = [], corners = [] }: Deck): TemplateResult {
   return html`<div class="deck-view">
-      ${picture({ kind: "scene", name: `sunset:${title ?? ""}` })}<span class="deck-person">${picture(shown)}</span>
+      ${picture(placeOf(title ?? ""))}<span class="deck-person">${picture(shown)}</span>
     </div>
     ${corners.map(
       ({ icon = "", value, label, tone }, i) =>
@@ -207,6 +208,12 @@ function face({ picture: shown, title, aside, facts, text, tags = [], corners = 
       ${tags.length > 0 ? html`<p class="deck-tags">${tags.map((tag) => html`<span dir="auto">${tag}</span>`)}</p>` : nothing}
     </div>`;
 }
+
+/** Where somebody is met follows from the name. */
+const placeOf = (name: string): Picture => ({
+  kind: "scene",
+  name: `${pick(["sunset", "palmBeach", "lagoon", "meadow", "loft", "campus"], drawsOf(`${name} is met`))}:${name}`,
+});
 
 const poseOf = ({ x, y }: Pull, width: number): string =>
   `translate(${x}px, ${y}px) rotate(${(Math.max(-1, Math.min(1, x / Math.max(1, width))) * 12).toFixed(2)}deg)`;

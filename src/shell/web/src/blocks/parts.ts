@@ -101,3 +101,9 @@ export function factList(facts: Fact[] | undefined, look: string): Part {
     )}
   </dl>`;
 }
+
+/** Brings what the keys have reached in a strip wholly into sight; what a finger presses stays where it is. */
+export function reveal(event: FocusEvent): void {
+  const reached = event.target as HTMLElement;
+  if (reached.matches(":focus-visible")) reached.scrollIntoView({ block: "nearest", inline: "nearest" });
+}

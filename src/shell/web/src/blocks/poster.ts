@@ -11,16 +11,17 @@ export function posterBlock(poster: Poster): TemplateResult {
   return poster.style === "torn" ? torn(poster) : scene(poster);
 }
 
-type Layout = "couple" | "staged" | "alone" | "place" | "thing" | "words";
+type Layout = "couple" | "staged" | "alone" | "place" | "floor" | "thing" | "words";
 
 const isPlace = ({ kind }: Picture): boolean => kind === "scene" || kind === "still";
 
-function layoutOf(back: Picture | undefined, front: Picture[], { mood }: Poster): Layout {
+function layoutOf(back: Picture | undefined, front: Picture[], { mood, figure }: Poster): Layout {
   const people = front.filter(({ kind }) => kind === "person").length;
   if (people === 2) return "couple";
   if (people === 1) return back ? "staged" : "alone";
   if (back) return front.length > 0 ? "staged" : "place";
-  return mood === "celebrate" ? "thing" : "words";
+  if (mood === "celebrate") return "thing";
+  return figure && front.length > 0 ? "floor" : "words";
 }
 
 function scene(poster: Poster): TemplateResult {
@@ -29,16 +30,17 @@ function scene(poster: Poster): TemplateResult {
   const place = shown.find(isPlace);
   const front = shown.filter((one) => one !== place);
   const layout = layoutOf(place, front, poster);
+  const beside = layout === "place" || layout === "floor";
   // Two people of whom no place is told stand where their names lead them.
   const back =
     layout === "couple" ? { kind: "scene" as const, name: `sunset:${front.map(({ name }) => name)}` } : place;
-  return html`<section class="poster ${layout} ${mood === "plain" ? "" : mood}">
+  return html`<section class="poster ${layout === "floor" ? "place floor" : layout} ${mood === "plain" ? "" : mood}">
     <div class="poster-view">
       ${picture(back)} ${mood === "celebrate" ? html`<bb-confetti .seed=${title}></bb-confetti>` : nothing}
-      ${layout === "place" ? nothing : bigFigure(figure)}
+      ${beside ? nothing : bigFigure(figure)}
       ${front.map((one) => html`<span class="poster-front">${picture(one)}</span>`)}
     </div>
-    ${texts(poster, layout === "place" ? bigFigure(figure) : nothing)}
+    ${texts(poster, beside ? bigFigure(figure) : nothing)}
     ${
       meter
         ? html`<div class="poster-meter ${toneClass(meter.tone)}">

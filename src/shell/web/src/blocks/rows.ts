@@ -3,7 +3,7 @@ import { hasPicture, picture } from "../pictures/picture";
 import { glyph } from "../pictures/icons";
 import type { PictureGrid, Row, Rows } from "../protocol";
 import type { Scene } from "../scene";
-import { actionMenu, badge, bar, pricePill, toneClass } from "./parts";
+import { actionMenu, badge, bar, pricePill, reveal, toneClass } from "./parts";
 import { film, shelfItem, stop, stripItem, wireLine } from "./row-styles";
 import { spark } from "./spark";
 
@@ -35,7 +35,7 @@ function styled(style: NonNullable<Rows["style"]>, items: Row[], scene: Scene): 
     case "strip": {
       // With nothing in it to press, the keys need the strip itself to scroll it.
       const tab = items.some(({ id }) => id) ? nothing : "0";
-      return html`<ul class="strip ${stripLook(items)}" tabindex=${tab}>
+      return html`<ul class="strip ${stripLook(items)}" tabindex=${tab} @focusin=${reveal}>
         ${items.map((row) => stripItem(row, scene))}
       </ul>`;
     }

@@ -22,7 +22,7 @@ export function storyBlock(story: Story): TemplateResult {
   const [above, below] = skyOf(story);
   const { told, listed } = factsOf(story);
   return html`<section class="story" style="--above:${above};--below:${below}">
-    ${kicker ? html`<p class="story-kicker" dir="auto">${kicker}</p>` : nothing}
+    ${kicker ? html`<p class="story-kicker">${kicker.split(" · ").map((part) => html`<span dir="auto">${part}</span>`)}</p>` : nothing}
     <p class="story-figure" style="--letters:${Math.max(3, figure.length)}" dir="auto">${figure}</p>
     <div class="story-picture">
       ${picture(sky)}

@@ -135,7 +135,7 @@ class AppElement extends LitElement {
     >
       <div class="scroll">
         <div class="page">
-          ${this.topBar(layer, answer.header ?? {})} ${layer.pushed ? nothing : this.bigTitle(view)}
+          ${this.topBar(layer, answer.header ?? {})} ${layer.pushed || isUntitled(view) ? nothing : this.bigTitle(view)}
           <bb-blocks class="blocks" .view=${view} .scene=${this.sceneOf(layer)}></bb-blocks>
           ${dock(view, this.sceneOf(layer), endWeek ? this.endWeekButton() : null)}
         </div>
@@ -317,6 +317,11 @@ class AppElement extends LitElement {
     if (event.key !== "Escape" || typing || this.sheet || this.alerting || !this.canGoBack) return;
     this.press("nav", "back");
   }
+}
+
+/** A screen whose first block is its head. */
+function isUntitled(view: View | null): boolean {
+  return view !== null && !view.title && !view.subtitle && !view.picture && !view.help;
 }
 
 customElements.define("backbeat-app", AppElement);

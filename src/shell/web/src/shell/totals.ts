@@ -47,7 +47,7 @@ class TotalsElement extends LitElement {
   private total({ label, value = "", tone, energy, share }: Total, i: number): TemplateResult {
     const shown = this.share < 1 ? between(this.earlier[i]?.value ?? value, value, this.share) : value;
     return html`<span
-      class="total ${toneClass(tone)} ${energy ? "of-energy" : ""} ${share === undefined ? "" : "chance"}"
+      class="total-item ${toneClass(tone)} ${energy ? "of-energy" : ""} ${share === undefined ? "" : "chance"}"
     >
       ${share === undefined ? nothing : dial(share, label || value)}
       <span class="total-value" dir="auto">${energy ? glyph("bolt") : nothing}${shown}</span>
