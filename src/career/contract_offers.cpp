@@ -11,7 +11,6 @@ namespace backbeat {
 
 namespace {
 
-constexpr int64_t leastFans = 35'001;
 constexpr int64_t thresholdBase = 30'000;
 constexpr int64_t thresholdSpan = 45'000;
 constexpr int64_t luckyDraw = 5;
@@ -79,7 +78,9 @@ void checkLabelOfferBadge(Game& game) {
   const GameState& state = game.state;
   const int64_t draw = game.random.integer(0, 9);
   const int64_t threshold = game.random.integer(0, thresholdSpan);
-  if (state.totalFans < leastFans || threshold + thresholdBase >= state.totalFans || state.isLabelLaunched != 0) return;
+  if (state.totalFans < fewestFansForOffer || threshold + thresholdBase >= state.totalFans ||
+      state.isLabelLaunched != 0)
+    return;
   const bool offered = state.underContract == 0 && game.launch.contractOfferState == 0 && draw == luckyDraw;
   game.launch.contractOfferState = offered ? 1 : 0;
 }

@@ -8,6 +8,8 @@
 
 namespace backbeat {
 
+inline constexpr int64_t fewestFansForOffer = 35'001;
+
 /// Step 14 of the turn. Two draws are always made; below the fame they ask for, or with a label of one's own, nothing
 /// changes, so that an offer can then outlive its week. Otherwise an offer comes to a free artist one week in ten, and
 /// an offer that was there lapses without a word.

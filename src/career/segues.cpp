@@ -5,6 +5,7 @@
 #include "career/job_board.h"
 #include "career/label_contract.h"
 #include "career/lifestyle.h"
+#include "career/news.h"
 #include "career/screens/contract_offer_view_controller.h"
 #include "career/screens/energy_transparency_view_controller.h"
 #include "career/screens/job_board_view_controller.h"
@@ -152,18 +153,8 @@ constexpr MenuLine menu[] = {
      .describe = describeEnergy},
 };
 
-void addNeeds(const Game& game, std::vector<Need>& needs) {
-  if (game.launch.contractOfferState < 1) return;
-  needs.push_back({.priority = 300,
-                   .picture = icon("label"),
-                   .title = "A record label wants to talk",
-                   .subtitle = "Read it now: the offer may go with the week",
-                   .badge = "!",
-                   .segue = "goToContractOffer"});
-}
-
 }  // namespace
 
-const Room careerRoom = {.segues = segues, .menu = menu, .addNeeds = addNeeds};
+const Room careerRoom = {.segues = segues, .menu = menu, .addNeeds = addCareerNeeds, .addNews = addCareerNews};
 
 }  // namespace backbeat

@@ -23,6 +23,8 @@ void rollCalendar(Game& game) {
   game.save(&GameState::yearNumber, &GameState::weekNumber, &GameState::totalEnergyMax);
 }
 
+bool inFirstWeeks(const GameState& state) { return state.weekNumberForTracking <= 3; }
+
 void stateChanged(Game& game) {
   rollCalendar(game);
   if (game.leaderboardPass) game.leaderboardPass(game);

@@ -9,6 +9,9 @@ namespace backbeat {
 /// Frees the leaderboard pass in weeks 10, 20, ... Runs whenever the header is shown anew, not only at a week's end.
 void rollCalendar(Game& game);
 
+/// Whether the artist is so new that advice helps: the first three weeks of a first life.
+bool inFirstWeeks(const GameState& state);
+
 /// Posted after any change that a visible screen has to show. A rule, not a redraw: it rolls the calendar, then runs
 /// the leaderboard pass.
 void stateChanged(Game& game);

@@ -13,16 +13,18 @@
 #include "core/platform.h"
 #include "core/random.h"
 #include "core/save_file.h"
+#include "core/week_rows.h"
 
 namespace backbeat {
 
-/// How the songs that still live and the albums stand before a turn.
+/// How the career stands before a turn: the songs that still live, the albums, and what the news compares.
 struct MilestoneSnapshot {
   struct SongStanding {
     int64_t songId = 0;
     int64_t tier = 0;  ///< certification
     int64_t peak = 0;  ///< best rank so far, 0 when it never charted
     bool wasFirst = false;
+    bool wasOnChart = false;
   };
   struct AlbumStanding {
     int64_t albumId = 0;
@@ -30,6 +32,18 @@ struct MilestoneSnapshot {
   };
   std::vector<SongStanding> songs;    ///< in the order of the list then
   std::vector<AlbumStanding> albums;  ///< all, in the order of the list, which no turn changes
+  CalendarWeek week;
+  int64_t absoluteWeek = 0;  ///< 0 when no turn has run in this launch
+  double cash = 0;           ///< dollars
+  int64_t listeners = 0;
+  int64_t mostListeners = 0;       ///< of the weeks that are remembered
+  bool allListenersKnown = false;  ///< no week of the artist is older than those
+  int64_t followers = 0;
+  int64_t jobWeeks = 0;  ///< that the job's contract still runs
+  int64_t bestRank = 0;  ///< on the chart, of any own song ever; 0 when none charted
+  int64_t bestSongTier = 0;
+  int64_t bestAlbumTier = 0;
+  bool wasStreamed = false;
 };
 
 /// Working values of the running turn; cleared at its first step, never saved.

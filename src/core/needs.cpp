@@ -14,6 +14,7 @@ std::vector<Need> needsOf(const Game& game) {
     if (room->addNeeds) room->addNeeds(game, needs);
   }
   std::stable_sort(needs.begin(), needs.end(), [](const Need& a, const Need& b) { return a.priority > b.priority; });
+  if (needs.size() > mostNeeds) needs.resize(mostNeeds);
   return needs;
 }
 
@@ -28,10 +29,13 @@ void listNeeds(View& view, const Game& game) {
                           .title = need.title,
                           .subtitle = need.subtitle,
                           .badge = need.badge,
+                          .price = need.price,
                           .opens = true,
                           .id = idOf(need)});
   }
-  if (!rows.items.empty()) view.add(std::move(rows));
+  if (rows.items.empty()) return;
+  view.add(Heading{"This week"});
+  view.add(std::move(rows));
 }
 
 Outcome followNeed(const Game& game, const Action& action) {

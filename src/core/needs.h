@@ -1,7 +1,8 @@
-// What waits for the player, told by the rooms and listed on top of home.
+// What waits for the player, told by the rooms and listed on home: what this week is for.
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,12 +18,16 @@ struct Need {
   Picture picture = {};
   std::string title = {};
   std::string subtitle = {};
-  std::string badge = {};  ///< worn by its row, and by the home tab
+  std::optional<Price> price = {};  ///< of the visit
+  std::string badge = {};           ///< worn by its row, and by the home tab
   std::string segue = {};
   std::string argument = {};
 };
 
-/// Adds a list of what waits, where anything does.
+/// At most so many are listed.
+inline constexpr size_t mostNeeds = 4;
+
+/// Adds a list of what waits, where anything does: the first of it.
 void listNeeds(View& view, const Game& game);
 
 /// Where a press leads; nowhere when it is for nothing that waits.

@@ -6,6 +6,7 @@
 
 #include "core/menu.h"
 #include "core/needs.h"
+#include "core/news.h"
 #include "core/segue.h"
 
 namespace backbeat {
@@ -15,6 +16,8 @@ struct Room {
   std::span<const MenuLine> menu = {};
   /// Asked after every press, so it looks at little.
   void (*addNeeds)(const Game& game, std::vector<Need>& needs) = nullptr;
+  /// Asked once a week, when the report opens and its cash is settled.
+  void (*addNews)(const Game& game, std::vector<News>& news) = nullptr;
 };
 
 }  // namespace backbeat

@@ -18,6 +18,8 @@ Text caption(std::string text, Tone tone) {
   return {.text = std::move(text), .tone = tone, .style = Text::Style::caption};
 }
 
+Card hint(std::string text) { return {.picture = icon("info"), .title = "Good to know", .text = std::move(text)}; }
+
 double shareOf(double part, double whole) { return whole > 0 ? std::clamp(part / whole, 0.0, 1.0) : 0; }
 double shareOf(int64_t part, int64_t whole) { return shareOf(static_cast<double>(part), static_cast<double>(whole)); }
 

@@ -13,6 +13,9 @@ Row wayTo(std::string id, std::string glyph, std::string title, std::string subt
 /// A paragraph in small print.
 Text caption(std::string text, Tone tone = Tone::plain);
 
+/// A word of advice for the first weeks of a career, beside the thing that it is about.
+Card hint(std::string text);
+
 /// How far a bar goes for `part` of `whole`, 0 to 1; nowhere when there is no whole above 0.
 double shareOf(double part, double whole);
 double shareOf(int64_t part, int64_t whole);

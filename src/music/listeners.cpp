@@ -29,7 +29,6 @@ constexpr Band<int64_t, double> luckTops[] = {
 constexpr double luckBeyond = 14;
 
 constexpr int64_t recentWeeks = 104;
-constexpr size_t weeksRemembered = 26;
 constexpr double poolShare = 0.01;
 
 /// The latest release, released or not, the first of equal ones: something still in production has release week 0, and
@@ -90,7 +89,7 @@ void simulateWeeklyListeners(Game& game) {
   state.youVideoSubscriberCount =
       add(state.youVideoSubscriberCount, truncate(game.random.uniformDouble(0.3, 0.7) * change));
   state.monthlyListenerData.push_back(state.totalFans);
-  if (state.monthlyListenerData.size() > weeksRemembered) {
+  if (state.monthlyListenerData.size() > listenerWeeksRemembered) {
     state.monthlyListenerData.erase(state.monthlyListenerData.begin());
   }
   game.save(&GameState::monthlyListenerData, &GameState::youVideoSubscriberCount, &GameState::totalFans,

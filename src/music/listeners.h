@@ -5,6 +5,8 @@
 
 namespace backbeat {
 
+inline constexpr size_t listenerWeeksRemembered = 26;  ///< of `monthlyListenerData`
+
 /// What a week does to the listeners: mean rating of recent songs / 10 * (luck * recency), cut towards 0; 0 when it
 /// would take the total below 0. `basis` for the luck is the listeners plus the marketing pool's mean.
 int64_t weeklyFanGainFor(Game& game, int64_t marketingPoolMean, double recency, double meanRating);

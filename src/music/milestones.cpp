@@ -4,6 +4,8 @@
 
 #include "core/money.h"
 #include "music/certifications.h"
+#include "music/chart.h"
+#include "music/listeners.h"
 #include "music/streaming.h"
 
 namespace backbeat {
@@ -15,8 +17,12 @@ using SongStanding = MilestoneSnapshot::SongStanding;
 
 constexpr size_t weeksToBeat = 3;
 
-Milestone ofSong(Kind kind, int64_t songId, std::string text) { return {kind, songId, -1, std::move(text)}; }
-Milestone ofAlbum(Kind kind, int64_t albumId, std::string text) { return {kind, -1, albumId, std::move(text)}; }
+Milestone ofSong(Kind kind, int64_t songId, std::string text, int64_t number) {
+  return {kind, songId, -1, std::move(text), number};
+}
+Milestone ofAlbum(Kind kind, int64_t albumId, std::string text, int64_t number) {
+  return {kind, -1, albumId, std::move(text), number};
+}
 
 std::string quoted(const std::string& title) { return "“" + title + "”"; }
 
@@ -40,12 +46,13 @@ std::vector<Place> placesOf(const std::vector<SongStanding>& songs, const Record
 void addChartMilestone(std::vector<Milestone>& milestones, const SongStanding& before, const BillboardSong& row) {
   const std::string title = quoted(row.songTitle);
   if (!before.wasFirst && row.weeksAtOne > 0) {
-    milestones.push_back(ofSong(Kind::numberOne, row.songId, title + " is number one!"));
+    milestones.push_back(ofSong(Kind::numberOne, row.songId, title + " is number one!", 1));
   } else if (before.peak == 0) {
-    milestones.push_back(
-        ofSong(Kind::chartDebut, row.songId, title + " enters the chart at " + rank(row.rankThisWeek)));
+    milestones.push_back(ofSong(Kind::chartDebut, row.songId, title + " enters the chart at " + rank(row.rankThisWeek),
+                                row.rankThisWeek));
   } else if (row.peakPosition < before.peak) {
-    milestones.push_back(ofSong(Kind::newPeak, row.songId, title + " climbs to a new peak: " + rank(row.peakPosition)));
+    milestones.push_back(ofSong(Kind::newPeak, row.songId, title + " climbs to a new peak: " + rank(row.peakPosition),
+                                row.peakPosition));
   }
 }
 
@@ -69,14 +76,33 @@ void addRecords(std::vector<Milestone>& milestones, const GameState& after, Cale
     const int64_t best = recordCount(streams, streams.historyOf(row.songId), &WeeklySongListens::songListens);
     if (best == 0) continue;
     milestones.push_back(ofSong(Kind::recordWeek, row.songId,
-                                quoted(row.songTitle) + " has its best week yet: " + counted(best, "stream")));
+                                quoted(row.songTitle) + " has its best week yet: " + counted(best, "stream"), best));
   }
   const auto& sales = after.saveAllWeeklyAlbumSales;
   for (const WeeklyAlbumSales& row : rowsOfWeek(sales, week)) {
     const int64_t best = recordCount(sales, sales.historyOf(row.albumId), &WeeklyAlbumSales::albumSales);
     if (best == 0) continue;
     milestones.push_back(ofAlbum(Kind::recordWeek, row.albumId,
-                                 quoted(row.albumTitle) + " has its best week yet: " + withCommas(best) + " sold"));
+                                 quoted(row.albumTitle) + " has its best week yet: " + withCommas(best) + " sold",
+                                 best));
+  }
+}
+
+void addStanding(MilestoneSnapshot& snapshot, const GameState& state) {
+  const std::vector<int64_t>& listeners = state.monthlyListenerData;
+  snapshot.week = {state.weekNumber, state.yearNumber};
+  snapshot.absoluteWeek = state.weekNumberForTracking;
+  snapshot.cash = state.totalCashAvailable;
+  snapshot.listeners = state.totalFans;
+  // What was won by a press since the last week counts for this one.
+  snapshot.mostListeners = listeners.empty() ? state.totalFans : 0;
+  for (const int64_t week : listeners) snapshot.mostListeners = std::max(snapshot.mostListeners, week);
+  snapshot.allListenersKnown = listeners.size() < listenerWeeksRemembered;
+  snapshot.followers = state.followerCount;
+  snapshot.jobWeeks = state.weeklyJobContractRemaining;
+  for (const BillboardSong& row : state.saveAllBillboardSongList) {
+    if (row.songId >= signedArtistSongOffset) continue;
+    if (snapshot.bestRank == 0 || row.peakPosition < snapshot.bestRank) snapshot.bestRank = row.peakPosition;
   }
 }
 
@@ -84,19 +110,25 @@ void addRecords(std::vector<Milestone>& milestones, const GameState& after, Cale
 
 MilestoneSnapshot milestoneSnapshot(const GameState& state) {
   MilestoneSnapshot snapshot;
+  addStanding(snapshot, state);
   for (const Song& song : state.saveAllSongList) {
+    if (song.totalListen > 0) snapshot.wasStreamed = true;
+    snapshot.bestSongTier = std::max(snapshot.bestSongTier, songCertificationTier(song.totalListen));
     if (!song.isReleased || !(remainingLife(state, song) > 0)) continue;
-    snapshot.songs.push_back({song.songId, songCertificationTier(song.totalListen), 0, false});
+    snapshot.songs.push_back({song.songId, songCertificationTier(song.totalListen), 0, false, false});
   }
   const RecordList<BillboardSong>& rows = state.saveAllBillboardSongList;
   for (SongStanding& song : snapshot.songs) {
     for (const uint32_t position : rows.historyOf(song.songId)) {
       song.peak = rows[position].peakPosition;
       song.wasFirst = rows[position].weeksAtOne > 0;
+      song.wasOnChart = rows[position].isOnCharts;
     }
   }
   for (const Album& album : state.saveAllAlbumList) {
-    snapshot.albums.push_back({album.albumId, albumCertificationTier(album)});
+    const int64_t tier = albumCertificationTier(album);
+    snapshot.bestAlbumTier = std::max(snapshot.bestAlbumTier, tier);
+    snapshot.albums.push_back({album.albumId, tier});
   }
   return snapshot;
 }
@@ -112,14 +144,14 @@ std::vector<Milestone> milestonesSince(const MilestoneSnapshot& before, const Ga
     const Song& song = after.saveAllSongList[place.position];
     const int64_t tier = songCertificationTier(song.totalListen);
     if (tier > place.before->tier) {
-      milestones.push_back(ofSong(Kind::certification, song.songId, certified(song.title, tier)));
+      milestones.push_back(ofSong(Kind::certification, song.songId, certified(song.title, tier), tier));
     }
   }
   for (size_t i = 0; i < std::min(before.albums.size(), after.saveAllAlbumList.size()); ++i) {
     const Album& album = after.saveAllAlbumList[i];
     const int64_t tier = albumCertificationTier(album);
     if (album.albumId != before.albums[i].albumId || tier <= before.albums[i].tier) continue;
-    milestones.push_back(ofAlbum(Kind::certification, album.albumId, certified(album.title, tier)));
+    milestones.push_back(ofAlbum(Kind::certification, album.albumId, certified(album.title, tier), tier));
   }
   addRecords(milestones, after, week);
   std::stable_sort(milestones.begin(), milestones.end(),

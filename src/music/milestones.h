@@ -15,6 +15,7 @@ struct Milestone {
   int64_t songId = -1;   ///< -1 when it is about an album
   int64_t albumId = -1;  ///< -1 when it is about a song
   std::string text;      ///< one finished line, the title in it
+  int64_t number = 0;    ///< the rank, the certification's tier, or the count of the week
 };
 
 /// Taken before the week cycle.

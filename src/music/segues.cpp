@@ -1,6 +1,8 @@
 #include "music/segues.h"
 
 #include "core/money.h"
+#include "music/covers.h"
+#include "music/news.h"
 #include "music/screens/add_to_album_view_controller.h"
 #include "music/screens/album_chart_detail_view_controller.h"
 #include "music/screens/album_detail_view_controller.h"
@@ -93,8 +95,37 @@ constexpr MenuLine menu[] = {
      .segue = "goToArtistProfile"},
 };
 
+void addNeeds(const Game& game, std::vector<Need>& needs) {
+  const GameState& state = game.state;
+  const Song* waiting = nullptr;
+  const Song* falling = nullptr;
+  for (const Song& song : state.saveAllSongList) {
+    if (!song.isReleased && (!waiting || song.songId < waiting->songId)) waiting = &song;
+    if (song.chartRanking > 0 && (!falling || song.chartRanking < falling->chartRanking)) falling = &song;
+  }
+  if (waiting) {
+    needs.push_back({.priority = 160,
+                     .picture = coverOf(state, *waiting),
+                     .title = "“" + waiting->title + "” is finished",
+                     .subtitle = "Nobody hears it before its release",
+                     .segue = "goToSongDetail",
+                     .argument = std::to_string(waiting->songId)});
+  }
+  if (!falling) return;
+  for (const uint32_t position : state.saveAllBillboardSongList.historyOf(falling->songId)) {
+    const BillboardSong& row = state.saveAllBillboardSongList[position];
+    if (!row.isOnCharts || row.rankLastWeek == 0 || row.rankThisWeek <= row.rankLastWeek) continue;
+    needs.push_back({.priority = 150,
+                     .picture = coverOf(state, *falling),
+                     .title = "“" + falling->title + "” slips to " + rank(row.rankThisWeek),
+                     .subtitle = "It was " + rank(row.rankLastWeek) + "; something new would hold the place",
+                     .segue = "goToSongChartDetail",
+                     .argument = std::to_string(falling->songId)});
+  }
+}
+
 }  // namespace
 
-const Room musicRoom = {.segues = segues, .menu = menu};
+const Room musicRoom = {.segues = segues, .menu = menu, .addNeeds = addNeeds, .addNews = addMusicNews};
 
 }  // namespace backbeat

@@ -3,6 +3,7 @@
 #include "career/ledger.h"
 #include "core/money.h"
 #include "turn/income_statement.h"
+#include "turn/news.h"
 #include "turn/screens/balance_sheet_view_controller.h"
 #include "turn/screens/data_view_controller.h"
 #include "turn/screens/expense_view_controller.h"
@@ -75,6 +76,6 @@ constexpr MenuLine menu[] = {
 
 }  // namespace
 
-const Room turnRoom = {.segues = segues, .menu = menu};
+const Room turnRoom = {.segues = segues, .menu = menu, .addNeeds = addTurnNeeds, .addNews = addTurnNews};
 
 }  // namespace backbeat

@@ -1,4 +1,5 @@
 #include "career/energy.h"
+#include "career/traits.h"
 #include "core/money.h"
 #include "turn/figures.h"
 
@@ -17,7 +18,15 @@ Standings homeFigures(Game& twin) {
              {"Monthly listeners: points", pointsText({data.begin(), data.end()})},
              {"Followers", abbreviated(static_cast<double>(state.followerCount))},
              {"Songs out", "6"},
+             {"Songs out: note", "+1 finished"},
              {"Best chart", rank(chartRowTitled(state, "Low Tide").peakPosition), "goToBillboard"},
+             {"Best chart: note", "now " + rank(songTitled(state, "Glass Harbour").chartRanking)},
+             {"“Night Bus” is finished", "", "goToSongDetail " + std::to_string(songTitled(state, "Night Bus").songId)},
+             {"Vocals to level " + std::to_string(nextLevel(state, traits[0])), "", "goToMyMusic"},
+             {"Vocals to level " + std::to_string(nextLevel(state, traits[0])) + ": subtitle",
+              "Half of your music, for " + std::to_string(state.vocalRangeEnergyCost) + " energy"},
+             {"100,000,000 listeners", withCommas(state.totalFans)},
+             {"100,000,000 listeners: share", shareText(static_cast<double>(state.totalFans) / 100'000'000)},
              {"Energy", std::to_string(state.totalEnergyMax - standingEnergyCosts(state)), "goToEnergyTransparency"},
              {"Standing net", currency(standingNet(state))},
              {chirp.artistName + ": age", "5h"},

@@ -19,7 +19,10 @@ Standings weekFigures(const std::string& title, const std::string& album, int64_
 Standings songWeek(const GameState& state, const char* title, const char* badge) {
   const auto weeks = state.saveAllWeeklySongListens.historyOf(songTitled(state, title).songId);
   const WeeklySongListens& week = state.saveAllWeeklySongListens[weeks.back()];
-  return weekFigures(title, week.albumTitle, week.songListens, badge);
+  Standings standings = weekFigures(title, week.albumTitle, week.songListens, badge);
+  const int64_t change = week.songListens - state.saveAllWeeklySongListens[weeks[weeks.size() - 2]].songListens;
+  standings.push_back({std::string(title) + ": note", (change > 0 ? "+" : "") + withCommas(change) + " streams"});
+  return standings;
 }
 
 double sumOf(const std::vector<double>& amounts) { return std::accumulate(amounts.begin(), amounts.end(), 0.0); }
@@ -52,37 +55,42 @@ Standings reportFigures(Game& twin) {
   const double cash = state.totalCashAvailable;
   const auto sales = state.saveAllWeeklyAlbumSales.historyOf(20);
   const int64_t fans = twin.launch.weeklyFanChange;
-  return Standings{{"title", "Week 36"},
-                   {"subtitle", "2049 · Weekly report"},
-                   {"card", "🎉 “Paper Boats” is number one!"},
-                   {"Net", currency(toldSumOf(income) - toldSumOf(expenses))},
-                   {"Net: note", "Cash " + currency(cash) + " → " + currency(cash + net)},
-                   {"Listeners", (fans > 0 ? "+" : "") + withCommas(fans) + " FANS"},
-                   {"Listeners: note", withCommas(state.totalFans) + " monthly listeners"},
-                   {"Harbour Bowl", withCommas(state.saveAllWeeklyTourSales[1].seatsSold)},
-                   {"Harbour Bowl: subtitle", "Lisbon"},
-                   {"Meadow Days", "★★★"},
-                   {"Meadow Days: subtitle", "A storm with a tune"},
-                   {"Streams", currency(streams)},
-                   {"Streams: note", "Paper Boats"},
-                   {"Albums", currency(albums)},
-                   {"Videos", currency(videos)},
-                   {"Touring", currency(touring)},
-                   {"Festival", currency(festival)},
-                   {"Featured on", currency(verses)},
-                   {"MERCH SALES", currency(merchOf(state))},
-                   {"MERCH SALES: note", counted(state.saveAllMerchWeeklySales[1].unitsSold, "unit")},
-                   {"My label", currency(label)},
-                   {"Job", currency(state.weeklyJobIncome)},
-                   {"Standing income", currency(rent)},
-                   {"Total revenue", currency(toldSumOf(income))},
-                   {"Standing expenses", currency(-costs)},
-                   {"Family", currency(-family)},
-                   {"Office", currency(-office)},
-                   {"Total cost", currency(-toldSumOf(expenses))},
-                   {"Energy", std::to_string(state.totalEnergyAvailable)},
-                   {"Energy: note", "of " + std::to_string(state.totalEnergyMax)},
-                   {"Cash", currency(cash + net)}} +
+  return Standings{
+             {"title", "Week 36"},
+             {"subtitle", "2049 · Weekly report"},
+             {"poster", "“Paper Boats” is number one!"},
+             {"poster: figure", "1"},
+             {"A song earned " + currency(streams) + " in a week: subtitle", "Your first week above $100,000"},
+             {"A song earned " + currency(streams) + " in a week: badge", "FIRST"},
+             {"Net", currency(toldSumOf(income) - toldSumOf(expenses))},
+             {"Net: note", "cash " + currency(cash + net)},
+             {"Listeners", (fans > 0 ? "+" : "") + withCommas(fans) + " FANS"},
+             {"Listeners: note", "now " + withCommas(state.totalFans)},
+             {"Harbour Bowl", withCommas(state.saveAllWeeklyTourSales[1].seatsSold)},
+             {"Harbour Bowl: subtitle", "Lisbon"},
+             {"Meadow Days", "★★★"},
+             {"Meadow Days: subtitle", "A storm with a tune"},
+             {"Streams", currency(streams)},
+             {"Streams: note", "Paper Boats"},
+             {"Albums", currency(albums)},
+             {"Videos", currency(videos)},
+             {"Touring", currency(touring)},
+             {"Festival", currency(festival)},
+             {"Featured on", currency(verses)},
+             {"MERCH SALES", currency(merchOf(state))},
+             {"MERCH SALES: note", counted(state.saveAllMerchWeeklySales[1].unitsSold, "unit")},
+             {"My label", currency(label)},
+             {"Job", currency(state.weeklyJobIncome)},
+             {"Standing income", currency(rent)},
+             {"Total revenue", currency(toldSumOf(income))},
+             {"Standing expenses", currency(-costs)},
+             {"Family", currency(-family)},
+             {"Office", currency(-office)},
+             {"Total cost", currency(-toldSumOf(expenses))},
+             {"heading (5)", "This week's chances · " + std::to_string(state.totalEnergyAvailable) + " energy left"},
+              {"Energy", std::to_string(state.totalEnergyAvailable)},
+              {"Energy: note", "of " + std::to_string(state.totalEnergyMax)},
+              {"Cash", currency(cash + net)}} +
          songWeek(state, "Paper Boats", "#1") + songWeek(state, "Fever Line", "DEBUT") +
          songWeek(state, "Glass Harbour", "PEAK") + songWeek(state, "Tin Roof", "CERTIFIED") +
          songWeek(state, "Small Hours", "RECORD") +

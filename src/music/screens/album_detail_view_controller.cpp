@@ -5,6 +5,7 @@
 #include "music/album_creation.h"
 #include "music/album_release.h"
 #include "music/covers.h"
+#include "music/news.h"
 #include "music/screens/album_rows.h"
 #include "music/screens/song_rows.h"
 #include "music/screens/statistics.h"
@@ -78,13 +79,20 @@ void AlbumDetailViewController::describeProduction(View& view, const Album& albu
 }
 
 void AlbumDetailViewController::describeReleased(View& view, const Album& album) const {
+  if (album.releaseWeek == state().weekNumberForTracking) {
+    const bool isFirst = historyIsWhole(state()) && isFirstRelease(state(), album);
+    view.add(Poster{.pictures = {coverOf(state(), album)},
+                    .kicker = isFirst ? "Your first " + albumFormat(album) : "Released",
+                    .title = "Out now",
+                    .text = "End the week to see how it sells",
+                    .mood = Poster::Mood::celebrate});
+  }
   view.add(salesChart(state(), album, weeksOnGraph));
   view.add(albumCertificationMeter(album));
   const WeeklyFigures figures = albumFigures(state(), album.albumId);
   view.add(Tiles{{{.icon = "star", .label = "Rating", .value = withDecimals(album.productionRating, 1)},
                   {.icon = "cash", .label = "Earned", .value = "$" + abbreviated(figures.earned)},
                   {.icon = "cart", .label = "Price", .value = price(album.price)}}});
-  view.add(caption("RELEASED ", Tone::good));
   view.add(Button{.id = "marketingButton", .label = "Statistics"});
 }
 

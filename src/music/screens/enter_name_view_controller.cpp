@@ -46,10 +46,9 @@ std::string EnterNameViewController::suggested() const {
 
 View EnterNameViewController::view() const {
   View view{.title = "Who are you?", .subtitle = "Week 1, 2023", .picture = artistPicture(state(), name_)};
-  view.add(Text{
-      .text = "A microphone, an empty notebook and a city that has not heard of you yet. Every legend starts with a "
-              "name.",
-      .style = Text::Style::lead});
+  view.add(
+      Text{.text = "Write songs, release them and live from week to week, from an empty room to the top of the chart.",
+           .style = Text::Style::lead});
   view.add(TextField{.id = "name", .label = "Artist name", .value = name_, .placeholder = "Enter a name"});
   view.mainAction = Button{.id = "saveButton", .label = "Start the career", .style = Button::Style::primary};
   return view;

@@ -1,10 +1,15 @@
 #include "music/screens/song_detail_view_controller.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "core/money.h"
+#include "core/numbers.h"
 #include "core/view_words.h"
 #include "music/album_release.h"
 #include "music/covers.h"
 #include "music/genres.h"
+#include "music/news.h"
 #include "music/screens/statistics.h"
 #include "music/song_release.h"
 #include "social/chirps.h"
@@ -29,6 +34,19 @@ std::string featuring(const Song& song) {
   std::string names;
   for (size_t i = 1; i < song.features.size(); ++i) names += (i == 1 ? "feat. " : ", ") + song.features[i];
   return names;
+}
+
+/// The week of its release belongs to the song.
+Poster outNow(const GameState& state, const Song& song) {
+  const bool isFirst = historyIsWhole(state) && isFirstRelease(state, song);
+  return {.pictures = {coverOf(state, song)},
+          .kicker = isFirst ? "Your first release" : "Released",
+          .title = "Out now",
+          .text = "End the week to hear what the world says",
+          .facts = {{.icon = "hourglass",
+                     .label = "Plays for",
+                     .value = counted(truncate(std::ceil(song.productionRating)), "week")}},
+          .mood = Poster::Mood::celebrate};
 }
 
 }  // namespace
@@ -92,6 +110,11 @@ void SongDetailViewController::describeProduction(View& view, const Song& song) 
                  .share = shareOf(song.productionRating, 100.0)});
   view.add(Meter{
       .label = "Virality", .value = withDecimals(song.viralityScore, 2), .share = shareOf(song.viralityScore, 100.0)});
+  const auto& songs = state().saveAllSongList;
+  if (std::none_of(songs.begin(), songs.end(), [](const Song& other) { return other.isReleased; })) {
+    view.add(hint("A song lives as many weeks as its rating: " +
+                  counted(truncate(std::ceil(song.productionRating)), "week") + " for this one."));
+  }
   view.add(Heading{"Before the release"});
   // The button tells 1.0 and the boost gives 1.5: intended.
   if (const auto cost = productionBoostCost(song)) {
@@ -124,6 +147,7 @@ void SongDetailViewController::describeProduction(View& view, const Song& song) 
 }
 
 void SongDetailViewController::describeReleased(View& view, const Song& song) const {
+  if (song.releaseWeek == state().weekNumberForTracking) view.add(outNow(state(), song));
   view.add(streamsChart(state(), song, weeksOnGraph));
   view.add(
       Tiles{{{.icon = "star", .label = "Rating", .value = withDecimals(song.productionRating, 1)},

@@ -11,6 +11,7 @@
 #include "core/view_words.h"
 #include "music/screens/song_rows.h"
 #include "social/chirps.h"
+#include "turn/goals.h"
 #include "turn/screens/money_figures.h"
 #include "turn/weekly_report.h"
 
@@ -27,6 +28,15 @@ int64_t bestChart(const GameState& state) {
   int64_t best = 0;
   for (const BillboardSong& row : state.saveAllBillboardSongList) {
     if (best == 0 || row.peakPosition < best) best = row.peakPosition;
+  }
+  return best;
+}
+
+/// The best rank that a song holds now, or 0.
+int64_t chartNow(const GameState& state) {
+  int64_t best = 0;
+  for (const Song& song : state.saveAllSongList) {
+    if (song.chartRanking > 0 && (best == 0 || song.chartRanking < best)) best = song.chartRanking;
   }
   return best;
 }
@@ -53,8 +63,9 @@ View ViewController::view() const {
                         : state().underContract >= 1 ? "Signed artist"
                                                      : "Independent artist",
             .picture = artistPicture(state())};
-  listNeeds(view, game_);
   describeStanding(view);
+  listNeeds(view, game_);
+  describeGoal(view);
   describeWeek(view);
   describeMusic(view);
   addMenu(view, game_, homeTab);
@@ -76,14 +87,34 @@ void ViewController::describeStanding(View& view) const {
   const auto released = std::count_if(state().saveAllSongList.begin(), state().saveAllSongList.end(),
                                       [](const Song& song) { return song.isReleased; });
   const int64_t best = bestChart(state());
-  view.add(
-      Tiles{{{.icon = "people", .label = "Followers", .value = abbreviated(static_cast<double>(state().followerCount))},
-             {.icon = "note", .label = "Songs out", .value = withCommas(released)},
-             {.icon = "trophy", .label = "Best chart", .value = best > 0 ? rank(best) : "–", .id = "goToBillboard"}}});
+  Tile followers{
+      .icon = "people", .label = "Followers", .value = abbreviated(static_cast<double>(state().followerCount))};
+  const MilestoneSnapshot& before = game_.turn.before;
+  if (before.absoluteWeek + 1 == state().weekNumberForTracking && before.absoluteWeek > 0) {
+    const int64_t change = state().followerCount - before.followers;
+    if (change != 0) followers.note = signedNumber(change);
+    followers.tone = toneOfChange(change);
+  }
+  Tile songs{.icon = "note", .label = "Songs out", .value = withCommas(released)};
+  const int64_t inMaking = static_cast<int64_t>(state().saveAllSongList.size()) - released;
+  if (inMaking > 0) songs.note = "+" + withCommas(inMaking) + " finished";
+  Tile chart{.icon = "trophy", .label = "Best chart", .value = best > 0 ? rank(best) : "–", .id = "goToBillboard"};
+  if (const int64_t now = chartNow(state()); now > 0) chart.note = "now " + rank(now);
+  view.add(Tiles{{std::move(followers), std::move(songs), std::move(chart)}});
+}
+
+void ViewController::describeGoal(View& view) const {
+  const ListenerGoal goal = nextListenerGoal(state());
+  view.add(Heading{"In sight"});
+  view.add(Meter{.label = withCommas(goal.listeners) + " listeners" + (goal.isLabels ? ": labels begin to write" : ""),
+                 .value = withCommas(state().totalFans),
+                 .share = shareOf(state().totalFans, goal.listeners)});
+  if (goal.weeks) view.add(caption("About " + counted(*goal.weeks, "week") + " at the pace of the last month"));
 }
 
 void ViewController::describeWeek(View& view) const {
   view.add(Heading{"Next week"});
+  if (inFirstWeeks(state())) view.add(hint("Energy comes back each week. What is left over is gone, so spend it."));
   const double net = standingWeeklyNet(state());
   const bool needsWork = net < 0 && state().weeklyJobContractRemaining == 0;
   view.add(Rows{{wayTo("goToEnergyTransparency", "bolt", "Energy", "After standing costs",

@@ -15,6 +15,7 @@ class ViewController final : public Screen {
 
  private:
   void describeStanding(View& view) const;
+  void describeGoal(View& view) const;
   void describeWeek(View& view) const;
   void describeMusic(View& view) const;
 };

@@ -1,6 +1,7 @@
 #include "turn/screens/weekly_summary_view_controller.h"
 
 #include <algorithm>
+#include <map>
 
 #include "career/contract_end.h"
 #include "core/calendar.h"
@@ -14,6 +15,7 @@
 #include "music/covers.h"
 #include "recognition/music_awards.h"
 #include "turn/screens/money_figures.h"
+#include "turn/week_story.h"
 #include "wealth/weekly_ventures.h"
 
 namespace backbeat {
@@ -23,6 +25,7 @@ namespace {
 constexpr int64_t ratingOfferWeek = 31;
 constexpr Charge ratingOfferGift = {.energy = 250};
 constexpr size_t mostListed = 5;
+constexpr size_t mostNews = 6;  ///< the headline among them
 constexpr const char* ratingAnswer = "ratingAnswer:";
 
 void addIncome(Figures& figures, std::string label, double amount, std::string note = {}) {
@@ -75,17 +78,6 @@ const char* badgeFor(Milestone::Kind kind) {
   return "";
 }
 
-Card celebration(const GameState& state, const Milestone& milestone) {
-  Card card{.picture = icon("trophy"), .title = "🎉 " + milestone.text, .tone = Tone::good};
-  for (const Song& song : state.saveAllSongList) {
-    if (song.songId == milestone.songId) card.picture = coverOf(state, song);
-  }
-  for (const Album& album : state.saveAllAlbumList) {
-    if (album.albumId == milestone.albumId) card.picture = coverOf(state, album);
-  }
-  return card;
-}
-
 /// The greatest milestone of a song or an album this week, as a badge; empty without one.
 std::string badgeOf(const std::vector<Milestone>& milestones, int64_t Milestone::*id, int64_t wanted) {
   const auto found = std::find_if(milestones.begin(), milestones.end(),
@@ -101,8 +93,12 @@ Rows songsOf(const GameState& state, const WeeklyReport& report, const std::vect
                           .title = week.songTitle,
                           .subtitle = week.albumTitle,
                           .value = withCommas(week.songListens),
-                          .note = "streams",
                           .badge = badgeOf(milestones, &Milestone::songId, week.songId)});
+    const std::string noun = week.songListens == 1 ? "stream" : "streams";
+    const std::optional<int64_t> before = streamsTheWeekBefore(state, week.songId, report.week);
+    const int64_t change = week.songListens - before.value_or(week.songListens);
+    rows.items.back().note = change == 0 ? noun : (change > 0 ? "+" : "") + withCommas(change) + " " + noun;
+    rows.items.back().tone = toneOfChange(change);
   }
   return rows;
 }
@@ -162,6 +158,8 @@ Outcome WeeklySummaryViewController::open() {
   updateSignedArtistsWeekly(game_);
   showAwardButton(game_);
   milestones_ = milestonesSince(game_.turn.before, state(), report_.week);
+  news_ = newsOf(game_);
+  story_ = weekStory(game_, report_);
   return {};
 }
 
@@ -227,9 +225,9 @@ void WeeklySummaryViewController::describeEvents(View& view) const {
       {&events_.buttonEvent2, "eventButton2"},
       {&events_.buttonEvent3, "eventButton3"},
   };
-  if (std::none_of(std::begin(buttons), std::end(buttons), [](const auto& each) { return each.first->shown(); }))
-    return;
-  view.add(Heading{"This week's chances"});
+  const auto isShown = [](const auto& each) { return each.first->shown(); };
+  if (std::none_of(std::begin(buttons), std::end(buttons), isShown)) return;
+  view.add(Heading{"This week's chances · " + std::to_string(state().totalEnergyAvailable) + " energy left"});
   view.add(Tiles{{{.icon = "bolt",
                    .label = "Energy",
                    .value = std::to_string(state().totalEnergyAvailable),
@@ -238,31 +236,28 @@ void WeeklySummaryViewController::describeEvents(View& view) const {
                    .label = "Cash",
                    .value = currency(state().totalCashAvailable),
                    .tone = state().totalCashAvailable < 0 ? Tone::bad : Tone::plain}}});
+  std::map<std::string, size_t> told;  // by what the button says: the block of the first that says it
   for (const auto& [button, press] : buttons) {
-    if (button->shown()) view.add(eventCard(state(), events_, *button, press));
+    if (!button->shown()) continue;
+    const auto [known, isNew] = told.try_emplace(button->caption(), view.blocks.size());
+    if (isNew) {
+      view.add(eventCard(state(), events_, *button, press));
+    } else if (Card* card = std::get_if<Card>(&view.blocks[known->second])) {
+      card->badge = card->badge.empty() ? "Two of them" : "Three of them";
+    }
   }
 }
 
-View WeeklySummaryViewController::view() const {
-  View view{.title = "Week " + std::to_string(report_.week.week),
-            .subtitle = std::to_string(report_.week.year) + " · Weekly report",
-            .picture = artistPicture(state()),
-            .theme = Theme::report};
-  Figures income = incomeOf(report_);
-  Figures expenses = expensesOf(report_);
-  const double net = income.total->amount + expenses.total->amount;
-  const double cashAfter = cashBefore_ + report_.totalRevenue - costOf(report_);
-  const int64_t change = game_.launch.weeklyFanChange;
-  view.add(Figures{
-      .items = {dollars("Net", net, toneOfAmount(net), "Cash " + currency(cashBefore_) + " → " + currency(cashAfter)),
-                {.label = "Listeners",
-                 .value = (change > 0 ? "+" : "") + withCommas(change) + " FANS",
-                 .amount = static_cast<double>(change),
-                 .tone = toneOfChange(change),
-                 .note = withCommas(state().totalFans) + " monthly listeners"}},
-      .style = Figures::Style::large});
-  if (!milestones_.empty()) view.add(celebration(state(), milestones_.front()));
-  describeEvents(view);
+void WeeklySummaryViewController::describeNews(View& view) const {
+  const bool hasHeadline = !news_.empty() && news_.front().rank >= headlineRank;
+  Rows rows;
+  for (size_t i = hasHeadline ? 1 : 0; i < std::min(mostNews, news_.size()); ++i) rows.items.push_back(rowOf(news_[i]));
+  if (rows.items.empty()) return;
+  view.add(Heading{"News"});
+  view.add(std::move(rows));
+}
+
+void WeeklySummaryViewController::describeMusic(View& view) const {
   if (!report_.weeklySongListens.empty()) {
     view.add(Heading{"POPULAR SONGS"});
     view.add(songsOf(state(), report_, milestones_));
@@ -275,12 +270,35 @@ View WeeklySummaryViewController::view() const {
     view.add(Heading{"ON STAGE"});
     view.add(std::move(shows));
   }
-  if (report_.weeklySongListens.empty() && report_.weeklyAlbumSales.empty()) {
-    view.add(EmptyHint{.icon = "headphones",
-                       .text = "Nobody heard anything new from you this week. Release a song to change that."});
+}
+
+View WeeklySummaryViewController::view() const {
+  View view{.title = "Week " + std::to_string(report_.week.week),
+            .subtitle = std::to_string(report_.week.year) + " · Weekly report",
+            .picture = artistPicture(state()),
+            .theme = Theme::report};
+  if (!news_.empty() && news_.front().rank >= headlineRank) {
+    view.add(posterOf(news_.front()));
+  } else {
+    view.add(Text{.text = story_, .style = Text::Style::lead});
   }
+  Figures income = incomeOf(report_);
+  Figures expenses = expensesOf(report_);
+  const double net = income.total->amount + expenses.total->amount;
+  const double cashAfter = cashBefore_ + report_.totalRevenue - costOf(report_);
+  const int64_t change = game_.launch.weeklyFanChange;
+  view.add(Figures{.items = {dollars("Net", net, toneOfAmount(net), "cash " + currency(cashAfter)),
+                             {.label = "Listeners",
+                              .value = (change > 0 ? "+" : "") + withCommas(change) + " FANS",
+                              .amount = static_cast<double>(change),
+                              .tone = toneOfChange(change),
+                              .note = "now " + withCommas(state().totalFans)}},
+                   .style = Figures::Style::pair});
+  describeMusic(view);
+  describeNews(view);
   view.add(std::move(income));
   view.add(std::move(expenses));
+  describeEvents(view);
   view.mainAction = Button{.id = "closeButton", .label = "Continue", .style = Button::Style::primary};
   return view;
 }

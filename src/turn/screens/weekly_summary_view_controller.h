@@ -1,6 +1,7 @@
 // The weekly report. Opening it is the moment at which a week's cash is settled.
 #pragma once
 
+#include "core/news.h"
 #include "core/screen.h"
 #include "music/milestones.h"
 #include "turn/weekly_events.h"
@@ -37,10 +38,14 @@ class WeeklySummaryViewController final : public Screen {
 
  private:
   bool ratingOfferStands() const;
+  void describeMusic(View& view) const;
+  void describeNews(View& view) const;
   void describeEvents(View& view) const;
 
   WeeklyReport report_;
   std::vector<Milestone> milestones_;  // greatest first
+  std::vector<News> news_;             // as it stood when the report opened
+  std::string story_;                  // for a week without a headline
   WeeklyEvents events_;
   double cashBefore_ = 0;
   bool hasAppeared_ = false;

@@ -1,0 +1,17 @@
+// What a week meant for songs, albums, streams, chart and listeners.
+#pragma once
+
+#include <vector>
+
+#include "core/news.h"
+
+namespace backbeat {
+
+void addMusicNews(const Game& game, std::vector<News>& news);
+
+/// Whether no other single or album song, and no other album of its format, came out before. An album is told from its
+/// songs: six make an LP.
+bool isFirstRelease(const GameState& state, const Song& song);
+bool isFirstRelease(const GameState& state, const Album& album);
+
+}  // namespace backbeat

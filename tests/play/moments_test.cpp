@@ -1,0 +1,81 @@
+// What whole careers are told of themselves: each first time once, and none for what a career brought along. The
+// moments of the golden careers stand in golden_*_moments.txt:
+//   BACKBEAT_REGOLD=1 backbeat_tests --gtest_filter='Moments*'
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <set>
+
+#include "core/news.h"
+#include "play/golden_careers.h"
+#include "play/state_summary.h"
+#include "support/program.h"
+
+namespace backbeat {
+namespace {
+
+struct Moment {
+  int64_t week = 0;
+  News::Kind kind = News::Kind::reached;
+  std::string key;
+};
+
+const char* kindName(News::Kind kind) {
+  switch (kind) {
+    case News::Kind::first: return "first";
+    case News::Kind::best: return "best";
+    case News::Kind::reached: return "reached";
+    case News::Kind::ended: return "ended";
+  }
+  return "";
+}
+
+/// Plays the presses of a golden career.
+std::vector<Moment> momentsOf(const PlayedCareer& golden) {
+  std::vector<Moment> moments;
+  MemoryStore store;
+  store.rows = golden.beginning;
+  QuietPlatform platform;
+  TraceRecorder career(store, platform);
+  for (const TraceEvent& event : golden.events) {
+    const bool endsWeek = event.screenKey == "nav" && event.action.id == "endTheWeekButton";
+    career.play(event);
+    if (!endsWeek) continue;
+    const Game& game = career.session().game();
+    for (const News& news : newsOf(game)) moments.push_back({game.turn.before.absoluteWeek, news.kind, news.key});
+  }
+  return moments;
+}
+
+std::set<std::string> firsts(const std::vector<Moment>& moments) {
+  std::set<std::string> told;
+  for (const Moment& moment : moments) {
+    if (moment.kind != News::Kind::first) continue;
+    EXPECT_TRUE(told.insert(moment.key).second) << moment.key << " again in week " << moment.week;
+  }
+  return told;
+}
+
+TEST(Moments, EachFirstIsToldOnceInACareerAndStandsInItsList) {
+  for (const GoldenCareer& golden : goldenCareers()) {
+    SCOPED_TRACE(golden.name);
+    const std::vector<Moment> moments = momentsOf(goldenCareer(golden.name));
+    firsts(moments);
+    std::string list;
+    for (const Moment& moment : moments) {
+      list += "moment " + std::to_string(moment.week) + " " + kindName(moment.kind) + " " + moment.key + "\n";
+    }
+    const std::string file = BACKBEAT_SOURCE_DIR "/tests/play/" + std::string(golden.name) + "_moments.txt";
+    if (std::getenv("BACKBEAT_REGOLD")) writeFile(file, list);
+    EXPECT_EQ(differenceOf(contentOf(file), list), "");
+  }
+}
+
+TEST(Moments, WhatAStarBroughtAlongIsNoFirst) {
+  const std::set<std::string> told = firsts(momentsOf(goldenCareer("golden_hits")));
+  EXPECT_EQ(told.count("listeners 1000"), 0u);
+  EXPECT_EQ(told.count("number one"), 1u) << "while a place that nobody held before is one";
+}
+
+}  // namespace
+}  // namespace backbeat
