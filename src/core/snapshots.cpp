@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <chrono>
 
 #include "core/money.h"
 #include "core/save_file.h"
@@ -166,14 +165,20 @@ SnapshotPlan planFor(const std::string& content, const std::vector<Snapshot>& ke
   return plan;
 }
 
-/// "21 Nov 2026", by the clock of Greenwich.
+/// "21 Nov 2026", by the clock of Greenwich. Years are counted from March on, so that a leap day ends one.
 std::string dayOf(Date date) {
-  constexpr std::array<const char*, 12> months = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                                  "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
-  using namespace std::chrono;
-  const year_month_day day(floor<days>(sys_seconds(seconds(static_cast<int64_t>(date.seconds)))));
-  return std::to_string(static_cast<unsigned>(day.day())) + " " + months[static_cast<unsigned>(day.month()) - 1] + " " +
-         std::to_string(static_cast<int>(day.year()));
+  constexpr std::array<const char*, 12> months = {"Mar", "Apr", "May", "Jun", "Jul", "Aug",
+                                                  "Sep", "Oct", "Nov", "Dec", "Jan", "Feb"};
+  constexpr int64_t daysTo1970 = 719'468;  // from 1 March of the year 0
+  constexpr int64_t daysIn400Years = 146'097;
+  const int64_t days = std::max<int64_t>(static_cast<int64_t>(date.seconds) / 86'400 + daysTo1970, 0);
+  const int64_t day = days % daysIn400Years;
+  const int64_t year = (day - day / 1'460 + day / 36'524 - day / 146'096) / 365;
+  const int64_t dayOfYear = day - (365 * year + year / 4 - year / 100);
+  const int64_t month = (5 * dayOfYear + 2) / 153;
+  const int64_t since = days / daysIn400Years * 400 + year + (month >= 10 ? 1 : 0);
+  return std::to_string(dayOfYear - (153 * month + 2) / 5 + 1) + " " + months[static_cast<size_t>(month)] + " " +
+         std::to_string(since);
 }
 
 }  // namespace
