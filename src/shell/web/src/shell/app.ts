@@ -18,6 +18,7 @@ import "./blocks";
 import { onRoomChange, room, type Room } from "./desk";
 import { dock, endWeekDock, headButtons, moodOf } from "./dock";
 import { EdgeSwipe } from "./edge-swipe";
+import { flyGains, gainsBetween } from "./gains";
 import { keySheet, listenForKeys } from "./keys";
 import { rail } from "./rail";
 import { isRelease, outNow, playRelease } from "./release";
@@ -52,6 +53,7 @@ class AppElement extends LitElement {
   /** The screen whose song has just come out. */
   private released: Layer | null = null;
   private told: Layer | null = null;
+  private gains = new Map<string, number>();
   private typedName = "";
   private heard: SoftSound | null = null;
   private pulledShare = 0;
@@ -97,6 +99,7 @@ class AppElement extends LitElement {
     if (before !== this.stack.top) this.released = null;
     if (this.seen && isRelease(this.seen, answer)) this.released = this.stack.top!;
     this.heard = this.seen && soundOf(this.seen, answer);
+    this.gains = this.seen ? gainsBetween(this.seen.view, answer.view) : new Map();
     this.seen = answer;
     if (before !== this.stack.top || answer.alert) this.sheet = null;
     if (this.canGoBack) this.backGesture.arm();
@@ -426,6 +429,9 @@ class AppElement extends LitElement {
 
   private feel({ feedback }: Answer): void {
     if (this.heard) playSoft(this.heard);
+    const { gains } = this;
+    // The screen's own blocks are drawn a moment later.
+    if (gains.size > 0) requestAnimationFrame(() => flyGains(gains, this.querySelector(".layer.top")));
     if (this.released && this.released !== this.told) playRelease(this.querySelector(".layer.top"));
     this.told = this.released;
     if (feedback === "energyBounce") {
