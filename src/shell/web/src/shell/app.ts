@@ -137,7 +137,7 @@ class AppElement extends LitElement {
     return layer === panels[0] ? "left" : "right";
   }
 
-  /** Side by side nothing slides over anything: what comes fades in where it lies. */
+  /** Side by side nothing slides over anything: what comes is there at once. */
   private calm(before: Layer[]): void {
     const { motion } = this.step;
     if (motion === "rise" || motion === "fall" || motion === "none") return;
@@ -409,8 +409,8 @@ class AppElement extends LitElement {
     const focused = top.focus?.isConnected ? top.focus : element.querySelector<HTMLElement>("h1");
     focused?.focus({ preventScroll: true });
     const [beneath, leaving] = [".beneath", ".leaving"].map((place) => this.querySelector<HTMLElement>(place));
-    const fading = step.motion === "fade" && this.querySelector<HTMLElement>(".layer:is(.right, .wide)");
-    this.moving = play(step.motion, { top: fading || element, beneath, leaving }, this.pulledShare);
+    const atOnce = this.room === "desk" && step.motion === "fade";
+    this.moving = atOnce ? [] : play(step.motion, { top: element, beneath, leaving }, this.pulledShare);
     this.pull(0);
     await Promise.all(this.moving.map((animation) => animation.finished)).catch(() => {});
     if (this.step === step) this.stopMoving();
