@@ -106,6 +106,12 @@ bool holdsNul(const ValueType& type, const void* value) {
       return std::any_of(texts.begin(), texts.end(),
                          [&](const std::string& each) { return holdsNul(*type.item, &each); });
     }
+    case ValueType::Kind::texts: {
+      const auto& texts = *static_cast<const std::map<std::string, std::string>*>(value);
+      return std::any_of(texts.begin(), texts.end(), [](const auto& each) {
+        return each.first.find('\0') != std::string::npos || each.second.find('\0') != std::string::npos;
+      });
+    }
     default: return false;
   }
 }

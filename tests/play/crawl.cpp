@@ -71,6 +71,7 @@ class Crawler {
     way_.push_back(event);
     constexpr int64_t betweenPresses = 7'000;
     career_->pass(betweenPresses);
+    asksOutside_ = career_->shown().request.kind != Request::Kind::none;
     if (const std::string problem = career_->obeyRequest(seed); !problem.empty()) note(problem);
   }
 
@@ -144,7 +145,7 @@ class Crawler {
       if (const std::string problem = career_->fault(changed ? Care::full : Care::little); !problem.empty()) {
         note(problem);
       }
-      if (pressable.screenKey != "alert") judge(arrived, pressable, after != *before);
+      if (pressable.screenKey != "alert") judge(arrived, pressable, asksOutside_ || after != *before);
       if (kinds_.size() < mostPlaces && kinds_.insert(kindOfPlace()).second) ways_.push_back(way_);
       const Shown shown = career_->shown();
       if (shown.key == arrived.key && !shown.alert && !arrived.alert) {
@@ -176,7 +177,8 @@ class Crawler {
 
   const NamedWorld& world_;
   std::unique_ptr<WatchedCareer> career_;
-  Way way_;  ///< that the running career went
+  Way way_;                   ///< that the running career went
+  bool asksOutside_ = false;  ///< what the last press led to may well look as before
   std::deque<Way> ways_;
   std::set<std::string> kinds_;
   Crawl found_;

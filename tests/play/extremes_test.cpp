@@ -141,6 +141,10 @@ TEST(Extremes, WhatNoRuleCanCarryIsRefusedByName) {
             "This file cannot be used: totalCashAvailable is not a number.");
   EXPECT_EQ(refusalOf(changeSong([&](Song& song) { song.viralityScore = nan; })),
             "This file cannot be used: saveAllSongList, entry 2: viralityScore is not a number.");
+  EXPECT_EQ(refusalOf([](GameState& state) { state.myArtistsName = std::string("Zo\0e", 4); }),
+            "This file cannot be used: myArtistsName holds a character that is none (NUL).");
+  EXPECT_EQ(refusalOf(changeSong([](Song& song) { song.features = {std::string(1, '\0')}; })),
+            "This file cannot be used: saveAllSongList, entry 2: features holds a character that is none (NUL).");
   const int64_t taken = careerOfEverything().saveAllSongList[0].songId;
   EXPECT_EQ(refusalOf(changeSong([&](Song& song) { song.songId = taken; })),
             "This file cannot be used. Two of the songs have the id " + std::to_string(taken) + ".");

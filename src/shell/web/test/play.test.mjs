@@ -323,6 +323,26 @@ test("a release plays once: the button says that it is out, the song is heard wh
   await close();
 });
 
+test("what grew says by how much, where it stands, and is gone", async () => {
+  const level = (value) => answer([{ kind: "rows", items: [{ title: "Voice", value, share: 0.1, id: "voice" }] }]);
+  const { page, answerNext, close } = await open(level("1,004"), { reducedMotion: "no-preference" });
+  await answerNext(level("1,007"), level("1,005"));
+  const told = () =>
+    page.evaluate(async () => {
+      const seen = [];
+      new MutationObserver((changes) => {
+        for (const { addedNodes } of changes) seen.push(...[...addedNodes].map(({ textContent }) => textContent));
+      }).observe(document.body, { childList: true });
+      document.querySelector(".row-main").click();
+      await new Promise((done) => setTimeout(done, 200));
+      return seen;
+    });
+  assert.deepEqual(await told(), ["+3"]);
+  assert.deepEqual(await told(), [], "a loss says nothing");
+  await page.locator(".gain").waitFor({ state: "detached" });
+  await close();
+});
+
 test("a name has its face while it is typed", async () => {
   const named = answer([{ kind: "field", id: "name", label: "Artist name" }], { modal: true });
   Object.assign(named.view, { screen: "EnterNameViewController", picture: { kind: "person", name: "" } });

@@ -18,6 +18,7 @@ import "./blocks";
 import { onRoomChange, room, type Room } from "./desk";
 import { dock, endWeekDock, headButtons, moodOf, soleAnswer } from "./dock";
 import { EdgeSwipe } from "./edge-swipe";
+import { flyGains, gainsBetween } from "./gains";
 import { keySheet, listenForKeys } from "./keys";
 import { rail } from "./rail";
 import { isRelease, outNow, playRelease } from "./release";
@@ -52,6 +53,7 @@ class AppElement extends LitElement {
   /** The screen whose song has just come out. */
   private released: Layer | null = null;
   private told: Layer | null = null;
+  private gains = new Map<string, number>();
   private typedName = "";
   private heard: SoftSound | null = null;
   private pulledShare = 0;
@@ -97,6 +99,7 @@ class AppElement extends LitElement {
     if (before !== this.stack.top) this.released = null;
     if (this.seen && isRelease(this.seen, answer)) this.released = this.stack.top!;
     this.heard = this.seen && soundOf(this.seen, answer);
+    this.gains = this.seen ? gainsBetween(this.seen.view, answer.view) : new Map();
     this.seen = answer;
     if (before !== this.stack.top || answer.alert) this.sheet = null;
     if (this.canGoBack) this.backGesture.arm();
@@ -134,7 +137,7 @@ class AppElement extends LitElement {
     return layer === panels[0] ? "left" : "right";
   }
 
-  /** Side by side nothing slides over anything: what comes fades in where it lies. */
+  /** Side by side nothing slides over anything: what comes is there at once. */
   private calm(before: Layer[]): void {
     const { motion } = this.step;
     if (motion === "rise" || motion === "fall" || motion === "none") return;
@@ -412,8 +415,8 @@ class AppElement extends LitElement {
     const focused = top.focus?.isConnected ? top.focus : element.querySelector<HTMLElement>("h1");
     focused?.focus({ preventScroll: true });
     const [beneath, leaving] = [".beneath", ".leaving"].map((place) => this.querySelector<HTMLElement>(place));
-    const fading = step.motion === "fade" && this.querySelector<HTMLElement>(".layer:is(.right, .wide)");
-    this.moving = play(step.motion, { top: fading || element, beneath, leaving }, this.pulledShare);
+    const atOnce = this.room === "desk" && step.motion === "fade";
+    this.moving = atOnce ? [] : play(step.motion, { top: element, beneath, leaving }, this.pulledShare);
     this.pull(0);
     await Promise.all(this.moving.map((animation) => animation.finished)).catch(() => {});
     if (this.step === step) this.stopMoving();
@@ -432,6 +435,9 @@ class AppElement extends LitElement {
 
   private feel({ feedback }: Answer): void {
     if (this.heard) playSoft(this.heard);
+    const { gains } = this;
+    // The screen's own blocks are drawn a moment later.
+    if (gains.size > 0) requestAnimationFrame(() => flyGains(gains, this.querySelector(".layer.top")));
     if (this.released && this.released !== this.told) playRelease(this.querySelector(".layer.top"));
     this.told = this.released;
     if (feedback === "energyBounce") {

@@ -1,0 +1,64 @@
+// The good news at the head of a report, as it moves.
+import assert from "node:assert/strict";
+import { after, before, test } from "node:test";
+import { openStage } from "./open.mjs";
+
+let stage;
+before(async () => (stage = await openStage()));
+after(() => stage.close());
+
+const root = { tabs: [{ label: "Home", icon: "home" }], stack: [1], view: { key: 1, title: "Home" } };
+const report = (mood) => ({
+  ...root,
+  stack: [1, 2],
+  modal: true,
+  view: {
+    key: 2,
+    title: "Week 22",
+    theme: "report",
+    blocks: [
+      { kind: "poster", title: "No. 9 on the chart", figure: "9", pictures: [{ kind: "cover", name: "Tide" }], mood },
+      { kind: "figures", style: "pair", items: [{ label: "Net", value: "$41,230" }] },
+    ],
+    mainAction: { id: "continue", label: "Continue" },
+  },
+});
+
+/** The report comes up; `first` is what is seen while it still rises. */
+async function rise(mood) {
+  const { page, context } = await stage.open({ reducedMotion: "no-preference" });
+  await page.evaluate((root) => window.stage.show(root), root);
+  const first = await page.evaluate(async (report) => {
+    window.stage.show(report);
+    await new Promise(requestAnimationFrame);
+    await new Promise(requestAnimationFrame);
+    const confetti = document.querySelector("bb-confetti");
+    return {
+      rising: document.querySelector("backbeat-app").classList.contains("moving"),
+      confetti: confetti && getComputedStyle(confetti).visibility,
+      figure: document.querySelector(".figure-value").textContent,
+    };
+  }, report(mood));
+  return { page, context, first };
+}
+
+test("confetti and figures wait until the sheet stands, and a tap lets all of it lie", async () => {
+  const { page, context, first } = await rise("celebrate");
+  assert.deepEqual(first, { rising: true, confetti: "hidden", figure: "$0" });
+  const falling = () =>
+    page.evaluate(() => document.querySelector("bb-confetti").getAnimations({ subtree: true }).length);
+  await page.waitForFunction(() => document.querySelector("bb-confetti").getAnimations({ subtree: true }).length > 0);
+  await page.keyboard.press("Shift");
+  assert.equal(await falling(), 0);
+  assert.equal(await page.locator(".figure-value").textContent(), "$41,230");
+  await page.evaluate((report) => window.stage.show(report), report("celebrate"));
+  assert.equal(await falling(), 0, "one burst, however often the report is drawn");
+  await context.close();
+});
+
+test("under sad news nothing counts and nothing falls", async () => {
+  const { page, context, first } = await rise("mourn");
+  assert.deepEqual(first, { rising: true, confetti: null, figure: "$41,230" });
+  await page.locator("backbeat-app:not(.moving)").waitFor();
+  await context.close();
+});
