@@ -27,6 +27,8 @@ const RoomErrands errands({
     take("Festival Invite"),
     {"be unknown at a festival", {"new"}, {{"Festival Invite"}, {"You Weren't Selected"}}, wait},
     {"be forgotten at a festival", {"long ago"}, {{"Festival Invite"}, {"No Recent Songs"}}, wait},
+    {"see where the money goes", {"working poor"}, {{"Home"}, {"goToExpenseScreen"}}},
+    {"see what stays without the job", {"working poor"}, {{"Home"}, {"goToBalanceSheet"}}},
     {"say how it is", {"new", "rich"}, {{"🔥 FREE ENERGY 🔥"}}, 52},
 });
 

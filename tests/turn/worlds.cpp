@@ -1,5 +1,6 @@
 #include "play/worlds.h"
 
+#include "career/ledger.h"
 #include "music/builders.h"
 #include "support/dates.h"
 
@@ -16,7 +17,22 @@ void ninetyNinthYear(GameState& state) {
   state.totalEnergyAvailable = 900;
 }
 
-const RoomWorlds worlds({{"ninety-ninth year", ninetyNinthYear, true}});
+/// A job that does not pay for the way of life, and ends soon.
+void workingPoor(GameState& state) {
+  setDate(state, 60);
+  furnishCareer(state, 1, 2);
+  state.totalCashAvailable = 900;
+  state.weeklyJobIncome = 300;
+  state.weeklyJobContractRemaining = 3;
+  WeeklyLineItem chef;
+  chef.title = "House Chef";
+  chef.amount = 500;
+  chef.isExpense = true;
+  chef.typeOfExpense = expense::food;
+  state.saveAllWeeklyLineItems.append(chef);
+}
+
+const RoomWorlds worlds({{"ninety-ninth year", ninetyNinthYear, true}, {"working poor", workingPoor}});
 
 }  // namespace
 }  // namespace backbeat
