@@ -114,7 +114,7 @@ class RecordListTest : public testing::Test {
   int64_t counter = 1000;
 };
 
-using Cases = testing::Types<Case<&GameState::saveAllSongList, &Song::viralityScore>,
+using Cases = testing::Types<Case<&GameState::saveAllSongList, &Song::totalListen>,
                              Case<&GameState::saveAllBillboardSongList, &BillboardSong::songId>,
                              Case<&GameState::saveAllAlbumList, &Album::albumId>,
                              Case<&GameState::saveAllWeeklySongListens, &WeeklySongListens::songId>,

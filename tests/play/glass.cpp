@@ -50,6 +50,11 @@ std::string unknownIconOf(const View& view) {
 /// Whether the artist, who has a photo, is drawn with another face.
 bool hidesThePhoto(const View& view, const GameState& state) {
   if (artistPicture(state).kind != Picture::Kind::photo) return false;
+  // A player may give a guest the artist's own name; that face is the guest's.
+  const auto isNamesake = [&](const auto& other) { return other.name == state.myArtistsName; };
+  const bool namesake = std::any_of(state.AllFeaturedArtists.begin(), state.AllFeaturedArtists.end(), isNamesake) ||
+                        std::any_of(state.AllCelebrityCameos.begin(), state.AllCelebrityCameos.end(), isNamesake);
+  if (namesake) return false;
   bool found = false;
   forEachRecord(view, [&](const ViewType& type, const void* record) {
     if (&type != &viewType<Picture>) return;
