@@ -47,16 +47,17 @@ std::string unknownIconOf(const View& view) {
   return found;
 }
 
-/// Whether the artist, who has a photo, is drawn with another face.
-bool hidesThePhoto(const View& view, const GameState& state) {
-  if (artistPicture(state).kind != Picture::Kind::photo) return false;
+/// Whether the artist, who has a photo, is drawn with another face. Where a guest is being named the face is the
+/// guest's.
+bool hidesThePhoto(const Shown& shown, const GameState& state) {
+  if (artistPicture(state).kind != Picture::Kind::photo || shown.screen.starts_with("Change")) return false;
   // A player may give a guest the artist's own name; that face is the guest's.
   const auto isNamesake = [&](const auto& other) { return other.name == state.myArtistsName; };
   const bool namesake = std::any_of(state.AllFeaturedArtists.begin(), state.AllFeaturedArtists.end(), isNamesake) ||
                         std::any_of(state.AllCelebrityCameos.begin(), state.AllCelebrityCameos.end(), isNamesake);
   if (namesake) return false;
   bool found = false;
-  forEachRecord(view, [&](const ViewType& type, const void* record) {
+  forEachRecord(shown.view, [&](const ViewType& type, const void* record) {
     if (&type != &viewType<Picture>) return;
     const Picture& picture = *static_cast<const Picture*>(record);
     found = found || (picture.kind == Picture::Kind::person && picture.name == state.myArtistsName);
@@ -88,7 +89,7 @@ std::string glassFault(const Session& session, const std::function<Shown()>& sho
   }
   if (stateHash(state) != before) return "describing it changed the state";
   if (const std::string icon = unknownIconOf(once.view); !icon.empty()) return "nobody draws " + icon;
-  if (hidesThePhoto(once.view, state)) return "the artist has another face than the photo";
+  if (hidesThePhoto(once, state)) return "the artist has another face than the photo";
   return {};
 }
 

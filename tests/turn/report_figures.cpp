@@ -88,9 +88,9 @@ Standings reportFigures(Game& twin) {
              {"Office", currency(-office)},
              {"Total cost", currency(-toldSumOf(expenses))},
              {"heading (5)", "This week's chances · " + std::to_string(state.totalEnergyAvailable) + " energy left"},
-              {"Energy", std::to_string(state.totalEnergyAvailable)},
-              {"Energy: note", "of " + std::to_string(state.totalEnergyMax)},
-              {"Cash", currency(cash + net)}} +
+             {"Energy", std::to_string(state.totalEnergyAvailable)},
+             {"Energy: note", "of " + std::to_string(state.totalEnergyMax)},
+             {"Cash", currency(cash + net)}} +
          songWeek(state, "Paper Boats", "#1") + songWeek(state, "Fever Line", "DEBUT") +
          songWeek(state, "Glass Harbour", "PEAK") + songWeek(state, "Tin Roof", "CERTIFIED") +
          songWeek(state, "Small Hours", "RECORD") +

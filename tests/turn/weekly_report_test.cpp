@@ -218,7 +218,7 @@ TEST(WeeklyReport, ABonusThatIsTakenBackIsToldAsALine) {
   EXPECT_EQ(figureLabelled(screen.view(), "Signing bonus paid back").value, "-$150,000");
   EXPECT_EQ(figureLabelled(screen.view(), "Total cost").value, "-$150,050");
   EXPECT_EQ(figureLabelled(screen.view(), "Net").value, "-$150,050");
-  EXPECT_EQ(figureLabelled(screen.view(), "Net").note, "Cash $40,000 → -$110,050");
+  EXPECT_EQ(figureLabelled(screen.view(), "Net").note, "cash -$110,050");
   EXPECT_DOUBLE_EQ(world.state.totalCashAvailable, -110'050);
 }
 

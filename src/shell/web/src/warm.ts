@@ -4,7 +4,7 @@ import { renderBlocks } from "./render";
 import type { Answer, PressScreen } from "./protocol";
 import type { Scene } from "./scene";
 
-const nobody: Scene = { key: 0, theme: "plain", press: () => {}, open: () => {} };
+const nobody: Scene = { key: 0, theme: "plain", press: () => {}, confirm: () => {}, open: () => {} };
 const presses = 16;
 const weeksFrom = 8;
 
