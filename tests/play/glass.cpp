@@ -1,6 +1,7 @@
 #include "play/glass.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core/icons.h"
 #include "core/own_photo.h"
@@ -47,11 +48,17 @@ std::string unknownIconOf(const View& view) {
   return found;
 }
 
+/// Screens of other people, who may have been given the artist's name.
+constexpr std::array<std::string_view, 3> screensOfOthers = {
+    "FeaturingViewController", "ChangeFeaturedArtistNameViewController", "ChangeCameoNamesViewController"};
+
 /// Whether the artist, who has a photo, is drawn with another face.
-bool hidesThePhoto(const View& view, const GameState& state) {
-  if (artistPicture(state).kind != Picture::Kind::photo) return false;
+bool hidesThePhoto(const Shown& shown, const GameState& state) {
+  const bool ofOthers =
+      std::find(screensOfOthers.begin(), screensOfOthers.end(), shown.screen) != screensOfOthers.end();
+  if (ofOthers || artistPicture(state).kind != Picture::Kind::photo) return false;
   bool found = false;
-  forEachRecord(view, [&](const ViewType& type, const void* record) {
+  forEachRecord(shown.view, [&](const ViewType& type, const void* record) {
     if (&type != &viewType<Picture>) return;
     const Picture& picture = *static_cast<const Picture*>(record);
     found = found || (picture.kind == Picture::Kind::person && picture.name == state.myArtistsName);
@@ -83,7 +90,7 @@ std::string glassFault(const Session& session, const std::function<Shown()>& sho
   }
   if (stateHash(state) != before) return "describing it changed the state";
   if (const std::string icon = unknownIconOf(once.view); !icon.empty()) return "nobody draws " + icon;
-  if (hidesThePhoto(once.view, state)) return "the artist has another face than the photo";
+  if (hidesThePhoto(once, state)) return "the artist has another face than the photo";
   return {};
 }
 
