@@ -111,7 +111,7 @@ class RecordListTest : public testing::Test {
   SaveFile saveFile{store};
   std::vector<T> model;
   std::mt19937_64 random{7};
-  int64_t counter = 1000;
+  int64_t counter = 100;
 };
 
 using Cases = testing::Types<Case<&GameState::saveAllSongList, &Song::totalListen>,

@@ -1,6 +1,7 @@
 #include "play/glass.h"
 
 #include <algorithm>
+#include <array>
 
 #include "core/icons.h"
 #include "core/own_photo.h"
@@ -47,15 +48,15 @@ std::string unknownIconOf(const View& view) {
   return found;
 }
 
-/// Whether the artist, who has a photo, is drawn with another face. Where a guest is being named the face is the
-/// guest's.
+/// Screens of other people, who may have been given the artist's name.
+constexpr std::array<std::string_view, 3> screensOfOthers = {
+    "FeaturingViewController", "ChangeFeaturedArtistNameViewController", "ChangeCameoNamesViewController"};
+
+/// Whether the artist, who has a photo, is drawn with another face.
 bool hidesThePhoto(const Shown& shown, const GameState& state) {
-  if (artistPicture(state).kind != Picture::Kind::photo || shown.screen.starts_with("Change")) return false;
-  // A player may give a guest the artist's own name; that face is the guest's.
-  const auto isNamesake = [&](const auto& other) { return other.name == state.myArtistsName; };
-  const bool namesake = std::any_of(state.AllFeaturedArtists.begin(), state.AllFeaturedArtists.end(), isNamesake) ||
-                        std::any_of(state.AllCelebrityCameos.begin(), state.AllCelebrityCameos.end(), isNamesake);
-  if (namesake) return false;
+  const bool ofOthers =
+      std::find(screensOfOthers.begin(), screensOfOthers.end(), shown.screen) != screensOfOthers.end();
+  if (ofOthers || artistPicture(state).kind != Picture::Kind::photo) return false;
   bool found = false;
   forEachRecord(shown.view, [&](const ViewType& type, const void* record) {
     if (&type != &viewType<Picture>) return;

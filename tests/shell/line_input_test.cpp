@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <pty.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -12,15 +13,19 @@
 namespace backbeat {
 namespace {
 
-/// Reads what the terminal shows until the prompt of a new line stands there.
+/// Reads what the terminal shows until the prompt of a new line stands there, and waits until keys reach the editor one
+/// by one, which is a moment later.
 void awaitPrompt(int terminal, bool afterALine) {
   std::string shown;
-  char one = 0;
-  while (read(terminal, &one, 1) == 1) {
+  size_t line = std::string::npos;
+  while (line == std::string::npos || shown.find("> ", line) == std::string::npos) {
+    char one = 0;
+    if (read(terminal, &one, 1) != 1) return;
     shown += one;
-    const size_t begin = afterALine ? shown.find('\n') : 0;
-    if (begin != std::string::npos && shown.find("> ", begin) != std::string::npos) return;
+    line = afterALine ? shown.find('\n') : 0;
   }
+  termios mode = {};
+  while (tcgetattr(terminal, &mode) == 0 && (mode.c_lflag & ICANON) != 0) usleep(100);
 }
 
 /// Whether a person who types each of these at its prompt has entered the lines expected, and then ended the input:
@@ -39,7 +44,6 @@ bool enters(const std::vector<std::string>& typed, const std::vector<std::string
     awaitPrompt(terminal, i > 0);
     if (write(terminal, typed[i].data(), typed[i].size()) < 0) break;
   }
-  awaitPrompt(terminal, true);  // reads on to its end
   int status = -1;
   waitpid(child, &status, 0);
   close(terminal);
