@@ -76,7 +76,7 @@ int64_t addAlbumInProduction(GameState& state, const std::string& title, int64_t
   album.releaseWeek = state.weekNumberForTracking;
   album.releaseYear = state.yearNumber;
   for (int64_t i = 1; i <= songs; ++i) {
-    Song song = songInProduction(state.songId += idsApart, title + ", Part " + std::to_string(i));
+    Song song = songInProduction(state.songId += idsApart, title + ", Track " + std::to_string(i));
     song.album = title;
     song.albumId = album.albumId;
     state.saveAllSongList.append(song);

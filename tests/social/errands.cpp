@@ -13,7 +13,7 @@ const RoomErrands errands({
     {"announce a song twice",
      {"rich", "signed", "mid-career"},
      {{"Music"},
-      {"Second Wind, Part 1"},
+      {"Second Wind, Track 1"},
       {"announceButton"},
       {"message"},
       {"chirpButton"},
