@@ -24,8 +24,7 @@ Text outlookOf(const TourTotals& totals) {
   if (totals.numberOfShows == 0) return caption("Choose where to play. Every figure below is known before you go.");
   const std::string amount = currency(std::abs(totals.expectedNet));
   if (totals.expectedNet < 0) {
-    return caption("This tour would lose " + amount + ": its tickets sell for less than your label asks for a seat.",
-                   Tone::bad);
+    return caption("This tour would lose you " + amount + ". Fuller houses sell dearer tickets.", Tone::bad);
   }
   return caption("This tour would leave you " + amount + " after what your label takes.", Tone::good);
 }
