@@ -1,6 +1,7 @@
 #include "career/contract_end.h"
 
 #include "career/label_contract.h"
+#include "career/touring.h"
 #include "core/calendar.h"
 #include "core/money.h"
 #include "core/purse.h"
@@ -8,9 +9,6 @@
 namespace backbeat {
 
 namespace {
-
-constexpr int64_t shortestRestAfterTour = 52;
-constexpr int64_t longestRestAfterTour = 70;
 
 /// Back to the terms of an artist without a label.
 void freeArtist(Game& game) {
@@ -42,7 +40,7 @@ void callOffShows(Game& game) {
 void endTour(Game& game) {
   game.state.onTour = 0;
   game.state.onTourEnergyCost = 0;
-  game.state.timeUntilNextTour = game.random.integer(shortestRestAfterTour, longestRestAfterTour);
+  game.state.timeUntilNextTour = drawRestAfterTour(game.random);
   game.save(&GameState::onTour, &GameState::onTourEnergyCost, &GameState::timeUntilNextTour);
 }
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "career/touring.h"
+
 namespace backbeat {
 
 namespace {
@@ -24,8 +26,13 @@ void applyWeeklyEnergy(Game& game) {
 }
 
 int64_t nextWeeksEnergy(const GameState& state) {
-  const int64_t endedJob = state.weeklyJobContractRemaining < 1 ? state.weeklyEnergyCost : 0;
-  return refilled(state, standingEnergyCosts(state) - endedJob);
+  int64_t job = state.weeklyEnergyCost;
+  int64_t costs = standingEnergyCosts(state) - job;
+  if (tourEndsThisWeek(state)) {
+    costs -= state.onTourEnergyCost;
+    job -= state.onTourEnergyCost;  // the end of a tour takes its energy from the job's as well: intended
+  }
+  return refilled(state, state.weeklyJobContractRemaining < 1 ? costs : costs + job);
 }
 
 }  // namespace backbeat

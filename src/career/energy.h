@@ -12,7 +12,8 @@ int64_t standingEnergyCosts(const GameState& state);
 /// 0. Energy left below the ceiling is not carried over.
 void applyWeeklyEnergy(Game& game);
 
-/// The energy that the coming week starts with as things stand; a job whose contract has run out costs none by then.
+/// The energy that the coming week starts with as things stand; a job whose contract has run out and a tour whose last
+/// show is this week's cost none by then.
 int64_t nextWeeksEnergy(const GameState& state);
 
 }  // namespace backbeat

@@ -88,6 +88,8 @@ struct Launch {
   std::array<size_t, 3> lastProductionChoices = {};  ///< writer, musicians and studio of the last song, as picked
   bool musicScreenLoaded = false;                    ///< the music screen's first load has run
   int64_t exportedInYear = 0;                        ///< the year of the last export
+  std::vector<int64_t> venueDemand;                  ///< the luck of each venue, in the order of their table
+  std::vector<int64_t> festivalSetList;              ///< songs picked for the festival on the table
 };
 
 struct Room;

@@ -30,6 +30,7 @@ void restartGame(Game& game) {
   game.launch = Launch();
   game.launch.leaderboardPassDone = before.leaderboardPassDone;
   game.launch.musicScreenLoaded = before.musicScreenLoaded;
+  game.launch.venueDemand = before.venueDemand;
   stateChanged(game);
 }
 

@@ -4,6 +4,7 @@
 
 #include "career/ledger.h"
 #include "core/week_rows.h"
+#include "live/festivals.h"
 #include "turn/weekly_report.h"
 
 namespace backbeat {
@@ -41,9 +42,7 @@ void addIncome(const GameState& state, IncomeStatement& statement) {
   for (const FeaturedOn& song : state.saveAllFeaturedOnList) {
     if (song.releaseWeek == state.weekNumberForTracking - 1) statement.flatFees += song.flatFee;
   }
-  const size_t festival = state.saveAllFestivalList.find([&](const Festival& played) {
-    return CalendarWeek{played.weekNumber, played.yearNumber} == week;
-  });
+  const size_t festival = festivalOfWeek(state, week);
   if (festival != state.saveAllFestivalList.size()) statement.festival = state.saveAllFestivalList[festival].payment;
   if (state.isLabelLaunched >= 1) {
     const double share = 1 + state.labelRevenueBonus / 100;

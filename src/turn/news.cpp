@@ -13,21 +13,6 @@ namespace {
 
 constexpr int64_t worryingWeeks = 8;
 
-void addShow(const GameState& state, CalendarWeek week, std::vector<News>& news) {
-  for (const WeeklyTourSales& show : rowsOfWeek(state.saveAllWeeklyTourSales, week)) {
-    if (show.soldOut != 1) continue;
-    news.push_back({.rank = 520,
-                    .key = "sold out",
-                    .picture = icon("ticket"),
-                    .kicker = "This week's show",
-                    .headline = show.tourStadium,
-                    .text = show.tourLocation + ", every seat taken",
-                    .figure = withCommas(show.seatsSold),
-                    .stamp = "SOLD OUT"});
-    return;
-  }
-}
-
 }  // namespace
 
 std::optional<int64_t> weeksUntilDebt(const GameState& state) {
@@ -54,7 +39,6 @@ void addTurnNeeds(const Game& game, std::vector<Need>& needs) {
 }
 
 void addTurnNews(const Game& game, std::vector<News>& news) {
-  addShow(game.state, game.turn.before.week, news);
   if (game.turn.before.cash < 0 || game.state.totalCashAvailable >= 0) return;
   news.push_back({.kind = News::Kind::ended,
                   .rank = 400,

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "career/ledger.h"
-#include "core/bands.h"
+#include "live/festivals.h"
 #include "social/chirps.h"
 
 namespace backbeat {
@@ -34,9 +34,6 @@ constexpr std::array<std::string_view, 20> concertQuotes = {
     "On to the next city. Thank you for having me!",
 };
 
-constexpr Band<double, int64_t> starBands[] = {{20, 1}, {45, 2}, {70, 3}, {90, 4}};
-constexpr int64_t mostStars = 5;
-
 template <class T>
 std::vector<T> gathered(const RecordList<T>& list, CalendarWeek week) {
   const std::span<const T> rows = rowsOfWeek(list, week);
@@ -50,21 +47,21 @@ double sumOf(const std::vector<T>& rows, double T::*member) {
   return sum;
 }
 
-std::optional<Festival> festivalOf(const GameState& state, CalendarWeek week) {
-  for (const Festival& festival : state.saveAllFestivalList) {
-    if (CalendarWeek{festival.weekNumber, festival.yearNumber} == week) return festival;
-  }
-  return std::nullopt;
+std::optional<Festival> festivalPlayed(const GameState& state, CalendarWeek week) {
+  const size_t found = festivalOfWeek(state, week);
+  if (found == state.saveAllFestivalList.size()) return std::nullopt;
+  return state.saveAllFestivalList[found];
 }
 
 /// The show of the week tells the feed how it went.
-void chirpAboutShow(Game& game, const WeeklyReport& report) {
+void chirpAboutShow(Game& game, WeeklyReport& report) {
   if (report.weeklyTourSales.empty()) return;
   const auto soldOut = std::find_if(report.weeklyTourSales.begin(), report.weeklyTourSales.end(),
                                     [](const WeeklyTourSales& show) { return show.soldOut == 1; });
   const std::string message = soldOut != report.weeklyTourSales.end() ? "Sold out show 🔥 " + soldOut->tourLocation
                                                                       : std::string(game.random.element(concertQuotes));
   postChirpForArtist(game, message, game.state.followerCount);
+  report.showChirpId = game.state.chirpId;
 }
 
 void settleLedger(GameState& state, WeeklyReport& report) {
@@ -109,7 +106,8 @@ WeeklyReport buildWeeklyReport(Game& game) {
   report.weeklyFeaturedOnSongListens = gathered(state.saveAllFeaturedOnWeeklySongListens, report.week);
   report.weeklyMerchSales = gathered(state.saveAllMerchWeeklySales, report.week);
   report.weeklyMusicVideoViews = gathered(state.saveAllWeeklyVideoViews, report.week);
-  report.festival = festivalOf(state, report.week);
+  reviewFestival(game, report.week);
+  report.festival = festivalPlayed(state, report.week);
   std::stable_sort(
       report.weeklySongListens.begin(), report.weeklySongListens.end(),
       [](const WeeklySongListens& a, const WeeklySongListens& b) { return a.songListens > b.songListens; });
@@ -145,8 +143,6 @@ void settleWeeklyCash(Game& game, WeeklyReport& report) {
   state.totalCashAvailable += report.totalRevenue - report.totalExpenses;
   game.save(&GameState::totalCashAvailable, &GameState::totalRecordLabelCost);
 }
-
-int64_t festivalStars(double reviewStars) { return bandFor(starBands, reviewStars, mostStars); }
 
 double familyCosts(const GameState& state) {
   double sum = 0;

@@ -21,6 +21,7 @@ struct WeeklyReport {
   std::vector<MerchWeeklySales> weeklyMerchSales;
   std::vector<WeeklyVideoViews> weeklyMusicVideoViews;
   std::optional<Festival> festival;  ///< the first one played that week
+  int64_t showChirpId = 0;           ///< what the artist posted about the show; 0 without one
 
   // The settlement, line by line, in dollars.
   double totalAlbumRevenue = 0;
@@ -48,15 +49,13 @@ CalendarWeek reportedWeek(const GameState& state);
 /// False in the very first week of a family, which has no week before it to tell of.
 bool anyWeekReported(const GameState& state);
 
-/// Gathers the records of the reported week and tells the feed of its show.
+/// Gathers the records of the reported week, with what the papers write about its festival, and tells the feed of its
+/// show.
 WeeklyReport buildWeeklyReport(Game& game);
 
 /// Moves the week's net into the cash, which may fall below 0, and the label's costs into their total. Nothing can
 /// refuse it. Runs exactly once a week.
 void settleWeeklyCash(Game& game, WeeklyReport& report);
-
-/// Stars of a festival's review by its score.
-int64_t festivalStars(double reviewStars);
 
 /// Dollars a week for the children who live in the family.
 double familyCosts(const GameState& state);

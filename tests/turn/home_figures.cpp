@@ -39,8 +39,17 @@ Standings homeFigures(Game& twin) {
          songFigures(state, "Paper Boats") + songFigures(state, "Glass Harbour") + songFigures(state, "Fever Line");
 }
 
+/// In the week of a festival.
+Standings festivalHomeFigures(Game& twin) {
+  const Festival& festival = twin.state.saveAllFestivalList[1];
+  return homeFigures(twin) +
+         Standings{{"Meadow Days is this week", "", "goToFestivalArchive"},
+                   {"Meadow Days is this week: subtitle",
+                    withCommas(festival.audience) + " people, and " + currency(festival.payment) + " for you"}};
+}
+
 Standings offeredHomeFigures(Game& twin) {
-  Standings standings = homeFigures(twin);
+  Standings standings = festivalHomeFigures(twin);
   standings.push_back({"A record label wants to talk", "", "goToContractOffer"});
   standings.push_back({"A record label wants to talk: badge", "!"});
   for (Standing& standing : standings) {
@@ -60,7 +69,7 @@ Standings dataFigures(Game&) {
 
 std::vector<ScreenFigures> screens() {
   return {
-      {.segue = "home", .figures = homeFigures},
+      {.segue = "home", .figures = festivalHomeFigures},
       {.segue = "home",
        .figures = offeredHomeFigures,
        .before =

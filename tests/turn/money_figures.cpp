@@ -84,7 +84,8 @@ Standings businessFigures(Game& twin) {
           {"Expenses", currency(-livingCosts(state)), "goToExpenseScreen"},
           {"Income Statement", currency(statement.ownWork + statement.label - statement.expenses), "goToBalanceSheet"},
           {"Income Statement: subtitle", "Week 35, without job pay"},
-          {"Net Worth", currency(fortune(state)), "goToNetWorth"}};
+          {"Net Worth", currency(fortune(state)), "goToNetWorth"},
+          {"On Tour", "", "goToTourDetails"}};
 }
 
 Standings netWorthFigures(Game& twin) {

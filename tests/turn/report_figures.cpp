@@ -4,6 +4,7 @@
 #include "core/money.h"
 #include "turn/figures.h"
 #include "turn/week_cycle.h"
+#include "turn/weekly_report.h"
 
 namespace backbeat {
 
@@ -31,6 +32,18 @@ double sumOf(const std::vector<double>& amounts) { return std::accumulate(amount
 double toldSumOf(std::vector<double> amounts) {
   for (double& amount : amounts) amount = std::nearbyint(amount);
   return sumOf(amounts);
+}
+
+/// What the artist posts about the show when the report opens.
+Standings showFigures(Game& twin) {
+  buildWeeklyReport(twin);
+  const Chirp& post = twin.state.saveAllChirpList[0];
+  const auto count = [](int64_t number) { return abbreviated(static_cast<double>(number)); };
+  return {{"Mara Voss: age", "0h"},
+          {"Mara Voss: message", post.message},
+          {"Mara Voss: comments", count(post.commentCount)},
+          {"Mara Voss: reChirps", count(post.reChirpCount)},
+          {"Mara Voss: likes", count(post.likeCount)}};
 }
 
 Standings reportFigures(Game& twin) {
@@ -63,7 +76,7 @@ Standings reportFigures(Game& twin) {
              {"A song earned " + currency(streams) + " in a week: subtitle", "Your first week above $100,000"},
              {"A song earned " + currency(streams) + " in a week: badge", "FIRST"},
              {"Net", currency(toldSumOf(income) - toldSumOf(expenses))},
-             {"Net: note", "cash " + currency(cash + net)},
+             {"Net: note", "show " + currency(touring)},
              {"Listeners", (fans > 0 ? "+" : "") + withCommas(fans) + " FANS"},
              {"Listeners: note", "now " + withCommas(state.totalFans)},
              {"Harbour Bowl", withCommas(state.saveAllWeeklyTourSales[1].seatsSold)},
@@ -91,7 +104,7 @@ Standings reportFigures(Game& twin) {
              {"Energy", std::to_string(state.totalEnergyAvailable)},
              {"Energy: note", "of " + std::to_string(state.totalEnergyMax)},
              {"Cash", currency(cash + net)}} +
-         songWeek(state, "Paper Boats", "#1") + songWeek(state, "Fever Line", "DEBUT") +
+         showFigures(twin) + songWeek(state, "Paper Boats", "#1") + songWeek(state, "Fever Line", "DEBUT") +
          songWeek(state, "Glass Harbour", "PEAK") + songWeek(state, "Tin Roof", "CERTIFIED") +
          songWeek(state, "Small Hours", "RECORD") +
          weekFigures("First Light", "", state.saveAllWeeklyAlbumSales[sales.back()].albumSales, "CERTIFIED");

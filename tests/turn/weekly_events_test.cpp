@@ -276,9 +276,10 @@ TEST(WeeklyEvents, AFestivalLooksAtFansSongsAndEnergyInThatOrder) {
   EXPECT_EQ(only(world.take(15)).title, "Not Enough Energy");
   world.state.totalEnergyAvailable = 50;
   world.settle();
-  EXPECT_EQ(only(world.take(15)).title, "🚪 Not Open Yet 🚪");
   EXPECT_EQ(only(world.take(9)).title, "🚪 Not Open Yet 🚪");
   EXPECT_EQ(world.state.totalEnergyAvailable, 50);
+  EXPECT_EQ(world.take(15).go.value_or(Go{}).segue, "goToFestivalInvite");
+  EXPECT_EQ(world.state.totalEnergyAvailable, 0);
 }
 
 TEST(WeeklyEvents, AWeekOffersNoneToThreeAndAPressedButtonIsGone) {

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "core/case_folding.h"
 #include "core/menu.h"
 #include "core/money.h"
 #include "core/own_photo.h"
 #include "core/view_words.h"
 #include "social/chirps.h"
+#include "social/screens/chirp_post.h"
 
 namespace backbeat {
 
@@ -16,27 +16,9 @@ namespace {
 /// The glyph of the pin stands on the blanks.
 constexpr const char* pinnedMark = "    Pinned Chirp";
 
-/// "@paperlanterns": the name without blanks, small.
-std::string handleOf(const std::string& name) {
-  std::string handle = "@";
-  for (const char c : foldCase(name)) {
-    if (c != ' ') handle += c;
-  }
-  return handle == "@" ? "@nobody" : handle;
-}
-
-std::string count(int64_t number) { return abbreviated(static_cast<double>(number)); }
-
 Post describe(const GameState& state, const Chirp& chirp, Date now) {
   const std::string id = std::to_string(chirp.id);
-  Post post{.picture = portraitOf(state, chirp),
-            .name = chirp.artistName,
-            .handle = handleOf(chirp.artistName),
-            .age = chirpAge(chirp, now),
-            .message = chirp.message,
-            .comments = count(chirp.commentCount),
-            .reChirps = count(chirp.reChirpCount),
-            .likes = count(chirp.likeCount)};
+  Post post = postOf(state, chirp, now);
   if (chirp.isPinned >= 1) {
     post.pinned = pinnedMark;
     post.actions.push_back({.id = "unpin:" + id, .label = "Unpin from profile"});

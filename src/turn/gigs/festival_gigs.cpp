@@ -33,8 +33,8 @@ const Gig festivalInvite = {
     .promise = "They want fans by the ten thousand and recent songs.",
     .price = {.energy = 50},
     .refusal = "\nYou do not have enough energy to think about performing at a festival.",
-    .notOpenYet = "The organisers are still building the stage.",
     .guard = lookAtFansAndSongs,
+    .effect = [](Game&, const WeeklyEvents&) { return goTo("goToFestivalInvite"); },
 };
 
 }  // namespace backbeat

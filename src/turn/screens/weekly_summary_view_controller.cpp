@@ -12,8 +12,10 @@
 #include "label/weekly_label_updates.h"
 #include "life/children_events.h"
 #include "life/relationship_events.h"
+#include "live/festivals.h"
 #include "music/covers.h"
 #include "recognition/music_awards.h"
+#include "social/screens/chirp_post.h"
 #include "turn/screens/money_figures.h"
 #include "turn/week_story.h"
 #include "wealth/weekly_ventures.h"
@@ -138,9 +140,10 @@ Rows showsOf(const WeeklyReport& report) {
                           .note = "seats"});
   }
   if (report.festival) {
-    Row row{.picture = icon("star"), .title = report.festival->festivalName, .subtitle = report.festival->topReview};
-    for (int64_t i = 0; i < festivalStars(report.festival->reviewStars); ++i) row.value += "★";
-    rows.items.push_back(std::move(row));
+    rows.items.push_back({.picture = icon("star"),
+                          .title = report.festival->festivalName,
+                          .subtitle = report.festival->topReview,
+                          .value = starText(*report.festival)});
   }
   return rows;
 }
@@ -257,6 +260,13 @@ void WeeklySummaryViewController::describeNews(View& view) const {
   view.add(std::move(rows));
 }
 
+void WeeklySummaryViewController::describeShowChirp(View& view) const {
+  if (report_.showChirpId == 0) return;
+  const RecordList<Chirp>& chirps = state().saveAllChirpList;
+  const size_t found = chirps.find([&](const Chirp& chirp) { return chirp.id == report_.showChirpId; });
+  if (found != chirps.size()) view.add(postOf(state(), chirps[found], game_.clock.now()));
+}
+
 void WeeklySummaryViewController::describeMusic(View& view) const {
   if (!report_.weeklySongListens.empty()) {
     view.add(Heading{"POPULAR SONGS"});
@@ -287,13 +297,16 @@ View WeeklySummaryViewController::view() const {
   const double net = income.total->amount + expenses.total->amount;
   const double cashAfter = cashBefore_ + report_.totalRevenue - costOf(report_);
   const int64_t change = game_.launch.weeklyFanChange;
-  view.add(Figures{.items = {dollars("Net", net, toneOfAmount(net), "cash " + currency(cashAfter)),
+  const std::string ofNet =
+      report_.weeklyTourSales.empty() ? "cash " + currency(cashAfter) : "show " + currency(report_.tour);
+  view.add(Figures{.items = {dollars("Net", net, toneOfAmount(net), ofNet),
                              {.label = "Listeners",
                               .value = (change > 0 ? "+" : "") + withCommas(change) + " FANS",
                               .amount = static_cast<double>(change),
                               .tone = toneOfChange(change),
                               .note = "now " + withCommas(state().totalFans)}},
                    .style = Figures::Style::pair});
+  describeShowChirp(view);
   describeMusic(view);
   describeNews(view);
   view.add(std::move(income));

@@ -38,6 +38,7 @@ class WeeklySummaryViewController final : public Screen {
 
  private:
   bool ratingOfferStands() const;
+  void describeShowChirp(View& view) const;
   void describeMusic(View& view) const;
   void describeNews(View& view) const;
   void describeEvents(View& view) const;
