@@ -5,7 +5,13 @@
 
 namespace backbeat {
 
-/// Step 7 of the turn; runs with and without a label. Without such a song nothing happens.
+/// The weeks such a song still lives: its rating less its age. It streams while this is above 0, then is silent for
+/// ever.
+double remainingLife(const GameState& state, const FeaturedOn& verse);
+
+/// Step 7 of the turn; runs with and without a label. Each song streams by marketing and virality while its marketing
+/// lasts, with no listeners of anybody's counted in, and by what it has streamed so far after that. Expects the chart
+/// of the week to have been opened.
 void simulateFeaturedOnStreams(Game& game);
 
 }  // namespace backbeat

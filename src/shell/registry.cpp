@@ -5,6 +5,7 @@
 
 #include "career/screens/daily_life_view_controller.h"
 #include "career/segues.h"
+#include "features/segues.h"
 #include "live/segues.h"
 #include "music/screens/music_view_controller.h"
 #include "music/segues.h"
@@ -30,7 +31,8 @@ const std::array<Tab, tabCount>& tabs() {
 }
 
 std::span<const Room* const> rooms() {
-  static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom, &liveRoom, &turnRoom, &shellRoom};
+  static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom, &featuresRoom,
+                                        &liveRoom,   &turnRoom,   &shellRoom};
   return all;
 }
 

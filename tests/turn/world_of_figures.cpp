@@ -59,6 +59,13 @@ void furnish(GameState& state, OwnValues& own) {
   for (size_t i = 0; i < 2; ++i) {
     state.saveAllMerchWeeklySales.update(i, [](MerchWeeklySales& sales) { sales.merchGross += 30'000; });
   }
+  for (size_t i = 0; i < 2; ++i) {
+    state.saveAllFeaturedOnWeeklySongListens.update(i, [](FeaturedOnWeeklySongListens& week) {
+      week.songId = 8;
+      week.songTitle = "Borrowed Time";
+      week.artistName = "Gil Ives";
+    });
+  }
   state.saveAllWeeklyTourSales.update(1, [](WeeklyTourSales& show) {
     show.tourStadium = "Harbour Bowl";
     show.tourLocation = "Lisbon";

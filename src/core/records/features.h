@@ -83,4 +83,9 @@ inline constexpr auto fieldsOf<FeaturedOnWeeklySongListens> = [](auto&& take) {
               Field{"totalStreamRevenue", &FeaturedOnWeeklySongListens::totalStreamRevenue});
 };
 
+/// A verse's weeks are looked up by its id, years back.
+template <>
+inline constexpr int64_t FeaturedOnWeeklySongListens::*historyKeyOf<FeaturedOnWeeklySongListens> =
+    &FeaturedOnWeeklySongListens::songId;
+
 }  // namespace backbeat

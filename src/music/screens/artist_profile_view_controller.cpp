@@ -21,7 +21,9 @@ Outcome ArtistProfileViewController::act(const Action& action) {
   if (action.verb() == "song") return goTo("goToSongDetail", std::string(action.argument()));
   if (action.verb() == "album") return goTo("goToAlbumDetail", std::string(action.argument()));
   if (action.id == "goToMonthlyListenerDetail" || action.id == "goToCertification") return goTo(action.id);
+  if (action.verb() == "verse") return goTo("goToFeaturedOnDetail", std::string(action.argument()));
   if (action.id == "albums") albums_.moveTo(action.value);
+  if (action.id == "verses") verses_.moveTo(action.value);
   if (action.id == "about") return writeAbout(action.value);
   if (action.id == "photo") return takePhoto(action.value);
   if (action.id == "removePhoto") return takePhoto("");
@@ -50,6 +52,7 @@ View ArtistProfileViewController::view() const {
                  .text = withCommas(state().totalFans) + " monthly listeners"});
   describePopular(view);
   describeAlbums(view);
+  describeVerses(view);
   view.add(Heading{"About"});
   view.add(TextField{.id = "about",
                      .label = "In your own words",
@@ -96,6 +99,26 @@ void ArtistProfileViewController::describeAlbums(View& view) const {
   view.add(windowedRows("albums", albums_, static_cast<int64_t>(released.size()), [&](size_t i) {
     Row row = albumRow(state(), albums[released[i]]);
     row.subtitle = std::to_string(albums[released[i]].releaseYear) + " · " + albumFormat(albums[released[i]]);
+    return row;
+  }));
+}
+
+void ArtistProfileViewController::describeVerses(View& view) const {
+  const RecordList<FeaturedOn>& verses = state().saveAllFeaturedOnList;
+  if (verses.empty()) return;
+  view.add(Heading{"Appears On"});
+  view.add(windowedRows("verses", verses_, static_cast<int64_t>(verses.size()), [&](size_t i) {
+    const FeaturedOn& verse = verses[verses.size() - 1 - i];
+    Row row{.picture = cover(verse.title),
+            .title = verse.title,
+            .subtitle = verse.artistName + " · " + std::to_string(verse.releaseYear),
+            .value = abbreviated(static_cast<double>(verse.totalListen)),
+            .opens = true,
+            .id = "verse:" + std::to_string(verse.songId)};
+    if (verse.chartRanking > 0) {
+      row.note = rank(verse.chartRanking);
+      row.tone = Tone::warning;
+    }
     return row;
   }));
 }

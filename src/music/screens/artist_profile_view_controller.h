@@ -1,4 +1,5 @@
-// The artist as listeners see them on a streaming service: picture, listeners, popular songs, albums, a few words.
+// The artist as listeners see them on a streaming service: picture, listeners, popular songs, albums, verses for
+// others, a few words.
 #pragma once
 
 #include "core/screen.h"
@@ -16,8 +17,10 @@ class ArtistProfileViewController final : public Screen {
   Outcome takePhoto(const std::string& address);
   void describePopular(View& view) const;
   void describeAlbums(View& view) const;
+  void describeVerses(View& view) const;
 
   ListWindow albums_;
+  ListWindow verses_;
 };
 
 }  // namespace backbeat

@@ -51,6 +51,7 @@ Outcome BillboardViewController::act(const Action& action) {
   if (action.id == "historyButton") return historyButton();
   if (action.id == "chart") window_.moveTo(action.value);
   if (action.verb() == "song") return goTo("goToSongDetail", std::string(action.argument()));
+  if (action.verb() == "verse") return goTo("goToFeaturedOnDetail", std::string(action.argument()));
   return {};
 }
 
@@ -92,6 +93,9 @@ Row BillboardViewController::describe(const BillboardSong& song) const {
   }
   if (isOwnSong(song)) {
     row.id = "song:" + std::to_string(song.songId);
+    row.opens = true;
+  } else if (song.songId >= featuredSongOffset) {
+    row.id = "verse:" + std::to_string(song.songId - featuredSongOffset);
     row.opens = true;
   }
   return row;

@@ -1,7 +1,6 @@
 #include "music/screens/song_chart_detail_view_controller.h"
 
 #include "core/money.h"
-#include "core/view_words.h"
 #include "music/screens/statistics.h"
 #include "music/song_release.h"
 
@@ -11,23 +10,6 @@ namespace {
 
 constexpr size_t weeksOnGraph = 156;
 constexpr size_t weeksInTable = 12;
-
-void describeChartHistory(View& view, const GameState& state, const Song& song) {
-  view.add(Heading{"Chart history"});
-  const RecordList<BillboardSong>& rows = state.saveAllBillboardSongList;
-  const size_t found = rows.find([&](const BillboardSong& row) { return row.songId == song.songId; });
-  if (found == rows.size()) {
-    view.add(EmptyHint{.icon = "trophy", .text = "It has not been on the Billboard 100."});
-    return;
-  }
-  const BillboardSong& row = rows[found];
-  view.add(Tiles{{{.icon = "trophy", .label = "Peak", .value = rank(row.peakPosition)},
-                  {.icon = "calendar", .label = "On chart", .value = counted(row.weeksOnChart, "week")},
-                  {.icon = "star", .label = "At number one", .value = counted(row.weeksAtOne, "week")}}});
-  std::string now = "Entered in " + std::to_string(row.yearDebut);
-  now += song.chartRanking > 0 ? ", now at " + rank(song.chartRanking) + "." : ", off the chart now.";
-  view.add(caption(std::move(now)));
-}
 
 }  // namespace
 
@@ -53,7 +35,7 @@ View SongChartDetailViewController::view() const {
   view.add(Tiles{{{.icon = "cash", .label = "Earned", .value = currency(figures.earned)},
                   {.icon = "headphones", .label = "1,000 streams", .value = price(song.streamPayRate * 1000)},
                   {.icon = "document", .label = "Your share", .value = percentage(song.percentageOfEarnings * 100)}}});
-  describeChartHistory(view, state(), song);
+  addChartHistory(view, state(), song.songId, song.chartRanking);
   view.add(Heading{"Certification"});
   view.add(songCertificationMeter(song));
   view.add(Heading{"Latest weeks"});

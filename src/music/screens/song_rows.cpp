@@ -14,11 +14,12 @@ int64_t latestWeeklyStreams(const GameState& state, const Song& song) {
   return weeks.empty() ? 0 : state.saveAllWeeklySongListens[weeks.back()].songListens;
 }
 
-std::string lifeLeft(const GameState& state, const Song& song) {
-  const double life = remainingLife(state, song);
+std::string lifeLeft(double life) {
   if (!(life > 0)) return "Silent";
   return counted(truncate(std::ceil(life)), "week") + " left";
 }
+
+std::string lifeLeft(const GameState& state, const Song& song) { return lifeLeft(remainingLife(state, song)); }
 
 Row songRow(const GameState& state, const Song& song) {
   Row row{.picture = coverOf(state, song),

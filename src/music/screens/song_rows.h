@@ -13,7 +13,8 @@ Row songRow(const GameState& state, const Song& song);
 /// The streams of the song's latest recorded week, 0 when there is none.
 int64_t latestWeeklyStreams(const GameState& state, const Song& song);
 
-/// "12 weeks left", or that it has gone silent: how long a released song still streams.
+/// "12 weeks left", or that it has gone silent: how long a released song with so much life still streams.
+std::string lifeLeft(double life);
 std::string lifeLeft(const GameState& state, const Song& song);
 
 }  // namespace backbeat

@@ -15,8 +15,10 @@ namespace {
 
 int64_t countOf(const WeeklySongListens& week) { return week.songListens; }
 int64_t countOf(const WeeklyAlbumSales& week) { return week.albumSales; }
+int64_t countOf(const FeaturedOnWeeklySongListens& week) { return week.songListens; }
 double dollarsOf(const WeeklySongListens& week) { return week.totalStreamRevenue; }
 double dollarsOf(const WeeklyAlbumSales& week) { return week.albumRevenue; }
+double dollarsOf(const FeaturedOnWeeklySongListens& week) { return week.totalStreamRevenue; }
 
 template <class T>
 WeeklyFigures figuresOf(const RecordList<T>& list, int64_t id) {
@@ -70,6 +72,10 @@ WeeklyFigures albumFigures(const GameState& state, int64_t albumId) {
   return figuresOf(state.saveAllWeeklyAlbumSales, albumId);
 }
 
+WeeklyFigures verseFigures(const GameState& state, int64_t songId) {
+  return figuresOf(state.saveAllFeaturedOnWeeklySongListens, songId);
+}
+
 Chart streamsChart(const GameState& state, const Song& song, size_t mostWeeks) {
   Chart chart{.title = "Streams",
               .value = withCommas(song.totalListen),
@@ -88,6 +94,13 @@ Chart salesChart(const GameState& state, const Album& album, size_t mostWeeks) {
   return chart;
 }
 
+Chart verseChart(const GameState& state, const FeaturedOn& verse, double life, size_t mostWeeks) {
+  Chart chart{
+      .title = "Streams", .value = withCommas(verse.totalListen), .note = lifeLeft(life), .style = Chart::Style::bars};
+  addWeeks(chart, state.saveAllFeaturedOnWeeklySongListens, verse.songId, mostWeeks);
+  return chart;
+}
+
 Meter songCertificationMeter(const Song& song) {
   return certificationMeter(songCertificationTier(song.totalListen), song.totalListen,
                             nextSongCertification(song.totalListen));
@@ -97,12 +110,32 @@ Meter albumCertificationMeter(const Album& album) {
   return certificationMeter(albumCertificationTier(album), album.albumsSold, nextAlbumCertification(album));
 }
 
+void addChartHistory(View& view, const GameState& state, int64_t chartId, int64_t ranking) {
+  view.add(Heading{"Chart history"});
+  const auto known = state.saveAllBillboardSongList.historyOf(chartId);
+  if (known.empty()) {
+    view.add(EmptyHint{.icon = "trophy", .text = "It has not been on the Billboard 100."});
+    return;
+  }
+  const BillboardSong& row = state.saveAllBillboardSongList[known.front()];
+  view.add(Tiles{{{.icon = "trophy", .label = "Peak", .value = rank(row.peakPosition)},
+                  {.icon = "calendar", .label = "On chart", .value = counted(row.weeksOnChart, "week")},
+                  {.icon = "star", .label = "At number one", .value = counted(row.weeksAtOne, "week")}}});
+  std::string now = "Entered in " + std::to_string(row.yearDebut);
+  now += ranking > 0 ? ", now at " + rank(ranking) + "." : ", off the chart now.";
+  view.add(caption(std::move(now)));
+}
+
 Table streamsTable(const GameState& state, int64_t songId, size_t mostWeeks) {
   return weeksTable(state.saveAllWeeklySongListens, songId, "Streams", mostWeeks);
 }
 
 Table salesTable(const GameState& state, int64_t albumId, size_t mostWeeks) {
   return weeksTable(state.saveAllWeeklyAlbumSales, albumId, "Sold", mostWeeks);
+}
+
+Table verseTable(const GameState& state, int64_t songId, size_t mostWeeks) {
+  return weeksTable(state.saveAllFeaturedOnWeeklySongListens, songId, "Streams", mostWeeks);
 }
 
 }  // namespace backbeat

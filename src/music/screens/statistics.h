@@ -1,4 +1,4 @@
-// How songs and albums have done, told from the weekly records alone.
+// How songs, albums and verses for others have done, told from the weekly records alone.
 #pragma once
 
 #include "core/game_state.h"
@@ -6,7 +6,7 @@
 
 namespace backbeat {
 
-/// What the recorded weeks of one song or album come to. Weeks that left no record count for nothing.
+/// What the recorded weeks of one song, album or verse come to. Weeks that left no record count for nothing.
 struct WeeklyFigures {
   int64_t weeks = 0;
   int64_t latest = 0;  ///< streams or units of the latest recorded week
@@ -15,17 +15,23 @@ struct WeeklyFigures {
 };
 WeeklyFigures songFigures(const GameState& state, int64_t songId);
 WeeklyFigures albumFigures(const GameState& state, int64_t albumId);
+WeeklyFigures verseFigures(const GameState& state, int64_t songId);
 
 /// The latest recorded weeks as a graph, `mostWeeks` of them, over the lifetime figure and the weeks left to live.
 Chart streamsChart(const GameState& state, const Song& song, size_t mostWeeks);
 Chart salesChart(const GameState& state, const Album& album, size_t mostWeeks);
+Chart verseChart(const GameState& state, const FeaturedOn& verse, double life, size_t mostWeeks);
 
 /// How far a total is on its way to the next certification.
 Meter songCertificationMeter(const Song& song);
 Meter albumCertificationMeter(const Album& album);
 
+/// What the chart row of that id has seen; `ranking` is its song's place now, 0 for none.
+void addChartHistory(View& view, const GameState& state, int64_t chartId, int64_t ranking);
+
 /// What a song earned, week by week, the latest first.
 Table streamsTable(const GameState& state, int64_t songId, size_t mostWeeks);
 Table salesTable(const GameState& state, int64_t albumId, size_t mostWeeks);
+Table verseTable(const GameState& state, int64_t songId, size_t mostWeeks);
 
 }  // namespace backbeat

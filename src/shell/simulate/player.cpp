@@ -72,7 +72,9 @@ void Player::endTheWeek(bool takesChances) {
   act("nav", {"endTheWeekButton", ""});
   settle();
   for (const char* chance : {"eventButton1", "eventButton2", "eventButton3"}) {
-    if (takesChances && tryPress(chance)) settle();
+    if (!takesChances || !tryPress(chance)) continue;
+    settle();
+    if (tryPress("acceptButton")) settle();  // of an offer that the chance led to
   }
   for (int presses = 0; seen().modal; ++presses) {
     if (presses > mostReportPresses) return problems_.push_back("stuck on " + std::string(seen().screen));

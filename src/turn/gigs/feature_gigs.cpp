@@ -11,6 +11,9 @@ namespace {
 
 constexpr int64_t skillForFeatures = 30;
 
+/// Who asks, and for what, is drawn there.
+Outcome hearTheOffer(Game&, const WeeklyEvents&) { return goTo("goToFeatureForAnArtist"); }
+
 }  // namespace
 
 bool skilledEnoughToFeature(const GameState& state) {
@@ -28,7 +31,7 @@ const Gig featureRequest = {
     .promise = "Your name on theirs.",
     .price = {.energy = 25},
     .refusal = "\nYou do not have enough energy to feature on a track.",
-    .notOpenYet = "Nobody has a track ready for you yet.",
+    .effect = hearTheOffer,
 };
 
 }  // namespace backbeat

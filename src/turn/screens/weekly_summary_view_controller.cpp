@@ -125,6 +125,22 @@ Rows albumsOf(const GameState& state, const WeeklyReport& report, const std::vec
   return rows;
 }
 
+/// What other artists' songs with a verse of the player streamed, the most heard first.
+Rows versesOf(const WeeklyReport& report) {
+  std::vector<FeaturedOnWeeklySongListens> weeks = report.weeklyFeaturedOnSongListens;
+  std::stable_sort(weeks.begin(), weeks.end(),
+                   [](const auto& a, const auto& b) { return a.songListens > b.songListens; });
+  Rows rows;
+  for (size_t i = 0; i < std::min(mostListed, weeks.size()); ++i) {
+    rows.items.push_back({.picture = cover(weeks[i].songTitle),
+                          .title = weeks[i].songTitle,
+                          .subtitle = weeks[i].artistName,
+                          .value = withCommas(weeks[i].songListens),
+                          .note = weeks[i].songListens == 1 ? "stream" : "streams"});
+  }
+  return rows;
+}
+
 /// The show of the week and the festival played, with what the papers said.
 Rows showsOf(const WeeklyReport& report) {
   Rows rows;
@@ -275,6 +291,10 @@ void WeeklySummaryViewController::describeMusic(View& view) const {
   if (Rows albums = albumsOf(state(), report_, milestones_); !albums.items.empty()) {
     view.add(Heading{"ALBUM SALES"});
     view.add(std::move(albums));
+  }
+  if (Rows verses = versesOf(report_); !verses.items.empty()) {
+    view.add(Heading{"FEATURED ON"});
+    view.add(std::move(verses));
   }
   if (Rows shows = showsOf(report_); !shows.items.empty()) {
     view.add(Heading{"ON STAGE"});
