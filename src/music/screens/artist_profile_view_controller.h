@@ -16,6 +16,8 @@ class ArtistProfileViewController final : public Screen {
   Outcome takePhoto(const std::string& address);
   void describePopular(View& view) const;
   void describeAlbums(View& view) const;
+  void addLaterRooms(View& view) const;
+  Outcome followLaterRooms(const Action& action) const;
 
   ListWindow albums_;
 };
