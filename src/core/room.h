@@ -18,6 +18,9 @@ struct Room {
   void (*addNeeds)(const Game& game, std::vector<Need>& needs) = nullptr;
   /// Asked once a week, when the report opens and its cash is settled.
   void (*addNews)(const Game& game, std::vector<News>& news) = nullptr;
+  /// What of it stands on the artist's page on the streaming service. The id of a row that opens is its segue, with the
+  /// argument behind a colon.
+  void (*addToProfile)(const Game& game, View& view) = nullptr;
 };
 
 }  // namespace backbeat

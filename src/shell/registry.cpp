@@ -7,6 +7,7 @@
 #include "career/segues.h"
 #include "features/segues.h"
 #include "live/segues.h"
+#include "merch/segues.h"
 #include "music/screens/music_view_controller.h"
 #include "music/segues.h"
 #include "shell/segues.h"
@@ -32,7 +33,7 @@ const std::array<Tab, tabCount>& tabs() {
 
 std::span<const Room* const> rooms() {
   static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom, &featuresRoom,
-                                        &liveRoom,   &turnRoom,   &shellRoom};
+                                        &liveRoom,   &merchRoom,  &turnRoom,  &shellRoom};
   return all;
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "core/purse.h"
 #include "core/save_file.h"
@@ -16,6 +17,7 @@ enum class Meant {
   paidLater,    ///< takes nothing: it is part of another price
   saysAnother,  ///< the words say one figure and the charge is another
   mayTake,      ///< may take energy or cash that no price names
+  energyFirst,  ///< takes its energy before it asks; the answer takes the dollars
 };
 
 struct Difference {
@@ -23,7 +25,7 @@ struct Difference {
   Meant meant;
   std::string_view why;
 };
-constexpr std::array<Difference, 16> differences = {{
+constexpr std::array<Difference, 18> differences = {{
     {"MusicViewController createSongButton", Meant::askedThere, "the way to where songs are made"},
     {"SongDetailViewController announceButton", Meant::askedThere, "the way to the composer"},
     {"TwitterProfileViewController goToCreateTwitterMessage", Meant::askedThere, "the way to the composer"},
@@ -39,6 +41,8 @@ constexpr std::array<Difference, 16> differences = {{
     {"Fan Meeting", Meant::saysAnother, "the same"},
     {"Drop Shipping", Meant::mayTake, "loses as often as it wins"},
     {"SignedContractViewController confirmEndContract", Meant::mayTake, "the question names the advance"},
+    {"AdminMerchViewController restockButton", Meant::energyFirst, "who asks the maker has had the trouble"},
+    {"AdminMerchViewController retireButton", Meant::energyFirst, "the same, for who asks for an offer"},
     {"SettingsViewController restartConfirmed", Meant::mayTake, "another life begins"},
 }};
 
@@ -126,12 +130,20 @@ std::string PressOracle::after(std::string_view screenKey, const Action& action,
   const std::optional<Pressed> press = pressed(screenKey, action);
   if (press) asked_ = now.result == Result::asked ? press->price : std::nullopt;
   if (energy_ >= 0 && state.totalEnergyAvailable < 0) return "it spent energy that was not there";
+  if (press && asked_ && isMeant(Meant::energyFirst, nameOf(*press))) {
+    const Price energy = {.energy = std::exchange(asked_->energy, 0)};
+    return priceFault({press->verb, press->label, energy}, now, state);
+  }
   if (now.result != Result::done) return stateHash(state) == hash_ ? "" : "it was refused and changed the state";
   return press ? priceFault(*press, now, state) : "";
 }
 
+std::string PressOracle::nameOf(const Pressed& press) const {
+  return std::string(shown_.screen) + " " + std::string(press.verb);
+}
+
 std::string PressOracle::priceFault(const Pressed& press, const Shown& now, const GameState& state) const {
-  const std::string name = std::string(shown_.screen) + " " + std::string(press.verb);
+  const std::string name = nameOf(press);
   const auto meant = [&](Meant what) { return isMeant(what, name) || isMeant(what, press.label); };
   const Price price = press.price.value_or(Price{});
   Charge due = price.charged();

@@ -29,6 +29,7 @@ class PressOracle {
   };
 
   std::optional<Pressed> pressed(std::string_view screenKey, const Action& action) const;
+  std::string nameOf(const Pressed& press) const;
   std::string priceFault(const Pressed& press, const Shown& now, const GameState& state) const;
 
   Shown shown_;

@@ -89,4 +89,7 @@ inline constexpr auto fieldsOf<MerchWeeklySales> = [](auto&& take) {
               Field{"yearNumber", &MerchWeeklySales::yearNumber}, Field{"onTour", &MerchWeeklySales::onTour});
 };
 
+template <>
+inline constexpr int64_t MerchWeeklySales::*historyKeyOf<MerchWeeklySales> = &MerchWeeklySales::merchId;
+
 }  // namespace backbeat

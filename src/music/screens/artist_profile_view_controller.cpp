@@ -4,7 +4,9 @@
 
 #include "core/money.h"
 #include "core/own_photo.h"
+#include "core/room.h"
 #include "core/text.h"
+#include "core/view_find.h"
 #include "music/screens/album_rows.h"
 #include "music/screens/song_rows.h"
 
@@ -27,7 +29,20 @@ Outcome ArtistProfileViewController::act(const Action& action) {
   if (action.id == "about") return writeAbout(action.value);
   if (action.id == "photo") return takePhoto(action.value);
   if (action.id == "removePhoto") return takePhoto("");
-  return {};
+  return followLaterRooms(action);
+}
+
+Outcome ArtistProfileViewController::followLaterRooms(const Action& action) const {
+  View shown;
+  addLaterRooms(shown);
+  const Row row = rowWithId(shown, action.id);
+  return row.opens ? goTo(std::string(action.verb()), std::string(action.argument())) : Outcome{};
+}
+
+void ArtistProfileViewController::addLaterRooms(View& view) const {
+  for (const Room* room : game_.rooms) {
+    if (room->addToProfile) room->addToProfile(game_, view);
+  }
 }
 
 Outcome ArtistProfileViewController::writeAbout(const std::string& text) {
@@ -53,6 +68,7 @@ View ArtistProfileViewController::view() const {
   describePopular(view);
   describeAlbums(view);
   describeVerses(view);
+  addLaterRooms(view);
   view.add(Heading{"About"});
   view.add(TextField{.id = "about",
                      .label = "In your own words",

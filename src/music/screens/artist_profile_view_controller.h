@@ -18,6 +18,8 @@ class ArtistProfileViewController final : public Screen {
   void describePopular(View& view) const;
   void describeAlbums(View& view) const;
   void describeVerses(View& view) const;
+  void addLaterRooms(View& view) const;
+  Outcome followLaterRooms(const Action& action) const;
 
   ListWindow albums_;
   ListWindow verses_;
