@@ -13,6 +13,7 @@
 #include "turn/screens/financial_view_controller.h"
 #include "turn/screens/view_controller.h"
 #include "turn/segues.h"
+#include "video/segues.h"
 
 namespace backbeat {
 
@@ -29,7 +30,7 @@ const std::array<Tab, tabCount>& tabs() {
 }
 
 std::span<const Room* const> rooms() {
-  static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom, &turnRoom, &shellRoom};
+  static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom, &videoRoom, &turnRoom, &shellRoom};
   return all;
 }
 

@@ -15,7 +15,9 @@ Standings tabFigures(const GameState& state) {
           {"Monthly Listeners", withCommas(state.totalFans), "goToMonthlyListenerDetail"},
           {"Billboard 100", "", "goToBillboard"},
           {"Certifications", "", "goToCertification"},
-          {"Artist Profile", "", "goToArtistProfile"}};
+          {"Artist Profile", "", "goToArtistProfile"},
+          {"YouVideo", abbreviated(static_cast<double>(state.youVideoSubscriberCount)), "goToYouVideo"},
+          {"YouVideo: subtitle", "3 music videos"}};
 }
 
 Standings songTabFigures(Game& twin) {
@@ -65,7 +67,8 @@ Standings profileFigures(Game& twin) {
   const GameState& state = twin.state;
   Standings standings = {{"cover: text", withCommas(state.totalFans) + " monthly listeners"},
                          {"In your own words", state.aboutDescription},
-                         {"Certifications", "", "goToCertification"}};
+                         {"Certifications", "", "goToCertification"},
+                         {"YouVideo", "", "goToYouVideo"}};
   int64_t place = 0;
   for (const char* title : {"Paper Boats", "Fever Line", "Glass Harbour", "Tin Roof", "Low Tide"}) {
     Standings song = songFigures(state, title);
@@ -78,6 +81,13 @@ Standings profileFigures(Game& twin) {
     row[1].says = std::to_string(album.releaseYear) + (album.songCount < 6 ? " · EP · " : " · LP · ") +
                   counted(album.songCount, "song");
     standings = standings + row;
+  }
+  for (const char* title : {"Old Reel", "Tin Roof", "Paper Boats"}) {
+    const RecordList<MusicVideo>& videos = state.saveAllMusicVideoList;
+    const MusicVideo& video = videos[videos.find([&](const MusicVideo& one) { return one.songTitle == title; })];
+    standings.push_back({title, "", "goToYouViewVideoDetail " + std::to_string(video.videoId)});
+    standings.push_back(
+        {title + std::string(": subtitle"), abbreviated(static_cast<double>(video.totalViews)) + " views"});
   }
   return standings;
 }

@@ -38,7 +38,8 @@ Standings reportFigures(Game& twin) {
   const auto paper = state.saveAllWeeklySongListens.historyOf(songTitled(state, "Paper Boats").songId);
   const double streams = state.saveAllWeeklySongListens[paper.back()].totalStreamRevenue;  // of the top song alone
   const double albums = earned(state.saveAllWeeklyAlbumSales, state, &WeeklyAlbumSales::albumRevenue);
-  const double videos = state.saveAllWeeklyVideoViews[1].totalViewRevenue;
+  const WeeklyVideoViews& film = state.saveAllWeeklyVideoViews.back();
+  const double videos = film.totalViewRevenue;
   const double touring = state.saveAllWeeklyTourSales[1].tourRevenue;
   const double festival = state.saveAllFestivalList[1].payment;
   const double verses = state.saveAllFeaturedOnWeeklySongListens[1].totalStreamRevenue;
@@ -66,6 +67,7 @@ Standings reportFigures(Game& twin) {
              {"Net: note", "cash " + currency(cash + net)},
              {"Listeners", (fans > 0 ? "+" : "") + withCommas(fans) + " FANS"},
              {"Listeners: note", "now " + withCommas(state.totalFans)},
+             {film.songTitle, withCommas(film.videoViews)},
              {"Harbour Bowl", withCommas(state.saveAllWeeklyTourSales[1].seatsSold)},
              {"Harbour Bowl: subtitle", "Lisbon"},
              {"Meadow Days", "★★★"},
@@ -87,7 +89,7 @@ Standings reportFigures(Game& twin) {
              {"Family", currency(-family)},
              {"Office", currency(-office)},
              {"Total cost", currency(-toldSumOf(expenses))},
-             {"heading (5)", "This week's chances · " + std::to_string(state.totalEnergyAvailable) + " energy left"},
+             {"heading (6)", "This week's chances · " + std::to_string(state.totalEnergyAvailable) + " energy left"},
              {"Energy", std::to_string(state.totalEnergyAvailable)},
              {"Energy: note", "of " + std::to_string(state.totalEnergyMax)},
              {"Cash", currency(cash + net)}} +

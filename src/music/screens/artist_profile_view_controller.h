@@ -1,4 +1,5 @@
-// The artist as listeners see them on a streaming service: picture, listeners, popular songs, albums, a few words.
+// The artist as listeners see them on a streaming service: picture, listeners, popular songs, albums, videos, a few
+// words.
 #pragma once
 
 #include "core/screen.h"
@@ -12,10 +13,10 @@ class ArtistProfileViewController final : public Screen {
   View view() const override;
 
  private:
-  Outcome writeAbout(const std::string& text);
   Outcome takePhoto(const std::string& address);
   void describePopular(View& view) const;
   void describeAlbums(View& view) const;
+  void describeVideos(View& view) const;
 
   ListWindow albums_;
 };

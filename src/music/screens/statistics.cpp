@@ -15,8 +15,10 @@ namespace {
 
 int64_t countOf(const WeeklySongListens& week) { return week.songListens; }
 int64_t countOf(const WeeklyAlbumSales& week) { return week.albumSales; }
+int64_t countOf(const WeeklyVideoViews& week) { return week.videoViews; }
 double dollarsOf(const WeeklySongListens& week) { return week.totalStreamRevenue; }
 double dollarsOf(const WeeklyAlbumSales& week) { return week.albumRevenue; }
+double dollarsOf(const WeeklyVideoViews& week) { return week.totalViewRevenue; }
 
 template <class T>
 WeeklyFigures figuresOf(const RecordList<T>& list, int64_t id) {
@@ -70,6 +72,10 @@ WeeklyFigures albumFigures(const GameState& state, int64_t albumId) {
   return figuresOf(state.saveAllWeeklyAlbumSales, albumId);
 }
 
+WeeklyFigures videoFigures(const GameState& state, int64_t videoId) {
+  return figuresOf(state.saveAllWeeklyVideoViews, videoId);
+}
+
 Chart streamsChart(const GameState& state, const Song& song, size_t mostWeeks) {
   Chart chart{.title = "Streams",
               .value = withCommas(song.totalListen),
@@ -88,6 +94,12 @@ Chart salesChart(const GameState& state, const Album& album, size_t mostWeeks) {
   return chart;
 }
 
+Chart viewsChart(const GameState& state, const MusicVideo& video, size_t mostWeeks) {
+  Chart chart{.title = "Views", .value = withCommas(video.totalViews), .style = Chart::Style::bars};
+  addWeeks(chart, state.saveAllWeeklyVideoViews, video.videoId, mostWeeks);
+  return chart;
+}
+
 Meter songCertificationMeter(const Song& song) {
   return certificationMeter(songCertificationTier(song.totalListen), song.totalListen,
                             nextSongCertification(song.totalListen));
@@ -103,6 +115,10 @@ Table streamsTable(const GameState& state, int64_t songId, size_t mostWeeks) {
 
 Table salesTable(const GameState& state, int64_t albumId, size_t mostWeeks) {
   return weeksTable(state.saveAllWeeklyAlbumSales, albumId, "Sold", mostWeeks);
+}
+
+Table viewsTable(const GameState& state, int64_t videoId, size_t mostWeeks) {
+  return weeksTable(state.saveAllWeeklyVideoViews, videoId, "Views", mostWeeks);
 }
 
 }  // namespace backbeat

@@ -123,6 +123,21 @@ Rows albumsOf(const GameState& state, const WeeklyReport& report, const std::vec
   return rows;
 }
 
+Rows videosOf(const GameState& state, const WeeklyReport& report) {
+  std::vector<WeeklyVideoViews> views = report.weeklyMusicVideoViews;
+  std::stable_sort(views.begin(), views.end(),
+                   [](const auto& a, const auto& b) { return a.videoViews > b.videoViews; });
+  Rows rows;
+  for (size_t i = 0; i < std::min(mostListed, views.size()); ++i) {
+    if (views[i].videoViews < 1) break;
+    rows.items.push_back({.picture = coverOfSong(state, views[i].songId, views[i].songTitle),
+                          .title = views[i].songTitle,
+                          .value = withCommas(views[i].videoViews),
+                          .note = views[i].videoViews == 1 ? "view" : "views"});
+  }
+  return rows;
+}
+
 /// The show of the week and the festival played, with what the papers said.
 Rows showsOf(const WeeklyReport& report) {
   Rows rows;
@@ -265,6 +280,10 @@ void WeeklySummaryViewController::describeMusic(View& view) const {
   if (Rows albums = albumsOf(state(), report_, milestones_); !albums.items.empty()) {
     view.add(Heading{"ALBUM SALES"});
     view.add(std::move(albums));
+  }
+  if (Rows videos = videosOf(state(), report_); !videos.items.empty()) {
+    view.add(Heading{"VIDEO VIEWS"});
+    view.add(std::move(videos));
   }
   if (Rows shows = showsOf(report_); !shows.items.empty()) {
     view.add(Heading{"ON STAGE"});
