@@ -43,6 +43,7 @@ constexpr NamedBounds boundsOfFields[] = {
     {"yearCurrent", {0, 100'000}},
     {"weekNumber", {0, 5'200'000}},
     {"releaseWeek", {0, 5'200'000}},
+    {"weekForTracking", {0, 5'200'000}},
     {"productionRating", {-1e4, 1e4}},
     {"viralityScore", {-300, 300}},
     {"marketingScore", {-1e4, 1e4}},

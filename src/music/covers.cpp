@@ -39,11 +39,11 @@ Picture coverOfSong(const GameState& state, int64_t songId, const std::string& t
 
 Picture stillOf(const GameState& state, const MusicVideo& video) {
   const auto style = static_cast<size_t>(std::clamp<int64_t>(video.styleOfVideo, 0, stillForms.size() - 1));
-  return stillOf(state, video.songTitle, style);
+  return stillOf(state, video.songTitle, style, video.director);
 }
 
-Picture stillOf(const GameState& state, const std::string& songTitle, size_t style) {
-  return drawn(Picture::Kind::still, stillForms[style], songTitle + "\n" + state.myArtistsName);
+Picture stillOf(const GameState& state, const std::string& songTitle, size_t style, const std::string& director) {
+  return drawn(Picture::Kind::still, stillForms[style], songTitle + "\n" + state.myArtistsName + "\n" + director);
 }
 
 }  // namespace backbeat

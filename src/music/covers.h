@@ -19,9 +19,9 @@ Picture coverOf(const GameState& state, const Song& song);
 /// The same by id, for records that outlive their song.
 Picture coverOfSong(const GameState& state, int64_t songId, const std::string& title);
 
-/// A frame of a video: by its style, in the colours of the song's sleeve, with the artist in it.
+/// A frame of a video: by its style, in the colours of the song's sleeve, with the artist in it, as its director sees
+/// it. The second is one of a video that is not shot yet; `style` is the index of one.
 Picture stillOf(const GameState& state, const MusicVideo& video);
-/// The same of a video that is not shot yet, by the index of its style.
-Picture stillOf(const GameState& state, const std::string& songTitle, size_t style);
+Picture stillOf(const GameState& state, const std::string& songTitle, size_t style, const std::string& director);
 
 }  // namespace backbeat

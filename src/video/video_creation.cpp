@@ -94,6 +94,12 @@ class MiddlingLuck final : public Random {
   double uniformDouble(double lo, double hi) override { return (lo + hi) / 2; }
 };
 
+Outcome refuseQuietly() {
+  Outcome outcome;
+  outcome.result = Result::refused;
+  return outcome;
+}
+
 double rollVirality(Random& random, const GameState& state) {
   return drawViralityRoll(random, state.virality + state.fashionViralityBonus);
 }
@@ -145,7 +151,7 @@ bool canBeFilmed(const GameState& state, int64_t songId) {
 
 Outcome createMusicVideo(Game& game, const VideoDraft& draft) {
   GameState& state = game.state;
-  if (!canBeFilmed(state, draft.songId)) return Outcome{.result = Result::refused};
+  if (!canBeFilmed(state, draft.songId)) return refuseQuietly();
   const Price cost = costToProduceMusicVideo(state, draft);
   if (!hasEnergy(state, cost)) return bounce();
   if (!hasCash(state, cost)) {

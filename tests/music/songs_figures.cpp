@@ -32,7 +32,7 @@ Standings filmedSongFigures(Game& twin) {
   return Standings{{"cover: text", "Single\nReleased in " + std::to_string(song.releaseYear)},
                    {"Rating", withDecimals(song.productionRating, 1)},
                    {"Virality", withDecimals(song.viralityScore, 1)},
-                   {"MUSIC VIDEO", "7.7M views", "goToYouViewVideoDetail 31"}} +
+                   {"MUSIC VIDEO", "7.6M views", "goToYouViewVideoDetail 31"}} +
          weekFigures("Streams", song.totalListen, weeksLeft(remainingLife(state, song)), weeksOf(state, song)) +
          certificationFigures("Certified Bronze", song.totalListen, "Silver", 37'500'150);
 }

@@ -78,11 +78,10 @@ std::string shortly(int64_t number) { return abbreviated(static_cast<double>(num
 
 Standings channelFigures(Game& twin) {
   const GameState& state = twin.state;
-  Standings standings = {
-      {"cover: text", shortly(state.youVideoSubscriberCount) +
-                          " subscribers · 3 videos\nThe official Mara Voss Channel - new and exclusive music videos "},
-      {"About the channel", "", "goToYouDescription"},
-      {"Old Reel (Official Lyric Video): badge", "Newest"}};
+  Standings standings = {{"cover: text", shortly(state.youVideoSubscriberCount) + " subscribers · 3 videos"},
+                         {"About the channel", "", "goToYouDescription"},
+                         {"Most viewed", "", "nowhere"},
+                         {"Old Reel (Official Lyric Video): badge", "Newest"}};
   const std::tuple<const char*, const char*, const char*, const char*> films[] = {
       {"Old Reel", " (Official Lyric Video)", "2:38", "2 weeks ago"},
       {"Paper Boats", " (Official Music Video)", "5:33", "5 weeks ago"},

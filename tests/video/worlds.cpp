@@ -44,7 +44,7 @@ void filmLibrary(GameState& state) {
   setDate(state, 700);
   furnishCareer(state, 3, 2);
   state.totalCashAvailable = 20;
-  state.totalEnergyAvailable = 10;
+  state.totalEnergyAvailable = 40;
   state.youVideoSubscriberCount = -1'200;
   state.assignSubscribers = 1;
   for (int64_t number = 0; number < 70; ++number) {

@@ -23,9 +23,10 @@ Choice styleChoice(const GameState& state, const VideoDraft& chosen, const std::
   for (size_t i = 0; i < videoStyles.size(); ++i) {
     VideoDraft other = chosen;
     other.style = i;
-    choice.options.push_back(
-        priced({.label = videoStyles[i].name, .note = videoStyles[i].effect, .picture = stillOf(state, songTitle, i)},
-               videoCosts(state, other).style));
+    choice.options.push_back(priced({.label = videoStyles[i].name,
+                                     .note = videoStyles[i].effect,
+                                     .picture = stillOf(state, songTitle, i, chosen.director.name)},
+                                    videoCosts(state, other).style));
   }
   return choice;
 }
@@ -125,7 +126,7 @@ View CreateAMusicVideoViewController::view() const {
   view.subtitle = song.title;
   const VideoDraft video = draft();
   const std::string by = director_ == 0 ? state().myArtistsName : video.director.name;
-  view.add(Cover{.picture = stillOf(state(), song.title, style_),
+  view.add(Cover{.picture = stillOf(state(), song.title, style_, video.director.name),
                  .title = song.title,
                  .text = std::string(videoStyles[style_].name) + ", by " + by,
                  .badge = withDecimals(std::min(foreseenRating(state(), video), 100.0), 0)});

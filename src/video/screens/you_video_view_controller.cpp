@@ -47,7 +47,8 @@ void YouVideoViewController::describeHead(View& view) const {
   view.add(Cover{.picture = artistPicture(state()),
                  .title = state().myArtistsName,
                  .text = abbreviated(static_cast<double>(state().youVideoSubscriberCount)) + " subscribers · " +
-                         withCommas(videos) + " videos\n" + channelMotto(state())});
+                         withCommas(videos) + " videos"});
+  view.add(Text{.text = channelMotto(state())});
   const bool subscribes = state().didSubscribe != 0;
   view.add(Button{.id = "subscribeButton",
                   .label = subscribes ? "Subscribed" : "Subscribe",
