@@ -86,6 +86,7 @@ struct Launch {
   int64_t weeklyFanChange = 0;                       ///< what the last week did to totalFans
   std::vector<int64_t> selectedFeaturedArtists;      ///< guests picked for the song in preparation
   std::vector<int64_t> merchSongs;                   ///< picked for the record in preparation, by id
+  std::vector<int64_t> selectedCameos;               ///< faces picked for the video in preparation
   std::array<size_t, 3> lastProductionChoices = {};  ///< writer, musicians and studio of the last song, as picked
   bool musicScreenLoaded = false;                    ///< the music screen's first load has run
   int64_t exportedInYear = 0;                        ///< the year of the last export

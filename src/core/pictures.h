@@ -140,7 +140,8 @@ inline constexpr auto sceneForms = std::to_array<std::string_view>({
     "lagoon",
 });
 
-/// Frames of music videos. A name may tell, after a line break, who is seen: "cinematic:Paper Lanterns\nNova Reyes".
+/// Frames of music videos. A name may tell, after line breaks, who is seen and who directed: "cinematic:Paper
+/// Lanterns\nNova Reyes\nIda Reel".
 inline constexpr auto stillForms = std::to_array<std::string_view>({
     "animated",
     "cinematic",

@@ -1,5 +1,9 @@
 #include "music/covers.h"
 
+#include <algorithm>
+
+#include "core/pictures.h"
+
 namespace backbeat {
 
 namespace {
@@ -31,6 +35,15 @@ Picture coverOf(const GameState& state, const Song& song) { return coverFor(stat
 Picture coverOfSong(const GameState& state, int64_t songId, const std::string& title) {
   const auto found = state.saveAllSongList.historyOf(songId);
   return found.empty() ? cover(title) : coverOf(state, state.saveAllSongList[found.front()]);
+}
+
+Picture stillOf(const GameState& state, const MusicVideo& video) {
+  const auto style = static_cast<size_t>(std::clamp<int64_t>(video.styleOfVideo, 0, stillForms.size() - 1));
+  return stillOf(state, video.songTitle, style, video.director);
+}
+
+Picture stillOf(const GameState& state, const std::string& songTitle, size_t style, const std::string& director) {
+  return drawn(Picture::Kind::still, stillForms[style], songTitle + "\n" + state.myArtistsName + "\n" + director);
 }
 
 }  // namespace backbeat

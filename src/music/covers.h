@@ -1,4 +1,4 @@
-// Which picture a song or an album wears, wherever it appears.
+// Which picture a song, an album or a video wears, wherever it appears.
 #pragma once
 
 #include "core/game_state.h"
@@ -18,5 +18,10 @@ Picture coverOf(const GameState& state, const Song& song);
 
 /// The same by id, for records that outlive their song.
 Picture coverOfSong(const GameState& state, int64_t songId, const std::string& title);
+
+/// A frame of a video: by its style, in the colours of the song's sleeve, with the artist in it, as its director sees
+/// it. The second is one of a video that is not shot yet; `style` is the index of one.
+Picture stillOf(const GameState& state, const MusicVideo& video);
+Picture stillOf(const GameState& state, const std::string& songTitle, size_t style, const std::string& director);
 
 }  // namespace backbeat

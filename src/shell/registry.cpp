@@ -16,6 +16,7 @@
 #include "turn/screens/financial_view_controller.h"
 #include "turn/screens/view_controller.h"
 #include "turn/segues.h"
+#include "video/segues.h"
 
 namespace backbeat {
 
@@ -32,7 +33,7 @@ const std::array<Tab, tabCount>& tabs() {
 }
 
 std::span<const Room* const> rooms() {
-  static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom, &featuresRoom,
+  static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom, &videoRoom, &featuresRoom,
                                         &liveRoom,   &merchRoom,  &turnRoom,  &shellRoom};
   return all;
 }

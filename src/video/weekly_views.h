@@ -1,11 +1,16 @@
-// The weekly views of music videos.
+// The weekly views of music videos: what they earn, and how their marketing and virality fade.
 #pragma once
 
 #include "core/game.h"
 
 namespace backbeat {
 
-/// Step 3 of the turn. Without a video there is nothing to view and nothing is drawn.
+/// The weeks a video is still watched: its rating less its age. It is viewed while this is above 0.
+double remainingLife(const GameState& state, const MusicVideo& video);
+
+/// Step 3 of the turn. Sorts the videos by virality, and lets each one be viewed: in its launch phase (marketing above
+/// 0) by subscribers, marketing and virality; in its residual phase (marketing 0) by what it has been viewed already.
+/// Without a video nothing is drawn.
 void simulateWeeklyVideoViews(Game& game);
 
 }  // namespace backbeat

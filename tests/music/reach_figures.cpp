@@ -18,7 +18,9 @@ Standings tabFigures(const GameState& state) {
           {"Certifications", "", "goToCertification"},
           {"Artist Profile", "", "goToArtistProfile"},
           {"On Tour", "", "goToTourDetails"},
-          {"Festivals", "2", "goToFestivalArchive"}};
+          {"Festivals", "2", "goToFestivalArchive"},
+          {"YouVideo", abbreviated(static_cast<double>(state.youVideoSubscriberCount)), "goToYouVideo"},
+          {"YouVideo: subtitle", "3 music videos"}};
 }
 
 Standings songTabFigures(Game& twin) {
@@ -68,7 +70,8 @@ Standings profileFigures(Game& twin) {
   const GameState& state = twin.state;
   Standings standings = {{"cover: text", withCommas(state.totalFans) + " monthly listeners"},
                          {"In your own words", state.aboutDescription},
-                         {"Certifications", "", "goToCertification"}};
+                         {"Certifications", "", "goToCertification"},
+                         {"YouVideo", "", "goToYouVideo"}};
   int64_t place = 0;
   for (const char* title : {"Paper Boats", "Fever Line", "Glass Harbour", "Tin Roof", "Low Tide"}) {
     Standings song = songFigures(state, title);
@@ -83,10 +86,18 @@ Standings profileFigures(Game& twin) {
     standings = standings + row;
   }
   const FeaturedOn& verse = state.saveAllFeaturedOnList[0];
-  return standings +
-         Standings{{"Borrowed Time", abbreviated(static_cast<double>(verse.totalListen)), "goToFeaturedOnDetail 8"},
-                   {"Borrowed Time: subtitle", "Gil Ives · " + std::to_string(verse.releaseYear)},
-                   {"Borrowed Time: note", rank(83)}};
+  standings = standings + Standings{{"Borrowed Time", abbreviated(static_cast<double>(verse.totalListen)),
+                                     "goToFeaturedOnDetail 8"},
+                                    {"Borrowed Time: subtitle", "Gil Ives · " + std::to_string(verse.releaseYear)},
+                                    {"Borrowed Time: note", rank(83)}};
+  for (const char* title : {"Old Reel", "Tin Roof", "Paper Boats"}) {
+    const RecordList<MusicVideo>& videos = state.saveAllMusicVideoList;
+    const MusicVideo& video = videos[videos.find([&](const MusicVideo& one) { return one.songTitle == title; })];
+    standings.push_back({title, "", "goToYouViewVideoDetail " + std::to_string(video.videoId)});
+    standings.push_back(
+        {title + std::string(": subtitle"), abbreviated(static_cast<double>(video.totalViews)) + " views"});
+  }
+  return standings;
 }
 
 Standings listenerFigures(Game& twin) {

@@ -19,9 +19,22 @@ Standings songOutFigures(Game& twin) {
              {"cover: badge", "E"},
              {"Rating", withDecimals(song.productionRating, 1)},
              {"Virality", withDecimals(song.viralityScore, 1)},
-             {"Chart", rank(song.chartRanking)}} +
+             {"Chart", rank(song.chartRanking)},
+             {"MUSIC VIDEO", "", "goToCreateMusicVideo 15"}} +
          weekFigures("Streams", song.totalListen, weeksLeft(remainingLife(state, song)), weeksOf(state, song)) +
          certificationFigures("Certified Silver", song.totalListen, "Gold", 75'000'150);
+}
+
+/// A song with a video.
+Standings filmedSongFigures(Game& twin) {
+  const GameState& state = twin.state;
+  const Song& song = songTitled(state, "Tin Roof");
+  return Standings{{"cover: text", "Single\nReleased in " + std::to_string(song.releaseYear)},
+                   {"Rating", withDecimals(song.productionRating, 1)},
+                   {"Virality", withDecimals(song.viralityScore, 1)},
+                   {"MUSIC VIDEO", "7.6M views", "goToYouViewVideoDetail 31"}} +
+         weekFigures("Streams", song.totalListen, weeksLeft(remainingLife(state, song)), weeksOf(state, song)) +
+         certificationFigures("Certified Bronze", song.totalListen, "Silver", 37'500'150);
 }
 
 Standings songInProductionFigures(Game& twin) {
@@ -114,6 +127,7 @@ Standings nameFigures(const std::vector<T>& people, const std::string& segue) {
 std::vector<ScreenFigures> screens() {
   return {
       {.segue = "goToSongDetail", .argument = "15", .figures = songOutFigures},
+      {.segue = "goToSongDetail", .argument = "27", .figures = filmedSongFigures},
       {.segue = "goToSongDetail", .argument = "21", .figures = songInProductionFigures},
       {.segue = "goToSongChartDetail", .argument = "15", .figures = songStatistics},
       {.segue = "goToCreateASong",

@@ -12,8 +12,10 @@
 #include "core/career_check.h"
 #include "core/career_file.h"
 #include "core/memory_store.h"
+#include "music/builders.h"
 #include "play/worlds.h"
 #include "shell/session.h"
+#include "video/builders.h"
 
 namespace backbeat {
 namespace {
@@ -29,6 +31,12 @@ const GameState& careerOfEverything() {
     }
     GameState state;
     SaveFile(store).load(state);
+    for (const double marketing : {10.0, 0.0}) {
+      MusicVideo video = videoOf(state, firstWorldSong + 3);
+      video.marketingScore = marketing;
+      video.totalViews = 9'000'000;
+      addVideo(state, video, 5);
+    }
     return state;
   }();
   return career;

@@ -49,8 +49,9 @@ std::string unknownIconOf(const View& view) {
 }
 
 /// Screens of other people, who may have been given the artist's name.
-constexpr std::array<std::string_view, 3> screensOfOthers = {
-    "FeaturingViewController", "ChangeFeaturedArtistNameViewController", "ChangeCameoNamesViewController"};
+constexpr std::array<std::string_view, 4> screensOfOthers = {"FeaturingViewController",
+                                                             "ChangeFeaturedArtistNameViewController",
+                                                             "ChangeCameoNamesViewController", "CameoViewController"};
 
 /// Whether the artist, who has a photo, is drawn with another face.
 bool hidesThePhoto(const Shown& shown, const GameState& state) {

@@ -25,13 +25,14 @@ struct Difference {
   Meant meant;
   std::string_view why;
 };
-constexpr std::array<Difference, 18> differences = {{
+constexpr std::array<Difference, 19> differences = {{
     {"MusicViewController createSongButton", Meant::askedThere, "the way to where songs are made"},
     {"SongDetailViewController announceButton", Meant::askedThere, "the way to the composer"},
     {"TwitterProfileViewController goToCreateTwitterMessage", Meant::askedThere, "the way to the composer"},
     {"SetAlbumMarketingViewController plan", Meant::askedThere, "picks the plan that the button then sets"},
     {"FeaturingViewController add", Meant::paidLater, "a guest is paid with the song"},
     {"TourViewController venue", Meant::saysAnother, "the road takes it, week by week"},
+    {"CameoViewController add", Meant::paidLater, "a face is paid with the video"},
     {"Sell Your Beats", Meant::saysAnother, "says 30 and takes 20"},
     {"Venture Raise", Meant::saysAnother, "says 50 and takes nothing"},
     {"Annual Checkup", Meant::saysAnother, "asks by the skill of the press, not of the draw"},

@@ -25,6 +25,8 @@ void furnish(GameState& state, OwnValues& own) {
 Standings profileFigures(Game& twin) {
   const GameState& state = twin.state;
   Standings standings = {{"cover: text", "@maravoss\n" + withCommas(state.followerCount) + " followers"},
+                         {"YouVideo", abbreviated(static_cast<double>(state.youVideoSubscriberCount)), "goToYouVideo"},
+                         {"YouVideo: subtitle", "3 music videos"},
                          {"Chirp: price", priceText(chirpCost)}};
   for (const Chirp& chirp : state.saveAllChirpList) {
     const auto count = [](int64_t number) { return abbreviated(static_cast<double>(number)); };

@@ -22,6 +22,7 @@ Standings homeFigures(Game& twin) {
              {"Best chart", rank(chartRowTitled(state, "Low Tide").peakPosition), "goToBillboard"},
              {"Best chart: note", "now " + rank(songTitled(state, "Glass Harbour").chartRanking)},
              {"“Night Bus” is finished", "", "goToSongDetail " + std::to_string(songTitled(state, "Night Bus").songId)},
+             {"“Glass Harbour” has no video", "", "goToCreateMusicVideo 15"},
              {"Vocals to level " + std::to_string(nextLevel(state, traits[0])), "", "goToMyMusic"},
              {"Vocals to level " + std::to_string(nextLevel(state, traits[0])) + ": subtitle",
               "Half of your music, for " + std::to_string(state.vocalRangeEnergyCost) + " energy"},

@@ -51,7 +51,8 @@ Standings reportFigures(Game& twin) {
   const auto paper = state.saveAllWeeklySongListens.historyOf(songTitled(state, "Paper Boats").songId);
   const double streams = state.saveAllWeeklySongListens[paper.back()].totalStreamRevenue;  // of the top song alone
   const double albums = earned(state.saveAllWeeklyAlbumSales, state, &WeeklyAlbumSales::albumRevenue);
-  const double videos = state.saveAllWeeklyVideoViews[1].totalViewRevenue;
+  const WeeklyVideoViews& film = state.saveAllWeeklyVideoViews.back();
+  const double videos = film.totalViewRevenue;
   const double touring = state.saveAllWeeklyTourSales[1].tourRevenue;
   const double festival = state.saveAllFestivalList[1].payment;
   const double verses = state.saveAllFeaturedOnWeeklySongListens[1].totalStreamRevenue;
@@ -81,6 +82,7 @@ Standings reportFigures(Game& twin) {
              {"Listeners: note", "now " + withCommas(state.totalFans)},
              {"Borrowed Time", withCommas(state.saveAllFeaturedOnWeeklySongListens[1].songListens)},
              {"Borrowed Time: subtitle", "Gil Ives"},
+             {film.songTitle, withCommas(film.videoViews)},
              {"Harbour Bowl", withCommas(state.saveAllWeeklyTourSales[1].seatsSold)},
              {"Harbour Bowl: subtitle", "Lisbon"},
              {"Meadow Days", "★★★"},

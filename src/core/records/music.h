@@ -231,6 +231,10 @@ inline constexpr auto fieldsOf<MusicVideo> = [](auto&& take) {
               Field{"productionCost", &MusicVideo::productionCost});
 };
 
+/// A song finds its video by its id.
+template <>
+inline constexpr int64_t MusicVideo::*historyKeyOf<MusicVideo> = &MusicVideo::songId;
+
 /// What one video was viewed in one week.
 struct WeeklyVideoViews {
   int64_t videoId = 0;
@@ -253,6 +257,9 @@ inline constexpr auto fieldsOf<WeeklyVideoViews> = [](auto&& take) {
               Field{"yearNumber", &WeeklyVideoViews::yearNumber},
               Field{"totalViewRevenue", &WeeklyVideoViews::totalViewRevenue});
 };
+
+template <>
+inline constexpr int64_t WeeklyVideoViews::*historyKeyOf<WeeklyVideoViews> = &WeeklyVideoViews::videoId;
 
 /// The genre a song was made in; songs themselves do not carry it.
 struct SongGenre {

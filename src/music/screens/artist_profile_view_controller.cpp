@@ -5,8 +5,9 @@
 #include "core/money.h"
 #include "core/own_photo.h"
 #include "core/room.h"
-#include "core/text.h"
 #include "core/view_find.h"
+#include "music/about_text.h"
+#include "music/covers.h"
 #include "music/screens/album_rows.h"
 #include "music/screens/song_rows.h"
 
@@ -15,7 +16,7 @@ namespace backbeat {
 namespace {
 
 constexpr size_t popularShown = 5;
-constexpr size_t longestAbout = 600;
+constexpr size_t videosShown = 3;
 
 }  // namespace
 
@@ -26,7 +27,9 @@ Outcome ArtistProfileViewController::act(const Action& action) {
   if (action.verb() == "verse") return goTo("goToFeaturedOnDetail", std::string(action.argument()));
   if (action.id == "albums") albums_.moveTo(action.value);
   if (action.id == "verses") verses_.moveTo(action.value);
-  if (action.id == "about") return writeAbout(action.value);
+  if (action.verb() == "video") return goTo("goToYouViewVideoDetail", std::string(action.argument()));
+  if (action.id == "goToYouVideo") return goTo(action.id);
+  if (action.id == "about") writeAbout(game_, action.value);
   if (action.id == "photo") return takePhoto(action.value);
   if (action.id == "removePhoto") return takePhoto("");
   return followLaterRooms(action);
@@ -45,12 +48,6 @@ void ArtistProfileViewController::addLaterRooms(View& view) const {
   }
 }
 
-Outcome ArtistProfileViewController::writeAbout(const std::string& text) {
-  game_.state.aboutDescription = firstCharacters(text, longestAbout);
-  game_.save(&GameState::aboutDescription);
-  return {};
-}
-
 Outcome ArtistProfileViewController::takePhoto(const std::string& address) {
   if (!address.empty()) {
     if (auto refusal = photoRefusal(address)) return *refusal;
@@ -67,6 +64,7 @@ View ArtistProfileViewController::view() const {
                  .text = withCommas(state().totalFans) + " monthly listeners"});
   describePopular(view);
   describeAlbums(view);
+  describeVideos(view);
   describeVerses(view);
   addLaterRooms(view);
   view.add(Heading{"About"});
@@ -74,7 +72,7 @@ View ArtistProfileViewController::view() const {
                      .label = "In your own words",
                      .value = state().aboutDescription,
                      .placeholder = "Tell your listeners who you are",
-                     .maxLength = static_cast<int64_t>(longestAbout),
+                     .maxLength = static_cast<int64_t>(longestAboutText),
                      .multiline = true});
   view.add(photoField(state().twitterProfileImage));
   if (!state().twitterProfileImage.empty()) {
@@ -137,6 +135,24 @@ void ArtistProfileViewController::describeVerses(View& view) const {
     }
     return row;
   }));
+}
+
+void ArtistProfileViewController::describeVideos(View& view) const {
+  std::vector<const MusicVideo*> videos;
+  for (const MusicVideo& video : state().saveAllMusicVideoList) videos.push_back(&video);
+  if (videos.empty()) return;
+  std::stable_sort(videos.begin(), videos.end(),
+                   [](const MusicVideo* a, const MusicVideo* b) { return a->totalViews > b->totalViews; });
+  view.add(Heading{.text = "Music videos", .link = Link{.id = "goToYouVideo", .label = "YouVideo"}});
+  Rows films{.style = Rows::Style::films};
+  for (size_t i = 0; i < std::min(videosShown, videos.size()); ++i) {
+    films.items.push_back({.picture = stillOf(state(), *videos[i]),
+                           .title = videos[i]->songTitle,
+                           .subtitle = abbreviated(static_cast<double>(videos[i]->totalViews)) + " views",
+                           .opens = true,
+                           .id = "video:" + std::to_string(videos[i]->videoId)});
+  }
+  view.add(std::move(films));
 }
 
 }  // namespace backbeat

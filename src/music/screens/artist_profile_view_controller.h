@@ -1,5 +1,5 @@
-// The artist as listeners see them on a streaming service: picture, listeners, popular songs, albums, verses for
-// others, a few words.
+// The artist as listeners see them on a streaming service: picture, listeners, popular songs, albums, videos, verses
+// for others, a few words.
 #pragma once
 
 #include "core/screen.h"
@@ -13,13 +13,13 @@ class ArtistProfileViewController final : public Screen {
   View view() const override;
 
  private:
-  Outcome writeAbout(const std::string& text);
   Outcome takePhoto(const std::string& address);
   void describePopular(View& view) const;
   void describeAlbums(View& view) const;
   void describeVerses(View& view) const;
   void addLaterRooms(View& view) const;
   Outcome followLaterRooms(const Action& action) const;
+  void describeVideos(View& view) const;
 
   ListWindow albums_;
   ListWindow verses_;

@@ -36,6 +36,12 @@ std::string featuring(const Song& song) {
   return names;
 }
 
+/// The song's video, or nothing; there is one at most.
+const MusicVideo* videoOf(const GameState& state, int64_t songId) {
+  const auto found = state.saveAllMusicVideoList.historyOf(songId);
+  return found.empty() ? nullptr : &state.saveAllMusicVideoList[found.front()];
+}
+
 /// The week of its release belongs to the song.
 Poster outNow(const GameState& state, const Song& song) {
   const bool isFirst = historyIsWhole(state) && isFirstRelease(state, song);
@@ -58,6 +64,7 @@ Outcome SongDetailViewController::act(const Action& action) {
   if (action.id == "announceButton") return announceSong(state(), songId_);
   if (action.id == "marketingButton") return marketingButton();
   if (action.id == "addToAlbumButton") return addToAlbumButton();
+  if (action.id == "musicVideoButton") return musicVideoButton();
   return {};
 }
 
@@ -76,6 +83,14 @@ Outcome SongDetailViewController::addToAlbumButton() const {
         "\nCreate a new album under 'Create a Song' on the main page to add this song to an album list.");
   }
   return goTo("goToAddToAlbum", std::to_string(songId_));
+}
+
+Outcome SongDetailViewController::musicVideoButton() const {
+  const auto position = songPosition(state(), songId_);
+  if (!position || !state().saveAllSongList[*position].isReleased) return {};
+  const MusicVideo* video = videoOf(state(), songId_);
+  if (!video) return goTo("goToCreateMusicVideo", std::to_string(songId_));
+  return goTo("goToYouViewVideoDetail", std::to_string(video->videoId));
 }
 
 View SongDetailViewController::view() const {
@@ -154,12 +169,18 @@ void SongDetailViewController::describeReleased(View& view, const Song& song) co
              {.icon = "flame", .label = "Virality", .value = withDecimals(song.viralityScore, 1)},
              {.icon = "chart", .label = "Chart", .value = song.chartRanking > 0 ? rank(song.chartRanking) : "–"}}});
   view.add(songCertificationMeter(song));
+  Rows more;
   if (song.marketingScore > 0) {
-    view.add(Rows{{{.picture = icon("megaphone"),
-                    .title = "Marketing",
-                    .subtitle = "Still brings new listeners",
-                    .value = withDecimals(song.marketingScore, 0)}}});
+    more.items.push_back({.picture = icon("megaphone"),
+                          .title = "Marketing",
+                          .subtitle = "Still brings new listeners",
+                          .value = withDecimals(song.marketingScore, 0)});
   }
+  const MusicVideo* video = videoOf(state(), songId_);
+  more.items.push_back(wayTo("musicVideoButton", "video", "MUSIC VIDEO",
+                             video ? "On your channel" : "Nobody has filmed it yet",
+                             video ? abbreviated(static_cast<double>(video->totalViews)) + " views" : ""));
+  view.add(std::move(more));
   view.add(caption("RELEASED", Tone::good));
   view.add(Button{.id = "marketingButton", .label = "Statistics"});
 }

@@ -15,6 +15,8 @@ class SongDetailViewController final : public Screen {
   Outcome marketingButton() const;
   /// Offered in production only; refused without an album to add it to.
   Outcome addToAlbumButton() const;
+  /// To the song's video, or to where one is made; only once the song is out.
+  Outcome musicVideoButton() const;
 
  private:
   void describeProduction(View& view, const Song& song) const;

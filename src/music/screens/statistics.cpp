@@ -16,9 +16,11 @@ namespace {
 int64_t countOf(const WeeklySongListens& week) { return week.songListens; }
 int64_t countOf(const WeeklyAlbumSales& week) { return week.albumSales; }
 int64_t countOf(const FeaturedOnWeeklySongListens& week) { return week.songListens; }
+int64_t countOf(const WeeklyVideoViews& week) { return week.videoViews; }
+double dollarsOf(const FeaturedOnWeeklySongListens& week) { return week.totalStreamRevenue; }
 double dollarsOf(const WeeklySongListens& week) { return week.totalStreamRevenue; }
 double dollarsOf(const WeeklyAlbumSales& week) { return week.albumRevenue; }
-double dollarsOf(const FeaturedOnWeeklySongListens& week) { return week.totalStreamRevenue; }
+double dollarsOf(const WeeklyVideoViews& week) { return week.totalViewRevenue; }
 
 template <class T>
 WeeklyFigures figuresOf(const RecordList<T>& list, int64_t id) {
@@ -76,6 +78,10 @@ WeeklyFigures verseFigures(const GameState& state, int64_t songId) {
   return figuresOf(state.saveAllFeaturedOnWeeklySongListens, songId);
 }
 
+WeeklyFigures videoFigures(const GameState& state, int64_t videoId) {
+  return figuresOf(state.saveAllWeeklyVideoViews, videoId);
+}
+
 Chart streamsChart(const GameState& state, const Song& song, size_t mostWeeks) {
   Chart chart{.title = "Streams",
               .value = withCommas(song.totalListen),
@@ -98,6 +104,12 @@ Chart verseChart(const GameState& state, const FeaturedOn& verse, double life, s
   Chart chart{
       .title = "Streams", .value = withCommas(verse.totalListen), .note = lifeLeft(life), .style = Chart::Style::bars};
   addWeeks(chart, state.saveAllFeaturedOnWeeklySongListens, verse.songId, mostWeeks);
+  return chart;
+}
+
+Chart viewsChart(const GameState& state, const MusicVideo& video, size_t mostWeeks) {
+  Chart chart{.title = "Views", .value = withCommas(video.totalViews), .style = Chart::Style::bars};
+  addWeeks(chart, state.saveAllWeeklyVideoViews, video.videoId, mostWeeks);
   return chart;
 }
 
@@ -136,6 +148,10 @@ Table salesTable(const GameState& state, int64_t albumId, size_t mostWeeks) {
 
 Table verseTable(const GameState& state, int64_t songId, size_t mostWeeks) {
   return weeksTable(state.saveAllFeaturedOnWeeklySongListens, songId, "Streams", mostWeeks);
+}
+
+Table viewsTable(const GameState& state, int64_t videoId, size_t mostWeeks) {
+  return weeksTable(state.saveAllWeeklyVideoViews, videoId, "Views", mostWeeks);
 }
 
 }  // namespace backbeat

@@ -141,6 +141,21 @@ Rows versesOf(const WeeklyReport& report) {
   return rows;
 }
 
+Rows videosOf(const GameState& state, const WeeklyReport& report) {
+  std::vector<WeeklyVideoViews> views = report.weeklyMusicVideoViews;
+  std::stable_sort(views.begin(), views.end(),
+                   [](const auto& a, const auto& b) { return a.videoViews > b.videoViews; });
+  Rows rows;
+  for (size_t i = 0; i < std::min(mostListed, views.size()); ++i) {
+    if (views[i].videoViews < 1) break;
+    rows.items.push_back({.picture = coverOfSong(state, views[i].songId, views[i].songTitle),
+                          .title = views[i].songTitle,
+                          .value = withCommas(views[i].videoViews),
+                          .note = views[i].videoViews == 1 ? "view" : "views"});
+  }
+  return rows;
+}
+
 /// The show of the week and the festival played, with what the papers said.
 Rows showsOf(const WeeklyReport& report) {
   Rows rows;
@@ -295,6 +310,10 @@ void WeeklySummaryViewController::describeMusic(View& view) const {
   if (Rows verses = versesOf(report_); !verses.items.empty()) {
     view.add(Heading{"FEATURED ON"});
     view.add(std::move(verses));
+  }
+  if (Rows videos = videosOf(state(), report_); !videos.items.empty()) {
+    view.add(Heading{"VIDEO VIEWS"});
+    view.add(std::move(videos));
   }
   if (Rows shows = showsOf(report_); !shows.items.empty()) {
     view.add(Heading{"ON STAGE"});

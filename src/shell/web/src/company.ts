@@ -21,8 +21,9 @@ const companies: Company[] = [
   // A channel's own head, on a wall of what it shows.
   {
     look: "channel card",
-    starts: (block, theme) => block.kind === "cover" && block.picture?.kind === "person" && theme === "video",
-    joins: (block) => block.kind === "button",
+    starts: (block, theme) =>
+      block.kind === "cover" && ["person", "photo"].includes(block.picture?.kind ?? "") && theme === "video",
+    joins: (block) => block.kind === "text" || block.kind === "button",
   },
   // Somebody, and what they can.
   {

@@ -29,10 +29,13 @@ const otherwise: Record<DrawnKind, Family[string]> = {
   mark: anyMark,
 };
 
-/** The markup of a picture whose name is "form:name", with the portrait at an address where somebody is seen. */
-export function drawing(kind: DrawnKind, named: string, portrait = ""): string {
+/**
+ * The markup of a picture whose name is "form:name", with the portrait at an address where somebody is seen, by the
+ * hand of somebody.
+ */
+export function drawing(kind: DrawnKind, named: string, portrait = "", hand = ""): string {
   const colon = named.indexOf(":");
   const form = named.slice(0, Math.max(colon, 0));
   const draw = Object.hasOwn(forms[kind], form) ? forms[kind][form]! : otherwise[kind];
-  return draw(named.slice(colon + 1), portrait);
+  return draw(named.slice(colon + 1), portrait, hand);
 }

@@ -60,8 +60,8 @@ const drawings = new Late(async () => {
   const { drawing } = await import("./drawings");
   const of = (kind: DrawnKind) =>
     new Gallery((name) => {
-      const [named = "", artist = ""] = name.split("\n");
-      return fixed(drawing(kind, named, artist && portraits.now!.work(artist)));
+      const [named = "", artist = "", hand = ""] = name.split("\n");
+      return fixed(drawing(kind, named, artist && portraits.now!.work(artist), hand));
     });
   return { object: of("object"), scene: of("scene"), still: of("still"), mark: of("mark") };
 });
