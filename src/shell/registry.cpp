@@ -5,6 +5,7 @@
 
 #include "career/screens/daily_life_view_controller.h"
 #include "career/segues.h"
+#include "label/segues.h"
 #include "music/screens/music_view_controller.h"
 #include "music/segues.h"
 #include "shell/segues.h"
@@ -29,7 +30,7 @@ const std::array<Tab, tabCount>& tabs() {
 }
 
 std::span<const Room* const> rooms() {
-  static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom, &turnRoom, &shellRoom};
+  static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom, &labelRoom, &turnRoom, &shellRoom};
   return all;
 }
 

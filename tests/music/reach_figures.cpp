@@ -15,7 +15,9 @@ Standings tabFigures(const GameState& state) {
           {"Monthly Listeners", withCommas(state.totalFans), "goToMonthlyListenerDetail"},
           {"Billboard 100", "", "goToBillboard"},
           {"Certifications", "", "goToCertification"},
-          {"Artist Profile", "", "goToArtistProfile"}};
+          {"Artist Profile", "", "goToArtistProfile"},
+          {"My Label", "", "goToLabelDetail"},
+          {"My Label: subtitle", state.myLabelName}};
 }
 
 Standings songTabFigures(Game& twin) {
