@@ -165,7 +165,7 @@ ContractLabel contractOf(const GameState& state, const ContractOffer& offer) {
 
 Outcome signContract(Game& game) {
   GameState& state = game.state;
-  if (state.underContract != 0 || game.launch.contractOfferState != 2) return {};
+  if (state.underContract != 0 || state.isLabelLaunched >= 1 || game.launch.contractOfferState != 2) return {};
   game.launch.contractOfferState = 0;
   const ContractOffer& offer = game.launch.contractOffer;
   state.underContract = 1;

@@ -47,8 +47,8 @@ std::string offerExpectations(const ContractOffer& offer);
 /// The contract as it would stand if the offer were signed now.
 ContractLabel contractOf(const GameState& state, const ContractOffer& offer);
 
-/// Puts the terms into force and pays the advance. Only terms that were drawn can be signed, and only by a free artist;
-/// anything else changes nothing.
+/// Puts the terms into force and pays the advance. Only terms that were drawn can be signed, and only by a free artist
+/// without a label of their own; anything else changes nothing.
 Outcome signContract(Game& game);
 
 }  // namespace backbeat

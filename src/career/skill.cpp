@@ -10,7 +10,7 @@ namespace backbeat {
 namespace {
 
 constexpr int64_t greatestWeakestTrait = 110;
-constexpr int64_t greatestWeakestTraitOfSigned = 100;
+constexpr int64_t greatestWeakestOfFive = 100;
 
 int64_t sumOfTraits(const GameState& state) {
   return state.songWriting + state.vocalRange + state.rhythm + state.charisma + state.virality;
@@ -29,12 +29,14 @@ int64_t talent(const GameState& state) {
   return (sumOfTraits(state) + std::min(weakest, greatestWeakestTrait)) / 6;
 }
 
+int64_t weakestCountedTwice(const std::array<int64_t, 5>& levels) {
+  const int64_t weakest = *std::min_element(levels.begin(), levels.end());
+  const int64_t sum = std::accumulate(levels.begin(), levels.end(), int64_t{0});
+  return (sum + std::min(weakest, greatestWeakestOfFive)) / 6;
+}
+
 int64_t artistRating(const SignedArtist& artist) {
-  const int64_t weakest =
-      std::min({artist.songwriting, artist.vocals, artist.rhythm, artist.charisma, artist.virality});
-  return (artist.songwriting + artist.vocals + artist.rhythm + artist.charisma + artist.virality +
-          std::min(weakest, greatestWeakestTraitOfSigned)) /
-         6;
+  return weakestCountedTwice({artist.songwriting, artist.vocals, artist.rhythm, artist.charisma, artist.virality});
 }
 
 double drawViralityRoll(Random& random, int64_t virality) {

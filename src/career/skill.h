@@ -1,6 +1,7 @@
 // How good an artist is, in one figure, and how good a piece of work turns out.
 #pragma once
 
+#include <array>
 #include <initializer_list>
 
 #include "core/game_state.h"
@@ -14,8 +15,10 @@ int64_t overallSkillRating(const GameState& state);
 /// The artist's talent when no guest helps: the five traits and the weakest of them again, that one up to 110, over 6.
 int64_t talent(const GameState& state);
 
-/// A signed artist's rating: the five traits and the weakest of them again, that one up to 100 (110 for the player:
-/// intended), over 6.
+/// Five levels and the weakest of them again, that one up to 100, over 6.
+int64_t weakestCountedTwice(const std::array<int64_t, 5>& levels);
+
+/// A signed artist's rating, by the five traits: the weakest counts twice, up to 100 (110 for the player: intended).
 int64_t artistRating(const SignedArtist& artist);
 
 /// How far a piece of work catches on: up to three quarters of the virality of whoever makes it, two decimals.

@@ -3,11 +3,11 @@
 namespace backbeat {
 
 void simulateSignedArtistStreams(Game& /*game*/) {
-  // No artist can be signed yet, so there is no song to stream.
+  // No signed artist has a song yet.
 }
 
 void simulateSignedArtistAlbumSales(Game& /*game*/) {
-  // No artist can be signed yet, so there is no album to sell.
+  // No signed artist has an album yet.
 }
 
 }  // namespace backbeat

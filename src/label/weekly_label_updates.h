@@ -5,10 +5,11 @@
 
 namespace backbeat {
 
-/// Staff tire and recover. Without staff nothing happens.
+/// Staff tire by their burn, faster where they have too many artists, and recover by the perks; their happiness
+/// follows, and in time their rating. Without staff nothing happens.
 void updateEmployeesWeekly(Game& game);
 
-/// Artists grow and grow unhappy. Without signed artists nothing happens.
+/// Artists grow and grow unhappy.
 void updateSignedArtistsWeekly(Game& game);
 
 }  // namespace backbeat

@@ -126,14 +126,22 @@ bool guestFor(const GameState& state, int64_t pickedId, Guest& guest) {
     return false;
   }
   const RecordList<SignedArtist>& artists = state.saveAllSignedArtistList;
-  const size_t found =
-      artists.find([&](const SignedArtist& artist) { return artist.artistId == pickedId - firstSignedArtistPick; });
+  const size_t found = artists.find([&](const SignedArtist& artist) {
+    return artist.artistId == pickedId - firstSignedArtistPick && artist.underContract;
+  });
   if (found == artists.size()) return false;
   guest = {artists[found].name,
            static_cast<double>(artists[found].virality),
            static_cast<double>(artistRating(artists[found])),
            {}};
   return true;
+}
+
+void letGoOfFormerArtists(Game& game) {
+  std::erase_if(game.launch.selectedFeaturedArtists, [&](int64_t pickedId) {
+    Guest guest;
+    return !guestFor(game.state, pickedId, guest);
+  });
 }
 
 }  // namespace backbeat

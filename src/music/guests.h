@@ -31,8 +31,11 @@ struct Guest {
   Price cost;  ///< paid with the song
 };
 
-/// The guest behind a picked id; false when there is none. A signed artist is free, and rates by its traits with the
-/// weakest counted twice, that one up to 100 (110 for the player: intended).
+/// The guest behind a picked id; false when there is none. An artist under contract with the label is free, and rates
+/// by its traits with the weakest counted twice, that one up to 100 (110 for the player: intended).
 bool guestFor(const GameState& state, int64_t pickedId, Guest& guest);
+
+/// Takes artists who have left the label off the song in preparation.
+void letGoOfFormerArtists(Game& game);
 
 }  // namespace backbeat

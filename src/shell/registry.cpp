@@ -6,6 +6,7 @@
 #include "career/screens/daily_life_view_controller.h"
 #include "career/segues.h"
 #include "features/segues.h"
+#include "label/segues.h"
 #include "live/segues.h"
 #include "merch/segues.h"
 #include "music/screens/music_view_controller.h"
@@ -34,7 +35,7 @@ const std::array<Tab, tabCount>& tabs() {
 
 std::span<const Room* const> rooms() {
   static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom, &videoRoom, &featuresRoom,
-                                        &liveRoom,   &merchRoom,  &turnRoom,  &shellRoom};
+                                        &liveRoom,   &merchRoom,  &labelRoom, &turnRoom,  &shellRoom};
   return all;
 }
 

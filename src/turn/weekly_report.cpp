@@ -4,6 +4,8 @@
 #include <array>
 
 #include "career/ledger.h"
+#include "core/bands.h"
+#include "label/office.h"
 #include "live/festivals.h"
 #include "social/chirps.h"
 
@@ -78,19 +80,11 @@ void settleLabel(GameState& state, WeeklyReport& report) {
   report.label = (sumOf(report.weeklyEarningsSignedArtistSongs, &SignedArtistWeeklySongListens::totalStreamRevenue) +
                   sumOf(report.weeklyEarningsSignedArtistAlbums, &SignedArtistWeeklyAlbumSales::albumRevenue)) *
                  (1 + state.labelRevenueBonus / 100);
-  if (state.labelOfficePerkSpend > 0) {
-    report.labelExpenses += state.labelOfficePerkSpend * static_cast<double>(state.saveAllEmployeeList.size());
-  }
-  report.labelExpenses += state.labelOfficeRent;
+  report.labelExpenses += officeCosts(state);
   state.totalRecordLabelCost += report.labelExpenses;
 }
 
 }  // namespace
-
-CalendarWeek reportedWeek(const GameState& state) {
-  if (state.weekNumber - 1 == 0) return {52, state.yearNumber - 1};
-  return {state.weekNumber - 1, state.yearNumber};
-}
 
 bool anyWeekReported(const GameState& state) { return state.weekNumberForTracking > 1; }
 
@@ -155,7 +149,11 @@ double familyCosts(const GameState& state) {
 double standingWeeklyNet(const GameState& state) {
   double net = (state.weeklyJobContractRemaining >= 1 ? state.weeklyJobIncome : 0) - familyCosts(state);
   for (const WeeklyLineItem& item : state.saveAllWeeklyLineItems) net += item.isExpense ? -item.amount : item.amount;
-  return net;
+  return state.isLabelLaunched >= 1 ? net - officeCosts(state) : net;
+}
+
+const char* standingNetCaption(const GameState& state) {
+  return state.isLabelLaunched >= 1 ? "Job, weekly entries, perks and rent" : "Job and weekly entries";
 }
 
 }  // namespace backbeat

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/game.h"
+#include "core/reported_week.h"
 #include "core/week_rows.h"
 
 namespace backbeat {
@@ -43,9 +44,6 @@ struct WeeklyReport {
   int64_t merchUnits = 0;
 };
 
-/// The week before the one that the calendar shows; week 1 reports week 52 of the year before.
-CalendarWeek reportedWeek(const GameState& state);
-
 /// False in the very first week of a family, which has no week before it to tell of.
 bool anyWeekReported(const GameState& state);
 
@@ -60,8 +58,10 @@ void settleWeeklyCash(Game& game, WeeklyReport& report);
 /// Dollars a week for the children who live in the family.
 double familyCosts(const GameState& state);
 
-/// Standing income less standing costs of the coming week: what the ledger, the job and the family come to without any
-/// release. A job whose contract has run out pays no more.
+/// Standing income less standing costs of the coming week: what the ledger, the job, the family and the label's office
+/// come to without any release. A job whose contract has run out pays no more.
 double standingWeeklyNet(const GameState& state);
+/// What that net is made of, in a few words.
+const char* standingNetCaption(const GameState& state);
 
 }  // namespace backbeat

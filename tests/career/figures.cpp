@@ -252,6 +252,7 @@ std::vector<ScreenFigures> screens() {
            [](Game& game) {
              game.launch.contractOfferState = 1;
              game.state.underContract = 0;
+             game.state.isLabelLaunched = 0;
            }},
       {.segue = "goToSignedContract", .figures = contractFigures},
   };

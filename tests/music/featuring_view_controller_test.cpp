@@ -15,6 +15,7 @@ TEST(Featuring, ThreeGuestsAreEnoughAndStarsAskForSkill) {
   SignedArtist artist;
   artist.name = "Nova";
   artist.artistId = 7;
+  artist.underContract = true;
   world.state.saveAllSignedArtistList.append(artist);
   world.state.songWriting = 9;  // (4 + 9 + 9) / 6: a skill rating of 3
   world.state.contractFeatureDiscount = 0.5;
@@ -39,13 +40,13 @@ TEST(Featuring, ThreeGuestsAreEnoughAndStarsAskForSkill) {
   EXPECT_EQ(rows[1].price->dollars, 1'250);
   EXPECT_EQ(rows[4].tone, Tone::plain);
   EXPECT_EQ(rows[5].tone, Tone::locked);
-  world.state.saveAllSignedArtistList.clear();
+  world.state.saveAllSignedArtistList.update(0, [](SignedArtist& dropped) { dropped.underContract = false; });
   FeaturingViewController later(world.game);
   later.open();
   EXPECT_EQ(selected, (std::vector<int64_t>{4})) << "who left the label is not on the song";
   EXPECT_EQ(rowsOf(later.view())[3].note, "Already Added");
 
-  world.state.saveAllSignedArtistList.append(artist);
+  world.state.saveAllSignedArtistList.update(0, [](SignedArtist& back) { back.underContract = true; });
   EXPECT_EQ(screen.act({"changeName:57", ""}).alerts.at(0).title, "🎤 Signed Artist🎤");
   EXPECT_EQ(screen.act({"changeName:4", ""}).go->argument, "4");
 }

@@ -20,7 +20,9 @@ Standings tabFigures(const GameState& state) {
           {"On Tour", "", "goToTourDetails"},
           {"Festivals", "2", "goToFestivalArchive"},
           {"YouVideo", abbreviated(static_cast<double>(state.youVideoSubscriberCount)), "goToYouVideo"},
-          {"YouVideo: subtitle", "3 music videos"}};
+          {"YouVideo: subtitle", "3 music videos"},
+          {"My Label", "", "goToLabelDetail"},
+          {"My Label: subtitle", state.myLabelName}};
 }
 
 Standings songTabFigures(Game& twin) {

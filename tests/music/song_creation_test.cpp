@@ -85,6 +85,7 @@ TEST(SongCreation, GuestsLendHalfOfTheMeanAndCostWhatTheContractLeaves) {
   SignedArtist artist;
   artist.name = " Nova ";
   artist.artistId = 7;
+  artist.underContract = true;
   artist.songwriting = artist.vocals = artist.rhythm = artist.charisma = artist.virality = 120;
   studio.state.saveAllSignedArtistList.append(artist);
   studio.state.contractFeatureDiscount = 0.55;

@@ -172,6 +172,7 @@ void furnish(GameState& state, OwnValues& own) {
   SignedArtist artist = own.record<SignedArtist>();
   artist.name = "Nova Reed";
   artist.artistId = 7;
+  artist.underContract = true;
   state.saveAllSignedArtistList.append(artist);
   SignedArtistSong signedSong = own.record<SignedArtistSong>();
   signedSong.songId = 5;

@@ -25,7 +25,7 @@ struct Difference {
   Meant meant;
   std::string_view why;
 };
-constexpr std::array<Difference, 19> differences = {{
+constexpr std::array<Difference, 22> differences = {{
     {"MusicViewController createSongButton", Meant::askedThere, "the way to where songs are made"},
     {"SongDetailViewController announceButton", Meant::askedThere, "the way to the composer"},
     {"TwitterProfileViewController goToCreateTwitterMessage", Meant::askedThere, "the way to the composer"},
@@ -40,6 +40,9 @@ constexpr std::array<Difference, 19> differences = {{
     {"Family Request", Meant::saysAnother, "the same"},
     {"Feature Request", Meant::saysAnother, "comes to what the latest draw says, a verse or a fan"},
     {"Fan Meeting", Meant::saysAnother, "the same"},
+    {"CreateLabelViewController createLabelButton", Meant::saysAnother, "says ten energy and takes none"},
+    {"DemoAndOfferViewController offerButton", Meant::mayTake, "pays the bonus when the artist accepts"},
+    {"DepartmentViewController confirmFire", Meant::mayTake, "the question names the severance"},
     {"Drop Shipping", Meant::mayTake, "loses as often as it wins"},
     {"SignedContractViewController confirmEndContract", Meant::mayTake, "the question names the advance"},
     {"AdminMerchViewController restockButton", Meant::energyFirst, "who asks the maker has had the trouble"},

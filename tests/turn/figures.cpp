@@ -26,7 +26,7 @@ double labelStreams(const GameState& state) {
 double standingNet(const GameState& state) {
   double net = state.weeklyJobIncome - state.saveAllChildList[0].weeklyFinancialCost;
   for (const Entry& one : entries) net += one.isExpense ? -entry(state, one.title) : entry(state, one.title);
-  return net;
+  return net - state.labelOfficePerkSpend * 3 - state.labelOfficeRent;
 }
 
 }  // namespace backbeat

@@ -39,7 +39,7 @@ double earned(const RecordList<T>& list, const GameState& state, double T::*amou
 double entry(const GameState& state, std::string_view title);
 /// What daily life costs a week.
 double livingCosts(const GameState& state);
-/// Job, family and ledger together.
+/// Job, family, ledger, and perks and rent of the label, together.
 double standingNet(const GameState& state);
 
 /// Of the week before `weekNumber`: merchandise less its fees, and what the label's artists brought with its bonus.

@@ -85,7 +85,9 @@ Standings businessFigures(Game& twin) {
           {"Income Statement", currency(statement.ownWork + statement.label - statement.expenses), "goToBalanceSheet"},
           {"Income Statement: subtitle", "Week 35, without job pay"},
           {"Net Worth", currency(fortune(state)), "goToNetWorth"},
-          {"On Tour", "", "goToTourDetails"}};
+          {"On Tour", "", "goToTourDetails"},
+          {"MY LABEL", "", "goToLabelDetail"},
+          {"MY LABEL: subtitle", state.myLabelName}};
 }
 
 Standings netWorthFigures(Game& twin) {

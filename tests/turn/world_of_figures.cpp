@@ -89,7 +89,12 @@ void furnish(GameState& state, OwnValues& own) {
   Child child = own.record<Child>();
   child.typeOfRelationship = 1;
   state.saveAllChildList.append(child);
-  for (int i = 0; i < 3; ++i) state.saveAllEmployeeList.append(own.record<Employee>());
+  for (int64_t department = 0; department < 3; ++department) {
+    Employee employee = own.record<Employee>();
+    employee.employeeDepartmentCode = department;
+    employee.employeeImage = "staff7.png";
+    state.saveAllEmployeeList.append(employee);
+  }
   furnishWealth(state, own);
 }
 

@@ -19,7 +19,7 @@ Outcome ContractOfferViewController::act(const Action& action) {
 }
 
 bool ContractOfferViewController::hasOffer() const {
-  return game_.launch.contractOfferState == 2 && state().underContract == 0;
+  return game_.launch.contractOfferState == 2 && state().underContract == 0 && state().isLabelLaunched < 1;
 }
 
 View ContractOfferViewController::view() const {

@@ -23,12 +23,8 @@ int64_t minimumRatingOf(const GameState& state, int64_t pickedId) {
 }  // namespace
 
 Outcome FeaturingViewController::open() {
-  std::vector<int64_t>& selected = game_.launch.selectedFeaturedArtists;
-  std::erase_if(selected, [&](int64_t pickedId) {
-    Guest guest;
-    return !guestFor(state(), pickedId, guest);
-  });
-  addedBefore_ = selected;
+  letGoOfFormerArtists(game_);
+  addedBefore_ = game_.launch.selectedFeaturedArtists;
   return {};
 }
 
@@ -94,15 +90,15 @@ View FeaturingViewController::view() const {
   const int64_t skill = overallSkillRating(state());
   view.subtitle = std::to_string(selected) + " of " + std::to_string(mostGuestsOnASong) + " added";
   view.add(Tiles{{{.icon = "star", .label = "Your skill rating", .value = std::to_string(skill)}}});
-  if (!state().saveAllSignedArtistList.empty()) {
+  Rows artists;
+  for (const SignedArtist& artist : state().saveAllSignedArtistList) {
+    const int64_t pickedId = firstSignedArtistPick + artist.artistId;
+    Guest guest;
+    if (!guestFor(state(), pickedId, guest)) continue;
+    artists.items.push_back(describe(pickedId, guest.name, guest.rating, guest.virality));
+  }
+  if (!artists.items.empty()) {
     view.add(Heading{"Your label"});
-    Rows artists;
-    for (const SignedArtist& artist : state().saveAllSignedArtistList) {
-      const int64_t pickedId = firstSignedArtistPick + artist.artistId;
-      Guest guest;
-      if (!guestFor(state(), pickedId, guest)) continue;
-      artists.items.push_back(describe(pickedId, guest.name, guest.rating, guest.virality));
-    }
     view.add(std::move(artists));
     view.add(Heading{"For hire"});
   }

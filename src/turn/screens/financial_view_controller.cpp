@@ -16,7 +16,7 @@ View FinancialViewController::view() const {
   view.add(Figures{.items = {dollars("Cash", state().totalCashAvailable, toneOfCash)}, .style = Figures::Style::large});
   view.add(Rows{{{.picture = icon("cash"),
                   .title = "Standing net",
-                  .subtitle = "Job and weekly entries",
+                  .subtitle = standingNetCaption(state()),
                   .value = currency(net),
                   .note = "a week",
                   .tone = toneOfAmount(net)}}});

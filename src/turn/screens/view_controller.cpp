@@ -121,7 +121,7 @@ void ViewController::describeWeek(View& view) const {
                        std::to_string(nextWeeksEnergy(state()))),
                  {.picture = icon("cash"),
                   .title = "Standing net",
-                  .subtitle = needsWork ? "No job: the Job Board in Life has one" : "Job and weekly entries",
+                  .subtitle = needsWork ? "No job: the Job Board in Life has one" : standingNetCaption(state()),
                   .value = currency(net),
                   .tone = toneOfAmount(net)}}});
 }

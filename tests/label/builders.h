@@ -1,0 +1,20 @@
+// A label for a test: sensible values; change what the test is about.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "core/game_state.h"
+
+namespace backbeat {
+
+/// The label "Kite House" stands, in its garage and with nobody in it.
+void foundLabel(GameState& state);
+
+/// Somebody starts in the department, well rested, with the next id and a salary in the ledger. Their id.
+int64_t addEmployee(GameState& state, int64_t department, int64_t rating);
+
+/// An artist signs for two years, all traits at `level`. Their id.
+int64_t addSignedArtist(GameState& state, const std::string& name, int64_t level);
+
+}  // namespace backbeat

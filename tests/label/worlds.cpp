@@ -1,0 +1,101 @@
+#include "play/worlds.h"
+
+#include "label/builders.h"
+#include "label/departments.h"
+#include "label/office.h"
+#include "music/builders.h"
+#include "support/dates.h"
+
+namespace backbeat {
+namespace {
+
+void furnishHead(GameState& state, int64_t week, int64_t studioPart) {
+  setDate(state, week);
+  furnishCareer(state, 3, 8);
+  for (int64_t* part : {&state.studioAcoustic, &state.studioConsole, &state.studioComputer, &state.studioMonitors,
+                        &state.studioBooth}) {
+    *part = studioPart;
+  }
+  state.totalCashAvailable = 6'000'000;
+  state.totalEnergyAvailable = state.totalEnergyMax = 300;
+}
+
+/// Everything is ready for a label of one's own but the first day.
+void beforeTheLabel(GameState& state) { furnishHead(state, 80, 15); }
+
+/// The studio is there, the two million are not.
+void toDreamOf(GameState& state) {
+  beforeTheLabel(state);
+  state.totalCashAvailable = 1'999'999;
+}
+
+void firstDay(GameState& state) {
+  furnishHead(state, 81, 15);
+  foundLabel(state);
+}
+
+/// Good people, room for three artists, and hardly the money for one.
+void atWork(GameState& state) {
+  furnishHead(state, 110, 16);
+  foundLabel(state);
+  state.totalCashAvailable = 60'000;
+  state.businessTrait4 = 45;
+  for (const int64_t code : {0, 0, 1, 2, 3}) addEmployee(state, code, 88);
+}
+
+/// A campus of fifty, some of them worn out by their artists, with perks, booths of all kinds, and no room left.
+void fullLabel(GameState& state) {
+  furnishHead(state, 420, 20);
+  foundLabel(state);
+  for (int64_t* trait : {&state.businessTrait1, &state.businessTrait2, &state.businessTrait3, &state.businessTrait4,
+                         &state.businessTrait5}) {
+    *trait = 40;
+  }
+  const Office& campus = offices.back();
+  state.typeOfOffice = campus.typeOfOffice;
+  state.officeCapacity = campus.capacity;
+  state.boothMax = campus.boothMax;
+  state.labelOfficeRent = campus.rent;
+  state.goldBooth = state.platinumBooth = state.diamondBooth = 1;
+  state.studioCapacity = 10;
+  state.officePerk1 = state.officePerk6 = 1;
+  state.labelEnergyBoost = state.labelMoraleBoost = 0.25;
+  state.labelOfficePerkSpend = 65;
+  // One of Legal for ten artists, and some of Publicity have had enough.
+  for (int64_t i = 0; i < 50; ++i) {
+    addEmployee(state, i == 0 ? department::legal : i % 4 == 1 ? department::sales : i % 4, 40 + i);
+    if (i % 12 == 3)
+      state.saveAllEmployeeList.update(static_cast<size_t>(i),
+                                       [](Employee& employee) { employee.employeeMorale = 20; });
+  }
+  for (const char* name : {"Juno Hale", "Lil Ember", "Cassia Bloom", "Emery Vance", "Dr. Marble", "Wren Hale",
+                           "Otto Marsh", "Saga Berg", "Kid Velvet", "Ada Holloway", "Lev Moreau"}) {
+    addSignedArtist(state, name, 45 + 4 * state.signedArtistId);
+  }
+  state.saveAllSignedArtistList.update(1, [](SignedArtist& artist) { artist.underContract = false; });
+}
+
+/// An artist waits for a demo, nobody is there any more to listen, and there is no money to pay anybody off.
+void emptyScouts(GameState& state) {
+  furnishHead(state, 130, 15);
+  state.totalCashAvailable = 500;
+  foundLabel(state);
+  addEmployee(state, department::production, 44);
+  CreatedArtist created;
+  created.name = "Paper Anna";
+  created.charisma = created.rhythm = created.songwriting = created.virality = created.vocals = 30;
+  created.talent = 20;
+  created.monthlyListeners = 15'000;
+  created.demoRating = 28;
+  state.saveAllCreatedArtists.append(created);
+}
+
+const RoomWorlds worlds({{"before the label", beforeTheLabel},
+                         {"label to dream of", toDreamOf},
+                         {"label's first day", firstDay},
+                         {"label at work", atWork},
+                         {"full label", fullLabel},
+                         {"label without scouts", emptyScouts}});
+
+}  // namespace
+}  // namespace backbeat
