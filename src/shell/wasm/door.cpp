@@ -124,6 +124,22 @@ extern "C" {
   }
 }
 
+[[clang::export_name("bb_spare")]] void bb_spare(const char* bytes, uint32_t size) {
+  const auto copy = backbeat::dispensableSnapshot(door().store, {bytes, size});
+  backbeat::JsonWriter json;
+  json.beginObject();
+  json.key("name").text(copy ? copy->name : "");
+  json.key("told").text(copy ? copy->told() : "");
+  json.endObject();
+  door().answer = json.str();
+}
+
+[[clang::export_name("bb_give_up")]] void bb_give_up(const char* bytes, uint32_t size) {
+  auto& here = door();
+  here.store.dropSnapshot({bytes, size});
+  here.batch = here.store.takeBatch();
+}
+
 [[clang::export_name("bb_export")]] void bb_export() {
   door().answer = backbeat::exportCareer(backbeat::currentState());
 }
