@@ -146,7 +146,8 @@ int exportCareerFile(const CommandLine& line) {
   if (!report.readable) return fail("the save " + line.save + " cannot be read.");
   const std::string problem = exportToFile(state, line.career);
   if (!problem.empty()) return fail(problem);
-  for (const std::string& key : report.damagedLists) std::cerr << "backbeat: " << key << " is damaged and left out.\n";
+  for (const std::string& key : report.damaged) std::cerr << "backbeat: " << key << " is damaged and left out.\n";
+  if (report.lost > 0) std::cerr << "backbeat: " << counted(report.lost, "row") << " of the save are missing.\n";
   return answer("The career is in " + line.career + ".\n");
 }
 

@@ -53,6 +53,7 @@ class SqliteStore final : public CareerStore {
   };
   using Database = std::unique_ptr<sqlite3, CloseDatabase>;
   using Statement = std::unique_ptr<sqlite3_stmt, FinishStatement>;
+  class Rows;
 
   SqliteStore(std::string path, Database database);
   bool prepareStatements();

@@ -98,6 +98,7 @@ extern "C" {
   uint64_t number = 0;
   for (const char digit : seed) number = number * 10 + static_cast<uint64_t>(digit - '0');
   auto& here = door();
+  here.store.giveChecks();
   here.session = std::make_unique<backbeat::Session>(here.store, here.platform, number,
                                                      backbeat::dateFrom(backbeat::nextPart(text)));
   here.store.dropRows();
