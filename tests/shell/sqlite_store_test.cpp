@@ -16,6 +16,7 @@
 
 #include "core/save_file.h"
 #include "shell/session.h"
+#include "support/program.h"
 #include "support/small_career.h"
 
 namespace backbeat {
@@ -187,6 +188,14 @@ TEST_F(SqliteStoreTest, WhatIsNotAsItWasWrittenOrIsGoneIsToldOnce) {
   EXPECT_THAT(found("UPDATE list SET blob = (SELECT blob FROM list WHERE key = 'saveAllSongList' AND chunk = 2)"
                     " WHERE key = 'saveAllSongList' AND chunk = 3"),
               ElementsAre("saveAllSongList"));
+}
+
+TEST_F(SqliteStoreTest, ALaunchThatDidNotComeToItsEndIsKnown) {
+  EXPECT_FALSE(open()->launchStopped());
+  open()->beginLaunch();
+  EXPECT_TRUE(open()->launchStopped());
+  EXPECT_EQ(runProgram({"play", "--save", path}, "quit\n").exitCode, 0) << "it is tried on the side, and all is well";
+  EXPECT_FALSE(open()->launchStopped());
 }
 
 TEST_F(SqliteStoreTest, ASecondGameIsToldAndChangesNothing) {

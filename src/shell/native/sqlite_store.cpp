@@ -38,7 +38,9 @@ constexpr const char* tables =
     "CREATE TABLE IF NOT EXISTS snapshot (name TEXT PRIMARY KEY, taken TEXT DEFAULT CURRENT_TIMESTAMP);"
     "CREATE TABLE IF NOT EXISTS snapshot_row (name TEXT, key TEXT, chunk INT, value, PRIMARY KEY (name, key, chunk));"
     // Since version 3 a copy is one packed value; those of version 2 stay as they are.
-    "CREATE TABLE IF NOT EXISTS snapshot_packed (name TEXT PRIMARY KEY, rows BLOB);";
+    "CREATE TABLE IF NOT EXISTS snapshot_packed (name TEXT PRIMARY KEY, rows BLOB);"
+    // Since version 4: holds a row while the game is launched on this save.
+    "CREATE TABLE IF NOT EXISTS launch (begun TEXT DEFAULT CURRENT_TIMESTAMP);";
 
 // Since version 4 each row carries a check of itself, `checkOfRow` of key, chunk and value.
 constexpr const char* checks =
@@ -401,6 +403,19 @@ bool SqliteStore::restoreSnapshot(std::string_view name) {
                          "INSERT INTO list SELECT key, chunk, value, checkOfRow(key, chunk, value) FROM snapshot_row "
                          "WHERE name = ?1 AND chunk <> -1"});
   });
+}
+
+void SqliteStore::beginLaunch() {
+  transaction([&] { return runFor("", {"INSERT INTO launch DEFAULT VALUES"}); });
+}
+
+void SqliteStore::endLaunch() {
+  transaction([&] { return runFor("", {"DELETE FROM launch"}); });
+}
+
+bool SqliteStore::launchStopped() {
+  int code;
+  return queryNumber(database_.get(), "SELECT count(*) FROM launch", code) != 0 || code != SQLITE_OK;
 }
 
 void SqliteStore::dropStatements() {
