@@ -4,8 +4,9 @@
 packages_for() {
   case $1 in
     browser) echo clang-19 lld-19 wasi-libc libc++-19-dev-wasm32 libc++abi-19-dev-wasm32 libclang-rt-19-dev-wasm32 \
-      ninja-build ;;
-    computer) echo clang-19 cmake ninja-build libcli11-dev libedit-dev libsqlite3-dev libutf8proc-dev zlib1g-dev ;;
+      libxxhash-dev ninja-build ;;
+    computer) echo clang-19 cmake ninja-build libcli11-dev libedit-dev libsqlite3-dev libutf8proc-dev \
+      libxxhash-dev zlib1g-dev ;;
     node) echo nodejs npm ca-certificates ;;
     tests) echo ccache libgtest-dev libgmock-dev libplist-utils python3 chromium fonts-noto-color-emoji ;;
     engines) echo firefox-esr webkit2gtk-driver xvfb ;;

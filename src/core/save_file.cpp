@@ -2,12 +2,20 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 #include "core/career_check.h"
 #include "core/record_codec.h"
+#include "core/row_check.h"
 
 namespace backbeat {
 namespace {
+
+// How many rows there are besides this one, since a row that is gone tells nothing itself. The first of all keys: when
+// a part of the rows cannot be found any more, it is seldom the first.
+constexpr std::string_view countKey = "#rows";
+
+uint64_t placeOf(std::string_view key, int32_t chunk) { return rowCheck(key, chunk, 0, ""); }
 
 std::optional<std::vector<uint32_t>> decodeOrder(std::string_view propertyList) {
   const auto reader = PropertyListReader::open(propertyList);
@@ -40,19 +48,20 @@ class ListLoader {
     damaged_ = damaged_ || row == nullptr || !(chunk == orderRow ? takeOrder(*row) : takeChunk(chunk, *row));
   }
 
-  /// Fills the list; false, and the list is as it was, when its rows are no whole list.
-  bool finish() {
-    if (stored.leftovers.empty()) return true;
+  /// Fills the list; it stays as it was, and counts as damaged, when its rows are no whole list.
+  void finish() {
+    if (stored.leftovers.empty()) return;
     mended = !damaged_ && mendRecords(places_) > 0;
-    const bool whole = !damaged_ && stored.chunks > 0 && list_.restore(std::move(places_), std::move(slots_));
-    if (!whole) {
+    damaged_ = damaged_ || stored.chunks == 0 || !list_.restore(std::move(places_), std::move(slots_));
+    if (damaged_) {
       stored.chunks = 0;
-      return false;
+      return;
     }
     stored.leftovers.clear();
     stored.current = !cutOtherwise_ && !mended;
-    return true;
   }
+
+  bool damaged() const { return damaged_; }
 
   StoredList stored;
   bool mended = false;
@@ -115,29 +124,55 @@ class Loader {
   }
 
   bool run(Store& store) {
-    return store.visitRows([&](std::string_view key, int32_t chunk, const Value& value) { take(key, chunk, value); });
-  }
-
-  /// Ends the loading; keys of damaged lists, in the order of the table.
-  std::vector<std::string> finish() {
-    std::vector<std::string> damaged;
-    for (const auto& [key, list] : listsOf(state_)) {
-      if (!lists_.find(key)->second.finish()) damaged.emplace_back(key);
+    const bool readable =
+        store.visitRows([&](std::string_view key, int32_t chunk, const Value& value) { take(key, chunk, value); });
+    for (const auto& [key, unused] : listsOf(state_)) {
+      ListLoader& list = lists_.find(key)->second;
+      list.finish();
+      if (list.damaged()) damaged.emplace_back(key);
     }
-    return damaged;
+    damaged.insert(damaged.end(), damagedWholes_.begin(), damagedWholes_.end());
+    return readable;
   }
 
-  const StoredList& stored(std::string_view key) const { return lists_.find(key)->second.stored; }
-  bool mended(std::string_view key) const { return lists_.find(key)->second.mended; }
+  const ListLoader& list(std::string_view key) const { return lists_.find(key)->second; }
+  /// None when the key is no scalar's.
+  const Scalar* scalar(std::string_view key) const {
+    const auto found = scalars_.find(key);
+    return found == scalars_.end() ? nullptr : found->second;
+  }
+  /// False as well for a save that was never counted.
+  bool isCounted() const { return counted_.value_or(0) == visited_; }
+  int64_t lost() const { return std::max(counted_.value_or(0) - visited_, int64_t{0}); }
+
+  std::vector<std::string> damaged;   ///< keys, those of lists first
+  std::unordered_set<uint64_t> rows;  ///< where the rows are that stay
   std::map<std::string, Bytes, std::less<>> otherObjects;
 
  private:
   void take(std::string_view key, int32_t chunk, const Value& value) {
-    if (const auto list = lists_.find(key); list != lists_.end()) return list->second.take(chunk, value);
-    if (chunk != wholeRow) return;
-    if (const auto scalar = scalars_.find(key); scalar != scalars_.end()) {
-      if (scalar->second->loading == Loading::writeOnly) return;
-      std::visit([&](auto member) { loadScalar(state_, member, value); }, scalar->second->member);
+    if (key == countKey && std::holds_alternative<int64_t>(value)) {
+      counted_ = std::get<int64_t>(value);
+      return;
+    }
+    ++visited_;
+    const auto list = lists_.find(key);
+    if (list == lists_.end() && std::holds_alternative<DamagedValue>(value)) {
+      damagedWholes_.emplace(key);
+      return;
+    }
+    rows.insert(placeOf(key, chunk));
+    if (list != lists_.end()) {
+      list->second.take(chunk, value);
+    } else if (chunk == wholeRow) {
+      takeWhole(key, value);
+    }
+  }
+
+  void takeWhole(std::string_view key, const Value& value) {
+    if (const Scalar* known = scalar(key)) {
+      if (known->loading == Loading::writeOnly) return;
+      std::visit([&](auto member) { loadScalar(state_, member, value); }, known->member);
     } else if (const auto* object = std::get_if<Bytes>(&value)) {
       otherObjects.emplace(key, *object);
     }
@@ -146,6 +181,9 @@ class Loader {
   GameState& state_;
   std::map<std::string_view, ListLoader> lists_;
   std::map<std::string_view, const Scalar*> scalars_;
+  std::set<std::string, std::less<>> damagedWholes_;
+  std::optional<int64_t> counted_;
+  int64_t visited_ = 0;
 };
 
 }  // namespace
@@ -159,25 +197,37 @@ LoadReport SaveFile::load(GameState& state) {
     state = GameState();
     return report;
   }
-  report.damagedLists = loader.finish();
-  lists_.clear();
-  for (const auto& [key, list] : listsOf(state)) lists_.emplace(key, loader.stored(key));
-  otherObjects_ = std::move(loader.otherObjects);
-  for (const std::string& key : report.damagedLists) store_.quarantine(key);
+  report.damaged = loader.damaged;
+  report.lost = loader.lost();
   report.mended = mendScalars(state);
-  for (const Scalar& scalar : scalars) {
-    const auto& keys = report.mended;
-    if (std::find(keys.begin(), keys.end(), scalar.key) != keys.end()) writeScalar(state, scalar);
+  lists_.clear();
+  for (const auto& [key, list] : listsOf(state)) lists_.emplace(key, loader.list(key).stored);
+  otherObjects_ = std::move(loader.otherObjects);
+  rows_ = std::move(loader.rows);
+  counted_ = loader.isCounted();
+  for (const std::string& key : report.damaged) store_.quarantine(key);
+  for (const auto& keys : {report.damaged, report.mended}) {
+    for (const std::string& key : keys) {
+      if (const Scalar* scalar = loader.scalar(key)) writeScalar(state, *scalar);
+    }
   }
   for (const auto& [key, list] : listsOf(state)) {
-    if (!loader.mended(key)) continue;
-    writeList(key, list);
-    report.mended.emplace_back(key);
+    const ListLoader& loaded = loader.list(key);
+    if (loaded.mended) report.mended.emplace_back(key);
+    if (loaded.mended || loaded.damaged()) writeList(key, list);
   }
+  if (!report.damaged.empty()) commit();
   return report;
 }
 
 void SaveFile::put(std::string_view key, int32_t chunk, std::optional<Value> value) {
+  const uint64_t place = placeOf(key, chunk);
+  const bool changes = value ? rows_.insert(place).second : rows_.erase(place) > 0;
+  if (changes) counted_ = false;
+  addPending(key, chunk, std::move(value));
+}
+
+void SaveFile::addPending(std::string_view key, int32_t chunk, std::optional<Value> value) {
   if (failing_) {
     const auto [known, isNew] = pendingRows_.try_emplace({std::string(key), chunk}, pending_.size());
     if (!isNew) {
@@ -238,6 +288,10 @@ void SaveFile::putRemovals(std::string_view key, StoredList& stored, uint32_t ch
 }
 
 bool SaveFile::commit() {
+  if (!counted_ && writes()) {
+    addPending(countKey, wholeRow, static_cast<int64_t>(rows_.size()));
+    counted_ = true;
+  }
   if (pending_.empty()) return true;
   if (store_.commit(pending_)) {
     pending_.clear();
@@ -247,7 +301,7 @@ bool SaveFile::commit() {
   }
   if (!failing_) {
     failing_ = true;
-    for (Write& write : std::exchange(pending_, {})) put(write.key, write.chunk, std::move(write.value));
+    for (Write& write : std::exchange(pending_, {})) addPending(write.key, write.chunk, std::move(write.value));
   }
   return false;
 }
@@ -264,11 +318,12 @@ std::vector<std::string> differencesFromStore(const GameState& state, Store& sto
   GameState stored;
   Loader loader(stored);
   const bool readable = loader.run(store);
-  std::vector<std::string> different = loader.finish();
+  std::vector<std::string> different = loader.damaged;
   const auto add = [&](std::string_view key, bool differs) {
     const bool isNew = std::find(different.begin(), different.end(), key) == different.end();
     if ((differs || !readable) && isNew) different.emplace_back(key);
   };
+  add(countKey, !loader.isCounted());
   const auto storedLists = listsOf(std::as_const(stored));
   const auto lists = listsOf(state);
   for (size_t i = 0; i < lists.size(); ++i) add(lists[i].key, !lists[i].list.holdsSame(storedLists[i].list));

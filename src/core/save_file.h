@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -17,10 +18,11 @@ namespace backbeat {
 
 /// What loading found.
 struct LoadReport {
-  std::vector<std::string> damagedLists;  ///< keys of lists that could not be read: empty now, the rows put aside
-  std::vector<std::string> mended;        ///< keys that held a number no rule can carry: the nearest stands there now
-  bool readable = true;                   ///< false when the store itself could not be read
-  bool contractLost = false;              ///< the artist was under a contract that is not there, and is free now
+  std::vector<std::string> damaged;  ///< keys of what could not be read: on its default now, the rows put aside
+  std::vector<std::string> mended;   ///< keys that held a number no rule can carry: the nearest stands there now
+  int64_t lost = 0;                  ///< how many rows that were written are not there any more, of whatever keys
+  bool readable = true;              ///< false when the store itself could not be read
+  bool contractLost = false;         ///< the artist was under a contract that is not there, and is free now
 };
 
 /// What a store holds of one list.
@@ -37,6 +39,7 @@ class SaveFile {
   /// Fills `state` (fresh, on its defaults) from the store: the lists, and the scalars but for the write-only ones.
   /// A key that is not there, or holds a value of another kind or one that does not fit, keeps its default; a whole
   /// number is welcome for a double and a double without fraction for a whole number. Lists load all or nothing.
+  /// What is put aside, and every row that is missing, is in the report; none of it comes up at the next load.
   /// When the store cannot be read, `state` stays on its defaults and nothing is written from then on: half a career
   /// would otherwise take the place of what may still be mended.
   LoadReport load(GameState& state);
@@ -83,6 +86,7 @@ class SaveFile {
  private:
   bool writes() const { return keeping_ && store_.keeps(); }
   void put(std::string_view key, int32_t chunk, std::optional<Value> value);
+  void addPending(std::string_view key, int32_t chunk, std::optional<Value> value);
   void putChunk(std::string_view key, const ChunkedList& list, uint32_t number);
   void putOrder(std::string_view key, const std::vector<uint32_t>& slots);
   void putRemovals(std::string_view key, StoredList& stored, uint32_t chunks);
@@ -93,6 +97,8 @@ class SaveFile {
   std::map<std::pair<std::string, int32_t>, size_t> pendingRows_;  // where each row stands in pending_, while failing
   std::map<std::string, StoredList, std::less<>> lists_;
   std::map<std::string, Bytes, std::less<>> otherObjects_;
+  std::unordered_set<uint64_t> rows_;  // the fingerprint of each place that is taken
+  bool counted_ = true;                // the store, or what is pending, knows how many they are
   bool failing_ = false;
   bool keeping_ = true;
 };

@@ -15,8 +15,14 @@
 
 namespace backbeat {
 
-/// A stored value: a whole number, a double, or an object (a property list).
-using Value = std::variant<int64_t, double, Bytes>;
+/// What stands where a value was stored that is not the one that was written: its bytes as they were found.
+struct DamagedValue {
+  Bytes found;
+  bool operator==(const DamagedValue&) const = default;
+};
+
+/// A stored value: a whole number, a double, or an object (a property list). Damaged ones are read and never written.
+using Value = std::variant<int64_t, double, Bytes, DamagedValue>;
 
 /// The chunk number of a row that is not cut.
 inline constexpr int32_t wholeRow = -1;
@@ -45,7 +51,8 @@ class Store {
   /// False when that failed; nothing has changed then.
   virtual bool commit(std::span<const Write> writes) = 0;
 
-  /// Hands every row to `visit`, in the order of key and chunk. False when the store cannot be read.
+  /// Hands every row to `visit`, in the order of key and chunk. A row that is not as it was written has a value that
+  /// says so. False when the store cannot be read.
   virtual bool visitRows(const std::function<void(std::string_view key, int32_t chunk, const Value& value)>& visit) = 0;
 
   /// Puts rows that cannot be read aside, out of the game's way but not out of the world: they leave the store's rows

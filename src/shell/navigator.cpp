@@ -4,6 +4,7 @@
 
 #include "core/money.h"
 #include "core/purse.h"
+#include "core/text.h"
 
 namespace backbeat {
 
@@ -14,7 +15,9 @@ void Navigator::start(const LoadReport& report) {
   if (!report.readable) {
     notice_ = "The save could not be read and is left as it is. This career is not being kept.";
   }
-  tell("A part of the save was damaged and has been put aside:", report.damagedLists);
+  tell("A part of the save was damaged and has been put aside:", report.damaged);
+  if (report.lost > 0)
+    tell("A part of the save is missing, and what stood there is lost:", {counted(report.lost, "row")});
   tell("Numbers that no career can hold were put right in:", report.mended);
   if (report.contractLost) {
     notice_ += notice_.empty() ? "" : " ";
@@ -29,7 +32,7 @@ void Navigator::tell(std::string_view what, const std::vector<std::string>& keys
   if (keys.empty()) return;
   if (!notice_.empty()) notice_ += ' ';
   notice_ += what;
-  for (const std::string& key : keys) notice_ += " " + key;
+  for (const std::string& key : keys) notice_ += " " + validUtf8(key);
   notice_ += ".";
 }
 

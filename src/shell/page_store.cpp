@@ -16,10 +16,16 @@ constexpr int32_t forgetCopy = -11;
 }  // namespace
 
 bool PageStore::addRow(std::string_view row) {
+  const bool checked = isChecked(row);
   std::optional<Write> read = takeRow(row);
   if (!read || !read->value || !row.empty()) return false;
+  if (!checked) unchecked_.emplace_back(read->key, read->chunk);
   rows_.insert_or_assign({std::move(read->key), read->chunk}, std::move(*read->value));
   return true;
+}
+
+void PageStore::giveChecks() {
+  for (const auto& [key, chunk] : std::exchange(unchecked_, {})) appendRow(batch_, {key, chunk, rows_[{key, chunk}]});
 }
 
 Bytes PageStore::takeBatch() { return std::exchange(batch_, {}); }

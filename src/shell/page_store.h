@@ -5,6 +5,7 @@
 #include <map>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "core/store.h"
 
@@ -12,8 +13,12 @@ namespace backbeat {
 
 class PageStore final : public Store {
  public:
-  /// Takes one stored row, before the game starts. False, and nothing is taken, when it is malformed.
+  /// Takes one stored row, before the game starts. False, and nothing is taken, when it is malformed. One whose check
+  /// does not fit is taken as damaged.
   bool addRow(std::string_view row);
+
+  /// Writes the rows that older versions left without a check once more.
+  void giveChecks();
 
   /// Forgets the rows that were handed in: once the game is loaded nobody reads them again.
   void dropRows() { rows_.clear(); }
@@ -43,6 +48,7 @@ class PageStore final : public Store {
 
  private:
   std::map<std::pair<std::string, int32_t>, Value> rows_;
+  std::vector<std::pair<std::string, int32_t>> unchecked_;
   std::map<std::string, int64_t, std::less<>> snapshots_;  // name and room
   Bytes batch_;
 };

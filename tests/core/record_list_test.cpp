@@ -135,7 +135,7 @@ TYPED_TEST(RecordListTest, AgreesWithAPlainVectorAndItsStoreWithAWholeSave) {
     if (this->below(10) != 0) continue;
     this->expectHistoryAgrees();
     GameState loaded;
-    EXPECT_TRUE(this->saveFile.load(loaded).damagedLists.empty());
+    EXPECT_TRUE(this->saveFile.load(loaded).damaged.empty());
     this->state = std::move(loaded);
   }
 }

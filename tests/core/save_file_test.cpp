@@ -46,7 +46,7 @@ TEST_F(SaveFileTest, BringsBackEverythingButTheWriteOnlyScalars) {
   EXPECT_TRUE(saveFile.commit());
   EXPECT_THAT(differencesFromStore(state, store), IsEmpty());
   GameState loaded;
-  EXPECT_THAT(saveFile.load(loaded).damagedLists, IsEmpty());
+  EXPECT_THAT(saveFile.load(loaded).damaged, IsEmpty());
   EXPECT_EQ(loaded.foodEnergyBonus, 0);
   EXPECT_EQ(std::get<int64_t>(store.rows.at({"foodEnergyBonus", wholeRow})), 30);
   loaded.foodEnergyBonus = 30;
@@ -149,7 +149,7 @@ TEST_F(SaveFileTest, ADamagedListIsPutAsideAloneAndTheNextSaveIsWhole) {
 
     GameState loaded;
     SaveFile again(store);
-    EXPECT_THAT(again.load(loaded).damagedLists, ElementsAre("saveAllSongList"));
+    EXPECT_THAT(again.load(loaded).damaged, ElementsAre("saveAllSongList"));
     EXPECT_GE(store.quarantined.size(), 5u);
     EXPECT_TRUE(loaded.saveAllSongList.empty());
     EXPECT_EQ(loaded.saveAllChirpList, state.saveAllChirpList);
@@ -191,7 +191,7 @@ TEST_F(SaveFileTest, AListCutOtherwiseIsReadAndCutAnew) {
   }
   SaveFile again(other);
   GameState loaded;
-  EXPECT_THAT(again.load(loaded).damagedLists, IsEmpty());
+  EXPECT_THAT(again.load(loaded).damaged, IsEmpty());
   ASSERT_EQ(loaded.saveAllAlbumList.size(), 40u);
   loaded.saveAllAlbumList.update(17, [](Album& album) { album.title = "Changed"; });
   again.writeList("saveAllAlbumList", loaded.saveAllAlbumList);
@@ -206,7 +206,7 @@ TEST_F(SaveFileTest, AnObjectUnderAnUnknownKeyCanBeRead) {
   store.rows[{"oldName", wholeRow}] = encodeValue(writer, songs);
   GameState loaded;
   SaveFile again(store);
-  EXPECT_THAT(again.load(loaded).damagedLists, IsEmpty());
+  EXPECT_THAT(again.load(loaded).damaged, IsEmpty());
   EXPECT_EQ(decodeRecords<Song>(again.object("oldName").value_or("")), songs);
   EXPECT_EQ(again.object("totalFans"), std::nullopt);
 }

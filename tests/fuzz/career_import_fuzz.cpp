@@ -20,6 +20,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   if (!store.replaceAll(rowsOf(*career.state))) std::abort();
   GameState loaded;
   const LoadReport report = SaveFile(store).load(loaded);
-  if (!report.readable || !report.damagedLists.empty()) std::abort();
+  if (!report.readable || !report.damaged.empty()) std::abort();
   return 0;
 }

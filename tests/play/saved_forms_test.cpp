@@ -17,9 +17,9 @@ namespace backbeat {
 namespace {
 
 const std::string folder = BACKBEAT_SOURCE_DIR "/tests/play/saves/";
-constexpr const char* databases[] = {"computer_1.save", "computer_2.save",
-                                     "computer_3.save"};  // form 1 kept no copies yet, form 2 did not pack them
-constexpr const char* pageRows = "page_1.rows";
+// Form 1 kept no copies yet, form 2 did not pack them, form 3 and the first one of a page had no checks.
+constexpr const char* databases[] = {"computer_1.save", "computer_2.save", "computer_3.save", "computer_4.save"};
+constexpr const char* pages[] = {"page_1.rows", "page_2.rows"};
 constexpr const char* careerFile = "career_1.plist";
 
 /// Plays twelve weeks of the golden year and keeps a copy at their end.
@@ -47,7 +47,7 @@ Bytes asPageRows(Store& store) {
 GameState loaded(Store& store) {
   GameState state;
   const LoadReport report = SaveFile(store).load(state);
-  EXPECT_TRUE(report.readable && report.damagedLists.empty());
+  EXPECT_TRUE(report.readable && report.damaged.empty() && report.lost == 0);
   return state;
 }
 
@@ -88,18 +88,20 @@ TEST(SavedForms, LoadForEver) {
     }
   }
 
-  PageStore page;
-  const Bytes rows = contentOf(folder + pageRows);
-  for (size_t at = 0; at < rows.size();) {
-    const size_t end = endOfRow(rows, at);
-    EXPECT_TRUE(page.addRow(std::string_view(rows).substr(at, end - at)));
-    at = end;
-  }
-  EXPECT_EQ(loaded(page), first);
-
   const ImportedCareer career = importCareer(contentOf(folder + careerFile));
   ASSERT_TRUE(career.state) << career.problem;
-  EXPECT_EQ(differencesFromStore(*career.state, page), std::vector<std::string>());
+  for (const char* file : pages) {
+    SCOPED_TRACE(file);
+    PageStore page;
+    const Bytes rows = contentOf(folder + file);
+    for (size_t at = 0; at < rows.size();) {
+      const size_t end = endOfRow(rows, at);
+      EXPECT_TRUE(page.addRow(std::string_view(rows).substr(at, end - at)));
+      at = end;
+    }
+    EXPECT_EQ(loaded(page), first);
+    EXPECT_EQ(loaded(page), *career.state);
+  }
 }
 
 TEST(SavedForms, TodaysIsAmongThem) {
@@ -113,7 +115,7 @@ TEST(SavedForms, TodaysIsAmongThem) {
       const auto keep = [](const std::string& name, const Bytes& content) {
         if (!std::filesystem::exists(folder + name)) writeFile(folder + name, content);
       };
-      keep(pageRows, asPageRows(*opened.store));
+      keep(std::end(pages)[-1], asPageRows(*opened.store));
       keep(careerFile, exportCareer(state));
     }
   }

@@ -102,7 +102,8 @@ std::string WatchedCareer::fault(Care care) {
   const bool weekEnded = endingWeek_ && state().weekNumberForTracking != week_.tracking;
   const bool due = care == Care::full || weekEnded || std::exchange(justLaunched_, false);
   const bool newHere = seen_.insert(shown().segue).second;
-  if (!session().loadReport().damagedLists.empty()) return "a list of its own save was damaged at a reload";
+  const LoadReport& report = session().loadReport();
+  if (!report.damaged.empty() || report.lost > 0) return "its own save was damaged at a reload";
   if (session().game().saveFile.failing()) return "the store took a write and the save file does not know";
   if (due) {
     const std::vector<std::string> unsaved = differencesFromStore(state(), store_);

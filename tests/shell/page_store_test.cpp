@@ -11,6 +11,7 @@ namespace backbeat {
 namespace {
 
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using namespace std::string_literals;
 
@@ -47,7 +48,9 @@ TEST(PageStore, WritesTheRowsThatTheProtocolTells) {
   const std::vector<Write> writes = {{"fans", wholeRow, Value(int64_t{258})}, {"x", 3, std::nullopt}};
   EXPECT_TRUE(store.commit(writes));
   EXPECT_EQ(store.takeBatch(),
-            "\4\0\0\0fans\xFF\xFF\xFF\xFF\0\x09\0\0\0i\2\1\0\0\0\0\0\0"s
+            "\4\0\0\0fans\xFF\xFF\xFF\xFF\0\x11\0\0\0"
+            "1CHECKSUM"
+            "\2\1\0\0\0\0\0\0"s
             "\1\0\0\0x\3\0\0\0\1\0\0\0\0"s);
   EXPECT_EQ(store.takeBatch(), "");
 }
@@ -86,15 +89,43 @@ TEST(PageStore, ADamagedListMovesAsideOnThePage) {
   page.handTo(second);
   GameState loaded;
   SaveFile saveFile(second);
-  EXPECT_THAT(saveFile.load(loaded).damagedLists, ElementsAre("saveAllSongList"));
+  EXPECT_THAT(saveFile.load(loaded).damaged, ElementsAre("saveAllSongList"));
   EXPECT_EQ(loaded.totalFans, 7);
   page.apply(second.takeBatch());
-  ASSERT_EQ(page.rows.size(), 2u);
-  EXPECT_THAT(page.rows.rbegin()->second, testing::EndsWith("odamaged"));
+  EXPECT_THAT(page.rows, testing::Contains(testing::Pair(HasSubstr("quarantine/"), testing::EndsWith("damaged"))));
 
   PageStore third;
   page.handTo(third);
-  EXPECT_THAT(SaveFile(third).load(loaded).damagedLists, IsEmpty()) << "once put aside it is no longer in the way";
+  EXPECT_THAT(SaveFile(third).load(loaded).damaged, IsEmpty()) << "once put aside it is no longer in the way";
+}
+
+TEST(PageStore, ARowThatIsNotAsItWasWrittenIsPutAsideAsFound) {
+  PageStore source;
+  EXPECT_TRUE(source.commit(std::vector<Write>{{"totalFans", wholeRow, Value(int64_t{7})}}));
+  Bytes row = source.takeBatch();
+  row.back() ^= 1;
+  PageStore store;
+  EXPECT_TRUE(store.addRow(row));
+  GameState loaded;
+  EXPECT_THAT(SaveFile(store).load(loaded).damaged, ElementsAre("totalFans"));
+  EXPECT_EQ(loaded.totalFans, GameState().totalFans);
+  EXPECT_THAT(store.takeBatch(), HasSubstr(row.substr(row.size() - 21)));
+}
+
+TEST(PageStore, RowsOfAnOlderVersionAreReadAndGetChecks) {
+  PageStore store;
+  EXPECT_TRUE(store.addRow("\x09\0\0\0totalFans\xFF\xFF\xFF\xFF\0\x09\0\0\0i\2\1\0\0\0\0\0\0"s));
+  store.giveChecks();
+  const Bytes checked = store.takeBatch();
+  store.giveChecks();
+  EXPECT_EQ(store.takeBatch(), "");
+  PageStore again;
+  EXPECT_TRUE(again.addRow(checked));
+  again.giveChecks();
+  EXPECT_EQ(again.takeBatch(), "");
+  GameState loaded;
+  EXPECT_THAT(SaveFile(again).load(loaded).damaged, IsEmpty());
+  EXPECT_EQ(loaded.totalFans, 258);
 }
 
 TEST(PageStore, RefusesRowsThatAreNone) {
@@ -104,7 +135,7 @@ TEST(PageStore, RefusesRowsThatAreNone) {
   PageStore store;
   for (size_t size = 0; size < row.size(); ++size) EXPECT_FALSE(store.addRow(row.substr(0, size))) << size;
   EXPECT_FALSE(store.addRow(row + '\0')) << "more than a row";
-  for (const size_t at : {size_t{0}, size_t{12}, size_t{13}, row.find('d')}) {
+  for (const size_t at : {size_t{0}, size_t{12}, size_t{13}, row.find('2')}) {
     Bytes damaged = row;
     damaged[at] = '\x7F';
     EXPECT_FALSE(store.addRow(damaged)) << at;

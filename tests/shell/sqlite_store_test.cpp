@@ -16,6 +16,7 @@
 
 #include "core/save_file.h"
 #include "shell/session.h"
+#include "support/program.h"
 #include "support/small_career.h"
 
 namespace backbeat {
@@ -154,10 +155,47 @@ TEST_F(SqliteStoreTest, ADamagedListIsPutAsideForGood) {
   ASSERT_TRUE(saveAll(*open(), state));
   tamper("UPDATE list SET blob = x'626164' WHERE key = 'saveAllSongList' AND chunk = 3");
   GameState loaded;
-  EXPECT_THAT(SaveFile(*open()).load(loaded).damagedLists, ElementsAre("saveAllSongList"));
+  EXPECT_THAT(SaveFile(*open()).load(loaded).damaged, ElementsAre("saveAllSongList"));
   EXPECT_EQ(loaded.saveAllWeeklySongListens, state.saveAllWeeklySongListens);
-  EXPECT_THAT(SaveFile(*open()).load(loaded).damagedLists, IsEmpty());
+  EXPECT_THAT(SaveFile(*open()).load(loaded).damaged, IsEmpty());
   EXPECT_EQ(tamper("SELECT count(*) FROM quarantine"), 51) << "50 rows of songs and their order";
+}
+
+TEST_F(SqliteStoreTest, WhatIsNotAsItWasWrittenOrIsGoneIsToldOnce) {
+  GameState state = career();
+  const auto found = [&](const char* damage) {
+    std::filesystem::remove(path);
+    EXPECT_TRUE(saveAll(*open(), state));
+    tamper(damage);
+    GameState loaded;
+    const auto store = open();
+    SaveFile saveFile(*store);
+    const LoadReport report = saveFile.load(loaded);
+    saveFile.commit();
+    const LoadReport again = SaveFile(*store).load(loaded);
+    EXPECT_THAT(again.damaged, IsEmpty());
+    EXPECT_EQ(again.lost, 0);
+    std::vector<std::string> told = report.damaged;
+    if (report.lost > 0) told.push_back(std::to_string(report.lost) + " lost");
+    return told;
+  };
+  EXPECT_THAT(found("UPDATE kv SET value = 5 WHERE key = 'totalFans'"), ElementsAre("totalFans"));
+  EXPECT_THAT(found("UPDATE kv SET fingerprint = NULL WHERE key = 'totalFans'"), ElementsAre("totalFans"));
+  EXPECT_THAT(found("UPDATE kv SET key = 'totalFann' WHERE key = 'totalFans'"), ElementsAre("totalFann"));
+  EXPECT_THAT(found("UPDATE kv SET value = 3 WHERE key = '#rows'"), ElementsAre("#rows"));
+  EXPECT_THAT(found("DELETE FROM kv WHERE key = 'totalFans' OR key = 'weekNumber'"), ElementsAre("2 lost"));
+  EXPECT_THAT(found("DELETE FROM list WHERE key = 'saveAllWeeklySongListens' AND chunk = 3"), ElementsAre("1 lost"));
+  EXPECT_THAT(found("UPDATE list SET blob = (SELECT blob FROM list WHERE key = 'saveAllSongList' AND chunk = 2)"
+                    " WHERE key = 'saveAllSongList' AND chunk = 3"),
+              ElementsAre("saveAllSongList"));
+}
+
+TEST_F(SqliteStoreTest, ALaunchThatDidNotComeToItsEndIsKnown) {
+  EXPECT_FALSE(open()->launchStopped());
+  open()->beginLaunch();
+  EXPECT_TRUE(open()->launchStopped());
+  EXPECT_EQ(runProgram({"play", "--save", path}, "quit\n").exitCode, 0) << "it is tried on the side, and all is well";
+  EXPECT_FALSE(open()->launchStopped());
 }
 
 TEST_F(SqliteStoreTest, ASecondGameIsToldAndChangesNothing) {
@@ -214,7 +252,7 @@ TEST_F(SqliteStoreTest, ADamageFurtherInIsNeverTakenForAShorterCareer) {
     if (!opened.store) continue;
     GameState loaded;
     const LoadReport report = SaveFile(*opened.store).load(loaded);
-    if (!report.readable || !report.damagedLists.empty()) continue;
+    if (!report.readable || !report.damaged.empty() || report.lost > 0) continue;
     --noticed;
     EXPECT_EQ(stateHash(loaded), stateHash(state)) << "page " << page;
   }
@@ -243,7 +281,7 @@ TEST_F(SqliteStoreTest, ACutOrFlippedFileIsRefusedOrPlayedAndThePlayerIsTold) {
     Session session(*opened.store, platform, 7, {});
     for (const char* tab : {"0", "1", "2", "3", "4"}) session.press({}, "tabs", {"tab", tab});
     const LoadReport& report = session.loadReport();
-    EXPECT_EQ(session.shown().notice.empty(), report.readable && report.damagedLists.empty());
+    EXPECT_EQ(session.shown().notice.empty(), report.readable && report.damaged.empty() && report.lost == 0);
     told += !session.shown().notice.empty();
   }
   EXPECT_GT(refused, 10);

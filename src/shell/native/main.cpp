@@ -81,14 +81,18 @@ int play(const CommandLine& line) {
     if (!trace) return fail("the trace " + line.trace + " cannot be written.");
     record = [&](const std::string& event) { trace << event + '\n' << std::flush; };
   }
-  if (!rescue(*opened.store, launchProblem(*opened.store, now()), std::cin, std::cout, now)) return failed;
+  // A launch takes its time in the hundredth year, so only one that has stopped before is tried on the side first.
+  const std::string problem = opened.store->launchStopped() ? launchProblem(*opened.store, now()) : "";
+  if (!rescue(*opened.store, problem, std::cin, std::cout, now)) return failed;
   QuietPlatform platform;
   TraceRecorder career(*opened.store, platform, record);
   if (!line.trace.empty() && holdsCareer(*opened.store)) {
     career.noteForeignCareer();
     std::cerr << "backbeat: this trace goes on with a career that is there already; it cannot be replayed.\n";
   }
+  opened.store->beginLaunch();
   career.play(launchEvent(unixMilliseconds(), line.seed.value_or(seedOfTheSystem())));
+  opened.store->endLaunch();
   const bool colour = isTerminal(STDOUT_FILENO) && environment("NO_COLOR").empty();
   const bool atTerminal = isTerminal(STDIN_FILENO) && isTerminal(STDOUT_FILENO);
   LineInput input = atTerminal ? linesFromTerminal() : linesFrom(std::cin);
@@ -146,7 +150,8 @@ int exportCareerFile(const CommandLine& line) {
   if (!report.readable) return fail("the save " + line.save + " cannot be read.");
   const std::string problem = exportToFile(state, line.career);
   if (!problem.empty()) return fail(problem);
-  for (const std::string& key : report.damagedLists) std::cerr << "backbeat: " << key << " is damaged and left out.\n";
+  for (const std::string& key : report.damaged) std::cerr << "backbeat: " << key << " is damaged and left out.\n";
+  if (report.lost > 0) std::cerr << "backbeat: " << counted(report.lost, "row") << " of the save are missing.\n";
   return answer("The career is in " + line.career + ".\n");
 }
 

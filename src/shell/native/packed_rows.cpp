@@ -47,7 +47,7 @@ std::optional<std::vector<Write>> unpackRows(std::string_view packed) {
   std::vector<Write> rows;
   for (std::string_view left = plain; !left.empty();) {
     auto row = takeRow(left);
-    if (!row) return {};
+    if (!row || !row->value || std::holds_alternative<DamagedValue>(*row->value)) return {};
     rows.push_back(std::move(*row));
   }
   return rows;

@@ -42,7 +42,8 @@ std::string saveInfo(Store& store) {
     const auto rows = static_cast<int64_t>(list.size());
     if (rows > 0) add(text, "  " + std::string(key), counted(rows, "row"));
   }
-  for (const std::string& key : report.damagedLists) add(text, "  " + key, "DAMAGED: cannot be read");
+  for (const std::string& key : report.damaged) add(text, "  " + key, "DAMAGED: cannot be read");
+  if (report.lost > 0) add(text, "MISSING", counted(report.lost, "row"));
   return text;
 }
 

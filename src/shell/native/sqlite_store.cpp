@@ -10,13 +10,14 @@
 #include <system_error>
 #include <utility>
 
+#include "core/row_check.h"
 #include "shell/native/packed_rows.h"
 
 namespace backbeat {
 namespace {
 
 constexpr int applicationId = 0x42424254;
-constexpr int formatVersion = 3;
+constexpr int formatVersion = 4;
 constexpr int newerFormat = SQLITE_MISMATCH;  // SQLite itself never answers so to what is asked here
 
 // The first access after this takes the file's lock and keeps it until the store is closed.
@@ -37,7 +38,14 @@ constexpr const char* tables =
     "CREATE TABLE IF NOT EXISTS snapshot (name TEXT PRIMARY KEY, taken TEXT DEFAULT CURRENT_TIMESTAMP);"
     "CREATE TABLE IF NOT EXISTS snapshot_row (name TEXT, key TEXT, chunk INT, value, PRIMARY KEY (name, key, chunk));"
     // Since version 3 a copy is one packed value; those of version 2 stay as they are.
-    "CREATE TABLE IF NOT EXISTS snapshot_packed (name TEXT PRIMARY KEY, rows BLOB);";
+    "CREATE TABLE IF NOT EXISTS snapshot_packed (name TEXT PRIMARY KEY, rows BLOB);"
+    // Since version 4: holds a row while the game is launched on this save.
+    "CREATE TABLE IF NOT EXISTS launch (begun TEXT DEFAULT CURRENT_TIMESTAMP);";
+
+// Since version 4 each row carries a check of itself, `checkOfRow` of key, chunk and value.
+constexpr const char* checks =
+    "UPDATE kv SET fingerprint = checkOfRow(key, -1, value) WHERE fingerprint IS NULL;"
+    "UPDATE list SET fingerprint = checkOfRow(key, chunk, blob) WHERE fingerprint IS NULL;";
 
 std::string problemText(int code, const std::string& path) {
   switch (code & 0xFF) {
@@ -56,6 +64,32 @@ std::string problemText(int code, const std::string& path) {
 
 int execute(sqlite3* database, const std::string& sql) {
   return sqlite3_exec(database, sql.c_str(), nullptr, nullptr, nullptr);
+}
+
+std::string_view bytesOf(sqlite3_value* value) {
+  const void* bytes = sqlite3_value_blob(value);
+  return {static_cast<const char*>(bytes), static_cast<size_t>(sqlite3_value_bytes(value))};
+}
+
+void checkOfRow(sqlite3_context* context, int, sqlite3_value** row) {
+  const int kind = sqlite3_value_type(row[2]);
+  const int64_t whole = kind == SQLITE_INTEGER ? sqlite3_value_int64(row[2]) : 0;
+  const double real = kind == SQLITE_FLOAT ? sqlite3_value_double(row[2]) : 0;
+  std::string_view value;
+  if (kind == SQLITE_INTEGER) {
+    value = {reinterpret_cast<const char*>(&whole), sizeof whole};
+  } else if (kind == SQLITE_FLOAT) {
+    value = {reinterpret_cast<const char*>(&real), sizeof real};
+  } else {
+    value = bytesOf(row[2]);
+  }
+  const uint64_t check = rowCheck(bytesOf(row[0]), sqlite3_value_int(row[1]), static_cast<char>(kind), value);
+  sqlite3_result_int64(context, static_cast<int64_t>(check));
+}
+
+int addCheckOfRow(sqlite3* database) {
+  constexpr int flags = SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_DIRECTONLY;
+  return sqlite3_create_function_v2(database, "checkOfRow", 3, flags, nullptr, checkOfRow, nullptr, nullptr, nullptr);
 }
 
 // The number that a query answers with; in `code` SQLITE_OK or what went wrong.
@@ -86,11 +120,19 @@ int checkVersion(sqlite3* database) {
   return code == SQLITE_OK && version > formatVersion ? newerFormat : code;
 }
 
+/// The statement that gives a table the column of the checks; a save whose version is damaged has it already.
+std::string withColumn(sqlite3* database, const char* table) {
+  const int found = sqlite3_table_column_metadata(database, "main", table, "fingerprint", nullptr, nullptr, nullptr,
+                                                  nullptr, nullptr);
+  return found == SQLITE_OK ? "" : std::string("ALTER TABLE ") + table + " ADD COLUMN fingerprint INT;";
+}
+
 int makeTables(sqlite3* database) {
   int code;
   const int version = queryNumber(database, "PRAGMA user_version", code);
   if (code != SQLITE_OK || version == formatVersion) return code;
-  return execute(database, std::string("BEGIN;") + tables + "PRAGMA application_id = " + std::to_string(applicationId) +
+  return execute(database, std::string("BEGIN;") + tables + withColumn(database, "kv") + withColumn(database, "list") +
+                               checks + "PRAGMA application_id = " + std::to_string(applicationId) +
                                "; PRAGMA user_version = " + std::to_string(formatVersion) + "; COMMIT;");
 }
 
@@ -104,9 +146,8 @@ void bindValue(sqlite3_stmt* statement, int column, const Value& value) {
     sqlite3_bind_int64(statement, column, *whole);
   } else if (const auto* real = std::get_if<double>(&value)) {
     sqlite3_bind_double(statement, column, *real);
-  } else {
-    const Bytes& bytes = std::get<Bytes>(value);
-    sqlite3_bind_blob64(statement, column, bytes.data(), bytes.size(), SQLITE_STATIC);
+  } else if (const auto* bytes = std::get_if<Bytes>(&value)) {
+    sqlite3_bind_blob64(statement, column, bytes->data(), bytes->size(), SQLITE_STATIC);
   }
 }
 
@@ -173,6 +214,7 @@ SqliteStore::Opened SqliteStore::open(const std::string& path) {
   if (code == SQLITE_OK) code = checkOwner(raw);
   if (code == SQLITE_OK) code = checkVersion(raw);
   if (code == SQLITE_OK) code = execute(raw, tune);
+  if (code == SQLITE_OK) code = addCheckOfRow(raw);
   if (code == SQLITE_OK) code = makeTables(raw);
   if (code != SQLITE_OK) return {nullptr, problemText(code, path)};
   foldJournalWhenClosed(true);
@@ -189,9 +231,13 @@ bool SqliteStore::prepareStatements() {
     return code == SQLITE_OK;
   };
   return prepare(begin_, "BEGIN IMMEDIATE") && prepare(commit_, "COMMIT") && prepare(rollback_, "ROLLBACK") &&
-         prepare(putWhole_, "INSERT INTO kv VALUES (?1, ?2) ON CONFLICT (key) DO UPDATE SET value = ?2") &&
+         prepare(putWhole_,
+                 "INSERT INTO kv VALUES (?1, ?2, checkOfRow(?1, -1, ?2)) ON CONFLICT (key) DO UPDATE"
+                 " SET value = excluded.value, fingerprint = excluded.fingerprint") &&
          prepare(removeWhole_, "DELETE FROM kv WHERE key = ?1") &&
-         prepare(putChunk_, "INSERT INTO list VALUES (?1, ?2, ?3) ON CONFLICT (key, chunk) DO UPDATE SET blob = ?3") &&
+         prepare(putChunk_,
+                 "INSERT INTO list VALUES (?1, ?2, ?3, checkOfRow(?1, ?2, ?3)) ON CONFLICT (key, chunk) DO UPDATE"
+                 " SET blob = excluded.blob, fingerprint = excluded.fingerprint") &&
          prepare(removeChunk_, "DELETE FROM list WHERE key = ?1 AND chunk = ?2");
 }
 
@@ -247,23 +293,43 @@ bool SqliteStore::commit(std::span<const Write> writes) {
   });
 }
 
-bool SqliteStore::visitRows(const std::function<void(std::string_view, int32_t, const Value&)>& visit) {
-  const Statement wholes = prepared("SELECT key, -1, value FROM kv ORDER BY key");
-  const Statement chunks = prepared("SELECT key, chunk, blob FROM list ORDER BY key, chunk");
-  if (!wholes || !chunks) return false;
-  int whole = sqlite3_step(wholes.get());
-  int chunk = sqlite3_step(chunks.get());
-  const auto place = [](const Statement& row) {
-    return std::pair(bytesAt(row.get(), 0), sqlite3_column_int(row.get(), 1));
-  };
-  while (whole == SQLITE_ROW || chunk == SQLITE_ROW) {
-    const bool wholeIsNext = chunk != SQLITE_ROW || (whole == SQLITE_ROW && place(wholes) < place(chunks));
-    const Statement& next = wholeIsNext ? wholes : chunks;
-    const auto [key, number] = place(next);
-    visit(key, number, valueAt(next.get(), 2));
-    (wholeIsNext ? whole : chunk) = sqlite3_step(next.get());
+/// Goes through a query of key, chunk, value, and whether the check fits.
+class SqliteStore::Rows {
+ public:
+  explicit Rows(Statement rows) : rows_(std::move(rows)) { next(); }
+
+  void next() { code_ = rows_ ? sqlite3_step(rows_.get()) : SQLITE_ERROR; }
+  bool there() const { return code_ == SQLITE_ROW; }
+  bool atEnd() const { return code_ == SQLITE_DONE; }
+  std::pair<std::string_view, int32_t> place() const {
+    return {bytesAt(rows_.get(), 0), sqlite3_column_int(rows_.get(), 1)};
   }
-  return whole == SQLITE_DONE && chunk == SQLITE_DONE;
+  Value value() {
+    // One that comes twice, or too late, stands where another one stood.
+    const std::pair<std::string, int32_t> here(place());
+    const bool sound = sqlite3_column_int(rows_.get(), 3) != 0 && (!last_ || here > *last_);
+    if (!sound) return DamagedValue{Bytes(bytesAt(rows_.get(), 2))};
+    last_ = here;
+    return valueAt(rows_.get(), 2);
+  }
+
+ private:
+  Statement rows_;
+  int code_ = SQLITE_DONE;
+  std::optional<std::pair<std::string, int32_t>> last_;  // of those that are sound
+};
+
+bool SqliteStore::visitRows(const std::function<void(std::string_view, int32_t, const Value&)>& visit) {
+  Rows wholes(prepared("SELECT key, -1, value, fingerprint IS checkOfRow(key, -1, value) FROM kv ORDER BY key"));
+  Rows chunks(
+      prepared("SELECT key, chunk, blob, fingerprint IS checkOfRow(key, chunk, blob) FROM list ORDER BY key, chunk"));
+  while (wholes.there() || chunks.there()) {
+    Rows& next = !chunks.there() || (wholes.there() && wholes.place() < chunks.place()) ? wholes : chunks;
+    const auto [key, number] = next.place();
+    visit(key, number, next.value());
+    next.next();
+  }
+  return wholes.atEnd() && chunks.atEnd();
 }
 
 void SqliteStore::quarantine(std::string_view key) {
@@ -277,7 +343,7 @@ void SqliteStore::quarantine(std::string_view key) {
 bool SqliteStore::keepSnapshot(std::string_view name) {
   std::vector<Write> rows;
   const bool read = visitRows([&](std::string_view key, int32_t chunk, const Value& value) {
-    rows.push_back({std::string(key), chunk, value});
+    if (!std::holds_alternative<DamagedValue>(value)) rows.push_back({std::string(key), chunk, value});
   });
   const Value packed = read ? packRows(rows) : Bytes();  // bound below as it stands here
   if (std::get<Bytes>(packed).empty()) return false;
@@ -331,11 +397,25 @@ bool SqliteStore::restoreSnapshot(std::string_view name) {
   }
   if (step != SQLITE_DONE) return false;
   return transaction([&] {
-    return runFor(name,
-                  {"DELETE FROM kv", "DELETE FROM list",
-                   "INSERT INTO kv SELECT key, value FROM snapshot_row WHERE name = ?1 AND chunk = -1",
-                   "INSERT INTO list SELECT key, chunk, value FROM snapshot_row WHERE name = ?1 AND chunk <> -1"});
+    return runFor(name, {"DELETE FROM kv", "DELETE FROM list",
+                         "INSERT INTO kv SELECT key, value, checkOfRow(key, -1, value) FROM snapshot_row"
+                         " WHERE name = ?1 AND chunk = -1",
+                         "INSERT INTO list SELECT key, chunk, value, checkOfRow(key, chunk, value) FROM snapshot_row "
+                         "WHERE name = ?1 AND chunk <> -1"});
   });
+}
+
+void SqliteStore::beginLaunch() {
+  transaction([&] { return runFor("", {"INSERT INTO launch DEFAULT VALUES"}); });
+}
+
+void SqliteStore::endLaunch() {
+  transaction([&] { return runFor("", {"DELETE FROM launch"}); });
+}
+
+bool SqliteStore::launchStopped() {
+  int code;
+  return queryNumber(database_.get(), "SELECT count(*) FROM launch", code) != 0 || code != SQLITE_OK;
 }
 
 void SqliteStore::dropStatements() {

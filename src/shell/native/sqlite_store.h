@@ -41,6 +41,11 @@ class SqliteStore final : public CareerStore {
   /// The file and its journal get a name that says so, and an empty save takes their place.
   std::string setAside() override;
 
+  /// Leaves a mark that `endLaunch` takes away again, so that a launch that stopped the game is known by the next one.
+  void beginLaunch();
+  void endLaunch();
+  bool launchStopped();
+
   /// Moves what was committed from the journal into the save's own pages.
   void rest() override;
 
@@ -53,6 +58,7 @@ class SqliteStore final : public CareerStore {
   };
   using Database = std::unique_ptr<sqlite3, CloseDatabase>;
   using Statement = std::unique_ptr<sqlite3_stmt, FinishStatement>;
+  class Rows;
 
   SqliteStore(std::string path, Database database);
   bool prepareStatements();

@@ -98,6 +98,7 @@ extern "C" {
   uint64_t number = 0;
   for (const char digit : seed) number = number * 10 + static_cast<uint64_t>(digit - '0');
   auto& here = door();
+  here.store.giveChecks();
   here.session = std::make_unique<backbeat::Session>(here.store, here.platform, number,
                                                      backbeat::dateFrom(backbeat::nextPart(text)));
   here.store.dropRows();
@@ -122,6 +123,22 @@ extern "C" {
   } else {
     here.store.addSnapshot(std::string(copy), room);
   }
+}
+
+[[clang::export_name("bb_spare")]] void bb_spare(const char* bytes, uint32_t size) {
+  const auto copy = backbeat::dispensableSnapshot(door().store, {bytes, size});
+  backbeat::JsonWriter json;
+  json.beginObject();
+  json.key("name").text(copy ? copy->name : "");
+  json.key("told").text(copy ? copy->told() : "");
+  json.endObject();
+  door().answer = json.str();
+}
+
+[[clang::export_name("bb_give_up")]] void bb_give_up(const char* bytes, uint32_t size) {
+  auto& here = door();
+  here.store.dropSnapshot({bytes, size});
+  here.batch = here.store.takeBatch();
 }
 
 [[clang::export_name("bb_export")]] void bb_export() {

@@ -8,6 +8,8 @@ interface Exports {
   bb_alloc(size: number): number;
   bb_row(address: number, size: number): number;
   bb_snapshot(address: number, size: number): void;
+  bb_spare(address: number, size: number): void;
+  bb_give_up(address: number, size: number): void;
   bb_export(): void;
   bb_export_name(): void;
   bb_import(address: number, size: number): void;
@@ -86,6 +88,19 @@ export class Engine {
     this.guard(() => {
       for (const { name, bytes } of copies) this.pass(encoder.encode(`${bytes}\0${name}`), this.door.bb_snapshot);
     });
+  }
+
+  /** The copy that is missed least, but for the one named; its name is "" when there is none. */
+  spareCopy(spared: string): { name: string; told: string } {
+    return this.guard(() => {
+      this.pass(encoder.encode(spared), this.door.bb_spare);
+      return JSON.parse(decoder.decode(this.out())) as { name: string; told: string };
+    });
+  }
+
+  /** Forgets a kept copy; whoever keeps it has to be told as well. */
+  giveUpCopy(name: string): void {
+    this.guard(() => this.pass(encoder.encode(name), this.door.bb_give_up));
   }
 
   /** Begins the launch. `seed` is a 64-bit number as decimal text. */

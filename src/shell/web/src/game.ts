@@ -4,10 +4,11 @@ import { askToKeep } from "./keeping";
 import { Messages } from "./messages";
 import type { Answer, PressScreen } from "./protocol";
 import { obey } from "./requests";
+import { readInWorker } from "./reading";
+import { makeRoomForCopies } from "./room";
 import { asidesOf, isAside, type Row, type StoredRow } from "./rows";
 import { Save, type Trouble } from "./save";
 import { forgetStops, noteStop, stopsTooOften } from "./stops";
-import { trialProblem } from "./trial";
 import { warmUp } from "./warm";
 
 /** What the shell plays: the latest answer of the engine, and the way to press something. */
@@ -53,6 +54,7 @@ export class Game implements Player {
     save.onTrouble = (trouble) => {
       this.unsaved = troubles[trouble];
       this.onChange();
+      if (trouble === "full") void makeRoomForCopies(this);
     };
     save.onCleared = () => void this.storeAnew();
     save.onPacked = (copy) => this.engine?.holdCopies([copy]);
@@ -124,31 +126,46 @@ export class Game implements Player {
     return (await this.engineOnShelf()).careerFile();
   }
 
-  /** What a career file holds, tried on an engine of its own; null when reading it stopped one. Nothing changes. */
-  async readCareer(file: Uint8Array): Promise<Import | null> {
-    try {
-      const read = (await this.engineOnShelf()).import(Date.now(), file);
-      if (!read.problem) read.problem = trialProblem(await this.freshEngine(), read.batch, Date.now());
-      return read;
-    } catch (fault) {
-      console.warn("The file stopped the engine.", fault);
-      return null;
-    }
+  /** What a career file holds, tried on engines of its own; null when it stopped one or was stopped. Nothing changes. */
+  readCareer(file: Uint8Array, onStep: (step: number) => void, signal: AbortSignal): Promise<Import | null> {
+    const feed: Parameters<typeof readInWorker>[0] = async (tell) => {
+      tell({ module: await this.module, copies: await this.save.copies() });
+      await this.save.read((rows) => tell({ rows: rows.filter((row) => !isAside(row)) }));
+      tell({ file, now: Date.now() });
+    };
+    return readInWorker(feed, onStep, signal);
   }
 
-  /** Goes on with the career in `batch`, all or nothing. */
-  playOn(batch: Row[]): Promise<boolean> {
+  /** Goes on with the career in `batch`, all or nothing: why not, or "". */
+  playOn(batch: Row[]): Promise<Trouble> {
     return this.exchange(() => this.save.replace(batch));
   }
 
-  /** Goes on with a kept copy, all or nothing. */
-  goBackTo(copy: string, orders: Row[] = []): Promise<boolean> {
+  /** Goes on with a kept copy, all or nothing: why not, or "". */
+  goBackTo(copy: string, orders: Row[] = []): Promise<Trouble> {
     return this.exchange(() => this.save.restore(copy, orders));
   }
 
   /** The names of the kept copies, the newest first. */
   async copies(): Promise<string[]> {
     return (await this.save.copies()).map(({ name }) => name).reverse();
+  }
+
+  /** The copy that is missed least, but for `spared`, and how a question calls it. */
+  spareCopy(spared: string): { name: string; told: string } | null {
+    const copy = this.engine?.spareCopy(spared);
+    return copy?.name ? copy : null;
+  }
+
+  /** The name of a copy that could not be written yet, or "". */
+  waitingCopy(): string {
+    return this.save.waitingCopy();
+  }
+
+  /** Forgets a copy, stored or waiting, and writes what waits. False when it could not be forgotten. */
+  giveUp(copy: string): Promise<boolean> {
+    this.engine?.giveUpCopy(copy);
+    return this.save.giveUp(copy);
   }
 
   /** Resolves with true once everything is stored, and with false while writing fails. */
@@ -162,17 +179,17 @@ export class Game implements Player {
     this.save.close();
   }
 
-  private async exchange(work: () => Promise<boolean>): Promise<boolean> {
+  private async exchange(work: () => Promise<Trouble>): Promise<Trouble> {
     const engine = this.engine;
     this.engine = null;
-    const done = await work();
-    if (done) {
+    const trouble = await work();
+    if (trouble) {
+      this.engine = engine;
+    } else {
       forgetStops();
       await this.relaunch();
-    } else {
-      this.engine = engine;
     }
-    return done;
+    return trouble;
   }
 
   private async relaunch(): Promise<void> {

@@ -9,6 +9,17 @@ export interface Question {
   covers?: boolean;
 }
 
+/** What the shell shows of a question; `share` is how much of some work is done, from 0 to 1, and absent for none. */
+export interface Asked extends Alert {
+  share?: number;
+}
+
+/** Work that takes its time: what it is at, and its end. */
+export interface Work {
+  tell: (what: string, share: number) => void;
+  end: () => void;
+}
+
 /** A line that floats over the screen for a while, with one thing to press or none. */
 export interface Toast {
   text: string;
@@ -26,12 +37,12 @@ export class Messages {
   onChange: () => void = () => {};
   toast: Toast | null = null;
 
-  private readonly questions: { alert: Alert; covers: boolean; answered: (button: number) => void }[] = [];
+  private readonly questions: { alert: Asked; covers: boolean; answered: (button: number) => void }[] = [];
   private asked = 0;
   private timer = 0;
 
   /** The question that waits; its key is negative, unlike those of the engine. */
-  get alert(): Alert | null {
+  get alert(): Asked | null {
     return this.questions[0]?.alert ?? null;
   }
 
@@ -52,6 +63,30 @@ export class Messages {
   /** Tells something that needs no answer but to be read. */
   async tell(title: string, message: string): Promise<void> {
     await this.ask({ title, message, buttons: [{ label: "OK" }] });
+  }
+
+  /** Shows that something is being done, until it ends or the player stops it. */
+  work(title: string, stop: () => void): Work {
+    this.asked += 1;
+    const stopping: AlertButton[] = [{ label: "Stop", style: "cancel" }];
+    const question = {
+      alert: { key: -this.asked, title, message: "", buttons: stopping, share: 0 },
+      covers: false,
+      answered: stop,
+    };
+    this.questions.push(question);
+    this.onChange();
+    return {
+      tell: (message, share) => {
+        question.alert = { ...question.alert, message, share };
+        this.onChange();
+      },
+      end: () => {
+        const place = this.questions.indexOf(question);
+        if (place >= 0) this.questions.splice(place, 1);
+        this.onChange();
+      },
+    };
   }
 
   answer(button: number): void {

@@ -1,6 +1,9 @@
 import { handOver, pickFile } from "./files";
 import type { Game } from "./game";
 import type { Answer } from "./protocol";
+import { steps } from "./reading";
+import { withRoom } from "./room";
+import type { Trouble } from "./save";
 
 /** Does what the engine asks of the page after a press. */
 export async function obey(game: Game, { request, snapshot }: Answer): Promise<void> {
@@ -20,8 +23,13 @@ async function exportCareer(game: Game): Promise<void> {
 /** Reads the file and asks whether the career in it is to go on here. */
 export async function offerCareer(game: Game, file: File): Promise<void> {
   const { messages } = game;
+  const stop = new AbortController();
+  const progress = messages.work(file.name, () => stop.abort());
+  const onStep = (step: number): void => progress.tell(`${steps[step]} …`, (step + 1) / (steps.length + 1));
   const bytes = await file.arrayBuffer().catch(() => null);
-  const read = bytes && (await game.readCareer(new Uint8Array(bytes)));
+  const read = bytes && (await game.readCareer(new Uint8Array(bytes), onStep, stop.signal));
+  progress.end();
+  if (stop.signal.aborted) return messages.show({ text: "Stopped. Nothing has changed." });
   if (!read) return messages.tell("Nothing Changed", `${file.name} could not be read.`);
   if (read.problem) return messages.tell("Nothing Changed", `${file.name}\n\n${read.problem}`);
   const agreed = await messages.ask({
@@ -33,17 +41,18 @@ export async function offerCareer(game: Game, file: File): Promise<void> {
     ],
   });
   if (agreed !== 1) return;
-  if (await game.playOn(read.batch)) messages.show({ text: "Your imported career goes on here." });
-  else await notStored(game);
+  const trouble = await withRoom(game, "", () => game.playOn(read.batch));
+  await tellHowItWent(game, trouble, "Your imported career goes on here.");
 }
 
 async function goBack(game: Game, copy: string): Promise<void> {
-  if (await game.goBackTo(copy)) game.messages.show({ text: "You are back." });
-  else await notStored(game);
+  const trouble = await withRoom(game, copy, () => game.goBackTo(copy));
+  await tellHowItWent(game, trouble, "You are back.");
 }
 
-function notStored(game: Game): Promise<void> {
-  return game.messages.tell(
+async function tellHowItWent({ messages }: Game, trouble: Trouble, done: string): Promise<void> {
+  if (!trouble) return messages.show({ text: done });
+  await messages.tell(
     "Nothing Changed",
     "It could not be stored on this device, perhaps for want of room. Today's career goes on as it was.",
   );

@@ -45,7 +45,7 @@ async function restore(game: Game, newest: string, copy: string, tell: (text: st
   const number = String(Number(newest.split("|")[0]) + 1).padStart(6, "0");
   const seconds = Math.floor(Date.now() / 1000);
   const aside = `${number}|restore::${seconds}|Before going back|Kept when the game stopped`; // without a fingerprint
-  if (await game.goBackTo(copy, [{ key: aside, chunk: -10, value: null }])) startOver();
+  if (!(await game.goBackTo(copy, [{ key: aside, chunk: -10, value: null }]))) startOver();
   else tell("The copy could not be put back, perhaps for want of room. Nothing has changed.");
 }
 

@@ -13,14 +13,14 @@ export interface StoredRow extends Row {
 }
 
 const keepCopy = -10;
-const forgetCopy = -11;
+/** The chunk of an order to forget the copy of a name. */
+export const forgetCopy = -11;
 
 /** An order to keep all rows as they stand under a name, instead of a row. */
 export function keepsCopy(row: Row): boolean {
   return row.chunk === keepCopy;
 }
 
-/** An order to forget the copy of a name. */
 export function forgetsCopy(row: Row): boolean {
   return row.chunk === forgetCopy;
 }

@@ -1,5 +1,6 @@
 import { openDB, type IDBPDatabase, type IDBPTransaction } from "idb";
 import {
+  forgetCopy,
   forgetsCopy,
   identity,
   isAside,
@@ -115,12 +116,12 @@ export class Save {
     if (this.closed) return;
     const batch = { rows, confirmed: false };
     if (rows.length > 0) this.unconfirmed.push(batch);
-    if (this.trouble) this.retry();
+    if (this.trouble) void this.retry();
     else if (rows.length > 0) void this.store([batch]);
   }
 
-  /** Puts `batch` in the place of every row, its orders first; all or nothing, and not tried again. */
-  replace(batch: Row[]): Promise<boolean> {
+  /** Puts `batch` in the place of every row, its orders first; all or nothing, and not tried again. Why not, or "". */
+  replace(batch: Row[]): Promise<Trouble> {
     return this.exchange(async (tx) => {
       await put(tx, batch.filter(isOrder));
       await tx.objectStore(rowStore).clear();
@@ -131,8 +132,8 @@ export class Save {
     });
   }
 
-  /** Puts the copy of that name in the place of every row, `orders` first; all or nothing, and not tried again. */
-  restore(name: string, orders: Row[] = []): Promise<boolean> {
+  /** Puts the copy of that name in the place of every row, `orders` first, in the same way. */
+  restore(name: string, orders: Row[] = []): Promise<Trouble> {
     return this.exchange(
       async (tx, rows) => {
         await put(tx, orders);
@@ -141,6 +142,24 @@ export class Save {
       },
       () => this.rowsOfCopy(name),
     );
+  }
+
+  /** The name of a copy that waits to be written, or "". */
+  waitingCopy(): string {
+    return this.waitingRows().find(keepsCopy)?.key ?? "";
+  }
+
+  /**
+   * Forgets a copy, stored or waiting, and tries to write what waits. In a transaction of its own: only what is gone
+   * makes room. False when it could not be forgotten.
+   */
+  async giveUp(name: string): Promise<boolean> {
+    for (const batch of this.unconfirmed) {
+      batch.rows = batch.rows.filter((row) => !(keepsCopy(row) && row.key === name));
+    }
+    const failed = await this.transact((tx) => put(tx, [{ key: name, chunk: forgetCopy, value: null }]));
+    await this.retry();
+    return failed === null;
   }
 
   /** Resolves with true once every batch is stored, and with false while writing fails. */
@@ -175,11 +194,13 @@ export class Save {
   private async exchange(
     work: (tx: Writing, rows: StoredRow[]) => Promise<void>,
     prepare: () => Promise<StoredRow[] | null> = async () => [],
-  ): Promise<boolean> {
+  ): Promise<Trouble> {
     // A batch that is written later than this would mix two careers.
-    if (!(await this.settled()) || this.closed) return false;
+    if (!(await this.settled()) || this.closed) return this.trouble || "failing";
     const rows = await prepare().catch(() => null);
-    return rows !== null && !this.closed && (await this.transact((tx) => work(tx, rows))) === null;
+    if (rows === null || this.closed) return "failing";
+    const failed = await this.transact((tx) => work(tx, rows));
+    return failed === null ? "" : troubleOf(failed);
   }
 
   private async rowsOfCopy(name: string): Promise<StoredRow[] | null> {
@@ -235,7 +256,7 @@ export class Save {
     while (this.unconfirmed[0]?.confirmed) this.unconfirmed.shift();
     this.tellWaiting();
     if (!this.trouble) return;
-    if (this.unconfirmed.length > 0) return this.retry();
+    if (this.unconfirmed.length > 0) return void this.retry();
     this.pause = firstPause;
     this.tell("");
   }
@@ -244,15 +265,15 @@ export class Save {
     // Only the last write of each row is kept, so that a long failure does not fill the memory.
     this.unconfirmed = [{ rows: folded(this.waitingRows()), confirmed: false }];
     clearTimeout(this.timer);
-    this.timer = window.setTimeout(() => this.retry(), this.pause);
+    this.timer = window.setTimeout(() => void this.retry(), this.pause);
     this.pause = Math.min(this.pause * 2, longestPause);
-    this.tell(problem instanceof DOMException && problem.name === "QuotaExceededError" ? "full" : "failing");
+    this.tell(troubleOf(problem));
   }
 
-  private retry(): void {
+  private async retry(): Promise<void> {
     if (this.closed || this.running > 0) return;
     clearTimeout(this.timer);
-    void this.store([...this.unconfirmed]);
+    await this.store([...this.unconfirmed]);
   }
 
   private tell(trouble: Trouble): void {
@@ -306,6 +327,10 @@ export class Save {
     this.tell("");
     this.onCleared();
   }
+}
+
+function troubleOf(problem: unknown): Trouble {
+  return problem instanceof DOMException && problem.name === "QuotaExceededError" ? "full" : "failing";
 }
 
 type Stores = [Kept, Kept, Kept];

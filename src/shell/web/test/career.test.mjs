@@ -1,5 +1,7 @@
 import assert from "node:assert/strict";
 import { existsSync } from "node:fs";
+import { readFile } from "node:fs/promises";
+import { createRequire } from "node:module";
 import { resolve } from "node:path";
 import { after, before, describe, test } from "node:test";
 import {
@@ -15,8 +17,10 @@ import {
   start,
   takeCareer,
 } from "./life.mjs";
+import { barriers } from "./look.mjs";
 import { openGame } from "./open.mjs";
 
+const axe = await readFile(createRequire(import.meta.url).resolve("axe-core/axe.min.js"), "utf8");
 const engine = resolve(import.meta.dirname, "../public/engine.wasm");
 
 describe("a career", { skip: !existsSync(engine) && "the engine is not built for the browser" }, () => {
@@ -141,6 +145,105 @@ describe("a career", { skip: !existsSync(engine) && "the engine is not built for
     await close();
   });
 
+  test("is read from a file with a bar, a way to stop, and an end to what has none", async () => {
+    // The worker's answer never comes: as good as a week that has no end.
+    const init = () => {
+      const { Worker, setTimeout } = window;
+      window.Worker = class extends Worker {
+        set onmessage(take) {
+          super.onmessage = (event) => "read" in event.data || take(event);
+        }
+      };
+      window.setTimeout = (work, wait) => setTimeout(work, wait === 60_000 && window.impatient ? 1000 : wait);
+    };
+    const { page, close } = await open({ init });
+    await start(page);
+    const there = await status(page);
+    const offer = async () => {
+      const [picker] = await Promise.all([page.waitForEvent("filechooser"), setting(page, /^Import/)]);
+      await picker.setFiles({ name: "mara.plist", mimeType: "application/octet-stream", buffer: played });
+    };
+    await offer();
+    await seen(page, /Ending a week/);
+    const bar = page.getByRole("progressbar", { name: "mara.plist" });
+    assert.ok((await bar.getAttribute("value")) !== "0" && (await bar.evaluate(({ value }) => value)) < 1);
+    await page.evaluate(axe);
+    assert.deepEqual(await barriers(page), []);
+    await page.keyboard.press("Enter");
+    await seen(page, "Stopped. Nothing has changed.");
+    assert.equal(await alert(page).count(), 0);
+
+    await page.evaluate(() => (window.impatient = true));
+    await press(page, "Back");
+    await offer();
+    await seen(page, /does not come to an end/);
+    await answerAlerts(page);
+    await press(page, "Back");
+    assert.equal(await status(page), there);
+    await close();
+  });
+
+  test("finds room on a full device only for a copy that the player gives up", async () => {
+    const init = () => {
+      window.copiesLeft = Infinity;
+      const { put, delete: forget } = IDBObjectStore.prototype;
+      IDBObjectStore.prototype.put = function (value, key) {
+        const isNewCopy = this.name === "copies" && Array.isArray(value);
+        if (isNewCopy && window.copiesLeft < 1) throw new DOMException("The device is full.", "QuotaExceededError");
+        if (isNewCopy) window.copiesLeft -= 1;
+        return put.call(this, value, key);
+      };
+      IDBObjectStore.prototype.delete = function (key) {
+        if (this.name === "copies") window.copiesLeft += 1;
+        return forget.call(this, key);
+      };
+    };
+    const { page, close } = await open({ init });
+    const restart = async () => {
+      await setting(page, /^Restart/);
+      await alert(page).getByRole("button", { name: "Restart" }).click();
+    };
+    const answer = (name) => alert(page).getByRole("button", { name }).click();
+    const copies = async () => {
+      await setting(page, /^Restore/);
+      const kept = await page
+        .locator(".layer.top")
+        .getByText(/ · Week /)
+        .allInnerTexts();
+      await press(page, "Back");
+      await press(page, "Back");
+      return kept.map((text) => text.split(" · ")[0]);
+    };
+    await start(page, "First Life");
+    await endTheWeek(page);
+    await restart();
+    await start(page, "Second Life");
+    assert.deepEqual(await copies(), ["First Life"]);
+
+    await page.evaluate(() => (window.copiesLeft = 0));
+    await restart();
+    await seen(page, /no room left.*"Before the restart" \(Second Life/);
+    await answer("Give Up");
+    await start(page, "Third Life");
+    await page.getByText(/this device is full/).waitFor({ state: "detached" });
+    assert.deepEqual(await copies(), ["Second Life"]);
+
+    await offerCareer(page, "mara.plist", played);
+    await answer("Import");
+    await seen(page, /keep today's career aside/);
+    await answer("Close");
+    await seen(page, /could not be stored/);
+    await answerAlerts(page);
+    await press(page, "Back");
+    assert.deepEqual(await copies(), ["Second Life"]);
+    await offerCareer(page, "mara.plist", played);
+    await answer("Import");
+    await seen(page, /Second Life/);
+    await launched(page, () => answer("Give Up"));
+    assert.deepEqual(await copies(), ["Third Life"]);
+    await close();
+  });
+
   test("is offered for import when its file is dropped on the page, unless something else is asked", async () => {
     const { page, close } = await open();
     await start(page);
@@ -157,7 +260,7 @@ describe("a career", { skip: !existsSync(engine) && "the engine is not built for
         [name, [...bytes]],
       );
     assert.equal(await drop("photo.jpg", Buffer.from("a photo")), false, "the browser would open it");
-    await seen(page, /photo\.jpg/);
+    await seen(page, /photo\.jpg\s+\S/);
     assert.equal(await drop("mara.plist", played), false);
     await answerAlerts(page);
     assert.equal(await alert(page).count(), 0, "what was dropped on a question is left alone");

@@ -43,7 +43,7 @@ export async function setting(page, name) {
 export async function offerCareer(page, name, bytes) {
   const [picker] = await Promise.all([page.waitForEvent("filechooser"), setting(page, /^Import/)]);
   await picker.setFiles({ name, mimeType: "application/octet-stream", buffer: Buffer.from(bytes) });
-  await page.locator(".alert[open]").waitFor();
+  await page.locator(".alert[open]:not(:has(progress))").waitFor();
 }
 
 /** Goes on with the career in a file. */

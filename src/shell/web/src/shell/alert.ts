@@ -1,15 +1,16 @@
-import { html, LitElement, type TemplateResult } from "lit";
+import { html, LitElement, nothing, type TemplateResult } from "lit";
 import { keyed } from "lit/directives/keyed.js";
-import type { Alert, AlertButton } from "../protocol";
+import type { Asked } from "../messages";
+import type { AlertButton } from "../protocol";
 
 /** The alert that waits for an answer; the screen behind it cannot be reached meanwhile. */
 class AlertElement extends LitElement {
   static override properties = { alert: { attribute: false }, answer: { attribute: false } };
-  declare alert: Alert | null;
-  declare answer: (alert: Alert, button: number) => void;
+  declare alert: Asked | null;
+  declare answer: (alert: Asked, button: number) => void;
 
   // While it fades out it still says what it said.
-  private last: Alert | null = null;
+  private last: Asked | null = null;
 
   protected override createRenderRoot(): this {
     return this;
@@ -17,7 +18,8 @@ class AlertElement extends LitElement {
 
   protected override render(): TemplateResult {
     this.last = this.alert ?? this.last;
-    const { key = 0, title = "", message = "", buttons = [] } = this.last ?? {};
+    const { key = 0, title = "", message = "", buttons = [], share } = this.last ?? {};
+    const live = share === undefined ? nothing : "polite";
     return html`<dialog
       class="alert"
       role="alertdialog"
@@ -31,7 +33,8 @@ class AlertElement extends LitElement {
         html`<div class="alert-body">
           <div class="alert-texts" tabindex="-1">
             <h2 id="alert-title" dir="auto">${title}</h2>
-            <p id="alert-message" dir="auto">${message.replace(/^\r?\n/, "")}</p>
+            <p id="alert-message" dir="auto" aria-live=${live}>${message.replace(/^\r?\n/, "")}</p>
+            ${share === undefined ? nothing : html`<progress aria-labelledby="alert-title" .value=${share}></progress>`}
           </div>
           <div class="alert-buttons ${sideBySide(buttons) ? "side-by-side" : ""}">
             ${buttons.map(
