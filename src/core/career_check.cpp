@@ -52,6 +52,9 @@ constexpr NamedBounds boundsOfFields[] = {
     {"percentageOfEarnings", {-1e3, 1e3}},
     {"labelPercentageRate", {-1e3, 1e3}},
     {"labelStreamingRate", {-1e3, 1e3}},
+    {"ticketPrice", {-1e8, 1e8}},
+    {"seatsSold", {-1e10, 1e10}},
+    {"seatCapacity", {-1e10, 1e10}},
 };
 
 template <size_t count>

@@ -14,7 +14,7 @@ constexpr Band<int64_t, const char*> months[] = {{5, "JAN"},  {9, "Feb"},  {13, 
 }  // namespace
 
 std::string showDate(int64_t week) {
-  while (week > weeksOfYear) week -= weeksOfYear;
+  if (week > weeksOfYear) week = (week - 1) % weeksOfYear + 1;
   const int64_t day = week % 5 == 0 ? 1 : week % 5 * 7;
   return std::string(bandFor(months, week, "Dec")) + " " + std::to_string(day);
 }

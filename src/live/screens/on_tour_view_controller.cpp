@@ -1,10 +1,10 @@
 #include "live/screens/on_tour_view_controller.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "career/touring.h"
 #include "core/money.h"
-#include "core/numbers.h"
 #include "core/own_photo.h"
 #include "core/view_words.h"
 #include "live/tour_dates.h"
@@ -43,7 +43,6 @@ Poster headOf(const GameState& state, const TourProgress& tour, size_t next) {
               .kicker = "Show " + std::to_string(done + 1) + " of " + std::to_string(tour.shows()),
               .title = tour.tourTitle,
               .text = "On stage this week at " + state.saveAllMusicTourList[next].stadium};
-  if (!mayTour(state)) head.text = "Nobody books you without a label. The tour waits until you are signed again.";
   head.meter = Meter{.label = "Shows played",
                      .value = std::to_string(done) + " of " + std::to_string(tour.shows()),
                      .share = shareOf(done, tour.shows()),
