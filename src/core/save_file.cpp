@@ -143,6 +143,7 @@ class Loader {
   }
   /// False as well for a save that was never counted.
   bool isCounted() const { return counted_.value_or(0) == visited_; }
+  bool isMiscounted() const { return counted_.value_or(visited_) != visited_; }
   int64_t lost() const { return std::max(counted_.value_or(0) - visited_, int64_t{0}); }
 
   std::vector<std::string> damaged;   ///< keys, those of lists first
@@ -204,7 +205,7 @@ LoadReport SaveFile::load(GameState& state) {
   for (const auto& [key, list] : listsOf(state)) lists_.emplace(key, loader.list(key).stored);
   otherObjects_ = std::move(loader.otherObjects);
   rows_ = std::move(loader.rows);
-  counted_ = loader.isCounted();
+  counted_ = loader.isCounted() && report.damaged.empty();
   for (const std::string& key : report.damaged) store_.quarantine(key);
   for (const auto& keys : {report.damaged, report.mended}) {
     for (const std::string& key : keys) {
@@ -323,7 +324,6 @@ std::vector<std::string> differencesFromStore(const GameState& state, Store& sto
     const bool isNew = std::find(different.begin(), different.end(), key) == different.end();
     if ((differs || !readable) && isNew) different.emplace_back(key);
   };
-  add(countKey, !loader.isCounted());
   const auto storedLists = listsOf(std::as_const(stored));
   const auto lists = listsOf(state);
   for (size_t i = 0; i < lists.size(); ++i) add(lists[i].key, !lists[i].list.holdsSame(storedLists[i].list));
@@ -332,6 +332,7 @@ std::vector<std::string> differencesFromStore(const GameState& state, Store& sto
     const auto differs = [&](auto member) { return state.*member != stored.*member; };
     add(scalar.key, std::visit(differs, scalar.member));
   }
+  if (different.empty() && loader.isMiscounted()) different.emplace_back(countKey);
   return different;
 }
 

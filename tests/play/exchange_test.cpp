@@ -129,9 +129,9 @@ TEST(Exchange, AKillLeavesTheOldCareerOrTheNewOneAndTheOldOneKept) {
     career = fingerprintOf(loaded(*opened.store));
   }
   const std::string file = freshFile("exchange.plist");
-  GameState other;
-  other.myArtistsName = "Somebody else";
-  writeFile(file, exportCareer(other));
+  MemoryStore other;
+  settleInto(other, namedWorld("rich"));
+  writeFile(file, exportCareer(loaded(other)));
   const Left before = leftIn(whole);
   const Bytes bytes = contentOf(whole);
   const auto freshSave = [&] {
@@ -143,12 +143,12 @@ TEST(Exchange, AKillLeavesTheOldCareerOrTheNewOneAndTheOldOneKept) {
   const int kills = asked ? std::atoi(asked) : killsOfTheCheck;
   SeededRandom random(static_cast<uint64_t>(getpid()));
   const std::vector<std::vector<std::string>> commands = {
-      {"import", file}, {"copies", "restore", "1"}, {"copies", "delete", "1"}};
+      {"import", file}, {"copies", "restore", "2"}, {"copies", "delete", "1"}};
   for (const auto& command : commands) {
     const std::string undisturbed = freshSave();
     const int64_t life = runFor(command, undisturbed, {});
     const Left after = leftIn(undisturbed);
-    const bool deletes = command.back() == "1" && command[1] == "delete";
+    const bool deletes = command[1] == "delete";
     EXPECT_NE(deletes ? after.copies.size() : 0, before.copies.size());
     EXPECT_EQ(after.rows == before.rows, deletes);
     for (int i = 0; i < kills; ++i) {

@@ -49,7 +49,7 @@ TEST(PageStore, WritesTheRowsThatTheProtocolTells) {
   EXPECT_TRUE(store.commit(writes));
   EXPECT_EQ(store.takeBatch(),
             "\4\0\0\0fans\xFF\xFF\xFF\xFF\0\x11\0\0\0"
-            "1CHECKSUM"
+            "1\x5C\x82\xE3\xF0\xC6\x4D\xD9\xDA"
             "\2\1\0\0\0\0\0\0"s
             "\1\0\0\0x\3\0\0\0\1\0\0\0\0"s);
   EXPECT_EQ(store.takeBatch(), "");

@@ -313,6 +313,8 @@ TEST_F(SqliteStoreTest, AFullDiskRefusesAndTheGamePlaysOnWhenThereIsRoomAgain) {
     SaveFile saveFile(*store);
     GameState state = career();
     if (!saveAll(*store, state)) return 1;
+    GameState loaded;
+    saveFile.load(loaded);
     for (int64_t id = 400; id < 9000; ++id) state.saveAllWeeklySongListens.append({.songId = id});
     saveFile.writeList("saveAllWeeklySongListens", state.saveAllWeeklySongListens);
     const rlimit roomy{RLIM_INFINITY, RLIM_INFINITY};

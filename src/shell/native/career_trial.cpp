@@ -46,7 +46,8 @@ void beSilent() {
 
 /// The time of the processor, so that a busy computer refuses nothing.
 void limitWork(unsigned seconds) {
-  const rlimit most = {seconds, seconds};
+  // The second number ends it without a word.
+  const rlimit most = {seconds, seconds + 1};
   ::setrlimit(RLIMIT_CPU, &most);
 }
 

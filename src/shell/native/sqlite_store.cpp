@@ -71,20 +71,34 @@ std::string_view bytesOf(sqlite3_value* value) {
   return {static_cast<const char*>(bytes), static_cast<size_t>(sqlite3_value_bytes(value))};
 }
 
+template <class Number>
+std::string_view rawBytes(const Number& number) {
+  return {reinterpret_cast<const char*>(&number), sizeof number};
+}
+
+int64_t checkOf(std::string_view key, int32_t chunk, int kind, std::string_view value) {
+  return static_cast<int64_t>(rowCheck(key, chunk, static_cast<char>(kind), value));
+}
+
+/// The check of a row that is about to be written, whose value is not damaged.
+int64_t checkOf(const Write& row) {
+  const auto check = [&](int kind, std::string_view value) { return checkOf(row.key, row.chunk, kind, value); };
+  if (const auto* whole = std::get_if<int64_t>(&*row.value)) return check(SQLITE_INTEGER, rawBytes(*whole));
+  if (const auto* object = std::get_if<Bytes>(&*row.value)) return check(SQLITE_BLOB, *object);
+  const double real = std::get<double>(*row.value);
+  // SQLite keeps nothing of a double that is no number.
+  return std::isnan(real) ? check(SQLITE_NULL, "") : check(SQLITE_FLOAT, rawBytes(real));
+}
+
+/// The same of a row that is stored, for SQL.
 void checkOfRow(sqlite3_context* context, int, sqlite3_value** row) {
   const int kind = sqlite3_value_type(row[2]);
-  const int64_t whole = kind == SQLITE_INTEGER ? sqlite3_value_int64(row[2]) : 0;
-  const double real = kind == SQLITE_FLOAT ? sqlite3_value_double(row[2]) : 0;
-  std::string_view value;
-  if (kind == SQLITE_INTEGER) {
-    value = {reinterpret_cast<const char*>(&whole), sizeof whole};
-  } else if (kind == SQLITE_FLOAT) {
-    value = {reinterpret_cast<const char*>(&real), sizeof real};
-  } else {
-    value = bytesOf(row[2]);
-  }
-  const uint64_t check = rowCheck(bytesOf(row[0]), sqlite3_value_int(row[1]), static_cast<char>(kind), value);
-  sqlite3_result_int64(context, static_cast<int64_t>(check));
+  const auto check = [&](std::string_view value) {
+    sqlite3_result_int64(context, checkOf(bytesOf(row[0]), sqlite3_value_int(row[1]), kind, value));
+  };
+  if (kind == SQLITE_INTEGER) return check(rawBytes(int64_t{sqlite3_value_int64(row[2])}));
+  if (kind == SQLITE_FLOAT) return check(rawBytes(sqlite3_value_double(row[2])));
+  check(bytesOf(row[2]));
 }
 
 int addCheckOfRow(sqlite3* database) {
@@ -232,12 +246,11 @@ bool SqliteStore::prepareStatements() {
   };
   return prepare(begin_, "BEGIN IMMEDIATE") && prepare(commit_, "COMMIT") && prepare(rollback_, "ROLLBACK") &&
          prepare(putWhole_,
-                 "INSERT INTO kv VALUES (?1, ?2, checkOfRow(?1, -1, ?2)) ON CONFLICT (key) DO UPDATE"
-                 " SET value = excluded.value, fingerprint = excluded.fingerprint") &&
+                 "INSERT INTO kv VALUES (?1, ?2, ?3) ON CONFLICT (key) DO UPDATE SET value = ?2, fingerprint = ?3") &&
          prepare(removeWhole_, "DELETE FROM kv WHERE key = ?1") &&
          prepare(putChunk_,
-                 "INSERT INTO list VALUES (?1, ?2, ?3, checkOfRow(?1, ?2, ?3)) ON CONFLICT (key, chunk) DO UPDATE"
-                 " SET blob = excluded.blob, fingerprint = excluded.fingerprint") &&
+                 "INSERT INTO list VALUES (?1, ?2, ?3, ?4) ON CONFLICT (key, chunk) DO UPDATE"
+                 " SET blob = ?3, fingerprint = ?4") &&
          prepare(removeChunk_, "DELETE FROM list WHERE key = ?1 AND chunk = ?2");
 }
 
@@ -278,9 +291,11 @@ bool SqliteStore::apply(const Write& write) {
     bindKey(remove, write.key, write.chunk);
     return run(remove);
   }
+  if (std::holds_alternative<DamagedValue>(*write.value)) return false;
   sqlite3_stmt* put = (whole ? putWhole_ : putChunk_).get();
   bindKey(put, write.key, write.chunk);
   bindValue(put, whole ? 2 : 3, *write.value);
+  sqlite3_bind_int64(put, whole ? 3 : 4, checkOf(write));
   return run(put);
 }
 
