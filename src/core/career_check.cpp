@@ -47,7 +47,7 @@ constexpr NamedBounds boundsOfFields[] = {
     {"productionRating", {-1e4, 1e4}},
     {"viralityScore", {-300, 300}},
     {"marketingScore", {-1e4, 1e4}},
-    {"viewBonus", {-1e3, 1e3}},
+    {"viewBonus", {-100, 100}},
     {"streamPayRate", {-1e3, 1e3}},
     {"percentageOfEarnings", {-1e3, 1e3}},
     {"labelPercentageRate", {-1e3, 1e3}},

@@ -16,6 +16,7 @@ constexpr double marketingLossPerWeek = 2;
 constexpr double viralityLossPerWeek = 4;
 
 constexpr double residualDivisor = 10'000;
+constexpr double mostResidue = 1e12;        // no video comes near; a career from outside may claim endless growth
 constexpr double leastRecordedResidue = 2;  // below it a week leaves no row, and nobody likes or comments
 
 WeeklyVideoViews record(const GameState& state, const MusicVideo& video, double views, double revenue) {
@@ -69,7 +70,8 @@ void launchWeek(Game& game, size_t position, int64_t subscribers) {
 void residualWeek(Game& game, size_t position, double life) {
   RecordList<MusicVideo>& videos = game.state.saveAllMusicVideoList;
   const MusicVideo& video = videos[position];
-  const double base = life / residualDivisor * static_cast<double>(video.totalViews) * 0.5;
+  const double base =
+      std::clamp(life / residualDivisor * static_cast<double>(video.totalViews) * 0.5, -mostResidue, mostResidue);
   const double views = video.viewBonus * base;
   Reactions reactions;
   if (base >= leastRecordedResidue) {
