@@ -5,7 +5,7 @@ namespace {
 
 const RoomErrands errands({
     {"want a label under another's contract", {"signed"}, {{"Music"}, {"labelButton"}, {"✍️ Non Compete ✍️"}}},
-    {"want a label with a small studio", {"mid-career"}, {{"Music"}, {"labelButton"}, {"🎧70 Studio Needed🎧"}}},
+    {"want a label with a small studio", {"working poor"}, {{"Music"}, {"labelButton"}, {"🎧70 Studio Needed🎧"}}},
     {"found a label",
      {"before the label"},
      {{"Music"},

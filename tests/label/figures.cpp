@@ -97,24 +97,24 @@ Standings homeFigures(Game& twin) {
                            weekBefore(albums, state, &SignedArtistWeeklyAlbumSales::albumRevenue);
   const double everything = allWeeks(albums, &SignedArtistWeeklyAlbumSales::albumRevenue) +
                             allWeeks(songs, &SignedArtistWeeklySongListens::totalStreamRevenue);
-  return Standings{
-             {"cover: badge", overall},
-             {"Nova Reed", rating},
-             {"Nova Reed: subtitle", abbreviated(static_cast<double>(artist.monthlyListeners))},
-             {"Artists", "1/" + std::to_string(state.studioCapacity)},
-             {"Artists: subtitle", "1 ACTIVE • 0 DROPPED ARTIST(S)"},
-             {"Royalties", currency(royalties * 1.125)},
-             {"Running costs", currency(salaries(state) + perksAndRent(state))},
-             {"text",
-              "myLabelName (" + overall + ") is an international, label boasting a world renown in-house studio (" +
-                  std::to_string(studioRating(state)) + ") and generating " + currency(everything) + " in royalties."},
-             {"Hire Staff", "", "goToLabelHireStaff"},
-             {"Office & Studio", std::to_string(state.officeCapacity), "goToLabelCapacity"},
-             {"Office & Studio: subtitle", booths(state) + " BOOTH(S) INSTALLED"},
-             {"Benefits & Culture", "", "goToLabelBenefits"},
-             {"Benefits & Culture: subtitle", "+" + withDecimals(state.labelEnergyBoost, 2) + " ENERGY • +" +
-                                                  withDecimals(state.labelMoraleBoost, 2) + " HAPPINESS"},
-             {"Create an Artist", "", "goToCreateSignedArtist"}} +
+  return Standings{{"cover: badge", overall},
+                   {"Nova Reed", rating},
+                   {"Nova Reed: subtitle", abbreviated(static_cast<double>(artist.monthlyListeners))},
+                   {"Artists", "1/" + std::to_string(state.studioCapacity)},
+                   {"Artists: subtitle", "1 ACTIVE • 0 DROPPED ARTIST(S)"},
+                   {"Royalties", currency(royalties * 1.125)},
+                   {"Running costs", currency(salaries(state) + perksAndRent(state))},
+                   {"text", state.myLabelName + " (" + overall +
+                                ") is an international, label boasting a world renown in-house studio (" +
+                                std::to_string(studioRating(state)) + ") and generating " + currency(everything) +
+                                " in royalties."},
+                   {"Hire Staff", "", "goToLabelHireStaff"},
+                   {"Office & Studio", std::to_string(state.officeCapacity), "goToLabelCapacity"},
+                   {"Office & Studio: subtitle", booths(state) + " BOOTH(S) INSTALLED"},
+                   {"Benefits & Culture", "", "goToLabelBenefits"},
+                   {"Benefits & Culture: subtitle", "+" + withDecimals(state.labelEnergyBoost, 2) + " ENERGY • +" +
+                                                        withDecimals(state.labelMoraleBoost, 2) + " HAPPINESS"},
+                   {"Create an Artist", "", "goToCreateSignedArtist"}} +
          deskFigures(state) + full("Staff energy", energy) + full("Staff happiness", morale) +
          full("Artist rating", static_cast<double>(artistRating(artist))) + full("Artist happiness", artist.happiness);
 }
@@ -280,9 +280,7 @@ Standings offerFigures(Game& twin) {
 Standings creationFigures(Game& twin) {
   const int64_t points = 5 * ((twin.state.saveAllEmployeeList[0].employeeRating + 2 * twin.state.businessTrait4) / 2);
   const std::string left = std::to_string(points - 6) + " remaining";
-  return {{"cover: text", left}, {"cover: badge", "0"},         {"to give", left},    {"CHARISMA (4)", ""},
-          {"RHYTHM (2)", ""},    {"SONGWRITING (0)", ""},       {"VIRALITY (0)", ""}, {"VOCALS (0)", ""},
-          {"TALENT (0)", ""},    {"CREATE: price", "75 energy"}};
+  return {{"cover: text", left}, {"cover: badge", "1"}, {"to give", left}, {"CREATE: price", "75 energy"}};
 }
 
 std::vector<ScreenFigures> screens() {

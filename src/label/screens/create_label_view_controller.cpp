@@ -30,6 +30,10 @@ Outcome CreateLabelViewController::act(const Action& action) {
 
 View CreateLabelViewController::view() const {
   View view{.title = "Start a Label", .theme = Theme::label};
+  if (state().isLabelLaunched >= 1) {
+    view.add(EmptyHint{.icon = "label", .text = "You run a label already."});
+    return view;
+  }
   view.add(Cover{.picture = pictureOf(labelLogos[logo_], name_),
                  .title = name_.empty() ? "Your label" : name_,
                  .text = slogan_.empty() ? "Its slogan" : slogan_});
