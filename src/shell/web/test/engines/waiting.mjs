@@ -1,5 +1,8 @@
 import { createServer } from "node:net";
 
+/** The window of the checks: narrower, the browsers on a computer do not become. */
+export const phone = { width: 480, height: 960 };
+
 const pause = 50;
 
 /** Tries `work` until it gives something; what it throws meanwhile is told when the time is over. */
