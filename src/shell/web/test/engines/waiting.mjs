@@ -19,7 +19,7 @@ export async function retry(work, told, ms = 20_000) {
     }
     await new Promise((done) => setTimeout(done, pause));
   } while (Date.now() < end);
-  throw new Error(`waited in vain: ${told}`, { cause: fault });
+  throw new Error(`waited in vain: ${told}${fault ? `; ${fault.message}` : ""}`, { cause: fault });
 }
 
 export function freePort() {
