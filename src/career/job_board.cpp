@@ -1,8 +1,10 @@
 #include "career/job_board.h"
 
+#include <algorithm>
 #include <array>
 
 #include "core/calendar.h"
+#include "core/money.h"
 #include "core/purse.h"
 
 namespace backbeat {
@@ -22,6 +24,12 @@ constexpr int64_t shortestContract = 4;
 constexpr int64_t longestContract = 20;
 
 }  // namespace
+
+std::string jobPayRange() {
+  const auto [least, most] = std::minmax_element(
+      jobs.begin(), jobs.end(), [](const JobList& a, const JobList& b) { return a.jobPay < b.jobPay; });
+  return currency(least->jobPay) + " to " + currency(most->jobPay);
+}
 
 Outcome enterJobBoard(Game& game) {
   if (!hasEnergy(game.state, jobBoardCost)) return bounce();

@@ -1,6 +1,7 @@
 // The standing weekly job, and the board where it is found.
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -18,6 +19,9 @@ struct JobList {
   int64_t energyCost = 0;  ///< a week
   double jobPay = 0;       ///< dollars a week
 };
+
+/// What the kinds of jobs pay at least and at most, in dollars a week: "$300 to $400".
+std::string jobPayRange();
 
 /// The door of the board, where each visit is paid. Refused with too little energy: the energy figure shakes.
 Outcome enterJobBoard(Game& game);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "core/screen.h"
+
 namespace backbeat {
 
 namespace {
@@ -13,6 +15,9 @@ constexpr std::array<std::string_view, 4> beginnings = {
     "data:image/webp;base64,",
     "data:image/gif;base64,",
 };
+
+constexpr int64_t portraitsOfName = 12;
+constexpr std::string_view chosen = "portrait:";
 
 bool isBase64(std::string_view text) {
   while (text.ends_with('=')) text.remove_suffix(1);
@@ -29,6 +34,13 @@ std::optional<size_t> dataOf(std::string_view address) {
   return std::nullopt;
 }
 
+/// 1 is the one that a name has by itself.
+int64_t chosenPortrait(const GameState& state) {
+  const std::string_view kept = state.twitterProfileImage;
+  if (!kept.starts_with(chosen)) return 1;
+  return std::clamp<int64_t>(wholeNumber(kept.substr(chosen.size())).value_or(1), 1, portraitsOfName);
+}
+
 }  // namespace
 
 std::optional<Outcome> photoRefusal(std::string_view address) {
@@ -42,15 +54,22 @@ std::optional<Outcome> photoRefusal(std::string_view address) {
   return std::nullopt;
 }
 
-PhotoField photoField(const std::string& taken) {
-  return {.id = "photo", .label = "Your own photo", .taken = !taken.empty()};
+PhotoField photoField(bool taken) { return {.id = "photo", .label = "Your own photo", .taken = taken}; }
+
+bool hasOwnPhoto(const GameState& state) { return dataOf(state.twitterProfileImage).has_value(); }
+
+void chooseNextPortrait(Game& game) {
+  const int64_t next = chosenPortrait(game.state) % portraitsOfName + 1;
+  game.state.twitterProfileImage = next == 1 ? "" : std::string(chosen) + std::to_string(next);
+  game.save(&GameState::twitterProfileImage);
 }
 
 Picture artistPicture(const GameState& state) { return artistPicture(state, state.myArtistsName); }
 
 Picture artistPicture(const GameState& state, const std::string& name) {
-  if (dataOf(state.twitterProfileImage)) return {Picture::Kind::photo, state.twitterProfileImage};
-  return person(name);
+  if (hasOwnPhoto(state)) return {Picture::Kind::photo, state.twitterProfileImage};
+  const int64_t portrait = chosenPortrait(state);
+  return person(portrait == 1 ? name : name + " #" + std::to_string(portrait));
 }
 
 }  // namespace backbeat

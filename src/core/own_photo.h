@@ -1,10 +1,11 @@
-// The player's own picture, for covers and for the profile: kept with the save as a data: address.
+// The player's own picture, for covers and for the profile: kept with the save as a data: address. The key of the
+// profile's picture also keeps which of the portraits drawn after the name was chosen.
 #pragma once
 
 #include <optional>
 #include <string_view>
 
-#include "core/game_state.h"
+#include "core/game.h"
 #include "core/outcome.h"
 #include "core/view.h"
 
@@ -17,7 +18,13 @@ inline constexpr size_t largestPhoto = 204'800;  ///< bytes of the whole address
 std::optional<Outcome> photoRefusal(std::string_view address);
 
 /// The field that takes a photo; its press, "photo", carries the address, or nothing to do without one.
-PhotoField photoField(const std::string& taken);
+PhotoField photoField(bool taken);
+
+/// Whether the profile has the player's own photo.
+bool hasOwnPhoto(const GameState& state);
+
+/// Chooses the next of the twelve portraits that a name can have; after the last comes the first. A photo goes.
+void chooseNextPortrait(Game& game);
 
 /// The artist's portrait: the player's own photo, or one drawn after the name, which may be one that is being typed.
 Picture artistPicture(const GameState& state);

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "career/job_board.h"
+#include "core/calendar.h"
 #include "core/money.h"
 #include "core/numbers.h"
 #include "turn/weekly_report.h"
@@ -12,6 +13,35 @@ namespace backbeat {
 namespace {
 
 constexpr int64_t worryingWeeks = 8;
+constexpr double greatDebt = 250;  ///< dollars
+
+/// The greatest step that the debt passed this week, or 0.
+double passedDebt(double before, double now) {
+  double passed = 0;
+  for (double step = greatDebt; step <= now; step *= 2) {
+    if (step > before) passed = step;
+  }
+  return passed;
+}
+
+/// Owing the rent is how many begin: it leads no report. A debt that grows does, each time at twice the height.
+void addDebt(const Game& game, std::vector<News>& news) {
+  const double before = -game.turn.before.cash;
+  const double debt = -game.state.totalCashAvailable;
+  if (debt <= 0 || debt <= before) return;
+  const bool isGreat = passedDebt(before, debt) > 0;
+  if (!isGreat && before > 0) return;
+  const bool works = game.state.weeklyJobContractRemaining > 0;
+  news.push_back(
+      {.kind = News::Kind::ended,
+       .rank = isGreat ? 400 : 240,
+       .key = isGreat ? "debt" : "owes",
+       .picture = icon(isGreat ? "warning" : "cash"),
+       .kicker = isGreat ? "The debt grows" : "The account is below zero",
+       .headline = isGreat ? "You are " + currency(debt) + " in debt" : "You owe " + currency(debt),
+       .text = works ? "Weeks go on, but nothing can be bought" : "A job brings " + jobPayRange() + " a week",
+       .tone = isGreat ? Tone::bad : Tone::plain});
+}
 
 }  // namespace
 
@@ -24,30 +54,23 @@ std::optional<int64_t> weeksUntilDebt(const GameState& state) {
 void addTurnNeeds(const Game& game, std::vector<Need>& needs) {
   const std::optional<int64_t> weeks = weeksUntilDebt(game.state);
   if (!weeks || *weeks > worryingWeeks) return;
-  const bool canWork = game.state.weeklyJobContractRemaining < 1;
-  const std::string loss = currency(-standingWeeklyNet(game.state)) + " a week goes out before any song pays";
+  const GameState& state = game.state;
   Need need{.priority = *weeks <= 2 ? 200 : 120,
             .picture = icon("cash"),
-            .title = *weeks == 0 ? "The money is gone" : "Money for " + counted(*weeks, "week"),
-            .subtitle = canWork ? loss + "; a job would help" : loss,
+            .title = "Money for " + counted(*weeks, "week"),
+            .subtitle = currency(-standingWeeklyNet(state)) + " a week goes out before any song pays",
             .segue = "goToExpenseScreen"};
-  if (canWork) {
+  if (*weeks == 0) need.title = "Money runs out this week";
+  if (state.totalCashAvailable < 0) need.title = "You owe " + currency(-state.totalCashAvailable);
+  if (state.weeklyJobContractRemaining < 1) {
+    if (inFirstWeeks(state)) need.title = "A job pays for the start";
+    need.subtitle = "A job brings " + jobPayRange() + " a week";
     need.segue = "goToJobBoard";
     need.price = jobBoardCost;
   }
   needs.push_back(std::move(need));
 }
 
-void addTurnNews(const Game& game, std::vector<News>& news) {
-  if (game.turn.before.cash < 0 || game.state.totalCashAvailable >= 0) return;
-  news.push_back({.kind = News::Kind::ended,
-                  .rank = 400,
-                  .key = "debt",
-                  .picture = icon("warning"),
-                  .kicker = "The account is empty",
-                  .headline = "You are " + currency(-game.state.totalCashAvailable) + " in debt",
-                  .text = "Weeks go on without cash, but nothing can be bought",
-                  .tone = Tone::bad});
-}
+void addTurnNews(const Game& game, std::vector<News>& news) { addDebt(game, news); }
 
 }  // namespace backbeat

@@ -6,7 +6,9 @@
 #include "core/money.h"
 #include "core/numbers.h"
 #include "core/view_words.h"
+#include "music/song_creation.h"
 #include "music/streaming.h"
+#include "turn/goals.h"
 
 namespace backbeat {
 
@@ -18,18 +20,28 @@ constexpr int64_t longRun = 4;  ///< weeks in a row
 
 /// What the sentences choose by.
 struct Facts {
+  int64_t weeks = 0;  ///< of the career so far
   int64_t songsOut = 0;
   int64_t songsPlaying = 0;
   int64_t silencedNow = 0;
   int64_t waiting = 0;
   std::string waitingTitle;
   std::string offChart;  ///< a title that left the chart this week
-  std::string onChart;
+  const Song* onChart = nullptr;
+  const Song* freshest = nullptr;   ///< of those out, the one with the most weeks left
+  const Song* bestKnown = nullptr;  ///< the most streamed
   int64_t streams = 0;
   int64_t streamsBefore = 0;
   int64_t rising = 0;   ///< weeks in a row with more listeners
   int64_t falling = 0;  ///< and with fewer
 };
+
+/// Of an even number of ways to tell the same, the one whose turn it is this week. An empty one has nothing to say:
+/// then the first or the second, which always have, speaks for it, so that no two weeks in a row are told alike.
+std::string inTurn(const Facts& facts, const std::vector<std::string>& ways) {
+  const auto turn = static_cast<size_t>(facts.weeks) % ways.size();
+  return ways[turn].empty() ? ways[turn % 2] : ways[turn];
+}
 
 std::string quoted(const std::string& title) { return "“" + title + "”"; }
 
@@ -54,7 +66,9 @@ void countSongs(const GameState& state, Facts& facts) {
     const double life = remainingLife(state, song);
     if (life > 0) ++facts.songsPlaying;
     if (!(life > 0) && life > -1) ++facts.silencedNow;
-    if (song.chartRanking > 0) facts.onChart = song.title;
+    if (song.chartRanking > 0) facts.onChart = &song;
+    if (!facts.freshest || life > remainingLife(state, *facts.freshest)) facts.freshest = &song;
+    if (!facts.bestKnown || song.totalListen > facts.bestKnown->totalListen) facts.bestKnown = &song;
   }
 }
 
@@ -66,6 +80,7 @@ void countRuns(const std::vector<int64_t>& listeners, Facts& facts) {
 Facts factsOf(const Game& game, const WeeklyReport& report) {
   const GameState& state = game.state;
   Facts facts;
+  facts.weeks = state.weekNumberForTracking - 1;
   countSongs(state, facts);
   countRuns(state.monthlyListenerData, facts);
   facts.streams = streamsOf(report.weeklySongListens);
@@ -79,60 +94,136 @@ Facts factsOf(const Game& game, const WeeklyReport& report) {
   return facts;
 }
 
+/// Why there can be no song; empty without debts.
+std::string debtOf(const GameState& state) {
+  if (state.totalCashAvailable >= 0) return "";
+  return "You owe " + currency(-state.totalCashAvailable) + ", and nobody records on credit. " +
+         (state.weeklyJobIncome > 0 ? "The job pays it off." : "A job would pay it off.");
+}
+
+std::string energyOf(const GameState& state) {
+  return "A song takes " + std::to_string(songEnergy) + " energy, and the new week brings " +
+         std::to_string(state.totalEnergyAvailable) + ".";
+}
+
 std::string beforeAnySong(const GameState& state, const Facts& facts) {
-  if (facts.waiting > 0)
-    return quoted(facts.waitingTitle) + " lies in the drawer. Release it, and the world can hear it.";
-  if (state.weeklyJobIncome > 0)
-    return "You worked, you got paid, and nobody has heard you yet. A song would change that.";
-  return "A week without a song. Everything begins with the first one.";
+  const std::string weeks = counted(facts.weeks, "week");
+  if (facts.waiting > 0) {
+    const std::string song = quoted(facts.waitingTitle);
+    return inTurn(facts, {song + " lies in the drawer. Release it, and the world can hear it.",
+                          weeks + " in, and " + song + " is still a secret."});
+  }
+  const std::string readers =
+      state.followerCount > 0 ? counted(state.followerCount, "follower") + " would like to hear you sing." : "";
+  const std::string debt = debtOf(state);
+  const std::string account = debt.empty() ? "A first song costs energy, and no money." : debt;
+  if (state.weeklyJobIncome > 0) {
+    const int64_t left = state.weeklyJobContractRemaining;
+    return inTurn(facts,
+                  {"You worked, you got paid, and nobody has heard you yet. A song would change that.",
+                   weeks + " of work so far, and not one song.",
+                   left > 0 ? "The job goes on for " + counted(left, "week") + ". One evening makes a song." : readers,
+                   account, energyOf(state), "Ten listeners are the first step, and a song is the way there."});
+  }
+  return inTurn(facts, {debt.empty() ? "A week without a song. Everything begins with the first one." : debt,
+                        weeks + " in, and the first song is still to come.", readers, energyOf(state)});
 }
 
 std::string afterTheLastSong(const Game& game, const Facts& facts) {
+  const GameState& state = game.state;
   const int64_t change = game.launch.weeklyFanChange;
   if (facts.silencedNow > 0) return "The last of your songs has fallen silent. It is quiet without music.";
-  if (facts.waiting > 0)
-    return "Nothing of yours is playing, while " + quoted(facts.waitingTitle) + " waits for its release.";
-  if (change > 0) {
-    return "Nothing of yours is playing any more, yet word still travels: " + counted(change, "new listener") + ".";
-  }
-  if (change < 0) {
-    return "Nothing of yours is playing, and " + counted(-change, "listener") +
-           " moved on. A new song brings them back.";
-  }
-  return "Silence: every song of yours has had its time. Write the next one.";
+  const auto silence = truncate(std::floor(-remainingLife(state, *facts.freshest)));
+  const std::string best = quoted(facts.bestKnown->title);
+  const int64_t found = facts.bestKnown->totalListen;
+  const std::string debt = debtOf(state);
+  return inTurn(
+      facts,
+      {debt.empty() ? "Silence: every song of yours has had its time. Write the next one." : debt,
+       counted(silence + 1, "week") + " without a song of yours playing.",
+       facts.waiting > 0 ? quoted(facts.waitingTitle) + " waits for its release, and nothing else of yours is playing."
+                         : energyOf(state),
+       change > 0   ? "Nothing of yours is playing, yet word still travels: " + counted(change, "new listener") + "."
+       : change < 0 ? "Nothing of yours is playing, and " + counted(-change, "listener") +
+                          " moved on. A new song brings them back."
+                    : "Nobody came, nobody left: the world waits for what you do next.",
+       found > 0 ? best + " had " + counted(found, "stream") + " in its time. The next one can have more."
+                 : best + " was never found by anybody. The next one can be.",
+       state.totalFans > 0 ? counted(state.totalFans, "listener") + " would notice a new song." : ""});
 }
 
 std::string percentOf(double share) { return std::to_string(truncate(std::round(share * 100))) + "%"; }
 
-std::string whilePlaying(const WeeklyReport& report, const Facts& facts) {
+std::string withoutStreams(const GameState& state, const Facts& facts) {
+  const std::string song = quoted(facts.freshest->title);
+  const auto left = truncate(std::ceil(remainingLife(state, *facts.freshest)));
+  return inTurn(facts,
+                {"Your music is out there, and nobody pressed play this week.",
+                 song + " has " + counted(left, "week") + " left to be found.",
+                 "Nobody came across " + song + " this week. Better skills make a song that is harder to miss.",
+                 state.followerCount > 0 ? "A quiet week. On Chirp, " + counted(state.followerCount, "follower") +
+                                               " could hear of " + song + "."
+                                         : ""});
+}
+
+/// A week that brought more or less than the one before it, or a long run of such weeks; empty when there is neither.
+std::string changeOf(const Facts& facts, const std::string& streams, const std::string& top) {
+  if (facts.streamsBefore == 0) return top + " meets its first listeners: " + streams + ".";
+  const double change = static_cast<double>(facts.streams) / static_cast<double>(facts.streamsBefore) - 1;
+  const std::string before = withCommas(facts.streamsBefore);
+  if (change >= strongChange) {
+    return inTurn(facts, {"A lift: " + streams + ", " + percentOf(change) + " more than last week, led by " + top + ".",
+                          "Word gets around: " + streams + ", after " + before + " the week before."});
+  }
+  if (change <= -strongChange) {
+    return inTurn(facts, {"Ears move on: " + streams + ", " + percentOf(-change) + " fewer than last week.",
+                          top + " and the rest had " + before + " last week. This week: " + streams + "."});
+  }
+  return "";
+}
+
+std::string ordinary(const GameState& state, const WeeklyReport& report, const Facts& facts,
+                     const std::string& streams) {
+  const WeeklySongListens& first = report.weeklySongListens.front();
+  const std::string top = quoted(first.songTitle);
+  const double lead = shareOf(first.songListens, facts.streams);
+  const ListenerGoal goal = nextListenerGoal(state);
+  const double loss = report.totalExpenses - report.totalRevenue;
+  const auto left = truncate(std::ceil(remainingLife(state, *facts.freshest)));
+  const std::string run =
+      facts.rising >= longRun
+          ? "A steady climb: more listeners for " + counted(facts.rising, "week") + " in a row, and " + streams + "."
+      : facts.falling >= longRun
+          ? "Listeners drift away, " + counted(facts.falling, "week") + " in a row now. " + streams + "."
+          : "";
+  return inTurn(
+      facts, {"A quiet week: " + streams + " from " + counted(facts.songsPlaying, "song") + ".",
+              streams + ", and " + counted(goal.listeners - state.totalFans, "listener") + " to go until there are " +
+                  withCommas(goal.listeners) + ".",
+              run,
+              facts.songsPlaying > 1 && lead >= mostOfAll
+                  ? top + " carried the week: " + percentOf(lead) + " of " + streams + "."
+                  : "",
+              loss > 0 ? streams + ", and the week still cost " + currency(loss) + " more than it brought." : "",
+              quoted(facts.freshest->title) + " plays for " + counted(left, "week") + " more. This week brought " +
+                  streams + "."});
+}
+
+std::string whilePlaying(const GameState& state, const WeeklyReport& report, const Facts& facts) {
+  if (facts.streams == 0 || report.weeklySongListens.empty()) return withoutStreams(state, facts);
   const std::string streams = counted(facts.streams, "stream");
-  const std::string top = report.weeklySongListens.empty() ? "" : quoted(report.weeklySongListens.front().songTitle);
-  if (facts.streams == 0) return "Your music is out there, and nobody pressed play this week.";
   if (!facts.offChart.empty())
     return quoted(facts.offChart) + " has left the chart, with " + streams + " for all your songs.";
   if (facts.silencedNow > 0)
     return "One voice fewer: " + counted(facts.songsPlaying, "song") + " of yours still play, for " + streams + ".";
-  if (!facts.onChart.empty()) return quoted(facts.onChart) + " holds on to the chart in a week of " + streams + ".";
-  if (facts.streamsBefore == 0) return top + " meets its first listeners: " + streams + ".";
-  const double change = shareOf(static_cast<double>(facts.streams), static_cast<double>(facts.streamsBefore)) - 1;
-  if (facts.streams > facts.streamsBefore && facts.streamsBefore > 0) {
-    const double growth = static_cast<double>(facts.streams) / static_cast<double>(facts.streamsBefore) - 1;
-    if (growth >= strongChange)
-      return "A lift: " + streams + ", " + percentOf(growth) + " more than last week, led by " + top + ".";
+  if (facts.onChart) {
+    const std::string song = quoted(facts.onChart->title);
+    return inTurn(
+        facts, {song + " holds on to the chart in a week of " + streams + ".",
+                song + " is " + rank(facts.onChart->chartRanking) + " this week, and your songs had " + streams + "."});
   }
-  if (change <= -strongChange) return "Ears move on: " + streams + ", " + percentOf(-change) + " fewer than last week.";
-  if (facts.rising >= longRun)
-    return "A steady climb: more listeners for " + counted(facts.rising, "week") + " in a row, and " + streams + ".";
-  if (facts.falling >= longRun)
-    return "Listeners drift away, " + counted(facts.falling, "week") + " in a row now. " + streams + ".";
-  const double lead = shareOf(report.weeklySongListens.front().songListens, facts.streams);
-  if (facts.songsPlaying > 1 && lead >= mostOfAll)
-    return top + " carried the week: " + percentOf(lead) + " of " + streams + ".";
-  if (report.totalRevenue < report.totalExpenses) {
-    return streams + ", and the week still cost " + currency(report.totalExpenses - report.totalRevenue) +
-           " more than it brought.";
-  }
-  return "A quiet week: " + streams + " from " + counted(facts.songsPlaying, "song") + ".";
+  const std::string change = changeOf(facts, streams, quoted(report.weeklySongListens.front().songTitle));
+  return change.empty() ? ordinary(state, report, facts, streams) : change;
 }
 
 }  // namespace
@@ -141,7 +232,7 @@ std::string weekStory(const Game& game, const WeeklyReport& report) {
   const Facts facts = factsOf(game, report);
   if (facts.songsOut == 0) return beforeAnySong(game.state, facts);
   if (facts.songsPlaying == 0) return afterTheLastSong(game, facts);
-  return whilePlaying(report, facts);
+  return whilePlaying(game.state, report, facts);
 }
 
 std::optional<int64_t> streamsTheWeekBefore(const GameState& state, int64_t songId, CalendarWeek reported) {

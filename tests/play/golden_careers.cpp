@@ -12,6 +12,8 @@ namespace {
 
 constexpr int64_t newYear2023 = 1'672'660'800'000;  // unix milliseconds
 
+}  // namespace
+
 PlayedCareer played(const GoldenCareer& golden) {
   PlayedCareer career;
   MemoryStore store;
@@ -25,8 +27,6 @@ PlayedCareer played(const GoldenCareer& golden) {
   career.end = player.state();
   return career;
 }
-
-}  // namespace
 
 std::span<const GoldenCareer> goldenCareers() {
   static constexpr GoldenCareer all[] = {

@@ -38,6 +38,9 @@ struct PlayedCareer {
   GameState end;
 };
 
+/// Plays it through.
+PlayedCareer played(const GoldenCareer& golden);
+
 /// Played when first asked for.
 const PlayedCareer& goldenCareer(std::string_view name);
 

@@ -6,13 +6,18 @@
 #include <cstdlib>
 #include <set>
 
+#include "core/career_file.h"
+#include "core/memory_store.h"
 #include "core/news.h"
 #include "play/golden_careers.h"
 #include "play/state_summary.h"
+#include "shell/simulate/habits.h"
 #include "support/program.h"
 
 namespace backbeat {
 namespace {
+
+constexpr int64_t newYear2023 = 1'672'660'800'000;  // unix milliseconds
 
 struct Moment {
   int64_t week = 0;
@@ -75,6 +80,42 @@ TEST(Moments, WhatAStarBroughtAlongIsNoFirst) {
   const std::set<std::string> told = firsts(momentsOf(goldenCareer("golden_hits")));
   EXPECT_EQ(told.count("listeners 1000"), 0u);
   EXPECT_EQ(told.count("number one"), 1u) << "while a place that nobody held before is one";
+}
+
+/// What a week tells when the player has left the game before ending it.
+std::set<std::string> toldAfterReload(Store& store) {
+  QuietPlatform platform;
+  TraceRecorder career(store, platform);
+  career.play(launchEvent(newYear2023, 8));
+  career.play(actEvent(newYear2023, "nav", {"endTheWeekButton", ""}));
+  EXPECT_GT(career.session().game().turn.before.absoluteWeek, 0) << "no week has ended";
+  std::set<std::string> told;
+  for (const News& news : newsOf(career.session().game())) told.insert(kindName(news.kind) + (" " + news.key));
+  return told;
+}
+
+TEST(Moments, WhatWasDoneBeforeAReloadIsStillToldByTheWeek) {
+  MemoryStore store;
+  std::vector<std::string> problems;
+  Player player(store, newYear2023, 7, problems);
+  beginCareer(player);
+  makeSong(player, {});
+  MemoryStore made;
+  made.rows = store.rows;
+  releaseSingles(player, {});
+  EXPECT_EQ(toldAfterReload(made).count("first release"), 0u);
+  EXPECT_EQ(toldAfterReload(store).count("first release"), 1u);
+  EXPECT_EQ(problems, std::vector<std::string>{});
+}
+
+TEST(Moments, WhatAnImportedCareerHasBehindItIsNotToldAgain) {
+  const PlayedCareer& decade = goldenCareer("golden_decade");
+  ImportedCareer imported = importCareer(exportCareer(decade.end));
+  ASSERT_TRUE(imported.state.has_value());
+  MemoryStore here;
+  here.commit(rowsOf(*imported.state));
+  const std::set<std::string> again = toldAfterReload(here);
+  for (const std::string& first : firsts(momentsOf(decade))) EXPECT_EQ(again.count("first " + first), 0u) << first;
 }
 
 }  // namespace

@@ -1,7 +1,8 @@
 // Writes the careers that the tests begin from and the golden ones into a folder, for whoever is not written in C++:
 //   backbeat_careers FOLDER
 // careers.json names them: each is a career file, with the hour at which it goes on; a golden one has its trace and the
-// hash of its end too, and the career that it began with, if it was no new life.
+// hash of its end too, and the career that it began with, if it was no new life. A film is the trace of a new life
+// alone.
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
@@ -9,7 +10,7 @@
 #include <string>
 
 #include "core/json.h"
-#include "play/golden_careers.h"
+#include "play/filmed_careers.h"
 #include "play/worlds.h"
 #include "shell/native/career_transfer.h"
 #include "support/dates.h"
@@ -33,13 +34,18 @@ class Careers {
 
   void add(const GoldenCareer& golden) {
     const PlayedCareer& career = goldenCareer(golden.name);
-    const std::string trace = fileName(golden.name) + ".trace";
-    std::ofstream(folder_ + "/" + trace, std::ios::binary) << career.trace;
+    const std::string trace = write(golden, career);
     begin(golden.name, career.end, career.events.back().unixMilliseconds);
     json_.key("large").flag(false);
     json_.key("trace").text(trace);
     json_.key("hash").text(hashText(stateHash(career.end)));
     json_.key("world").text(golden.world);
+    json_.endObject();
+  }
+
+  void addFilm(const GoldenCareer& filmed) {
+    json_.key(filmed.name).beginObject();
+    json_.key("film").text(write(filmed, played(filmed)));
     json_.endObject();
   }
 
@@ -55,6 +61,12 @@ class Careers {
     std::string file(name);
     std::replace(file.begin(), file.end(), ' ', '-');
     return file;
+  }
+
+  std::string write(const GoldenCareer& golden, const PlayedCareer& career) const {
+    std::string trace = fileName(golden.name) + ".trace";
+    std::ofstream(folder_ + "/" + trace, std::ios::binary) << career.trace;
+    return trace;
   }
 
   void begin(std::string_view name, const GameState& state, int64_t now) {
@@ -81,5 +93,6 @@ int main(int count, char** words) {
   Careers careers(words[1]);
   for (const NamedWorld& world : namedWorlds()) careers.add(world);
   for (const GoldenCareer& golden : goldenCareers()) careers.add(golden);
+  for (const GoldenCareer& filmed : filmedCareers()) careers.addFilm(filmed);
   return careers.finish() ? 0 : 1;
 }

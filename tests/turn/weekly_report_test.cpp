@@ -244,7 +244,7 @@ TEST(WeeklyReport, SideGigsStandAsCardsUntilTheyArePressed) {
   EXPECT_EQ(cardPresses(screen.view()), (std::vector<std::string>{"eventButton2"}));
   EXPECT_TRUE(screen.act({"eventButton3", ""}).alerts.empty());
   screen.act({"eventButton2", ""});
-  for (const Heading& heading : blocksOf<Heading>(screen.view())) EXPECT_NE(heading.text, "This week's chances");
+  for (const Heading& heading : blocksOf<Heading>(screen.view())) EXPECT_FALSE(heading.text.starts_with("Chances"));
   EXPECT_TRUE(screen.act({"closeButton", ""}).go.has_value());
 }
 

@@ -6,7 +6,10 @@ import { Launch, importedRows } from './door.mjs';
 const folder = new URL('../../build/check/careers/', import.meta.url);
 const list = new URL('careers.json', folder);
 
-/** By name: the file, the hour at which it goes on, and for a golden career its trace, its beginning and its end. */
+/**
+ * By name: the file, the hour at which it goes on, and for a golden career its trace, its beginning and its end. A film
+ * has its trace alone.
+ */
 export const careers = existsSync(list) ? JSON.parse(readFileSync(list, 'utf8')) : {};
 
 /** Where the file of a career is. */
@@ -18,21 +21,31 @@ export const careerFile = (name) => readFileSync(careerFileAt(name));
 /** The rows of a save that holds the career. */
 export const careerRows = (name) => importedRows(careerFile(name));
 
+/** The launch and the presses of a trace, one after the other. */
+export function traceOf(name) {
+  const { trace, film } = careers[name] ?? fail(name);
+  const lines = readFileSync(new URL(trace ?? film, folder), 'utf8').split('\n').filter(Boolean);
+  return lines.map((line) => {
+    const [kind, ...rest] = line.split(' ');
+    if (kind === 'launch') return { kind, seed: rest[0], now: Number(rest[1]) };
+    const [now, ...press] = rest;
+    return { kind, now: Number(now), press: press.map(unescaped) };
+  });
+}
+
 const unescaped = (text) => (text === '%' ? '' : decodeURIComponent(text));
 
 /** Plays a golden career to its end; each of its launches goes on with what the one before it stored. */
 export function playGolden(name) {
-  const { trace, world } = careers[name] ?? fail(name);
+  const { world } = careers[name] ?? fail(name);
   let rows = world ? careerRows(world) : new Map();
   let launch;
-  for (const line of readFileSync(new URL(trace, folder), 'utf8').split('\n').filter(Boolean)) {
-    const [kind, ...rest] = line.split(' ');
+  for (const { kind, seed, now, press } of traceOf(name)) {
     if (kind === 'launch') {
-      launch = new Launch({ seed: rest[0], now: Number(rest[1]), rows });
+      launch = new Launch({ seed, now, rows });
       rows = launch.rows;
     } else {
-      const [now, ...press] = rest;
-      launch.pressAt(Number(now), ...press.map(unescaped));
+      launch.pressAt(now, ...press);
     }
   }
   return launch;

@@ -81,8 +81,7 @@ void AlbumDetailViewController::describeProduction(View& view, const Album& albu
 void AlbumDetailViewController::describeReleased(View& view, const Album& album) const {
   if (album.releaseWeek == state().weekNumberForTracking) {
     const bool isFirst = historyIsWhole(state()) && isFirstRelease(state(), album);
-    view.add(Poster{.pictures = {coverOf(state(), album)},
-                    .kicker = isFirst ? "Your first " + albumFormat(album) : "Released",
+    view.add(Poster{.kicker = isFirst ? "Your first " + albumFormat(album) : "Released",
                     .title = "Out now",
                     .text = "End the week to see how it sells",
                     .mood = Poster::Mood::celebrate});

@@ -74,8 +74,8 @@ View ArtistProfileViewController::view() const {
                      .placeholder = "Tell your listeners who you are",
                      .maxLength = static_cast<int64_t>(longestAboutText),
                      .multiline = true});
-  view.add(photoField(state().twitterProfileImage));
-  if (!state().twitterProfileImage.empty()) {
+  view.add(photoField(hasOwnPhoto(state())));
+  if (hasOwnPhoto(state())) {
     view.add(Button{.id = "removePhoto", .label = "Remove Photo", .style = Button::Style::destructive});
   }
   return view;

@@ -61,7 +61,7 @@ View CreateAnAlbumViewController::view() const {
                           .id = "cover:" + std::to_string(i)});
   }
   view.add(std::move(grid));
-  view.add(photoField(photo_));
+  view.add(photoField(!photo_.empty()));
   view.mainAction = Button{.id = "createAlbumButton", .label = "Create Album", .style = Button::Style::primary};
   view.help =
       Help{.title = "How an album grows",

@@ -16,6 +16,7 @@ constexpr std::string_view called = "startCalled";
 Outcome EnterNameViewController::act(const Action& action) {
   if (action.id == "name") name_ = action.value;
   if (action.id == "saveButton") return startButton();
+  if (action.id == "anotherPortrait" && !hasOwnPhoto(state())) chooseNextPortrait(game_);
   if (action.id == nameless) return saveButton();
   if (action.verb() == called) {
     name_ = action.argument();
@@ -50,6 +51,7 @@ View EnterNameViewController::view() const {
       Text{.text = "Write songs, release them and live from week to week, from an empty room to the top of the chart.",
            .style = Text::Style::lead});
   view.add(TextField{.id = "name", .label = "Artist name", .value = name_, .placeholder = "Enter a name"});
+  if (!hasOwnPhoto(state())) view.add(Button{.id = "anotherPortrait", .label = "Another portrait"});
   view.mainAction = Button{.id = "saveButton", .label = "Start the career", .style = Button::Style::primary};
   return view;
 }

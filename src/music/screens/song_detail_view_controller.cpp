@@ -45,13 +45,10 @@ const MusicVideo* videoOf(const GameState& state, int64_t songId) {
 /// The week of its release belongs to the song.
 Poster outNow(const GameState& state, const Song& song) {
   const bool isFirst = historyIsWhole(state) && isFirstRelease(state, song);
-  return {.pictures = {coverOf(state, song)},
-          .kicker = isFirst ? "Your first release" : "Released",
+  const std::string weeks = counted(truncate(std::ceil(song.productionRating)), "week");
+  return {.kicker = isFirst ? "Your first release" : "Released",
           .title = "Out now",
-          .text = "End the week to hear what the world says",
-          .facts = {{.icon = "hourglass",
-                     .label = "Plays for",
-                     .value = counted(truncate(std::ceil(song.productionRating)), "week")}},
+          .text = "It plays for " + weeks + ". End this one to hear what the world says",
           .mood = Poster::Mood::celebrate};
 }
 

@@ -114,16 +114,16 @@ void ViewController::describeGoal(View& view) const {
 
 void ViewController::describeWeek(View& view) const {
   view.add(Heading{"Next week"});
-  if (inFirstWeeks(state())) view.add(hint("Energy comes back each week. What is left over is gone, so spend it."));
   const double net = standingWeeklyNet(state());
   const bool needsWork = net < 0 && state().weeklyJobContractRemaining == 0;
   view.add(Rows{{wayTo("goToEnergyTransparency", "bolt", "Energy", "After standing costs",
                        std::to_string(nextWeeksEnergy(state()))),
                  {.picture = icon("cash"),
                   .title = "Standing net",
-                  .subtitle = needsWork ? "No job: the Job Board in Life has one" : standingNetCaption(state()),
+                   .subtitle = needsWork ? "Without a job" : standingNetCaption(state()),
                   .value = currency(net),
                   .tone = toneOfAmount(net)}}});
+  if (inFirstWeeks(state())) view.add(hint("Energy comes back each week. What is left over is gone, so spend it."));
 }
 
 void ViewController::describeMusic(View& view) const {

@@ -1,6 +1,7 @@
 #include "turn/screens/weekly_summary_view_controller.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <map>
 
 #include "career/contract_end.h"
@@ -96,10 +97,11 @@ Rows songsOf(const GameState& state, const WeeklyReport& report, const std::vect
                           .subtitle = week.albumTitle,
                           .value = withCommas(week.songListens),
                           .badge = badgeOf(milestones, &Milestone::songId, week.songId)});
-    const std::string noun = week.songListens == 1 ? "stream" : "streams";
     const std::optional<int64_t> before = streamsTheWeekBefore(state, week.songId, report.week);
     const int64_t change = week.songListens - before.value_or(week.songListens);
-    rows.items.back().note = change == 0 ? noun : (change > 0 ? "+" : "") + withCommas(change) + " " + noun;
+    const int64_t told = change == 0 ? week.songListens : std::abs(change);
+    const std::string noun = told == 1 ? "stream" : "streams";
+    rows.items.back().note = change == 0 ? noun : (change > 0 ? "+" : "-") + withCommas(told) + " " + noun;
     rows.items.back().tone = toneOfChange(change);
   }
   return rows;
@@ -261,7 +263,7 @@ void WeeklySummaryViewController::describeEvents(View& view) const {
   };
   const auto isShown = [](const auto& each) { return each.first->shown(); };
   if (std::none_of(std::begin(buttons), std::end(buttons), isShown)) return;
-  view.add(Heading{"This week's chances · " + std::to_string(state().totalEnergyAvailable) + " energy left"});
+  view.add(Heading{"Chances · " + std::to_string(state().totalEnergyAvailable) + " energy left"});
   view.add(Tiles{{{.icon = "bolt",
                    .label = "Energy",
                    .value = std::to_string(state().totalEnergyAvailable),

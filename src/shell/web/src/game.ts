@@ -9,6 +9,7 @@ import { makeRoomForCopies } from "./room";
 import { asidesOf, isAside, type Row, type StoredRow } from "./rows";
 import { Save, type Trouble } from "./save";
 import { forgetStops, noteStop, stopsTooOften } from "./stops";
+import { trialProblem } from "./trial";
 import { warmUp } from "./warm";
 
 /** What the shell plays: the latest answer of the engine, and the way to press something. */
@@ -90,11 +91,6 @@ export class Game implements Player {
       }
     }
     return false;
-  }
-
-  /** Gets ready for the first presses, in idle moments. */
-  async warmUp(): Promise<void> {
-    await warmUp(await this.module).catch((fault: unknown) => console.warn("Nothing was warmed up.", fault));
   }
 
   act(screen: PressScreen, id: string, value = ""): void {

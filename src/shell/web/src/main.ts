@@ -32,7 +32,6 @@ async function begin(steal: boolean): Promise<void> {
     const app = document.createElement("backbeat-app") as AppElement;
     app.player = game;
     document.querySelector("backbeat-app, .full-notice")!.replaceWith(app);
-    void game.warmUp();
     if (import.meta.env.PROD) void offerUpdates(game);
   } catch (fault) {
     tellBroken(fault);

@@ -9,10 +9,12 @@ const askAgainAfter = 60 * 60 * 1000;
 export async function offerUpdates(game: Game): Promise<void> {
   const registration = await navigator.serviceWorker?.register("./sw.js").catch(() => undefined);
   if (!registration) return; // the page plays on, but only with a network
+  // Without a controller this is the first visit, and what lies ready is what is shown. It may have become the
+  // controller by the time one hears that it is installed.
+  const shown = navigator.serviceWorker.controller ? null : (registration.installing ?? registration.waiting);
   const offer = (): void => {
     const ready = registration.waiting;
-    // Without a controller this is the first visit, and what waits is what is shown.
-    if (ready && navigator.serviceWorker.controller) offerNow(game, ready);
+    if (ready && ready !== shown && navigator.serviceWorker.controller) offerNow(game, ready);
   };
   offer();
   registration.addEventListener("updatefound", () => {

@@ -1,13 +1,15 @@
 #!/usr/bin/env node
-// A picture of every screen in every world, dark, and in some of them light too, on one page to look through:
+// A picture of every screen in every world, dark, and in some of them light too, and of every week of the filmed lives,
+// on one page to look through:
 //   node tools/gallery.mjs [--root dist] [--out FOLDER] [--world NAME] [--theme dark|light]
 import { mkdir, rm, writeFile } from "node:fs/promises";
 import { join } from "node:path";
 import { parseArgs } from "node:util";
 import { launchBrowser } from "./browser.mjs";
+import { film } from "./film.mjs";
 import { serve } from "./serve.mjs";
 import { walk } from "./walk.mjs";
-import { openWorld, world, worldNames } from "./worlds.mjs";
+import { filmNames, openWorld, world, worldNames } from "./worlds.mjs";
 
 const { values } = parseArgs({
   options: {
@@ -18,7 +20,7 @@ const { values } = parseArgs({
   },
 });
 const alsoLight = ["new", "mid-career", "edges"];
-const names = values.world ? [values.world] : worldNames;
+const names = values.world ? [values.world] : [...worldNames, ...filmNames];
 
 await rm(values.out, { recursive: true, force: true });
 await mkdir(values.out, { recursive: true });
@@ -40,6 +42,7 @@ process.exitCode = faults.length > 0 ? 1 : 0;
 
 function themesOf(career) {
   if (values.theme) return [values.theme];
+  if (filmNames.includes(career)) return ["dark"];
   return values.world || alsoLight.includes(career) ? ["dark", "light"] : ["dark"];
 }
 
@@ -52,25 +55,34 @@ async function take(career, theme) {
   const page = await context.newPage();
   page.on("console", (message) => message.type() === "error" && faults.push(`${career}: ${message.text()}`));
   page.on("pageerror", (error) => faults.push(`${career}: ${error}`));
-  await openWorld(page, home, world(career));
-  await walk(page, async (name) => {
-    await stillness(page);
-    await shoot(page, career, theme, name);
-    const scrolls = await page.evaluate(() => {
-      const scroll = document.querySelector(".layer.top .scroll");
-      const more = scroll.scrollHeight > scroll.clientHeight + 60 && !document.querySelector("dialog[open]");
-      if (more) scroll.scrollTop = scroll.scrollHeight;
-      return more;
+  const shot = (name) => shoot(page, career, theme, name);
+  if (filmNames.includes(career)) {
+    await film(page, home, career, shot);
+  } else {
+    await openWorld(page, home, world(career));
+    await walk(page, async (name) => {
+      await shot(name);
+      await shootBelow(page, () => shot(`${name}, below`));
     });
-    if (!scrolls) return;
-    await stillness(page);
-    await shoot(page, career, theme, `${name}, below`);
-    await page.evaluate(() => (document.querySelector(".layer.top .scroll").scrollTop = 0));
-  });
+  }
   await context.close();
 }
 
+/** The end of the screen, where it is longer than the glass. */
+async function shootBelow(page, shot) {
+  const scrolls = await page.evaluate(() => {
+    const scroll = document.querySelector(".layer.top .scroll");
+    const more = scroll.scrollHeight > scroll.clientHeight + 60 && !document.querySelector("dialog[open]");
+    if (more) scroll.scrollTop = scroll.scrollHeight;
+    return more;
+  });
+  if (!scrolls) return;
+  await shot();
+  await page.evaluate(() => (document.querySelector(".layer.top .scroll").scrollTop = 0));
+}
+
 async function shoot(page, career, theme, name) {
+  await stillness(page);
   const file = `${career}-${theme}-${name}`.replace(/[^\w]+/g, "-") + ".jpg";
   await page.screenshot({ path: join(values.out, file), type: "jpeg", quality: 80 });
   shots.push({ career, theme, name, file });

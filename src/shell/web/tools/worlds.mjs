@@ -3,7 +3,10 @@
 import { careers, careerRows } from "../../../../tests/wasm/careers.mjs";
 
 /** The names of all that are worth a look screen by screen. */
-export const worldNames = Object.keys(careers).filter((name) => !careers[name].large);
+export const worldNames = Object.keys(careers).filter((name) => !careers[name].large && !careers[name].film);
+
+/** The names of the lives that are worth a look week by week. */
+export const filmNames = Object.keys(careers).filter((name) => careers[name].film);
 
 /** A world by its name: its rows and the hour, in unix milliseconds, at which somebody plays on there. */
 export const world = (name) => ({ rows: careerRows(name), now: careers[name].now });

@@ -54,6 +54,10 @@ class ConfettiElement extends LitElement {
       );
       this.falling.push(fall);
     }
+    // A sleeve that is the news turns once, a little: the chart has a record on it.
+    const sleeve = this.parentElement?.querySelector(".poster-front > .picture.cover");
+    const turn = { transform: ["none", "scale(1.08) rotate(180deg)", "rotate(1turn)"] };
+    if (sleeve) this.falling.push(sleeve.animate(turn, { duration: 900, easing: "ease-out" }));
   }
 
   /** Whoever goes on need not wait: any tap or key lets all of it lie. */

@@ -1,7 +1,7 @@
 import { html, LitElement, nothing, type PropertyValues, type TemplateResult } from "lit";
 import { landed, prefersStillness } from "../motion";
 import type { Figure, Figures } from "../protocol";
-import { between } from "./counting";
+import { between, runShare } from "./counting";
 import { toneClass } from "./parts";
 
 const duration = 600;
@@ -13,8 +13,8 @@ class FiguresElement extends LitElement {
   declare share: number;
 
   private told = "";
-  private frame = 0;
   private run = 0;
+  private stop = (): void => {};
 
   constructor() {
     super();
@@ -89,22 +89,15 @@ class FiguresElement extends LitElement {
     this.share = 0;
     addEventListener("pointerdown", this.finish, { capture: true });
     addEventListener("keydown", this.finish, { capture: true });
-    let start = 0;
-    const step = (now: number): void => {
-      start ||= now;
-      const passed = Math.min(1, Math.max(0, (now - start) / duration));
-      this.share = 1 - (1 - passed) ** 3;
-      if (passed < 1) this.frame = requestAnimationFrame(step);
-      else this.finish();
-    };
     const run = (this.run += 1);
     void landed().then(() => {
-      if (run === this.run) this.frame = requestAnimationFrame(step);
+      if (run === this.run)
+        this.stop = runShare(duration, (share) => (share < 1 ? (this.share = share) : this.finish()));
     });
   }
 
   private readonly finish = (): void => {
-    cancelAnimationFrame(this.frame);
+    this.stop();
     this.run += 1;
     removeEventListener("pointerdown", this.finish, { capture: true });
     removeEventListener("keydown", this.finish, { capture: true });

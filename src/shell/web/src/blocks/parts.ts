@@ -71,7 +71,7 @@ export function figureAndWords(text: string): TemplateResult {
 
 /** As many lamps as a meter has steps; the last one lit may be lit in part. */
 export function lamps({ label, share = 0, steps = 0 }: MeterData): TemplateResult {
-  const lit = Math.min(1, Math.max(0, share)) * steps;
+  const lit = Math.min(1, Math.max(0, share || 0)) * steps;
   const step = (i: number): TemplateResult =>
     html`<i
       style="--fill:${Math.round(Math.min(1, Math.max(0, lit - i)) * 100)}%;--at:${i / Math.max(1, steps - 1)}"

@@ -14,6 +14,12 @@ export function sleeve(name: string): string {
   return framed({ kind: "cover", sky }, motif(palette, draw));
 }
 
+/** The sky of the sleeve of a name, above and below. */
+export function sleeveColours(name: string): [string, string] {
+  const { palette } = artworkOf(name, drawsOf(name));
+  return [palette[0], palette[1]];
+}
+
 /** The sleeve of a name, printed on a thing: the same motif on flat colours. */
 export function print(name: string, x: number, y: number, size: number): string {
   const draw = drawsOf(name);

@@ -21,12 +21,13 @@ import { EdgeSwipe } from "./edge-swipe";
 import { flyGains, gainsBetween } from "./gains";
 import { keySheet, listenForKeys } from "./keys";
 import { rail } from "./rail";
-import { isRelease, outNow, playRelease } from "./release";
+import { isRelease, playRelease } from "./release";
 import "./sheet";
 import { shakeEnergy, statusRow } from "./status";
 import { tabBar } from "./tab-bar";
 import { toastPlace } from "./toast";
 import { play } from "./transition";
+import { washOf } from "./wash";
 
 /** Where a screen lies while two find room: the root, what it led to, or a screen that has both places. */
 type Panel = "" | "left" | "right" | "wide";
@@ -50,9 +51,7 @@ class AppElement extends LitElement {
   private step: Step = { motion: "none", leaving: null };
   private moving: Animation[] = [];
   private land: () => void = () => {};
-  /** The screen whose song has just come out. */
-  private released: Layer | null = null;
-  private told: Layer | null = null;
+  private released = false;
   private gains = new Map<string, number>();
   private typedName = "";
   private heard: SoftSound | null = null;
@@ -96,8 +95,7 @@ class AppElement extends LitElement {
     this.step = this.stack.advance(answer);
     if (this.room === "desk") this.calm(panels);
     if (this.step.motion !== "none") this.land = takeOff();
-    if (before !== this.stack.top) this.released = null;
-    if (this.seen && isRelease(this.seen, answer)) this.released = this.stack.top!;
+    this.released = this.seen !== null && isRelease(this.seen, answer);
     this.heard = this.seen && soundOf(this.seen, answer);
     this.gains = this.seen ? gainsBetween(this.seen.view, answer.view) : new Map();
     this.seen = answer;
@@ -219,10 +217,12 @@ class AppElement extends LitElement {
     const place = this.placeOf(layer);
     const top = place === "top";
     const scene = this.sceneOf(layer);
+    const wash = washOf(view);
     const root = layer.key === this.stack.ofTab[0]?.key || layer === this.stack.home;
     return html`<section
       @input=${view?.screen === "EnterNameViewController" ? this.faceOf : nothing}
-      class="layer ${place} ${panel} ${layer.modal ? "modal" : ""} theme-${view?.theme ?? "plain"} ${moodOf(view)}"
+      class="layer ${place} ${panel} ${layer.modal ? "modal" : ""} ${wash && "sleeved"} theme-${view?.theme ?? "plain"} ${moodOf(view)}"
+      style=${wash || nothing}
       data-screen=${view?.screen ?? nothing}
       aria-label=${view?.title || nothing}
       role=${top ? "main" : nothing}
@@ -241,7 +241,6 @@ class AppElement extends LitElement {
 
   private foot(layer: Layer, root: boolean): TemplateResult | typeof nothing {
     const { header = {}, endWeek } = this.player.answer;
-    if (layer === this.released) return outNow();
     if (!root) return dock(layer.view, this.sceneOf(layer));
     const here = endWeek && layer === this.stack.top && this.room === "phone";
     return here ? endWeekDock(header, () => this.endWeek()) : nothing;
@@ -288,7 +287,7 @@ class AppElement extends LitElement {
         ${view?.subtitle ? html`<p class="subtitle" dir="auto">${view.subtitle}</p>` : nothing}
         <h1 class="title" tabindex="-1" dir="auto">${view?.title}</h1>
       </div>
-      ${this.helpButton(view)} ${picture(this.typedFace(view))}
+      ${this.helpButton(view)} ${this.face(view)}
     </div>`;
   }
 
@@ -298,9 +297,14 @@ class AppElement extends LitElement {
     this.requestUpdate();
   };
 
-  private typedFace(view: View | null): Picture | undefined {
-    const typing = view?.screen === "EnterNameViewController" && this.typedName;
-    return typing ? { kind: "person", name: typing } : view?.picture;
+  /** On the name screen a tap on it does what the button below says. */
+  private face(view: View | null): unknown {
+    if (view?.screen !== "EnterNameViewController") return picture(view?.picture);
+    const { picture: told, key } = view;
+    const chosen = / #\d+$/.exec(told?.name ?? "")?.[0] ?? "";
+    const typed: Picture | undefined =
+      this.typedName && told?.kind === "person" ? { kind: "person", name: this.typedName + chosen } : told;
+    return html`<span class="typed-face" @click=${() => this.press(key, "anotherPortrait")}>${picture(typed)}</span>`;
   }
 
   private helpButton(view: View | null): TemplateResult | undefined {
@@ -438,8 +442,7 @@ class AppElement extends LitElement {
     const { gains } = this;
     // The screen's own blocks are drawn a moment later.
     if (gains.size > 0) requestAnimationFrame(() => flyGains(gains, this.querySelector(".layer.top")));
-    if (this.released && this.released !== this.told) playRelease(this.querySelector(".layer.top"));
-    this.told = this.released;
+    if (this.released) playRelease(this.querySelector(".layer.top"));
     if (feedback === "energyBounce") {
       shakeEnergy(this.querySelector(".layer.top"), prefersStillness());
       navigator.vibrate?.([20, 40, 20]);

@@ -40,7 +40,7 @@ export function endWeekDock(header: Header, press: () => void): TemplateResult {
   return html`<div class="dock"><div class="dock-buttons">${endWeekButton(header, press)}</div></div>`;
 }
 
-const besideTheAnswer = new Set(["text", "heading", "cover"]);
+const besideTheAnswer = new Set(["text", "heading", "cover", "button"]);
 
 /** The main button of a screen that asks for one text and nothing else. */
 export function soleAnswer(view: View | null): string | undefined {

@@ -1,6 +1,4 @@
-import { html, type TemplateResult } from "lit";
 import { prefersStillness, tap } from "../motion";
-import { glyph } from "../pictures/icons";
 import { soundOn } from "../preferences";
 import type { Answer } from "../protocol";
 
@@ -10,24 +8,17 @@ export function isRelease(before: Answer, now: Answer): boolean {
   return asked && before.view.key === now.view.key && !now.view.mainAction && now.feedback === "success";
 }
 
-/** What the button becomes, and what comes next. */
-export function outNow(): TemplateResult {
-  return html`<div class="dock">
-    <p class="out-now" role="status">
-      <span>${glyph("check")}Out now</span>
-      <small>The week's report tells how many listened.</small>
-    </p>
-  </div>`;
-}
-
 /** The sleeve rises and turns like a record, the song is heard where that is wanted. */
 export function playRelease(screen: Element | null): void {
   tap([15, 40, 25]);
-  const head = screen?.querySelector(".head");
   screen?.querySelector(".scroll")?.scrollTo({ top: 0 });
   if (soundOn()) screen?.querySelector("bb-hook")?.play();
-  if (prefersStillness()) return;
-  head?.querySelector(".picture")?.animate(
+  // The screen's own blocks are drawn a moment later.
+  if (!prefersStillness()) requestAnimationFrame(() => turnSleeve(screen));
+}
+
+function turnSleeve(screen: Element | null): void {
+  screen?.querySelector(".head .picture")?.animate(
     {
       transform: [
         "none",
@@ -40,7 +31,7 @@ export function playRelease(screen: Element | null): void {
     { duration: 1500, easing: "cubic-bezier(0.32, 0.72, 0, 1)" },
   );
   screen
-    ?.querySelector(".out-now")
+    ?.querySelector(".poster-texts")
     ?.animate(
       { opacity: [0, 1], transform: ["scale(0.9)", "none"] },
       { duration: 260, delay: 200, fill: "backwards", easing: "ease-out" },

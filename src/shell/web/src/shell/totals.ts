@@ -1,5 +1,5 @@
 import { html, LitElement, nothing, svg, type PropertyValues, type TemplateResult } from "lit";
-import { between } from "../blocks/counting";
+import { between, runShare } from "../blocks/counting";
 import { bandOf, toneClass } from "../blocks/parts";
 import { prefersStillness } from "../motion";
 import { glyph } from "../pictures/icons";
@@ -15,7 +15,7 @@ class TotalsElement extends LitElement {
   declare share: number;
 
   private earlier: Total[] = [];
-  private frame = 0;
+  private stop = (): void => {};
 
   constructor() {
     super();
@@ -28,7 +28,7 @@ class TotalsElement extends LitElement {
 
   override disconnectedCallback(): void {
     super.disconnectedCallback();
-    cancelAnimationFrame(this.frame);
+    this.stop();
     this.share = 1;
   }
 
@@ -56,16 +56,10 @@ class TotalsElement extends LitElement {
   }
 
   private run(before: Total[]): void {
-    cancelAnimationFrame(this.frame);
+    this.stop();
     this.earlier = before;
     this.share = 0;
-    const start = performance.now();
-    const step = (now: number): void => {
-      const passed = Math.min(1, Math.max(0, (now - start) / runMs));
-      this.share = 1 - (1 - passed) ** 3;
-      if (passed < 1) this.frame = requestAnimationFrame(step);
-    };
-    this.frame = requestAnimationFrame(step);
+    this.stop = runShare(runMs, (share) => (this.share = share));
   }
 }
 

@@ -4,7 +4,7 @@ import { connect } from "node:net";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { browser, elementKey } from "./browser.mjs";
-import { endGroup, freePort, retry } from "./waiting.mjs";
+import { endGroup, freePort, phone, retry } from "./waiting.mjs";
 
 const quiet = {
   "app.update.enabled": false,
@@ -36,6 +36,7 @@ export async function firefox({ still = false, language = "en_US.UTF-8" } = {}) 
     socket = await retry(() => connected(port), "Firefox listens", 40_000);
     const call = await talk(socket);
     await call("NewSession", {});
+    await call("SetWindowRect", phone);
     return browser({
       go: (url) => call("Navigate", { url }),
       back: () => call("Back"),

@@ -1,5 +1,8 @@
 import { createServer } from "node:net";
 
+/** The window of the checks: narrower, the browsers on a computer do not become. */
+export const phone = { width: 480, height: 960 };
+
 const pause = 50;
 
 /** Tries `work` until it gives something; what it throws meanwhile is told when the time is over. */
@@ -16,7 +19,7 @@ export async function retry(work, told, ms = 20_000) {
     }
     await new Promise((done) => setTimeout(done, pause));
   } while (Date.now() < end);
-  throw new Error(`waited in vain: ${told}`, { cause: fault });
+  throw new Error(`waited in vain: ${told}${fault ? `; ${fault.message}` : ""}`, { cause: fault });
 }
 
 export function freePort() {

@@ -3,7 +3,7 @@ import { existsSync, mkdirSync, mkdtempSync, readdirSync, rmSync, writeFileSync 
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { browser, elementKey } from "./browser.mjs";
-import { endGroup, freePort, retry } from "./waiting.mjs";
+import { endGroup, freePort, phone, retry } from "./waiting.mjs";
 
 /** WebKit as Debian has it, on a screen of its own; driven by W3C WebDriver. */
 export async function webkit({ still = false, language = "en_US.UTF-8" } = {}) {
@@ -38,6 +38,7 @@ export async function webkit({ still = false, language = "en_US.UTF-8" } = {}) {
     const alwaysMatch = { "webkitgtk:browserOptions": { binary: program(), args: ["--automation"] } };
     const { sessionId } = await call("POST", "/session", { capabilities: { alwaysMatch } });
     const at = (path) => `/session/${sessionId}${path}`;
+    await call("POST", at("/window/rect"), phone);
     return browser({
       go: (url) => call("POST", at("/url"), { url }),
       back: () => call("POST", at("/back"), {}),
