@@ -8,7 +8,7 @@ out=build/wasm
 traps=signed-integer-overflow,integer-divide-by-zero,float-cast-overflow,bounds,return,unreachable
 flags=(-std=c++20 -fno-exceptions -fno-rtti -ffp-contract=off -mbulk-memory -Wall -Wextra -Werror -Wshadow
   "-fsanitize=$traps" -fsanitize-trap=all -D_LIBCPP_HARDENING_MODE=_LIBCPP_HARDENING_MODE_FAST -I../../src
-  -isystem include)
+  -isystem include -DXXH_INLINE_ALL)
 # Where a week spends its time; everything else is to be small.
 quick=(core/chunked_list core/json core/money core/numbers core/property_list core/random core/record_buffer
   core/record_codec core/row_check core/save_file core/text core/value_type music/album_sales music/chart music/listeners

@@ -1,7 +1,6 @@
 #include "core/row_check.h"
 
-// All of it that is used becomes part of this file: the browser's engine links no library.
-#define XXH_INLINE_ALL
+// The builds ask for it as a header alone: the browser's engine links no library.
 #include <xxhash.h>
 
 namespace backbeat {

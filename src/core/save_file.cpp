@@ -146,8 +146,8 @@ class Loader {
   bool isMiscounted() const { return counted_.value_or(visited_) != visited_; }
   int64_t lost() const { return std::max(counted_.value_or(0) - visited_, int64_t{0}); }
 
-  std::vector<std::string> damaged;   ///< keys, those of lists first
-  std::unordered_set<uint64_t> rows;  ///< where the rows are that stay
+  std::vector<std::string> damaged;  ///< keys, those of lists first
+  std::set<uint64_t> rows;           ///< where the rows are that stay
   std::map<std::string, Bytes, std::less<>> otherObjects;
 
  private:

@@ -4,9 +4,9 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -97,8 +97,8 @@ class SaveFile {
   std::map<std::pair<std::string, int32_t>, size_t> pendingRows_;  // where each row stands in pending_, while failing
   std::map<std::string, StoredList, std::less<>> lists_;
   std::map<std::string, Bytes, std::less<>> otherObjects_;
-  std::unordered_set<uint64_t> rows_;  // the fingerprint of each place that is taken
-  bool counted_ = true;                // the store, or what is pending, knows how many they are
+  std::set<uint64_t> rows_;  // the fingerprint of each place that is taken
+  bool counted_ = true;      // the store, or what is pending, knows how many they are
   bool failing_ = false;
   bool keeping_ = true;
 };
