@@ -15,7 +15,7 @@ std::optional<Outcome> keepAside(Game& game, SnapshotKind kind, std::string_view
   const auto copy = game.saveFile.dispensableSnapshot(spared);
   if (!copy) return refuse<"Nothing Changed">(problem + "\n\nNothing has changed.");
   return ask<"No Room">(problem + "\n\nGive up the copy " + copy->told() + " for it?", "Close",
-                        {"Give Up", {std::string(giveUpVerb) + ":" + copy->name, ""}, AlertButton::Style::destructive});
+                        {"Give up", {std::string(giveUpVerb) + ":" + copy->name, ""}, AlertButton::Style::destructive});
 }
 
 }  // namespace backbeat

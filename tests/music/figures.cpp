@@ -93,7 +93,7 @@ Standings marketingFigures(Game&) {
           {"National campaign: price", "$175,000"},
           {"World campaign: subtitle", "Marketing 80 to 135"},
           {"World campaign: price", "$875,000"},
-          {"Set Marketing: price", "$35,000"}};
+          {"Set marketing: price", "$35,000"}};
 }
 
 Standings albumFigures(const GameState& state, std::string_view title) {

@@ -49,7 +49,7 @@ Standings songInProductionFigures(Game& twin) {
           {"Virality +0.5: price", priceText(*viralityBoostCost(song))},
           {"Announce on Chirp: price", "5 energy"},
           {"Marketing", withDecimals(song.marketingScore, 0), "goToSetSongMarketing 21"},
-          {"Add to Album", "", "goToAddToAlbum 21"},
+          {"Add to album", "", "goToAddToAlbum 21"},
           {"RELEASE: price", priceText(releaseCost)}};
 }
 
@@ -89,7 +89,7 @@ Standings newSongFigures(Game& twin) {
   return Standings{{"Featured artists", "", "goToFeaturedArtists"},
                    {"Album (2)", "Second Wind (2)"},
                    {"Album (3)", "Third Rail (11)"},
-                   {"Create Song: price",
+                   {"Create song: price",
                     priceText({10, static_cast<double>(options.writing[2].cost + options.musicality[1].cost +
                                                        options.studio[3].cost)})}} +
          optionFigures("Songwriting", options.writing) + optionFigures("Musicality", options.musicality) +

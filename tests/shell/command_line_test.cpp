@@ -87,7 +87,7 @@ TEST(CommandLine, TheProgramEndsWithTheRightCode) {
 
 TEST(CommandLine, ACareerGoesOnWhereItWasLeftAndInfoTellsOfIt) {
   const std::string save = freshFile("career");
-  EXPECT_EQ(runProgram({"play", "--save", save}, "1 Zoë Falk\n2\nend\n").exitCode, 0);
+  EXPECT_EQ(runProgram({"play", "--save", save}, "1 Zoë Falk\n3\nend\n").exitCode, 0);
   EXPECT_EQ(runProgram({"play", "--save", save}, "").exitCode, 0);
   const std::string before = contentOf(save);
   const ProgramRun info = runProgram({"info", "--save", save});

@@ -41,7 +41,7 @@ struct ConsoleRun {
     return std::to_string(found - offered.begin() + 1);
   }
   void beginASong() {
-    type("1 Mara\n2\nmusic\n");
+    type("1 Mara\n3\nmusic\n");
     type(number("createSongButton") + "\n");
     ASSERT_EQ(career.session().shown().screen, "CreateASongViewController");
   }
@@ -54,7 +54,7 @@ TEST(ConsolePlayer, PlaysAWeekFromTheNameOn) {
   ConsoleRun run;
   run.type("");
   EXPECT_THAT(run.said, HasSubstr("or help.")) << "the first screen says where help is";
-  run.type("1 Zoë Falk\n2\nhome\nEND\n");
+  run.type("1 Zoë Falk\n3\nhome\nEND\n");
   EXPECT_EQ(run.state().myArtistsName, "Zoë Falk");
   EXPECT_EQ(run.state().weekNumberForTracking, 2);
   EXPECT_THAT(run.said, HasSubstr("Weekly report"));
@@ -88,7 +88,7 @@ TEST(ConsolePlayer, FillsTextsOptionsAndSwitchesAndTellsWhatANumberWants) {
 
 TEST(ConsolePlayer, AnswersNonsenseWithOneLineAndChangesNothing) {
   ConsoleRun run;
-  run.type("1 Mara\n2\n");
+  run.type("1 Mara\n3\n");
   const uint64_t before = stateHash(run.state());
   run.type("dance\n0\n-4\n99\n99999999999999999999\nback\nmore\n\xFF\x1b[2J\n\nhelp\ninfo\nagain\nquit\nhome\n");
   EXPECT_EQ(stateHash(run.state()), before);
@@ -115,7 +115,7 @@ TEST(ConsolePlayer, AFailedSaveIsToldUntilItWorksAgain) {
   ConsoleRun run;
   run.type("1 Mara\n");
   run.store.failNext(1);
-  run.type("2\n");
+  run.type("3\n");
   EXPECT_THAT(run.said, HasSubstr("Nothing could be saved"));
   run.type("home\n");
   run.type("again\n");

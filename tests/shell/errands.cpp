@@ -25,7 +25,7 @@ const RoomErrands errands({
       {"goToSettings"},
       {"goToRestore"},
       {"ask"},
-      {"Delete Copy"},
+      {"Delete copy"},
       {"Delete"}}},
     {"carry the career over", {"new", "talkative"}, {{"Home"}, {"goToSettings"}, {"exportCareer"}}},
     {"keep a copy of a new year", {"rich"}, {{"Home"}, {"Another year!"}}, 60},

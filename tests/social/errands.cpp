@@ -21,7 +21,7 @@ const RoomErrands errands({
       {"🐥 Announcement Made 🐥"}}},
     {"read old chirps",
      {"talkative"},
-     {{"Social"}, {"unpin"}, {"Older Chirps"}, {"Newer Chirps"}, {"pin"}, {"delete"}}},
+     {{"Social"}, {"unpin"}, {"Older chirps"}, {"Newer chirps"}, {"pin"}, {"delete"}}},
 });
 
 }  // namespace

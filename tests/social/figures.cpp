@@ -42,7 +42,7 @@ Standings profileFigures(Game& twin) {
 std::vector<ScreenFigures> screens() {
   return {{.segue = "social", .figures = profileFigures},
           {.segue = "goToCreateTwitterMessage", .argument = "21", .figures = [](Game&) {
-             return Standings{{"Your Chirp", "My new song \"Night Bus\" is on its way. Stay close! 🎶"},
+             return Standings{{"Your chirp", "My new song \"Night Bus\" is on its way. Stay close! 🎶"},
                               {"Chirp: price", priceText(chirpCost)}};
            }}};
 }

@@ -62,7 +62,7 @@ View ContractOfferViewController::view() const {
                   {.icon = "album", .label = "LPs", .value = std::to_string(offer.tempLp)},
                   {.icon = "note", .label = "Songs", .value = std::to_string(offer.tempSongs)}}});
   view.add(Text{.text = offerExpectations(offer)});
-  view.mainAction = Button{.id = "signContract", .label = "Sign Contract", .style = Button::Style::primary};
+  view.mainAction = Button{.id = "signContract", .label = "Sign contract", .style = Button::Style::primary};
   return view;
 }
 

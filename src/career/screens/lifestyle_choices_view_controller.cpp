@@ -73,7 +73,7 @@ View LifestyleChoicesViewController::view() const {
     rows.items.push_back(optionRow(*category_, i, entry ? entry->title : ""));
   }
   view.add(std::move(rows));
-  Button clear{.id = "clearExpense", .label = "Clear Expense"};
+  Button clear{.id = "clearExpense", .label = "Clear expense"};
   if (entry) {
     clear.style = Button::Style::destructive;
   } else {

@@ -18,7 +18,7 @@ Outcome AddToAlbumViewController::act(const Action& action) {
 }
 
 View AddToAlbumViewController::view() const {
-  View view{.title = "Add to Album"};
+  View view{.title = "Add to album"};
   const auto song = songPosition(state(), songId_);
   if (song) view.subtitle = state().saveAllSongList[*song].title;
   const std::vector<size_t> positions = albumsOpenTo(state(), songId_);

@@ -76,7 +76,7 @@ View ArtistProfileViewController::view() const {
                      .multiline = true});
   view.add(photoField(hasOwnPhoto(state())));
   if (hasOwnPhoto(state())) {
-    view.add(Button{.id = "removePhoto", .label = "Remove Photo", .style = Button::Style::destructive});
+    view.add(Button{.id = "removePhoto", .label = "Remove photo", .style = Button::Style::destructive});
   }
   return view;
 }

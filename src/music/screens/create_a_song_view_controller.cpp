@@ -148,7 +148,7 @@ View CreateASongViewController::view() const {
   view.add(std::move(genre));
   view.add(Toggle{.id = "explicit", .label = "Explicit", .on = isExplicit_, .note = "Carries the \"E\" mark"});
   view.mainAction = Button{.id = "createSongButton",
-                           .label = "Create Song",
+                           .label = "Create song",
                            .price = costToProduceSong(state(), song),
                            .style = Button::Style::primary};
   view.help =

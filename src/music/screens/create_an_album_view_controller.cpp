@@ -62,7 +62,7 @@ View CreateAnAlbumViewController::view() const {
   }
   view.add(std::move(grid));
   view.add(photoField(!photo_.empty()));
-  view.mainAction = Button{.id = "createAlbumButton", .label = "Create Album", .style = Button::Style::primary};
+  view.mainAction = Button{.id = "createAlbumButton", .label = "Create album", .style = Button::Style::primary};
   view.help =
       Help{.title = "How an album grows",
            .text =

@@ -31,7 +31,7 @@ Outcome EnterNameViewController::startButton() {
   const std::string offered = suggested();
   Outcome question = ask<"🎤 No Name Yet 🎤">("\nNobody can ask for your songs without one. How about " + offered + "?",
                                             "Close", {"Be " + offered, {std::string(called) + ":" + offered, ""}});
-  question.alerts.back().buttons.push_back({"Start Without", {nameless, ""}});
+  question.alerts.back().buttons.push_back({"Start without", {nameless, ""}});
   return question;
 }
 

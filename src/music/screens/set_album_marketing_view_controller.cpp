@@ -50,11 +50,11 @@ Outcome SetAlbumMarketingViewController::setMarketingButton() { return applyMark
 View SetAlbumMarketingViewController::view() const {
   const auto title = titleOf(state(), target_);
   if (!title) {
-    View gone{.title = "Set Marketing"};
+    View gone{.title = "Set marketing"};
     gone.add(EmptyHint{.icon = "megaphone", .text = "There is nothing to market any more."});
     return gone;
   }
-  View view{.title = "Set Marketing", .subtitle = *title};
+  View view{.title = "Set marketing", .subtitle = *title};
   Rows rows;
   for (size_t tier = 0; tier < marketingPlans.size(); ++tier) {
     const MarketingPlan& plan = marketingPlans[tier];
@@ -68,7 +68,7 @@ View SetAlbumMarketingViewController::view() const {
   }
   view.add(std::move(rows));
   view.mainAction = Button{.id = "setMarketingButton",
-                           .label = tier_ ? "Set Marketing" : "Leave It As It Is",
+                           .label = tier_ ? "Set marketing" : "Leave it as it is",
                            .price = tier_ ? std::optional(plan_.cost) : std::nullopt,
                            .style = tier_ ? Button::Style::primary : Button::Style::secondary};
   view.help =

@@ -22,7 +22,7 @@ Outcome SetAlbumPricingViewController::setPricingButton() {
 }
 
 View SetAlbumPricingViewController::view() const {
-  View view{.title = "Set Pricing"};
+  View view{.title = "Set pricing"};
   const auto position = albumPosition(state(), albumId_);
   if (!position) {
     view.add(EmptyHint{.icon = "album", .text = "This album is no longer there."});
@@ -40,7 +40,7 @@ View SetAlbumPricingViewController::view() const {
                    " to make, and your share of what is left is " + percentage(album.percentageOfEarnings * 100) +
                    "."));
   view.mainAction = Button{.id = "setPricingButton",
-                           .label = "Set Price to " + price(albumPrices[option_]),
+                           .label = "Set price to " + price(albumPrices[option_]),
                            .style = Button::Style::primary};
   view.help =
       Help{.title = "Dear or cheap",

@@ -147,7 +147,7 @@ void SongDetailViewController::describeProduction(View& view, const Song& song) 
   }
   ways.items.push_back(wayTo("marketingButton", "megaphone", "Marketing", "Brings listeners once it is out",
                              withDecimals(song.marketingScore, 0)));
-  ways.items.push_back(wayTo("addToAlbumButton", "album", "Add to Album"));
+  ways.items.push_back(wayTo("addToAlbumButton", "album", "Add to album"));
   view.add(std::move(ways));
   view.mainAction =
       Button{.id = "releaseButton", .label = "RELEASE", .price = releaseCost, .style = Button::Style::primary};

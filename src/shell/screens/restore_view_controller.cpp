@@ -49,7 +49,7 @@ Outcome RestoreViewController::askAbout(const Snapshot& snapshot) {
   Outcome question = ask<"Restore?">(
       "\nYou go back to " + snapshot.told() + "." + keptAsideText(game_, SnapshotKind::restore, snapshot.name), "Close",
       {"Restore", {with(restoreVerb, snapshot.name), ""}, AlertButton::Style::destructive});
-  question.alerts.front().buttons.push_back({"Delete Copy", {with(askToDeleteVerb, snapshot.name), ""}});
+  question.alerts.front().buttons.push_back({"Delete copy", {with(askToDeleteVerb, snapshot.name), ""}});
   return question;
 }
 

@@ -26,9 +26,9 @@ Outcome CreateTwitterMessageViewController::chirpButton() {
 }
 
 View CreateTwitterMessageViewController::view() const {
-  View view{.title = "New Chirp", .picture = artistPicture(state()), .theme = Theme::chirp};
+  View view{.title = "New chirp", .picture = artistPicture(state()), .theme = Theme::chirp};
   view.add(TextField{.id = "message",
-                     .label = "Your Chirp",
+                     .label = "Your chirp",
                      .value = message_,
                      .placeholder = "What's happening?",
                      .multiline = true});

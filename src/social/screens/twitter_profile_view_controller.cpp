@@ -97,13 +97,13 @@ void TwitterProfileViewController::describeFeed(View& view) const {
   const int64_t last = feed_.last(total);
   if (first > 0) {
     const int64_t newer = std::max(first - ListWindow::pageSize, int64_t{0});
-    view.add(Button{.id = "feed:" + std::to_string(newer), .label = "Newer Chirps"});
+    view.add(Button{.id = "feed:" + std::to_string(newer), .label = "Newer chirps"});
   }
   for (int64_t i = first; i < last; ++i) {
     const Chirp& chirp = state().saveAllChirpList[order[static_cast<size_t>(i)]];
     view.add(describe(state(), chirp, game_.clock.now()));
   }
-  if (last < total) view.add(Button{.id = "feed:" + std::to_string(last), .label = "Older Chirps"});
+  if (last < total) view.add(Button{.id = "feed:" + std::to_string(last), .label = "Older chirps"});
 }
 
 }  // namespace backbeat

@@ -30,7 +30,7 @@ const Gig festivalInvite = {
     .name = "Festival Invite",
     .icon = "ticket",
     .headline = "A festival calls",
-    .promise = "They want fans by the ten thousand and recent songs.",
+    .promise = "They want listeners by the ten thousand and recent songs.",
     .price = {.energy = 50},
     .refusal = "\nYou do not have enough energy to think about performing at a festival.",
     .guard = lookAtFansAndSongs,

@@ -23,7 +23,7 @@ describe("the whole game", { skip: !existsSync(engine) && "the engine is not bui
     await press(page, /^Music/);
     await press(page, /^Create a Song/);
     await page.getByRole("textbox", { name: "Title" }).fill("Paper Lanterns 🏮");
-    await press(page, /^Create Song/);
+    await press(page, /^Create song/);
     await answerAlerts(page);
     await press(page, /Paper Lanterns/);
     await press(page, /^RELEASE/);

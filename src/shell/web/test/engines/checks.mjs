@@ -89,7 +89,7 @@ export function checkEngine(name, start) {
       assert.match(await b.run(() => document.activeElement.textContent), /Jazz/);
       await b.press("^Jazz", ".sheet");
       await b.until(() => !document.querySelector(".sheet[open]"));
-      await b.press("^Create Song");
+      await b.press("^Create song");
       await shown("MusicViewController");
     });
 
