@@ -1,5 +1,7 @@
 #include "play/worlds.h"
 
+#include <algorithm>
+
 #include "features/builders.h"
 #include "music/builders.h"
 #include "music/chart.h"
@@ -17,8 +19,8 @@ FeaturedOn agedVerse(const GameState& state, int64_t songId, const std::string& 
   return verse;
 }
 
-/// On everybody's track: a verse on the chart, one that fades, one that is hardly heard, one long silent, and one that
-/// nobody has heard yet. Two artists of the label may ask as well.
+/// On everybody's track: a verse on the chart, one that fades, one in its last week, one for an artist of the label,
+/// and one that nobody has heard yet. Two artists of the label may ask as well.
 void guest(GameState& state) {
   setDate(state, 190);
   furnishCareer(state, 3, 12);
@@ -32,7 +34,10 @@ void guest(GameState& state) {
   state.labelStreamingRate = 0.01;
   state.saveAllSignedArtistList.append(artistOfTheLabel(1, "Nell Okafor", 0.78));
   state.saveAllSignedArtistList.append(artistOfTheLabel(2, "Silas Crane", 0.65));
-  addVerse(state, agedVerse(state, 1, "Faded Motel", 90), 20, 600);
+  state.signedArtistId = 2;
+  FeaturedOn last = agedVerse(state, 1, "Faded Motel", 90);
+  last.productionRating = 90.5;
+  addVerse(state, std::move(last), 20, 600);
   addVerse(state, agedVerse(state, 2, "Velvet Letters", 30), 30, 9'000);
   FeaturedOn hit = agedVerse(state, 3, "Neon Carousel", 3);
   hit.productionRating = 96;

@@ -141,7 +141,7 @@ TEST(Billboard, ShowsTheChartByRankAndTheHistoryByWeeksAtOne) {
   EXPECT_EQ(rows()[0].value, "▼ 2");
   EXPECT_EQ(rows()[0].tone, Tone::bad);
   EXPECT_EQ(rows()[0].subtitle, "Juno\nPeak 2 · 1 week");
-  EXPECT_TRUE(rows()[0].id.empty()) << "somebody else's song";
+  EXPECT_EQ(screen.act({rows()[0].id, ""}).go->segue, "goToFeaturedOnDetail");
   EXPECT_EQ(rows()[1].value, "▲ 5");
   EXPECT_EQ(rows()[1].subtitle, "Mira\nfeat. Nova\nPeak 5 · 1 week");
   EXPECT_EQ(screen.act({rows()[1].id, ""}).go->argument, "12");

@@ -96,8 +96,9 @@ class ErrandRunner {
     return after.tab == tab && after.stack.size() == 1 && !after.modal && !after.alert;
   }
 
-  /// Fills in what a screen over the tabs asks for and presses its main button.
+  /// Closes a screen over the tabs, or fills in what it asks for and presses its main button.
   void leave(const Shown& shown, const std::vector<Pressable>& offered) {
+    if (const Pressable* close = wished({"closeButton"}, offered)) return press(*close, {});
     for (const Pressable& each : offered) {
       if (each.takes == Pressable::Takes::text) press(each, {});
     }

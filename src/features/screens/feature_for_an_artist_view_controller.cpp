@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "core/money.h"
 #include "core/numbers.h"
@@ -81,9 +82,10 @@ View FeatureForAnArtistViewController::view() const {
     view.totals = {{.label = "of the streams", .value = percent(offer_.royalty + pointsAsked_)},
                    {.label = "Chance", .value = percent(chance), .share = static_cast<double>(chance) / 100}};
   }
-  view.mainAction = Button{
-      .id = "negotiateButton", .label = "NEGOTIATE", .price = negotiateVerseCost, .style = Button::Style::primary};
+  view.mainAction = Button{.id = "negotiateButton", .label = "NEGOTIATE", .price = negotiateVerseCost};
   view.aside = Button{.id = "acceptButton", .label = "ACCEPT", .price = acceptVerseCost};
+  if (offer_.isSignedArtist) std::swap(view.mainAction, view.aside);  // the one that can be had stands first
+  view.mainAction->style = Button::Style::primary;
   view.help = Help{.title = "A verse for somebody else",
                    .text =
                        "The fee is paid at once. Your share of what the song streams comes week by week, for as many "

@@ -13,11 +13,7 @@ constexpr size_t weeksOnGraph = 156;
 constexpr size_t weeksInTable = 12;
 
 Cover headOf(const FeaturedOn& verse) {
-  Cover head{.picture = cover(verse.title),
-             .title = verse.title,
-             .text = verse.artistName,
-             .badge = verse.isExplicit >= 1 ? "E" : "",
-             .hook = verse.title + "|"};
+  Cover head{.picture = cover(verse.title), .title = verse.title, .text = verse.artistName, .hook = verse.title + "|"};
   if (verse.features.size() > 1) head.text += "\nfeat. " + verse.features[1];
   head.text += "\nReleased in " + std::to_string(verse.releaseYear);
   return head;
