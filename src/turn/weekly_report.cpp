@@ -5,6 +5,7 @@
 
 #include "career/ledger.h"
 #include "core/bands.h"
+#include "core/calendar.h"
 #include "social/chirps.h"
 
 namespace backbeat {
@@ -89,11 +90,6 @@ void settleLabel(GameState& state, WeeklyReport& report) {
 }
 
 }  // namespace
-
-CalendarWeek reportedWeek(const GameState& state) {
-  if (state.weekNumber - 1 == 0) return {52, state.yearNumber - 1};
-  return {state.weekNumber - 1, state.yearNumber};
-}
 
 bool anyWeekReported(const GameState& state) { return state.weekNumberForTracking > 1; }
 

@@ -42,9 +42,6 @@ struct WeeklyReport {
   int64_t merchUnits = 0;
 };
 
-/// The week before the one that the calendar shows; week 1 reports week 52 of the year before.
-CalendarWeek reportedWeek(const GameState& state);
-
 /// False in the very first week of a family, which has no week before it to tell of.
 bool anyWeekReported(const GameState& state);
 

@@ -84,7 +84,9 @@ Standings businessFigures(Game& twin) {
           {"Expenses", currency(-livingCosts(state)), "goToExpenseScreen"},
           {"Income Statement", currency(statement.ownWork + statement.label - statement.expenses), "goToBalanceSheet"},
           {"Income Statement: subtitle", "Week 35, without job pay"},
-          {"Net Worth", currency(fortune(state)), "goToNetWorth"}};
+          {"Net Worth", currency(fortune(state)), "goToNetWorth"},
+          {"Merch", currency(merchOf(state)), "goToMerch"},
+          {"Merch: subtitle", "3 products on the shelf"}};
 }
 
 Standings netWorthFigures(Game& twin) {
