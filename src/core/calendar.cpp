@@ -23,6 +23,11 @@ void rollCalendar(Game& game) {
   game.save(&GameState::yearNumber, &GameState::weekNumber, &GameState::totalEnergyMax);
 }
 
+CalendarWeek reportedWeek(const GameState& state) {
+  if (state.weekNumber - 1 == 0) return {weeksInYear, state.yearNumber - 1};
+  return {state.weekNumber - 1, state.yearNumber};
+}
+
 bool inFirstWeeks(const GameState& state) { return state.weekNumberForTracking <= 3; }
 
 void stateChanged(Game& game) {

@@ -9,6 +9,9 @@ namespace backbeat {
 /// Frees the leaderboard pass in weeks 10, 20, ... Runs whenever the header is shown anew, not only at a week's end.
 void rollCalendar(Game& game);
 
+/// The week before the one that the calendar shows; week 1 reports week 52 of the year before.
+CalendarWeek reportedWeek(const GameState& state);
+
 /// Whether the artist is so new that advice helps: the first three weeks of a first life.
 bool inFirstWeeks(const GameState& state);
 

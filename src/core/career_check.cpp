@@ -33,6 +33,7 @@ constexpr NamedBounds boundsOfScalars[] = {
     {"totalEnergyMax", {-1e9, 1e9}},
     {"permanentEnergyUpgrade", {0, 1e6}},
     {"totalFans", {0, 1e11}},
+    {"merchWebsiteTransactionFee", {-1e3, 1e3}},
 };
 
 constexpr NamedBounds boundsOfFields[] = {
@@ -55,6 +56,12 @@ constexpr NamedBounds boundsOfFields[] = {
     {"ticketPrice", {-1e8, 1e8}},
     {"seatsSold", {-1e10, 1e10}},
     {"seatCapacity", {-1e10, 1e10}},
+    {"popularity", {-1e3, 1e3}},
+    {"pricePerUnit", {-1e6, 1e6}},
+    {"totalCostPerUnit", {-1e6, 1e6}},
+    {"transactionFees", {-1e3, 1e3}},
+    {"startingInventory", {-1e9, 1e9}},
+    {"remainingInventory", {-1e9, 1e9}},
 };
 
 template <size_t count>

@@ -35,7 +35,7 @@ void addFirstProduct(const Game& game, std::vector<News>& news) {
 
 void addSoldOut(const Game& game, std::vector<News>& news) {
   const auto& products = game.state.saveAllMerchReleasedList;
-  const std::span<const MerchWeeklySales> sales = salesOfLastWeek(game.state);
+  const std::span<const MerchWeeklySales> sales = rowsOfWeek(game.state.saveAllMerchWeeklySales, game.turn.before.week);
   const auto soldOutNow = [&](const Merch& product) {
     return isSoldOut(product) && std::any_of(sales.begin(), sales.end(), [&](const MerchWeeklySales& row) {
              return row.merchId == product.merchId && row.unitsSold > 0;

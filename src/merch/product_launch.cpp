@@ -27,7 +27,7 @@ double meanRating(const std::vector<Song>& songs) {
 }
 
 double drawPopularity(Game& game, const ProductDraft& draft, const std::vector<Song>& songs) {
-  int64_t points = std::max(game.random.integer(0, game.state.virality), fewestPoints);
+  int64_t points = std::max(game.random.integer(0, std::max<int64_t>(game.state.virality, 0)), fewestPoints);
   if (draft.limitedEdition) points += pointsForLimited;
   // The dearer against its cost, the fewer.
   const double forPrice = pointsForPrice - 2 * (draft.pricing / draft.option->unitCost);

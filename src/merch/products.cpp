@@ -39,16 +39,10 @@ int64_t unitsStored(const GameState& state) {
   return units;
 }
 
-std::span<const MerchWeeklySales> salesOfLastWeek(const GameState& state) {
-  const auto& sales = state.saveAllMerchWeeklySales;
-  size_t begin = sales.size();
-  while (begin > 0 && sales[begin - 1].weekNumberForTracking == state.weekNumberForTracking - 1) --begin;
-  return sales.stretch(begin, sales.size());
-}
-
-double netOf(std::span<const MerchWeeklySales> sales) {
+double netSales(const GameState& state, CalendarWeek week) {
   double net = 0;
-  for (const MerchWeeklySales& row : sales) net += row.merchGross - row.merchTransactionFees;
+  for (const MerchWeeklySales& row : rowsOfWeek(state.saveAllMerchWeeklySales, week))
+    net += row.merchGross - row.merchTransactionFees;
   return net;
 }
 
@@ -125,13 +119,14 @@ Outcome askToRetire(Game& game, int64_t merchId, Action confirmed, std::optional
   pay(game, retireCost);
   stateChanged(game);
   offer = 0;
-  std::string message = "\n";
+  std::string message = "\nAre you sure you want to retire ";
   if (product.remainingInventory > 0) {
     offer = product.totalCostPerUnit * game.random.uniformDouble(0.10, 0.75);
-    message += "You received an offer for the remaining inventory:\n\nINVENTORY\n" +
-               withCommas(product.remainingInventory) + "\n\nPRICE PER UNIT\n" + price(*offer) + "\n\n";
+    message = "\nYou received an offer for the remaining inventory:\n\nINVENTORY\n" +
+              withCommas(product.remainingInventory) + "\n\nPRICE PER UNIT\n" + price(*offer) +
+              "\n\nAre you sure you want to retire ";
   }
-  return ask<"🗂 Retire Product 🗂">(message + "Are you sure you want to retire " + product.name, "No",
+  return ask<"🗂 Retire Product 🗂">(message + product.name, "No",
                                          {"Yes, Retire", std::move(confirmed), AlertButton::Style::destructive});
 }
 

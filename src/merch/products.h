@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <span>
 #include <string>
 
 #include "core/game.h"
@@ -20,10 +19,8 @@ int64_t activeProducts(const GameState& state);
 /// Units of them in the warehouse.
 int64_t unitsStored(const GameState& state);
 
-/// The rows of what was sold in the week before this one.
-std::span<const MerchWeeklySales> salesOfLastWeek(const GameState& state);
-/// Dollars, the website's fee taken off.
-double netOf(std::span<const MerchWeeklySales> sales);
+/// What was sold in a week, in dollars, the website's fee taken off.
+double netSales(const GameState& state, CalendarWeek week);
 
 /// Weeks to make so many units with the plan there is; from 20,000 on by whole ten thousands.
 int64_t weeksToManufacture(const GameState& state, int64_t units);

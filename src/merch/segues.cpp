@@ -1,5 +1,6 @@
 #include "merch/segues.h"
 
+#include "core/calendar.h"
 #include "core/money.h"
 #include "merch/news.h"
 #include "merch/product_launch.h"
@@ -33,7 +34,7 @@ void describeShop(const Game& game, Row& row) {
   const int64_t products = activeProducts(game.state);
   if (products == 0) return;
   row.subtitle = counted(products, "product") + " on the shelf";
-  row.value = currency(netOf(salesOfLastWeek(game.state)));
+  row.value = currency(netSales(game.state, reportedWeek(game.state)));
   row.note = "last week";
 }
 

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "career/ledger.h"
+#include "core/calendar.h"
 #include "core/week_rows.h"
 #include "live/festivals.h"
 #include "turn/weekly_report.h"

@@ -1,6 +1,7 @@
 #include "turn/segues.h"
 
 #include "career/ledger.h"
+#include "core/calendar.h"
 #include "core/money.h"
 #include "turn/income_statement.h"
 #include "turn/news.h"

@@ -5,6 +5,7 @@
 
 #include "career/ledger.h"
 #include "core/bands.h"
+#include "core/calendar.h"
 #include "label/office.h"
 #include "live/festivals.h"
 #include "social/chirps.h"

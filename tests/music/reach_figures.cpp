@@ -68,6 +68,23 @@ Standings certificationsFigures(Game& twin) {
          certificationFigures("Fever Line", songTitled(state, "Fever Line").totalListen, "Platinum", 150'000'150);
 }
 
+/// Of the shop, what the artist shows.
+Standings merchFigures(const GameState& state) {
+  Standings standings;
+  for (const Merch& product : state.saveAllMerchReleasedList) {
+    if (product.showOnSpotify < 1) continue;
+    const double share =
+        static_cast<double>(product.remainingInventory) / static_cast<double>(product.startingInventory);
+    standings.push_back(
+        {product.name, price(product.pricePerUnit), "goToAdminMerch " + std::to_string(product.merchId)});
+    standings.push_back({product.name + ": subtitle", withCommas(product.remainingInventory) + " units for sale"});
+    standings.push_back({product.name + ": note", "of " + withCommas(product.startingInventory)});
+    standings.push_back({product.name + ": badge", "Limited edition"});
+    standings.push_back({product.name + ": share", shareText(share)});
+  }
+  return standings;
+}
+
 Standings profileFigures(Game& twin) {
   const GameState& state = twin.state;
   Standings standings = {{"cover: text", withCommas(state.totalFans) + " monthly listeners"},
@@ -99,7 +116,7 @@ Standings profileFigures(Game& twin) {
     standings.push_back(
         {title + std::string(": subtitle"), abbreviated(static_cast<double>(video.totalViews)) + " views"});
   }
-  return standings;
+  return standings + merchFigures(state);
 }
 
 Standings listenerFigures(Game& twin) {

@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "career/ledger.h"
+#include "core/calendar.h"
 #include "core/money.h"
 #include "core/week_rows.h"
 #include "turn/income_statement.h"
-#include "turn/weekly_report.h"
 
 namespace backbeat {
 
@@ -69,7 +69,7 @@ std::string ledgerFault(const GameState& state) {
 }
 
 /// Whether the cash moved by what the income statement tells. The statement sums all streams though the best song alone
-/// is paid, and counts fees that were paid when they were agreed on.
+/// is paid, and counts fees that were paid when they were agreed on. Merchandise is paid at the sale and once more.
 std::string cashFault(const GameState& state, double cashBefore) {
   const IncomeStatement told = incomeStatement(state);
   double standingIncome = 0;
@@ -81,7 +81,7 @@ std::string cashFault(const GameState& state, double cashBefore) {
     mostStreams = std::max(mostStreams, row.songListens);
   }
   const double expected = cashBefore + told.income() - told.streams + bestSong - told.flatFees + standingIncome +
-                          state.weeklyJobIncome - told.expenses();
+                          state.weeklyJobIncome - told.expenses() + told.merch;
   if (!(std::abs(state.totalCashAvailable - expected) <= 1e-9 * std::abs(expected) + 0.01)) {
     return "the cash is " + currency(state.totalCashAvailable) + " where the week's records say " + currency(expected);
   }

@@ -86,6 +86,8 @@ class Reader {
       stands(choice.label, option.label);
       const std::string where = choice.label + ": " + option.label;
       stands(where + ": note", option.note);
+      stands(where + ": value", option.value);
+      for (const Fact& fact : option.facts) stands(where + ": " + fact.label, fact.value);
       price(where, option.price);
     }
   }

@@ -11,6 +11,9 @@ Standings homeFigures(Game& twin) {
   const GameState& state = twin.state;
   const std::vector<int64_t>& data = state.monthlyListenerData;
   const Chirp& chirp = state.saveAllChirpList[0];
+  const auto& products = state.saveAllMerchReleasedList;
+  const Merch& soldOut = products[products.find([](const Merch& product) { return product.name == "Static Tee"; })];
+  const double order = static_cast<double>(soldOut.startingInventory) * soldOut.totalCostPerUnit;
   return Standings{
              {"subtitle", state.myLabelName},
              {"Monthly listeners", withCommas(state.totalFans), "goToMonthlyListenerDetail"},
@@ -26,6 +29,9 @@ Standings homeFigures(Game& twin) {
              {"Vocals to level " + std::to_string(nextLevel(state, traits[0])), "", "goToMyMusic"},
              {"Vocals to level " + std::to_string(nextLevel(state, traits[0])) + ": subtitle",
               "Half of your music, for " + std::to_string(state.vocalRangeEnergyCost) + " energy"},
+             {"“Static Tee” is sold out", "", "goToAdminMerch 43"},
+             {"“Static Tee” is sold out: subtitle",
+              withCommas(soldOut.startingInventory) + " more cost " + currency(order)},
              {"100,000,000 listeners", withCommas(state.totalFans)},
              {"100,000,000 listeners: share", shareText(static_cast<double>(state.totalFans) / 100'000'000)},
              {"Energy", std::to_string(state.totalEnergyMax - standingEnergyCosts(state)), "goToEnergyTransparency"},

@@ -87,7 +87,9 @@ Standings businessFigures(Game& twin) {
           {"Net Worth", currency(fortune(state)), "goToNetWorth"},
           {"On Tour", "", "goToTourDetails"},
           {"MY LABEL", "", "goToLabelDetail"},
-          {"MY LABEL: subtitle", state.myLabelName}};
+          {"MY LABEL: subtitle", state.myLabelName},
+          {"Merch", currency(merchOf(state)), "goToMerch"},
+          {"Merch: subtitle", "3 products on the shelf"}};
 }
 
 Standings netWorthFigures(Game& twin) {

@@ -4,6 +4,7 @@
 
 #include "career/builders.h"
 #include "career/ledger.h"
+#include "core/calendar.h"
 #include "core/view_find.h"
 #include "support/world.h"
 #include "turn/screens/weekly_summary_view_controller.h"

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "core/calendar.h"
 #include "core/money.h"
 #include "core/view_words.h"
 #include "merch/catalogue.h"
@@ -72,7 +73,7 @@ Outcome MerchViewController::act(const Action& action) {
 
 View MerchViewController::view() const {
   View view{.title = "Merch", .theme = Theme::merch};
-  const double net = netOf(salesOfLastWeek(state()));
+  const double net = netSales(state(), reportedWeek(state()));
   view.add(
       Tiles{{{.label = "net last week", .value = currency(net), .tone = toneOfChange(net)},
              {.label = "product lines",

@@ -1,5 +1,6 @@
 #include "turn/screens/balance_sheet_view_controller.h"
 
+#include "core/calendar.h"
 #include "core/money.h"
 #include "core/view_words.h"
 #include "turn/income_statement.h"
