@@ -190,6 +190,7 @@ Standings departmentFigures(Game& twin) {
   const GameState& state = twin.state;
   const Employee& one = state.saveAllEmployeeList[code];
   const int64_t own = code == 2 ? studioRating(state) : 2 * (code == 0 ? state.businessTrait4 : state.businessTrait3);
+  const int64_t rating = (one.employeeRating + own) / 2;
   const std::string bonuses[] = {withDecimals(state.labelArtistHappinessBonus, 2),
                                  std::to_string(state.labelNegotiationBonus) + "%",
                                  std::to_string(state.labelViralityBoost)};
@@ -209,8 +210,8 @@ Standings departmentFigures(Game& twin) {
                                       std::to_string(one.employeeBurnRate) + " BURN/WK"},
                    {"card: value", std::to_string(one.employeeRating) + " rating"},
                    {"card: price", priceText({.energy = motivation})}} +
-         full("Department Rating", static_cast<double>((one.employeeRating + own) / 2)) +
-         full("Energy", one.employeeEnergy) + full("Happiness", one.employeeMorale);
+         full("Department Rating", static_cast<double>(rating)) + full("Energy", one.employeeEnergy) +
+         full("Happiness", one.employeeMorale);
 }
 
 std::string best(const GameState& state) {
