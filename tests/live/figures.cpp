@@ -55,8 +55,9 @@ Standings plannerFigures(Game& twin) {
     standings.push_back({where + ": share", shareText(std::min(venue.percent / 100, 1.0))});
   }
   const Venue ryman = venueIn(twin, tourLocations[25]);
-  const std::string left = std::to_string(state.totalEnergyMax - 5 - state.weeklyEnergyCost -
-                                          state.openLabelEnergyCost - state.merchEnergyCost - state.childEnergyCost);
+  const int64_t energyLeft = state.totalEnergyMax - 5 - state.weeklyEnergyCost - state.openLabelEnergyCost -
+                             state.merchEnergyCost - state.childEnergyCost;
+  const std::string left = std::to_string(energyLeft);
   return standings +
          Standings{{"subtitle", "Mara Voss | 2049"},
                    {"Tour title", "Mara Voss | 2049"},
@@ -66,7 +67,7 @@ Standings plannerFigures(Game& twin) {
                    {"Average ticket", price(ryman.ticket)},
                    {"Your label's cost of a ticket", price(ticketCost)},
                    {"Your label's share of the rest", "0%"},
-                   {"Tour Energy Left: ", left},
+                   {"Tour Energy Left: ", withCommas(energyLeft)},
                    {"Expected for you", currency(ryman.net)},
                    {"seats, 1 week", "2,500"},
                    {"avg ticket", price(ryman.ticket)},
@@ -164,6 +165,7 @@ Standings archiveFigures(Game& twin) {
   return standings + Standings{{"bill", next.festivalName},
                                {"bill: kicker", "Week 35, 2049"},
                                {"bill: text", withCommas(next.audience) + " expected"},
+                               {"text", "“" + next.topReview + "”"},
                                {"Your fee", currency(next.payment)}};
 }
 

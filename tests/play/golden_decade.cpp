@@ -45,6 +45,7 @@ void releaseSingle(Player& player) {
       std::find_if(songs.begin(), songs.end(), [](const Song& song) { return !song.isReleased && song.albumId == 0; });
   if (waiting == songs.end()) return;
   player.tab(musicTab);
+  player.press("kind", "0");
   player.press("song:" + std::to_string(waiting->songId));
   player.tryPress("boostProduction");
   player.press("releaseButton");

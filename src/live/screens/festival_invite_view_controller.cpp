@@ -71,7 +71,7 @@ Outcome FestivalInviteViewController::act(const Action& action) {
 Outcome FestivalInviteViewController::goToChooseSetList() { return goTo("goToChooseSetList"); }
 
 View FestivalInviteViewController::view() const {
-  View view{.theme = Theme::live};
+  View view{.title = "Festival Invite", .theme = Theme::live};
   view.add(billOf(state(), invitation_));
   view.add(Rows{{setListRow(state(), game_.launch.festivalSetList)}});
   view.add(caption("The papers judge by the songs you choose. The fee comes with the report of that week."));

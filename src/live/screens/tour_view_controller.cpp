@@ -43,7 +43,7 @@ Figures sumOf(const GameState& state, const TourTotals& totals) {
            .value = withDecimals(terms.cut * 100, 0) + "%",
            .amount = std::nearbyint(terms.cut * 100)},
           {.label = "Tour Energy Left: ",
-           .value = std::to_string(left),
+           .value = withCommas(left),
            .amount = static_cast<double>(left),
            .tone = left < 0 ? Tone::bad : Tone::plain}}};
   sum.total = Figure{.label = "Expected for you",

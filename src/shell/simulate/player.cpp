@@ -1,13 +1,16 @@
 #include "shell/simulate/player.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "core/view_find.h"
 #include "shell/native/view_printer.h"
 
 namespace backbeat {
 
 namespace {
 
+constexpr size_t songsOfSet = 6;
 constexpr int64_t newYear2023 = 1'672'660'800'000;  // unix milliseconds
 constexpr int64_t betweenPresses = 7'000;
 constexpr int mostReportPresses = 20;
@@ -66,6 +69,18 @@ void Player::settle() {
   }
 }
 
+void Player::playFestival() {
+  if (seen().screen != "FestivalInviteViewController") return;
+  press("goToChooseSetList");
+  std::vector<std::string> songs;  // the best come first
+  for (const Rows& rows : blocksOf<Rows>(view())) {
+    for (const Row& song : rows.items) songs.push_back(song.id);
+  }
+  for (size_t i = 0; i < std::min(songs.size(), songsOfSet); ++i) press(songs[i]);
+  press("closeButton");
+  press("acceptFestival");
+}
+
 void Player::endTheWeek(bool takesChances) {
   backToRoot();
   const int64_t week = state().weekNumberForTracking;
@@ -75,6 +90,7 @@ void Player::endTheWeek(bool takesChances) {
     if (!takesChances || !tryPress(chance)) continue;
     settle();
     if (tryPress("acceptButton")) settle();  // of an offer that the chance led to
+    playFestival();
   }
   for (int presses = 0; seen().modal; ++presses) {
     if (presses > mostReportPresses) return problems_.push_back("stuck on " + std::string(seen().screen));

@@ -48,6 +48,8 @@ class Player {
 
  private:
   void backToRoot();
+  /// Accepts an invitation to a festival, when one is on the glass, with the best songs.
+  void playFestival();
   void act(const std::string& screenKey, const Action& action);
 
   NullStore keepsNothing_;
