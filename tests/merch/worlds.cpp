@@ -41,7 +41,7 @@ void shop(GameState& state) {
   setDate(state, 200);
   furnishCareer(state, 18, 2);
   state.totalFans = 30'000'000;
-  state.totalCashAvailable = 60'000'000;
+  state.totalCashAvailable = 40'000'000;
   state.totalEnergyMax = 160;
   state.totalEnergyAvailable = 700;
   openShop(state, {.website = 2, .manufacturing = 2, .logistics = 2});
