@@ -41,7 +41,7 @@ void describeShop(const Game& game, Row& row) {
 constexpr MenuLine menu[] = {
     {.tab = businessTab,
      .section = "Shop",
-     .order = 210,
+     .order = 250,
      .icon = "shirt",
      .title = "Merch",
      .subtitle = "Shirts, vinyl and all that bears your name",

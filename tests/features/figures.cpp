@@ -26,6 +26,22 @@ Standings offerFigures(Game& twin) {
           {"ACCEPT: price", "10 energy"}};
 }
 
+void withoutArtists(Game& game) { game.state.saveAllSignedArtistList.clear(); }
+
+/// The coin falls on the label's own artist.
+Standings ownArtistsOfferFigures(Game& twin) {
+  const VerseOffer offer = drawVerseOffer(twin);
+  const std::string share = std::to_string(offer.royalty) + "%";
+  return {{"poster: text", offer.artistName + " (" + withDecimals(offer.rating, 0) +
+                               ") is interested in having you feature on their track - " + offer.title},
+          {"Of the streams", share},
+          {"Track rating", withDecimals(offer.trackRating, 1)},
+          {"Track rating: note", counted(static_cast<int64_t>(offer.trackRating) + 1, "week")},
+          {"Your share", share},
+          {"NEGOTIATE: price", "25 energy"},
+          {"ACCEPT: price", "10 energy"}};
+}
+
 Standings verseFigures(Game& twin) {
   const GameState& state = twin.state;
   const FeaturedOn& verse = state.saveAllFeaturedOnList[0];
@@ -55,7 +71,8 @@ Standings verseFigures(Game& twin) {
 
 std::vector<ScreenFigures> screens() {
   return {
-      {.segue = "goToFeatureForAnArtist", .figures = offerFigures},
+      {.segue = "goToFeatureForAnArtist", .figures = offerFigures, .before = withoutArtists},
+      {.segue = "goToFeatureForAnArtist", .figures = ownArtistsOfferFigures},
       {.segue = "goToFeaturedOnDetail", .argument = "8", .figures = verseFigures},
   };
 }

@@ -25,10 +25,6 @@ Standings homeFigures(Game& twin) {
              {"Best chart", rank(chartRowTitled(state, "Low Tide").peakPosition), "goToBillboard"},
              {"Best chart: note", "now " + rank(songTitled(state, "Glass Harbour").chartRanking)},
              {"“Night Bus” is finished", "", "goToSongDetail " + std::to_string(songTitled(state, "Night Bus").songId)},
-             {"“Glass Harbour” has no video", "", "goToCreateMusicVideo 15"},
-             {"Vocals to level " + std::to_string(nextLevel(state, traits[0])), "", "goToMyMusic"},
-             {"Vocals to level " + std::to_string(nextLevel(state, traits[0])) + ": subtitle",
-              "Half of your music, for " + std::to_string(state.vocalRangeEnergyCost) + " energy"},
              {"“Static Tee” is sold out", "", "goToAdminMerch 43"},
              {"“Static Tee” is sold out: subtitle",
               withCommas(soldOut.startingInventory) + " more cost " + currency(order)},
@@ -44,6 +40,13 @@ Standings homeFigures(Game& twin) {
              {"Label contract: subtitle", "6 EPs, 8 LPs and 41 songs in 37 weeks"},
              {"Settings", "", "goToSettings"}} +
          songFigures(state, "Paper Boats") + songFigures(state, "Glass Harbour") + songFigures(state, "Fever Line");
+}
+
+/// What stands there while nothing more urgent pushes it out.
+Standings skillFigures(const GameState& state) {
+  const std::string place = "Vocals to level " + std::to_string(nextLevel(state, traits[0]));
+  return {{place, "", "goToMyMusic"},
+          {place + ": subtitle", "Half of your music, for " + std::to_string(state.vocalRangeEnergyCost) + " energy"}};
 }
 
 /// In the week of a festival.
@@ -67,7 +70,7 @@ Standings offeredHomeFigures(Game& twin) {
 }
 
 Standings newYearHomeFigures(Game& twin) {
-  return homeFigures(twin) + Standings{{"Another year!", "", "exportCareer"}};
+  return homeFigures(twin) + skillFigures(twin.state) + Standings{{"Another year!", "", "exportCareer"}};
 }
 
 Standings dataFigures(Game&) {
@@ -76,7 +79,7 @@ Standings dataFigures(Game&) {
 
 std::vector<ScreenFigures> screens() {
   return {
-      {.segue = "home", .figures = festivalHomeFigures},
+      {.segue = "home", .figures = [](Game& twin) { return festivalHomeFigures(twin) + skillFigures(twin.state); }},
       {.segue = "home",
        .figures = offeredHomeFigures,
        .before =

@@ -319,7 +319,7 @@ class SqliteStore::Rows {
   std::pair<std::string_view, int32_t> place() const {
     return {bytesAt(rows_.get(), 0), sqlite3_column_int(rows_.get(), 1)};
   }
-  Value value() {
+  Value valueHere() {
     // One that comes twice, or too late, stands where another one stood.
     const std::pair<std::string, int32_t> here(place());
     const bool sound = sqlite3_column_int(rows_.get(), 3) != 0 && (!last_ || here > *last_);
@@ -341,7 +341,7 @@ bool SqliteStore::visitRows(const std::function<void(std::string_view, int32_t, 
   while (wholes.there() || chunks.there()) {
     Rows& next = !chunks.there() || (wholes.there() && wholes.place() < chunks.place()) ? wholes : chunks;
     const auto [key, number] = next.place();
-    visit(key, number, next.value());
+    visit(key, number, next.valueHere());
     next.next();
   }
   return wholes.atEnd() && chunks.atEnd();
