@@ -1,6 +1,7 @@
 #include "core/chunked_list.h"
 
 #include <algorithm>
+#include <bit>
 #include <numeric>
 
 namespace backbeat {
@@ -16,6 +17,13 @@ bool isPermutation(const std::vector<uint32_t>& slots, size_t size) {
   }
   return slots.size() == size;
 }
+
+/// What a list is sorted by: a number of a record, and where it stands.
+template <class Number>
+struct SortEntry {
+  Number key;
+  uint32_t position;
+};
 
 template <class Entry>
 bool before(const Entry& a, const Entry& b) {
@@ -53,16 +61,35 @@ std::vector<Entry> takeMisfits(std::vector<Entry>& order) {
 }
 
 /// Merges the second of two sorted ranges into the first. What stands behind each of the few moves up in one block.
-template <class Entry>
-void mergeInto(std::vector<Entry>& order, const std::vector<Entry>& few) {
+template <class Entry, class Before>
+void mergeInto(std::vector<Entry>& order, const std::vector<Entry>& few, const Before& isBefore) {
   auto end = order.insert(order.end(), few.begin(), few.end());
   auto free = order.end();
   for (auto next = few.rbegin(); next != few.rend(); ++next) {
-    const auto place = std::upper_bound(order.begin(), end, *next, before<Entry>);
+    const auto place = std::upper_bound(order.begin(), end, *next, isBefore);
     free = std::move_backward(place, end, free);
     *--free = *next;
     end = place;
   }
+}
+
+/// A record got another key.
+void moveIn(std::unordered_map<int64_t, std::vector<uint32_t>>& index, uint32_t record, int64_t from, int64_t to) {
+  std::erase(index[from], record);
+  if (index[from].empty()) index.erase(from);
+  std::vector<uint32_t>& records = index[to];
+  records.insert(std::upper_bound(records.begin(), records.end(), record), record);
+}
+
+/// Takes out what stands at these positions, which ascend.
+void eraseAt(std::vector<uint32_t>& order, const std::vector<uint32_t>& positions) {
+  if (positions.empty()) return;
+  auto kept = order.begin() + positions.front();
+  for (size_t i = 0; i < positions.size(); ++i) {
+    const auto next = i + 1 < positions.size() ? order.begin() + positions[i + 1] : order.end();
+    kept = std::move(order.begin() + positions[i] + 1, next, kept);
+  }
+  order.erase(kept, order.end());
 }
 
 }  // namespace
@@ -71,7 +98,8 @@ ChunkedList& ChunkedList::operator=(ChunkedList other) {
   if (hasSlots() && other.hasSlots()) {
     records_ = std::move(other.records_);
     slots_ = std::move(other.slots_);
-    rebuildHistory();
+    rebuildIndexes();
+    forgetOrderAndSleep();
     forgetChanges();
     markAll();
     return *this;
@@ -95,14 +123,38 @@ bool ChunkedList::holdsSame(const ChunkedList& other) const {
   return true;
 }
 
-std::span<const uint32_t> ChunkedList::historyOf(int64_t id) const {
-  const auto found = history_.find(id);
-  if (found == history_.end()) return {};
-  if (!hasSlots()) return found->second;
+std::span<const uint32_t> ChunkedList::found(const Index& index, int64_t id) const {
+  const auto known = index.find(id);
+  if (known == index.end()) return {};
+  if (!hasSlots()) return known->second;
   found_.clear();
-  for (const uint32_t slot : found->second) found_.push_back(static_cast<uint32_t>(positionOfSlot(slot)));
+  for (const uint32_t slot : known->second) found_.push_back(static_cast<uint32_t>(positionOfSlot(slot)));
   std::sort(found_.begin(), found_.end());
   return found_;
+}
+
+std::vector<uint32_t> ChunkedList::awake() const {
+  std::vector<uint32_t> positions(awake_ ? 0 : size());
+  std::iota(positions.begin(), positions.end(), 0u);
+  if (!awake_) return positions;
+  // Put in order by marking, a bit a record: quicker than comparing, and asked for many times a turn.
+  std::vector<uint64_t> marks(size() / 64 + 1);
+  for (const uint32_t index : awake_->all()) {
+    const size_t position = hasSlots() ? positionOfSlot(index) : index;
+    marks[position / 64] |= uint64_t{1} << position % 64;
+  }
+  positions.reserve(awake_->all().size());
+  for (size_t word = 0; word < marks.size(); ++word) {
+    for (uint64_t rest = marks[word]; rest != 0; rest &= rest - 1) {
+      positions.push_back(static_cast<uint32_t>(word * 64 + static_cast<size_t>(std::countr_zero(rest))));
+    }
+  }
+  return positions;
+}
+
+void ChunkedList::keepAwake(std::span<const uint32_t> positions) {
+  awake_.emplace();
+  for (const uint32_t position : positions) awake_->add(static_cast<uint32_t>(indexOf(position)));
 }
 
 void ChunkedList::clear() { assign(RecordBuffer(type())); }
@@ -111,7 +163,8 @@ void ChunkedList::assign(RecordBuffer records) {
   records_ = std::move(records);
   slots_.resize(hasSlots() ? size() : 0);
   std::iota(slots_.begin(), slots_.end(), 0u);
-  rebuildHistory();
+  rebuildIndexes();
+  forgetOrderAndSleep();
   forgetChanges();
   markAll();
 }
@@ -119,9 +172,10 @@ void ChunkedList::assign(RecordBuffer records) {
 void ChunkedList::add(void* record) {
   const auto index = static_cast<uint32_t>(size());
   records_.insert(index, record);
-  if (hasHistory()) history_[historyKeyAt(index)].push_back(index);
+  noteNew(index);
   if (hasSlots()) {
     slots_.push_back(index);
+    if (positions_.size() == index) positions_.push_back(index);
     // Behind the stored order stands what came since; only the first record needs one.
     if (index == 0) orderChanged_ = true;
   }
@@ -131,11 +185,16 @@ void ChunkedList::add(void* record) {
 void ChunkedList::addFront(void* record) {
   records_.insert(hasSlots() ? size() : 0, record);
   if (hasSlots()) {
-    slots_.insert(slots_.begin(), static_cast<uint32_t>(size() - 1));
+    const auto index = static_cast<uint32_t>(size() - 1);
+    slots_.insert(slots_.begin(), index);
     orderChanged_ = true;
+    noteNew(index);
+    ++rewrites_;
+  } else {
+    rebuildIndexes();
+    forgetOrderAndSleep();
   }
   layout_.order == Order::back ? markAll() : markRecord(0);
-  rebuildHistory();
 }
 
 void ChunkedList::eraseAll(std::vector<uint32_t> positions) {
@@ -147,7 +206,8 @@ void ChunkedList::eraseAll(std::vector<uint32_t> positions) {
     records_.erase(positions);
     markGone(positions.front(), positions.back(), before);
   }
-  rebuildHistory();
+  rebuildIndexes();
+  forgetOrderAndSleep();
 }
 
 void ChunkedList::eraseSlots(const std::vector<uint32_t>& positions) {
@@ -168,11 +228,11 @@ void ChunkedList::eraseSlots(const std::vector<uint32_t>& positions) {
 // moves, from slot to slot.
 std::vector<std::pair<uint32_t, uint32_t>> ChunkedList::closeSlots(const std::vector<uint32_t>& freeSlots) {
   std::vector<std::pair<uint32_t, uint32_t>> moves;
-  for (const uint32_t slot : freeSlots) mark(slot / layout_.chunkSize);
+  for (const uint32_t slot : freeSlots) changed_.add(slot / layout_.chunkSize);
   auto next = freeSlots.begin();
   for (uint32_t& slot : slots_) {
     if (slot < slots_.size()) continue;
-    mark(slot / layout_.chunkSize);
+    changed_.add(slot / layout_.chunkSize);
     while (*next >= slots_.size()) ++next;
     moves.emplace_back(slot, *next);
     slot = *next++;
@@ -182,23 +242,63 @@ std::vector<std::pair<uint32_t, uint32_t>> ChunkedList::closeSlots(const std::ve
   return moves;
 }
 
-void ChunkedList::sortBy(std::vector<SortEntry<int64_t>> order) { sortByKeys(std::move(order)); }
-void ChunkedList::sortBy(std::vector<SortEntry<double>> order) { sortByKeys(std::move(order)); }
+void ChunkedList::sortBy(SortKey key) {
+  if (key != sortedBy_) {
+    sortedBy_ = {};
+    unsorted_.clear();
+  }
+  key.isReal ? sortByNumber<double>(key.offset) : sortByNumber<int64_t>(key.offset);
+  if (hasSlots()) sortedBy_ = key;
+  unsorted_.clear();
+}
 
-template <class Key>
-void ChunkedList::sortByKeys(std::vector<SortEntry<Key>> order) {
-  std::vector<SortEntry<Key>> misfits = takeMisfits(order);
-  if (misfits.empty()) return;
-  std::sort(misfits.begin(), misfits.end(), before<SortEntry<Key>>);
-  mergeInto(order, misfits);
+template <class Number>
+void ChunkedList::sortByNumber(size_t offset) {
+  const bool isKnown = sortedBy_.offset == offset;
+  const std::vector<uint32_t> order = isKnown ? orderOfChanged<Number>(offset) : wholeOrder<Number>(offset);
+  if (!std::is_sorted(order.begin(), order.end())) reorder(order);
+}
+
+// Quick when few records are out of order, however long the list.
+template <class Number>
+std::vector<uint32_t> ChunkedList::wholeOrder(size_t offset) const {
+  std::vector<SortEntry<Number>> order(size());
+  for (uint32_t i = 0; i < order.size(); ++i) order[i] = {numberAt<Number>(offset, indexOf(i)), i};
+  std::vector<SortEntry<Number>> misfits = takeMisfits(order);
+  std::sort(misfits.begin(), misfits.end(), before<SortEntry<Number>>);
+  mergeInto(order, misfits, before<SortEntry<Number>>);
+  std::vector<uint32_t> positions(order.size());
+  std::transform(order.begin(), order.end(), positions.begin(), [](const auto& entry) { return entry.position; });
+  return positions;
+}
+
+// Takes the changed records out of the order, and puts each back in its place.
+template <class Number>
+std::vector<uint32_t> ChunkedList::orderOfChanged(size_t offset) const {
+  std::vector<uint32_t> changed;
+  for (const uint32_t slot : unsorted_.all()) changed.push_back(static_cast<uint32_t>(positionOfSlot(slot)));
+  std::sort(changed.begin(), changed.end());
+  std::vector<uint32_t> order(size());
+  std::iota(order.begin(), order.end(), 0u);
+  eraseAt(order, changed);
+  const auto entry = [&](uint32_t i) { return SortEntry<Number>{numberAt<Number>(offset, slots_[i]), i}; };
+  const auto isBefore = [&](uint32_t a, uint32_t b) { return before(entry(a), entry(b)); };
+  std::sort(changed.begin(), changed.end(), isBefore);
+  mergeInto(order, changed, isBefore);
+  return order;
+}
+
+void ChunkedList::reorder(const std::vector<uint32_t>& order) {
   std::vector<uint32_t> moved(order.size());
-  for (size_t i = 0; i < moved.size(); ++i) moved[i] = static_cast<uint32_t>(indexOf(order[i].position));
+  for (size_t i = 0; i < moved.size(); ++i) moved[i] = static_cast<uint32_t>(indexOf(order[i]));
+  ++rewrites_;
   if (hasSlots()) {
     slots_ = std::move(moved);
     orderChanged_ = true;
   } else {
     records_.reorder(moved);
-    rebuildHistory();
+    rebuildIndexes();
+    forgetOrderAndSleep();
     markAll();
   }
 }
@@ -233,20 +333,20 @@ bool ChunkedList::restore(RecordBuffer places, std::vector<uint32_t> slots) {
     places.reorder(backwards);
   }
   records_ = std::move(places);
-  rebuildHistory();
+  rebuildIndexes();
+  forgetOrderAndSleep();
   forgetChanges();
   return true;
 }
 
 void ChunkedList::forgetChanges() {
-  for (const uint32_t number : changed_) isChanged_[number] = false;
   changed_.clear();
   orderChanged_ = false;
   shrunk_ = false;
 }
 
 void ChunkedList::markAll() {
-  for (uint32_t number = 0; number < chunkCount(); ++number) mark(number);
+  for (uint32_t number = 0; number < chunkCount(); ++number) changed_.add(number);
   orderChanged_ = hasSlots();
   shrunk_ = true;
 }
@@ -261,18 +361,11 @@ size_t ChunkedList::positionOfSlot(uint32_t slot) const {
   return positions_[slot];
 }
 
-void ChunkedList::mark(uint32_t number) {
-  if (number >= isChanged_.size()) isChanged_.resize(number + 1);
-  if (isChanged_[number]) return;
-  isChanged_[number] = true;
-  changed_.push_back(number);
-}
-
 void ChunkedList::markRecord(size_t position) {
   switch (layout_.order) {
-    case Order::back: return mark(static_cast<uint32_t>(position / layout_.chunkSize));
-    case Order::front: return mark(static_cast<uint32_t>((size() - 1 - position) / layout_.chunkSize));
-    case Order::slots: return mark(slots_[position] / layout_.chunkSize);
+    case Order::back: return changed_.add(static_cast<uint32_t>(position / layout_.chunkSize));
+    case Order::front: return changed_.add(static_cast<uint32_t>((size() - 1 - position) / layout_.chunkSize));
+    case Order::slots: return changed_.add(slots_[position] / layout_.chunkSize);
   }
 }
 
@@ -281,19 +374,59 @@ void ChunkedList::markGone(size_t first, size_t last, size_t before) {
   shrunk_ = true;
   const size_t firstPlace = layout_.order == Order::front ? before - 1 - last : first;
   for (auto number = static_cast<uint32_t>(firstPlace / layout_.chunkSize); number < chunkCount(); ++number) {
-    mark(number);
+    changed_.add(number);
   }
 }
 
-int64_t ChunkedList::historyKeyAt(size_t index) const {
-  return *reinterpret_cast<const int64_t*>(static_cast<const char*>(records_.recordAt(index)) + type().historyKey);
+template <class Number>
+Number ChunkedList::numberAt(size_t offset, size_t index) const {
+  return *reinterpret_cast<const Number*>(static_cast<const char*>(records_.recordAt(index)) + offset);
 }
 
-// The index of a list with slots holds slots: they stay when the list is sorted.
-void ChunkedList::rebuildHistory() {
-  if (!hasHistory()) return;
-  history_.clear();
-  for (uint32_t i = 0; i < size(); ++i) history_[historyKeyAt(i)].push_back(i);
+ChunkedList::Keys ChunkedList::keysAt(size_t position) const {
+  Keys keys;
+  if (type().historyKey != noKey) keys.history = numberAt<int64_t>(type().historyKey, indexOf(position));
+  if (type().groupKey != noKey) keys.group = numberAt<int64_t>(type().groupKey, indexOf(position));
+  return keys;
+}
+
+// A new record at `index`, the last of the buffer.
+void ChunkedList::noteNew(size_t index) {
+  const auto number = static_cast<uint32_t>(index);
+  if (type().historyKey != noKey) history_[numberAt<int64_t>(type().historyKey, index)].push_back(number);
+  if (type().groupKey != noKey) groups_[numberAt<int64_t>(type().groupKey, index)].push_back(number);
+  if (awake_) awake_->add(number);
+  if (sortedBy_.offset != noKey) unsorted_.add(number);
+}
+
+void ChunkedList::noteChange(size_t position, Keys before) {
+  const auto index = static_cast<uint32_t>(indexOf(position));
+  const Keys keys = keysAt(position);
+  if (keys.history != before.history) moveIn(history_, index, before.history, keys.history);
+  if (keys.group != before.group) moveIn(groups_, index, before.group, keys.group);
+  if (awake_) awake_->add(index);
+  if (sortedBy_.offset != noKey) unsorted_.add(index);
+  ++rewrites_;
+  markRecord(position);
+}
+
+// When the records got other indices.
+void ChunkedList::forgetOrderAndSleep() {
+  awake_.reset();
+  sortedBy_ = {};
+  unsorted_.clear();
+  ++rewrites_;
+}
+
+// The indexes of a list with slots hold slots: they stay when the list is sorted.
+void ChunkedList::rebuildIndexes() {
+  const auto rebuild = [&](Index& index, size_t key) {
+    if (key == noKey) return;
+    index.clear();
+    for (uint32_t i = 0; i < size(); ++i) index[numberAt<int64_t>(key, i)].push_back(i);
+  };
+  rebuild(history_, type().historyKey);
+  rebuild(groups_, type().groupKey);
 }
 
 }  // namespace backbeat

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <unordered_map>
 #include <utility>
@@ -19,6 +20,26 @@ struct ListLayout {
   enum class Order { back, front, slots } order = Order::back;
   ///< back: chunks count from the start. front: the list grows at its head, chunks count from the end.
   ///< slots: the list is sorted in place; each record keeps a stable slot, and the order is a row of its own.
+};
+
+/// Whole numbers that came up, each once, in no order.
+class NumberSet {
+ public:
+  const std::vector<uint32_t>& all() const { return numbers_; }
+  void add(uint32_t number) {
+    if (number >= isIn_.size()) isIn_.resize(number + 1);
+    if (isIn_[number]) return;
+    isIn_[number] = true;
+    numbers_.push_back(number);
+  }
+  void clear() {
+    for (const uint32_t number : numbers_) isIn_[number] = false;
+    numbers_.clear();
+  }
+
+ private:
+  std::vector<bool> isIn_;
+  std::vector<uint32_t> numbers_;
 };
 
 class ChunkedList {
@@ -44,7 +65,17 @@ class ChunkedList {
 
   /// Positions of the records whose history key is `id`, in list order. Good until records come, go or move, and until
   /// the next call.
-  std::span<const uint32_t> historyOf(int64_t id) const;
+  std::span<const uint32_t> historyOf(int64_t id) const { return found(history_, id); }
+  /// The same for the records whose group key is `id`.
+  std::span<const uint32_t> groupOf(int64_t id) const { return found(groups_, id); }
+
+  /// Positions, ascending, of the records that are not asleep. A record is let sleep by a rule that knows that nothing
+  /// of a turn moves or counts it any more; it wakes when it changes. Nobody sleeps in a list that was loaded or lost
+  /// records, so that a rule has to ask of an awake one whatever it asked before.
+  std::vector<uint32_t> awake() const;
+
+  /// Grows with every change that is no append: while it stays, the first so many records are what they were.
+  uint64_t rewrites() const { return rewrites_; }
 
   void erase(size_t position) { eraseAll({static_cast<uint32_t>(position)}); }
   void clear();
@@ -65,7 +96,7 @@ class ChunkedList {
   bool restore(RecordBuffer places, std::vector<uint32_t> slots);
 
   /// Each once, in no order; some may lie past the last chunk, when the list got shorter.
-  const std::vector<uint32_t>& changedChunks() const { return changed_; }
+  const std::vector<uint32_t>& changedChunks() const { return changed_.all(); }
   bool orderChanged() const { return orderChanged_; }
   bool shrunk() const { return shrunk_; }
   void forgetChanges();
@@ -83,39 +114,64 @@ class ChunkedList {
   void addFront(void* record);
   /// Removes the records at these positions, which ascend.
   void eraseAll(std::vector<uint32_t> positions);
-  void markRecord(size_t position);
-  void rebuildHistory();
 
-  /// What a list is sorted by: the key of a record, and where it stands.
-  template <class Key>
-  struct SortEntry {
-    Key key;
-    uint32_t position;
+  /// The numbers by which a record is found.
+  struct Keys {
+    int64_t history = 0;
+    int64_t group = 0;
   };
+  Keys keysAt(size_t position) const;
+  /// After a record was changed in place that had those keys.
+  void noteChange(size_t position, Keys before);
 
-  /// Stable sort by the keys, greatest first. Quick when few records are out of order, however long the list.
-  void sortBy(std::vector<SortEntry<int64_t>> order);
-  void sortBy(std::vector<SortEntry<double>> order);
+  /// Only these records, at positions that ascend, stay awake.
+  void keepAwake(std::span<const uint32_t> positions);
+
+  /// A number of the records, by the bytes from their beginning to it.
+  struct SortKey {
+    size_t offset = noKey;
+    bool isReal = false;  ///< a double, else an int64_t
+    friend bool operator==(const SortKey&, const SortKey&) = default;
+  };
+  /// Stable sort, greatest first. In a list with slots that was sorted so before, only what changed since is looked at.
+  void sortBy(SortKey key);
 
  private:
-  template <class Key>
-  void sortByKeys(std::vector<SortEntry<Key>> order);
+  using Index = std::unordered_map<int64_t, std::vector<uint32_t>>;
+
+  template <class Number>
+  void sortByNumber(size_t offset);
+  template <class Number>
+  std::vector<uint32_t> wholeOrder(size_t offset) const;
+  template <class Number>
+  std::vector<uint32_t> orderOfChanged(size_t offset) const;
+  void reorder(const std::vector<uint32_t>& order);
+  template <class Number>
+  Number numberAt(size_t offset, size_t index) const;
+
+  std::span<const uint32_t> found(const Index& index, int64_t id) const;
+  void rebuildIndexes();
+  void markRecord(size_t position);
+  void noteNew(size_t index);
+  void forgetOrderAndSleep();
   void eraseSlots(const std::vector<uint32_t>& positions);
   std::vector<std::pair<uint32_t, uint32_t>> closeSlots(const std::vector<uint32_t>& freeSlots);
   size_t positionOfSlot(uint32_t slot) const;
   void mark(uint32_t number);
   void markGone(size_t first, size_t last, size_t before);
-  int64_t historyKeyAt(size_t index) const;
-  bool hasHistory() const { return type().historyKey != noHistoryKey; }
 
   ListLayout layout_;
   RecordBuffer records_;
-  std::vector<uint32_t> slots_;                                 // slot of the record at each position
-  std::unordered_map<int64_t, std::vector<uint32_t>> history_;  // indices into records_ by their key
-  mutable std::vector<uint32_t> found_;                         // the last answer of historyOf
-  mutable std::vector<uint32_t> positions_;                     // of each slot, made when asked for
-  std::vector<bool> isChanged_;
-  std::vector<uint32_t> changed_;
+  std::vector<uint32_t> slots_;              // slot of the record at each position
+  Index history_;                            // indices into records_ by their key
+  Index groups_;                             // the same
+  mutable std::vector<uint32_t> found_;      // the last answer of historyOf or groupOf
+  mutable std::vector<uint32_t> positions_;  // of each slot, made when asked for
+  std::optional<NumberSet> awake_;           // indices into records_; nothing while nobody sleeps
+  SortKey sortedBy_;                         // by which the list is in order, but for `unsorted_`
+  NumberSet unsorted_;                       // indices into records_
+  uint64_t rewrites_ = 0;
+  NumberSet changed_;  // chunks
   bool orderChanged_ = false;
   bool shrunk_ = false;
 };

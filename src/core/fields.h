@@ -35,6 +35,10 @@ constexpr void forEachField(Visit&& visit) {
 template <class T>
 inline constexpr int64_t T::*historyKeyOf = nullptr;
 
+/// The member that records which belong together share, by which a list finds them; specialised likewise.
+template <class T>
+inline constexpr int64_t T::*groupKeyOf = nullptr;
+
 template <class T>
 inline constexpr size_t fieldCount = fieldsOf<T>([](const auto&... field) { return sizeof...(field); });
 

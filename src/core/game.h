@@ -17,7 +17,18 @@
 
 namespace backbeat {
 
-/// How the career stands before a turn: the songs that still live, the albums, and what the news compares.
+/// The weeks of streams that stand in the records.
+struct StreamWeeks {
+  CalendarWeek latest;
+  int64_t streams = 0;      ///< of the latest
+  double dollars = 0;       ///< of its best song, which alone is paid
+  int64_t bestStreams = 0;  ///< of those before it
+  double bestDollars = 0;
+  int64_t count = 0;
+};
+
+/// How the career stands before a turn: the songs that still live, the albums that a turn may move, and what the news
+/// compares.
 struct MilestoneSnapshot {
   struct SongStanding {
     int64_t songId = 0;
@@ -31,7 +42,7 @@ struct MilestoneSnapshot {
     int64_t tier = 0;
   };
   std::vector<SongStanding> songs;    ///< in the order of the list then
-  std::vector<AlbumStanding> albums;  ///< all, in the order of the list, which no turn changes
+  std::vector<AlbumStanding> albums;  ///< in the order of the list
   CalendarWeek week;
   int64_t absoluteWeek = 0;  ///< 0 when no turn has run in this launch
   double cash = 0;           ///< dollars
@@ -40,7 +51,10 @@ struct MilestoneSnapshot {
   bool allListenersKnown = false;  ///< no week of the artist is older than those
   int64_t followers = 0;
   int64_t jobWeeks = 0;  ///< that the job's contract still runs
-  int64_t bestRank = 0;  ///< on the chart, of any own song ever; 0 when none charted
+  StreamWeeks streamWeeks;
+  // Of everything ever made; only while the lists hold it whole (`historyIsWhole`), since nothing is a first
+  // afterwards.
+  int64_t bestRank = 0;  ///< on the chart, of any own song; 0 when none charted
   int64_t bestSongTier = 0;
   int64_t bestAlbumTier = 0;
   bool wasStreamed = false;
@@ -92,6 +106,7 @@ struct Launch {
   int64_t exportedInYear = 0;                        ///< the year of the last export
   std::vector<int64_t> venueDemand;                  ///< the luck of each venue, in the order of their table
   std::vector<int64_t> festivalSetList;              ///< songs picked for the festival on the table
+  RunningTally<StreamWeeks> streamWeeks;
 };
 
 struct Room;

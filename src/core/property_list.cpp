@@ -195,12 +195,19 @@ PropertyListWriter::Ref PropertyListWriter::text(std::string_view utf8) {
   size_t place = static_cast<size_t>(hash) & last;
   for (; texts_[place].round == round_; place = (place + 1) & last) {
     const KnownText& known = texts_[place];
-    if (known.hash == hash && std::string_view(textBytes_).substr(known.start, known.size) == utf8) return known.ref;
+    const std::string_view bytes = known.isAscii ? scalars_ : textBytes_;
+    if (known.hash == hash && bytes.substr(known.start, known.size) == utf8) return known.ref;
   }
   const Ref ref = newScalar();
-  texts_[place] = {hash, textBytes_.size(), utf8.size(), round_, ref};
-  textBytes_.append(utf8);
-  putText(utf8);
+  texts_[place] = {hash, textBytes_.size(), utf8.size(), round_, isAscii(utf8), ref};
+  if (texts_[place].isAscii) {
+    putMarker(asciiText, utf8.size());
+    texts_[place].start = scalarsSize_;
+    putBytes(utf8);
+  } else {
+    textBytes_.append(utf8);
+    putUtf16(utf8);
+  }
   if (++textCount_ * 2 > texts_.size()) growTexts();
   return ref;
 }
@@ -220,12 +227,6 @@ void PropertyListWriter::growTexts() {
 void PropertyListWriter::putMarker(uint8_t kind, size_t count) {
   char* const out = scalarBytes(10);
   scalarsSize_ += static_cast<size_t>(writeMarker(out, kind, count) - out);
-}
-
-void PropertyListWriter::putText(std::string_view utf8) {
-  if (!isAscii(utf8)) return putUtf16(utf8);
-  putMarker(asciiText, utf8.size());
-  putBytes(utf8);
 }
 
 void PropertyListWriter::putBytes(std::string_view bytes) {

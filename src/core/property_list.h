@@ -43,6 +43,7 @@ class PropertyListWriter {
   };
   Room room(size_t count);
   void put(Room room, size_t i, Ref ref) { refs_[room.first + i] = ref; }
+  Ref at(Room room, size_t i) const { return refs_[room.first + i]; }
   Ref closeArray(Room items);
   Ref closeDictionary(Room keys, Room values);  ///< as many values as keys
 
@@ -64,9 +65,10 @@ class PropertyListWriter {
   };
   struct KnownText {
     uint64_t hash;
-    size_t start;  // of its UTF-8 in textBytes_
+    size_t start;  // of its UTF-8, in scalars_ when it is ASCII and so stands there as it is, else in textBytes_
     size_t size;
     uint32_t round;
+    bool isAscii;
     Ref ref;
   };
 
@@ -78,7 +80,6 @@ class PropertyListWriter {
   void growNumbers();
   void growTexts();
   void putMarker(uint8_t kind, size_t count);
-  void putText(std::string_view utf8);
   void putBytes(std::string_view bytes);
   void putUtf16(std::string_view utf8);
   size_t containerBytes(size_t refSize) const;

@@ -1,6 +1,7 @@
 #include "core/record_codec.h"
 
 #include <bitset>
+#include <cstring>
 #include <utility>
 
 namespace backbeat {
@@ -33,6 +34,21 @@ const T& as(const void* value) {
 const void* at(const void* first, size_t bytes) { return static_cast<const char*>(first) + bytes; }
 void* at(void* first, size_t bytes) { return static_cast<char*>(first) + bytes; }
 
+/// Whether two values are written as one object.
+bool isSameObject(Kind kind, const void* a, const void* b) {
+  switch (kind) {
+    case Kind::flag: return as<bool>(a) == as<bool>(b);
+    case Kind::integer: return as<int64_t>(a) == as<int64_t>(b);
+    case Kind::real:
+    case Kind::date: return std::memcmp(a, b, sizeof(double)) == 0;  // bit for bit: there are two zeros
+    case Kind::text: return as<std::string>(a) == as<std::string>(b);
+    case Kind::texts:
+    case Kind::list:
+    case Kind::record: break;
+  }
+  return false;
+}
+
 template <class T>
 bool take(std::optional<T> found, void* out) {
   if (found) *static_cast<T*>(out) = std::move(*found);
@@ -52,7 +68,8 @@ RecordEncoder::Ref RecordEncoder::value(const ValueType& type, const void* from)
     case Kind::list: return list(type, from);
     case Kind::record: break;
   }
-  return record(type, keysOf(type), from);
+  Before nothing;
+  return record(type, keysOf(type), from, nothing);
 }
 
 RecordEncoder::Ref RecordEncoder::list(const ValueType& type, const void* from) {
@@ -61,9 +78,10 @@ RecordEncoder::Ref RecordEncoder::list(const ValueType& type, const void* from) 
   const void* items = type.items(from);
   const Room keys = areRecords ? keysOf(item) : Room();
   const Room refs = writer_.room(type.count(from));
+  Before before;
   for (size_t i = 0; i < refs.count; ++i) {
     const void* place = at(items, i * item.size);
-    writer_.put(refs, i, areRecords ? record(item, keys, place) : value(item, place));
+    writer_.put(refs, i, areRecords ? record(item, keys, place, before) : value(item, place));
   }
   return writer_.closeArray(refs);
 }
@@ -71,7 +89,8 @@ RecordEncoder::Ref RecordEncoder::list(const ValueType& type, const void* from) 
 RecordEncoder::Ref RecordEncoder::records(const ValueType& type, std::span<const void* const> items) {
   const Room keys = keysOf(type);
   const Room refs = writer_.room(items.size());
-  for (size_t i = 0; i < items.size(); ++i) writer_.put(refs, i, record(type, keys, items[i]));
+  Before before;
+  for (size_t i = 0; i < items.size(); ++i) writer_.put(refs, i, record(type, keys, items[i], before));
   return writer_.closeArray(refs);
 }
 
@@ -92,12 +111,16 @@ RecordEncoder::Room RecordEncoder::keysOf(const ValueType& type) {
   return keys;
 }
 
-RecordEncoder::Ref RecordEncoder::record(const ValueType& type, Room keys, const void* from) {
+// Records that stand together are much alike: what is as in the one before it is the same object and needs no search.
+RecordEncoder::Ref RecordEncoder::record(const ValueType& type, Room keys, const void* from, Before& before) {
   const Room values = writer_.room(keys.count);
   for (size_t i = 0; i < values.count; ++i) {
     const FieldType& field = type.fields[i];
-    writer_.put(values, i, value(field.type, at(from, field.offset)));
+    const void* const place = at(from, field.offset);
+    const bool isAsBefore = before.record && isSameObject(field.type.kind, place, at(before.record, field.offset));
+    writer_.put(values, i, isAsBefore ? writer_.at(before.values, i) : value(field.type, place));
   }
+  before = {from, values};
   return writer_.closeDictionary(keys, values);
 }
 

@@ -36,10 +36,16 @@ class RecordEncoder {
  private:
   using Room = PropertyListWriter::Room;
 
+  /// The record that was written last, and its values.
+  struct Before {
+    const void* record = nullptr;
+    Room values;
+  };
+
   Ref list(const ValueType& type, const void* from);
   Ref texts(const std::map<std::string, std::string>& from);
   Room keysOf(const ValueType& type);
-  Ref record(const ValueType& type, Room keys, const void* from);
+  Ref record(const ValueType& type, Room keys, const void* from, Before& before);
 
   PropertyListWriter& writer_;
 };

@@ -71,15 +71,17 @@ class RecordList final : public ChunkedList {
   /// Changes the record at `i` in place: `change(T&)`.
   template <class Change>
   void update(size_t i, Change&& change) {
-    T& record = *static_cast<T*>(recordAt(i));
-    if constexpr (historyKeyOf<T> != nullptr) {
-      const int64_t before = record.*historyKeyOf<T>;
-      change(record);
-      if (record.*historyKeyOf<T> != before) rebuildHistory();
-    } else {
-      change(record);
-    }
-    markRecord(i);
+    const Keys before = keysAt(i);
+    change(*static_cast<T*>(recordAt(i)));
+    noteChange(i, before);
+  }
+
+  /// Lets those sleep of which a turn wants nothing any more; see `awake`.
+  template <class Silent>
+  void letSleep(Silent silent) {
+    std::vector<uint32_t> still = awake();
+    std::erase_if(still, [&](uint32_t position) { return silent((*this)[position]); });
+    keepAwake(still);
   }
 
   /// Removes every record that `matches`; what remains keeps its order. Returns how many went.
@@ -101,15 +103,11 @@ class RecordList final : public ChunkedList {
     ChunkedList::assign(std::move(taken));
   }
 
-  /// Stable sort by `key`, a number, greatest first, in place.
-  template <class Key>
-  void sortDescending(Key&& key) {
-    std::vector<SortEntry<std::decay_t<decltype(key((*this)[0]))>>> order;
-    order.reserve(size());
-    for (auto record = begin(); record != end(); ++record) {
-      order.push_back({key(*record), static_cast<uint32_t>(record.position())});
-    }
-    sortBy(std::move(order));
+  /// Stable sort by a number of the records, greatest first, in place: `sortDescending(&Song::viralityScore)`.
+  template <class Number>
+  void sortDescending(Number T::*number) {
+    static_assert(std::is_same_v<Number, int64_t> || std::is_same_v<Number, double>);
+    if (!empty()) sortBy({value_type::bytesBetween(first(), &(first()->*number)), std::is_same_v<Number, double>});
   }
 
   friend bool operator==(const RecordList& a, const RecordList& b) { return a.holdsSame(b); }

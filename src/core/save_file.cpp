@@ -1,6 +1,7 @@
 #include "core/save_file.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 #include <set>
 
@@ -29,12 +30,9 @@ std::optional<std::vector<uint32_t>> decodeOrder(std::string_view propertyList) 
 }
 
 Bytes encodeOrder(PropertyListWriter& writer, const std::vector<uint32_t>& slots) {
-  Bytes bytes(slots.size() * 4, '\0');
-  char* out = bytes.data();
-  for (const uint32_t slot : slots) {
-    for (int shift = 0; shift < 32; shift += 8) *out++ = static_cast<char>(slot >> shift);
-  }
-  return writer.finish(writer.data(bytes));
+  static_assert(std::endian::native == std::endian::little, "four bytes a slot, the lowest first");
+  const auto* bytes = reinterpret_cast<const char*>(slots.data());
+  return writer.finish(writer.data({bytes, slots.size() * sizeof(uint32_t)}));
 }
 
 /// Takes the rows of one list as the store yields them.

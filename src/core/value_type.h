@@ -31,8 +31,8 @@ struct FieldType {
   const ValueType& type;
 };
 
-/// No record type's history key lies there.
-inline constexpr size_t noHistoryKey = ~size_t{0};
+/// No record type's key lies there.
+inline constexpr size_t noKey = ~size_t{0};
 
 /// The type of a stored value. There is one object for each type; take it from `typeOf`.
 struct ValueType {
@@ -44,7 +44,8 @@ struct ValueType {
 
   // Of a record.
   std::vector<FieldType> fields = {};              ///< in the order of its table
-  size_t historyKey = noHistoryKey;                ///< bytes from the beginning of the record
+  size_t historyKey = noKey;                       ///< bytes from the beginning of the record
+  size_t groupKey = noKey;                         ///< the same
   void (*make)(void* place) = nullptr;             ///< a new one in raw memory, on its defaults
   void (*take)(void* place, void* old) = nullptr;  ///< a new one in raw memory out of an old one, which is to end next
   void (*end)(void* record) = nullptr;             ///< leaves raw memory
@@ -123,6 +124,7 @@ ValueType makeRecord() {
                  .end = [](void* old) { static_cast<T*>(old)->~T(); }};
   addFields(type, keys, offsets, types);
   if constexpr (historyKeyOf<T> != nullptr) type.historyKey = bytesBetween(&record, &(record.*historyKeyOf<T>));
+  if constexpr (groupKeyOf<T> != nullptr) type.groupKey = bytesBetween(&record, &(record.*groupKeyOf<T>));
   return type;
 }
 

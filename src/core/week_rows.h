@@ -29,4 +29,27 @@ std::span<const T> rowsOfWeek(const RecordList<T>& list, CalendarWeek week) {
   return list.stretch(begin, end);
 }
 
+/// What the rows of a list tell when they are taken one by one from the first on. Kept from one time to the next: while
+/// the list only grows, it goes on where it stopped, and a long career costs no more than a short one.
+template <class Told>
+class RunningTally {
+ public:
+  /// `take(told, row)` for each row that is not counted yet; what all of them tell.
+  template <class T, class Take>
+  const Told& over(const RecordList<T>& list, Take take) {
+    if (rewrites_ != list.rewrites() || rows_ > list.size()) *this = RunningTally(list.rewrites());
+    for (; rows_ < list.size(); ++rows_) take(told_, list[rows_]);
+    return told_;
+  }
+
+  RunningTally() = default;
+
+ private:
+  explicit RunningTally(uint64_t rewrites) : rewrites_(rewrites) {}
+
+  Told told_{};
+  size_t rows_ = 0;
+  uint64_t rewrites_ = 0;
+};
+
 }  // namespace backbeat

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 #include "core/bands.h"
 #include "core/numbers.h"
@@ -60,34 +59,6 @@ void addUnits(Album& album, int64_t sold) {
   album.albumAward = std::max(album.albumAward, albumAwardTierFor(album.albumsSold));
 }
 
-void addSong(AlbumMeans& sums, const Song& song) {
-  sums.rating += song.productionRating;
-  sums.virality += song.viralityScore;
-}
-
-AlbumMeans meansOf(const AlbumMeans& sums, const Album& album) {
-  const double count = static_cast<double>(album.songCount);
-  return {sums.rating / count, sums.virality / count};
-}
-
-/// The sums of every album by its position, in one pass over the songs: a long career has thousands of them.
-std::vector<AlbumMeans> sumsOfAllAlbums(const GameState& state) {
-  const RecordList<Album>& albums = state.saveAllAlbumList;
-  std::vector<std::pair<int64_t, size_t>> positions;
-  for (size_t i = 0; i < albums.size(); ++i) positions.emplace_back(albums[i].albumId, i);
-  std::sort(positions.begin(), positions.end());
-  std::vector<AlbumMeans> sums(albums.size());
-  auto found = positions.cend();
-  for (const Song& song : state.saveAllSongList) {
-    // The songs of an album mostly stand together.
-    if (found == positions.cend() || found->first != song.albumId) {
-      found = std::lower_bound(positions.cbegin(), positions.cend(), std::pair(song.albumId, size_t{0}));
-    }
-    if (found != positions.cend() && found->first == song.albumId) addSong(sums[found->second], song);
-  }
-  return sums;
-}
-
 void launchWeek(Game& game, size_t position, const AlbumMeans& means) {
   GameState& state = game.state;
   const Album& album = state.saveAllAlbumList[position];
@@ -135,10 +106,13 @@ int64_t albumAwardTierFor(int64_t units) { return bandFor(awardTiers, units, int
 
 AlbumMeans albumMeans(const GameState& state, const Album& album) {
   AlbumMeans sums;
-  for (const Song& song : state.saveAllSongList) {
-    if (song.albumId == album.albumId) addSong(sums, song);
+  for (const uint32_t position : state.saveAllSongList.groupOf(album.albumId)) {
+    const Song& song = state.saveAllSongList[position];
+    sums.rating += song.productionRating;
+    sums.virality += song.viralityScore;
   }
-  return meansOf(sums, album);
+  const double count = static_cast<double>(album.songCount);
+  return {sums.rating / count, sums.virality / count};
 }
 
 double remainingLife(const GameState& state, const Album& album) {
@@ -149,11 +123,10 @@ void simulateWeeklyAlbumSales(Game& game) {
   game.turn.weeklyMarketingPoolTotal = 0;
   game.turn.weeklyMarketingPoolCount = 0;
   GameState& state = game.state;
-  const std::vector<AlbumMeans> sums = sumsOfAllAlbums(state);
-  for (size_t i = 0; i < state.saveAllAlbumList.size(); ++i) {
+  for (const uint32_t i : state.saveAllAlbumList.awake()) {
     const Album& album = state.saveAllAlbumList[i];
     if (!album.isReleased) continue;
-    const AlbumMeans means = meansOf(sums[i], album);
+    const AlbumMeans means = albumMeans(state, album);
     const double life = means.rating - static_cast<double>(state.weekNumberForTracking - album.releaseWeek);
     if (!(life > 0)) continue;
     if (album.marketingScore > 0) {

@@ -108,9 +108,9 @@ int64_t runChartStep(Game& game, const ChartEntry& entry, int64_t ranking) {
 void settleBillboardRanks(Game& game) {
   RecordList<BillboardSong>& rows = game.state.saveAllBillboardSongList;
   if (rows.empty()) return;
-  rows.sortDescending([](const BillboardSong& row) { return row.weeklySongListens; });
+  rows.sortDescending(&BillboardSong::weeklySongListens);
   int64_t previous = 0;
-  for (size_t i = 0; i < rows.size(); ++i) {
+  for (const uint32_t i : rows.awake()) {
     if (!rows[i].isOnCharts) continue;
     if (previous >= rows[i].rankThisWeek) {
       rows.update(i, [&](BillboardSong& row) { pushDown(row, previous + 1); });

@@ -1,6 +1,7 @@
 #include "music/listeners.h"
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -12,12 +13,12 @@ namespace backbeat {
 namespace {
 
 constexpr Band<int64_t, double> songRecencies[] = {
-    {-1, -1.25}, {2, 1.75}, {6, 1.25}, {14, 0.75}, {30, 0.25}, {60, -0.25}, {120, -0.75},
+    {-1, -1.25}, {2, 1.75}, {6, 1.25}, {14, 0.75}, {30, 0.25}, {60, -0.25}, {songWeeksRemembered, -0.75},
 };
 constexpr double songRecencyBeyond = -1.25;
 
 constexpr Band<int64_t, double> albumRecencies[] = {
-    {-1, -0.5}, {26, 3.0}, {52, 2.25}, {79, 1.5}, {106, 0.75}, {133, 0.0}, {160, -0.25},
+    {-1, -0.5}, {26, 3.0}, {52, 2.25}, {79, 1.5}, {106, 0.75}, {133, 0.0}, {albumWeeksRemembered, -0.25},
 };
 constexpr double albumRecencyBeyond = -0.5;
 
@@ -29,21 +30,23 @@ constexpr Band<int64_t, double> luckTops[] = {
 constexpr double luckBeyond = 14;
 
 constexpr int64_t recentWeeks = 104;
+static_assert(recentWeeks < songWeeksRemembered, "a silent song would count");
 constexpr double poolShare = 0.01;
 
-/// The latest release, released or not, the first of equal ones: something still in production has release week 0, and
-/// the built-in "Single" stands in as it is, with 0 too. The list is not empty.
+/// Weeks since the latest release, released or not: something still in production has release week 0, and the built-in
+/// "Single" stands in as it is, with 0 too. `forgotten` when all is silent.
 template <class T>
-const T& latestRelease(const RecordList<T>& list) {
-  const auto earlier = [](const T& a, const T& b) { return a.releaseWeek < b.releaseWeek; };
-  return *std::max_element(list.begin(), list.end(), earlier);
+int64_t weeksSinceRelease(const GameState& state, const RecordList<T>& list, int64_t forgotten) {
+  std::optional<int64_t> latest;
+  for (const uint32_t i : list.awake()) latest = std::max(latest.value_or(list[i].releaseWeek), list[i].releaseWeek);
+  return latest ? state.weekNumberForTracking - *latest : forgotten;
 }
 
 /// Summed from the latest release on, equal ones as they stand: the order decides the last bit of a sum.
 double meanRatingOfRecentSongs(const GameState& state) {
   const RecordList<Song>& songs = state.saveAllSongList;
-  std::vector<std::pair<int64_t, size_t>> sortedSongListForFans;  // the recent ones alone: a long career has thousands
-  for (size_t i = 0; i < songs.size(); ++i) {
+  std::vector<std::pair<int64_t, size_t>> sortedSongListForFans;
+  for (const uint32_t i : songs.awake()) {
     if (!songs[i].isReleased || songs[i].releaseWeek <= state.weekNumberForTracking - recentWeeks) continue;
     sortedSongListForFans.emplace_back(-songs[i].releaseWeek, i);
   }
@@ -76,10 +79,10 @@ void simulateWeeklyListeners(Game& game) {
   const int64_t poolMean = marketingPoolMean(game.turn);
   double recency = 0;
   if (!state.saveAllSongList.empty()) {
-    recency += songRecencyFor(state.weekNumberForTracking - latestRelease(state.saveAllSongList).releaseWeek);
+    recency += songRecencyFor(weeksSinceRelease(state, state.saveAllSongList, songWeeksRemembered + 1));
   }
   if (!state.saveAllAlbumList.empty()) {
-    recency += albumRecencyFor(state.weekNumberForTracking - latestRelease(state.saveAllAlbumList).releaseWeek);
+    recency += albumRecencyFor(weeksSinceRelease(state, state.saveAllAlbumList, albumWeeksRemembered + 1));
   }
   const int64_t gain = weeklyFanGainFor(game, poolMean, recency, meanRatingOfRecentSongs(state));
   game.launch.weeklyFanChange = gain;

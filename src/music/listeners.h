@@ -7,6 +7,11 @@ namespace backbeat {
 
 inline constexpr size_t listenerWeeksRemembered = 26;  ///< of `monthlyListenerData`
 
+/// How many weeks a release counts for the listeners, more or less as it ages; what is older counts like what is
+/// forgotten.
+inline constexpr int64_t songWeeksRemembered = 120;
+inline constexpr int64_t albumWeeksRemembered = 160;
+
 /// What a week does to the listeners: mean rating of recent songs / 10 * (luck * recency), cut towards 0; 0 when it
 /// would take the total below 0. `basis` for the luck is the listeners plus the marketing pool's mean.
 int64_t weeklyFanGainFor(Game& game, int64_t marketingPoolMean, double recency, double meanRating);

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "core/money.h"
+#include "core/news.h"
+#include "core/numbers.h"
 #include "music/certifications.h"
 #include "music/chart.h"
 #include "music/listeners.h"
@@ -100,20 +102,46 @@ void addStanding(MilestoneSnapshot& snapshot, const GameState& state) {
   snapshot.allListenersKnown = listeners.size() < listenerWeeksRemembered;
   snapshot.followers = state.followerCount;
   snapshot.jobWeeks = state.weeklyJobContractRemaining;
+}
+
+void addBests(MilestoneSnapshot& snapshot, const GameState& state) {
+  for (const Song& song : state.saveAllSongList) {
+    if (song.totalListen > 0) snapshot.wasStreamed = true;
+    snapshot.bestSongTier = std::max(snapshot.bestSongTier, songCertificationTier(song.totalListen));
+  }
+  for (const Album& album : state.saveAllAlbumList) {
+    snapshot.bestAlbumTier = std::max(snapshot.bestAlbumTier, albumCertificationTier(album));
+  }
   for (const BillboardSong& row : state.saveAllBillboardSongList) {
     if (row.songId >= signedArtistSongOffset) continue;
     if (snapshot.bestRank == 0 || row.peakPosition < snapshot.bestRank) snapshot.bestRank = row.peakPosition;
   }
 }
 
+void addWeek(StreamWeeks& weeks, const WeeklySongListens& row) {
+  const CalendarWeek week = {row.weekNumber, row.yearNumber};
+  if (week != weeks.latest) {
+    weeks.bestStreams = std::max(weeks.bestStreams, weeks.streams);
+    weeks.bestDollars = std::max(weeks.bestDollars, weeks.dollars);
+    weeks.latest = week;
+    weeks.streams = 0;
+    weeks.dollars = 0;
+    ++weeks.count;
+  }
+  weeks.streams = add(weeks.streams, row.songListens);
+  weeks.dollars = std::max(weeks.dollars, row.totalStreamRevenue);
+}
+
 }  // namespace
 
-MilestoneSnapshot milestoneSnapshot(const GameState& state) {
+MilestoneSnapshot milestoneSnapshot(Game& game) {
+  const GameState& state = game.state;
   MilestoneSnapshot snapshot;
   addStanding(snapshot, state);
-  for (const Song& song : state.saveAllSongList) {
-    if (song.totalListen > 0) snapshot.wasStreamed = true;
-    snapshot.bestSongTier = std::max(snapshot.bestSongTier, songCertificationTier(song.totalListen));
+  if (historyIsWhole(state)) addBests(snapshot, state);
+  snapshot.streamWeeks = game.launch.streamWeeks.over(state.saveAllWeeklySongListens, addWeek);
+  for (const uint32_t i : state.saveAllSongList.awake()) {
+    const Song& song = state.saveAllSongList[i];
     if (!song.isReleased || !(remainingLife(state, song) > 0)) continue;
     snapshot.songs.push_back({song.songId, songCertificationTier(song.totalListen), 0, false, false});
   }
@@ -125,10 +153,9 @@ MilestoneSnapshot milestoneSnapshot(const GameState& state) {
       song.wasOnChart = rows[position].isOnCharts;
     }
   }
-  for (const Album& album : state.saveAllAlbumList) {
-    const int64_t tier = albumCertificationTier(album);
-    snapshot.bestAlbumTier = std::max(snapshot.bestAlbumTier, tier);
-    snapshot.albums.push_back({album.albumId, tier});
+  for (const uint32_t i : state.saveAllAlbumList.awake()) {
+    const Album& album = state.saveAllAlbumList[i];
+    snapshot.albums.push_back({album.albumId, albumCertificationTier(album)});
   }
   return snapshot;
 }
@@ -147,11 +174,13 @@ std::vector<Milestone> milestonesSince(const MilestoneSnapshot& before, const Ga
       milestones.push_back(ofSong(Kind::certification, song.songId, certified(song.title, tier), tier));
     }
   }
-  for (size_t i = 0; i < std::min(before.albums.size(), after.saveAllAlbumList.size()); ++i) {
-    const Album& album = after.saveAllAlbumList[i];
-    const int64_t tier = albumCertificationTier(album);
-    if (album.albumId != before.albums[i].albumId || tier <= before.albums[i].tier) continue;
-    milestones.push_back(ofAlbum(Kind::certification, album.albumId, certified(album.title, tier), tier));
+  for (const MilestoneSnapshot::AlbumStanding& album : before.albums) {
+    for (const uint32_t position : after.saveAllAlbumList.historyOf(album.albumId)) {
+      const Album& now = after.saveAllAlbumList[position];
+      const int64_t tier = albumCertificationTier(now);
+      if (tier <= album.tier) continue;
+      milestones.push_back(ofAlbum(Kind::certification, now.albumId, certified(now.title, tier), tier));
+    }
   }
   addRecords(milestones, after, week);
   std::stable_sort(milestones.begin(), milestones.end(),

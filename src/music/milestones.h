@@ -19,7 +19,7 @@ struct Milestone {
 };
 
 /// Taken before the week cycle.
-MilestoneSnapshot milestoneSnapshot(const GameState& state);
+MilestoneSnapshot milestoneSnapshot(Game& game);
 
 /// What the week brought, greatest first, at most one chart milestone for a song. `week` is the week that ended. A song
 /// that the chart no longer shows makes no chart milestones; a record needs three earlier weeks to beat.

@@ -112,7 +112,8 @@ void addRelease(const GameState& state, const Song& song, std::vector<News>& all
 void addReleases(const Game& game, std::vector<News>& all) {
   const GameState& state = game.state;
   const int64_t week = game.turn.before.absoluteWeek;
-  for (const Album& album : state.saveAllAlbumList) {
+  for (const uint32_t i : state.saveAllAlbumList.awake()) {
+    const Album& album = state.saveAllAlbumList[i];
     if (!album.isReleased || album.releaseWeek != week || album.albumId == 0) continue;
     const bool isFirst = historyIsWhole(state) && isFirstRelease(state, album);
     all.push_back(
@@ -126,7 +127,8 @@ void addReleases(const Game& game, std::vector<News>& all) {
   }
   // One song stands for the week's firsts; those that came with an album are told by it.
   bool toldFirst = false;
-  for (const Song& song : state.saveAllSongList) {
+  for (const uint32_t i : state.saveAllSongList.awake()) {
+    const Song& song = state.saveAllSongList[i];
     if (!song.isReleased || song.releaseWeek != week) continue;
     const bool isFirst = isFirstRelease(state, song);
     if (song.albumId != 0 && !(isFirst && !toldFirst)) continue;
@@ -134,45 +136,6 @@ void addReleases(const Game& game, std::vector<News>& all) {
     toldFirst = toldFirst || isFirst;
     addRelease(state, song, all);
   }
-}
-
-/// Streams and dollars of whole weeks: of the one reported, and the best of those before it.
-struct StreamWeeks {
-  int64_t streams = 0;
-  double dollars = 0;
-  int64_t bestStreams = 0;
-  double bestDollars = 0;
-  int64_t weeksBefore = 0;
-};
-
-StreamWeeks streamWeeks(const GameState& state, CalendarWeek reported) {
-  StreamWeeks weeks;
-  CalendarWeek open;
-  int64_t streams = 0;
-  double dollars = 0;
-  const auto close = [&] {
-    weeks.bestStreams = std::max(weeks.bestStreams, streams);
-    weeks.bestDollars = std::max(weeks.bestDollars, dollars);
-  };
-  for (const WeeklySongListens& row : state.saveAllWeeklySongListens) {
-    const CalendarWeek week = {row.weekNumber, row.yearNumber};
-    if (week == reported) {
-      weeks.streams = add(weeks.streams, row.songListens);
-      weeks.dollars = std::max(weeks.dollars, row.totalStreamRevenue);
-      continue;
-    }
-    if (week != open) {
-      close();
-      open = week;
-      streams = 0;
-      dollars = 0;
-      ++weeks.weeksBefore;
-    }
-    streams = add(streams, row.songListens);
-    dollars = std::max(dollars, row.totalStreamRevenue);  // only the top song of a week is paid
-  }
-  close();
-  return weeks;
 }
 
 /// 1, 1,000, 10,000 and so on: the greatest that the week's dollars reach.
@@ -185,36 +148,42 @@ int64_t dollarStep(double dollars) {
 
 void addStreams(const Game& game, std::vector<News>& all) {
   const Before& before = game.turn.before;
-  const StreamWeeks weeks = streamWeeks(game.state, before.week);
-  if (weeks.streams > 0 && !before.wasStreamed && historyIsWhole(game.state)) {
+  int64_t streams = 0;
+  double dollars = 0;
+  for (const WeeklySongListens& row : rowsOfWeek(game.state.saveAllWeeklySongListens, before.week)) {
+    streams = add(streams, row.songListens);
+    dollars = std::max(dollars, row.totalStreamRevenue);  // only the top song of a week is paid
+  }
+  const int64_t bestStreams = std::max(before.streamWeeks.bestStreams, before.streamWeeks.streams);
+  const double bestDollars = std::max(before.streamWeeks.bestDollars, before.streamWeeks.dollars);
+  if (streams > 0 && !before.wasStreamed && historyIsWhole(game.state)) {
     all.push_back({.kind = Kind::first,
                    .rank = 290,
                    .key = "stream",
                    .picture = icon("headphones"),
                    .kicker = "Your first streams",
                    .headline = "Somebody pressed play",
-                   .text = "Your first " + counted(weeks.streams, "stream")});
+                   .text = "Your first " + counted(streams, "stream")});
   }
-  if (weeks.weeksBefore >= weeksToBeat && weeks.streams > weeks.bestStreams) {
+  if (before.streamWeeks.count >= weeksToBeat && streams > bestStreams) {
     all.push_back({.kind = Kind::best,
                    .rank = 200,
                    .key = "best week",
                    .picture = icon("trend"),
                    .kicker = "Your best week",
-                   .headline = "Your best week: " + counted(weeks.streams, "stream"),
-                   .text = withCommas(weeks.bestStreams) + " was the most so far"});
+                   .headline = "Your best week: " + counted(streams, "stream"),
+                   .text = withCommas(bestStreams) + " was the most so far"});
   }
-  const int64_t step = dollarStep(weeks.dollars);
-  if (step <= dollarStep(weeks.bestDollars) || !historyIsWhole(game.state)) return;
+  const int64_t step = dollarStep(dollars);
+  if (step <= dollarStep(bestDollars) || !historyIsWhole(game.state)) return;
   const std::string amount = currency(static_cast<double>(step));
-  all.push_back(
-      {.kind = Kind::first,
-       .rank = step == 1 ? 280 : 460,
-       .key = step == 1 ? "dollar" : "week above " + amount,
-       .picture = icon("cash"),
-       .kicker = step == 1 ? "Your first dollar from music" : "Your first week above " + amount,
-       .headline = step == 1 ? "Music has paid you" : "A song earned " + currency(weeks.dollars) + " in a week",
-       .text = step == 1 ? currency(weeks.dollars) + " from streams" : ""});
+  all.push_back({.kind = Kind::first,
+                 .rank = step == 1 ? 280 : 460,
+                 .key = step == 1 ? "dollar" : "week above " + amount,
+                 .picture = icon("cash"),
+                 .kicker = step == 1 ? "Your first dollar from music" : "Your first week above " + amount,
+                 .headline = step == 1 ? "Music has paid you" : "A song earned " + currency(dollars) + " in a week",
+                 .text = step == 1 ? currency(dollars) + " from streams" : ""});
 }
 
 void addListeners(const Game& game, std::vector<News>& all) {
@@ -236,7 +205,8 @@ void addListeners(const Game& game, std::vector<News>& all) {
 void addSilences(const Game& game, std::vector<News>& all) {
   const GameState& state = game.state;
   size_t told = 0;
-  for (const Song& song : state.saveAllSongList) {
+  for (const uint32_t i : state.saveAllSongList.awake()) {
+    const Song& song = state.saveAllSongList[i];
     const double life = remainingLife(state, song);
     if (!song.isReleased || life > 0 || !(life > -1) || ++told > mostSilences) continue;  // a week ago it had some
     all.push_back({.kind = Kind::ended,

@@ -99,7 +99,8 @@ void addNeeds(const Game& game, std::vector<Need>& needs) {
   const GameState& state = game.state;
   const Song* waiting = nullptr;
   const Song* falling = nullptr;
-  for (const Song& song : state.saveAllSongList) {
+  for (const uint32_t i : state.saveAllSongList.awake()) {
+    const Song& song = state.saveAllSongList[i];
     if (!song.isReleased && (!waiting || song.songId < waiting->songId)) waiting = &song;
     if (song.chartRanking > 0 && (!falling || song.chartRanking < falling->chartRanking)) falling = &song;
   }

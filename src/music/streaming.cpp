@@ -130,8 +130,8 @@ void simulateWeeklySongStreams(Game& game) {
   openWeeklyChart(game);
   GameState& state = game.state;
   const int64_t fans = state.totalFans;
-  state.saveAllSongList.sortDescending([](const Song& song) { return song.viralityScore; });
-  for (size_t i = 0; i < state.saveAllSongList.size(); ++i) {
+  state.saveAllSongList.sortDescending(&Song::viralityScore);
+  for (const uint32_t i : state.saveAllSongList.awake()) {
     const Song& song = state.saveAllSongList[i];
     // A song that dies on the chart keeps its row there: it is skipped before the chart step, on purpose.
     if (!song.isReleased || !(remainingLife(state, song) > 0)) continue;

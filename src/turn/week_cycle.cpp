@@ -12,6 +12,7 @@
 #include "music/chart.h"
 #include "music/listeners.h"
 #include "music/milestones.h"
+#include "music/silence.h"
 #include "music/streaming.h"
 #include "video/weekly_views.h"
 #include "wealth/real_estate_index.h"
@@ -30,7 +31,8 @@ void runWeekCycle(Game& game, const std::function<void()>& openReport, const Ste
   };
   begin("before");
   game.turn = Turn();
-  game.turn.before = milestoneSnapshot(state);
+  letSilentMusicSleep(state);
+  game.turn.before = milestoneSnapshot(game);
   step("album sales", simulateWeeklyAlbumSales);    // 1, first: it opens the marketing pool
   step("song streams", simulateWeeklySongStreams);  // 2, fills the chart
   step("video views", simulateWeeklyVideoViews);    // 3

@@ -56,7 +56,11 @@ int64_t streamsOf(std::span<const WeeklySongListens> rows) {
 }
 
 void countSongs(const GameState& state, Facts& facts) {
-  for (const Song& song : state.saveAllSongList) {
+  const RecordList<Song>& songs = state.saveAllSongList;
+  const std::vector<uint32_t> awake = songs.awake();
+  facts.songsOut = static_cast<int64_t>(songs.size() - awake.size());
+  for (const uint32_t i : awake) {
+    const Song& song = songs[i];
     if (!song.isReleased) {
       ++facts.waiting;
       facts.waitingTitle = song.title;

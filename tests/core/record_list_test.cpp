@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <numeric>
 #include <random>
+#include <span>
 
 #include "core/memory_store.h"
 #include "core/save_file.h"
+#include "core/week_rows.h"
 
 namespace backbeat {
 namespace {
@@ -16,6 +19,7 @@ struct Case {
   static auto& list(GameState& state) { return state.*listMember; }
   using Record = std::decay_t<decltype(std::declval<GameState&>().*listMember)>;
   using T = std::decay_t<decltype(std::declval<Record&>()[0])>;
+  static constexpr auto member = numberMember;
   static auto key(const T& record) { return record.*numberMember; }
   static T make(int64_t number) {
     T record;
@@ -62,6 +66,41 @@ class RecordListTest : public testing::Test {
     const T record = next();
     atHead ? list().insertFront(record) : list().append(record);
     model.insert(atHead ? model.begin() : model.end(), record);
+    asleep.insert(atHead ? asleep.begin() : asleep.end(), false);
+    if (atHead && !inSlots()) wakeAll();
+  }
+
+  void wakeAll() { asleep.assign(model.size(), false); }
+
+  /// Records with even numbers are silent.
+  void letSleep() {
+    list().letSleep([](const T& record) { return static_cast<int64_t>(C::key(record)) % 2 == 0; });
+    for (size_t i = 0; i < model.size(); ++i) {
+      if (static_cast<int64_t>(C::key(model[i])) % 2 == 0) asleep[i] = true;
+    }
+  }
+
+  void sort() {
+    std::vector<uint32_t> order(model.size());
+    std::iota(order.begin(), order.end(), 0u);
+    std::stable_sort(order.begin(), order.end(),
+                     [&](uint32_t a, uint32_t b) { return C::key(model[a]) > C::key(model[b]); });
+    const std::vector<T> before = model;
+    const std::vector<bool> slept = asleep;
+    for (size_t i = 0; i < order.size(); ++i) {
+      model[i] = before[order[i]];
+      asleep[i] = slept[order[i]];
+    }
+    if (!inSlots() && model != before) wakeAll();
+    list().sortDescending(C::member);
+  }
+
+  void expectAwake() {
+    std::vector<uint32_t> expected;
+    for (uint32_t i = 0; i < model.size(); ++i) {
+      if (!asleep[i]) expected.push_back(i);
+    }
+    EXPECT_EQ(list().awake(), expected);
   }
 
   /// One random change, done to the list and to the plain vector.
@@ -71,38 +110,49 @@ class RecordListTest : public testing::Test {
     if (dice == 0) {
       list().clear();
       model.clear();
+      wakeAll();
     } else if (dice == 1) {
       model.assign(below(600), fresh());
       list().assign(model);
+      wakeAll();
     } else if (dice < 50) {
       add(!growsAtHead());
     } else if (dice < 550 || model.empty()) {
       add(growsAtHead());
     } else if (dice < 850) {
       model[at] = next();
+      asleep[at] = false;
       list().update(at, [&](T& record) { record = model[at]; });
-    } else if (dice < 930) {
+    } else if (dice < 880) {
       model.erase(model.begin() + static_cast<std::ptrdiff_t>(at));
       list().erase(at);
-    } else if (dice < 970) {
+      wakeAll();
+    } else if (dice < 890) {
       const auto goes = [gone = below(50)](const T& record) { return static_cast<uint32_t>(C::key(record)) == gone; };
-      EXPECT_EQ(list().eraseIf(goes), std::erase_if(model, goes));
+      const size_t gone = std::erase_if(model, goes);
+      EXPECT_EQ(list().eraseIf(goes), gone);
+      if (gone > 0) wakeAll();
+    } else if (dice < 910) {
+      letSleep();
     } else {
-      std::stable_sort(model.begin(), model.end(), [](const T& a, const T& b) { return C::key(a) > C::key(b); });
-      list().sortDescending(C::key);
+      sort();
     }
   }
 
-  void expectHistoryAgrees() {
-    if constexpr (historyKeyOf<T> != nullptr) {
-      for (int64_t id = 0; id < 50; ++id) {
-        std::vector<uint32_t> filtered;
-        for (uint32_t i = 0; i < model.size(); ++i) {
-          if (model[i].*historyKeyOf<T> == id) filtered.push_back(i);
-        }
-        const auto indexed = list().historyOf(id);
-        EXPECT_EQ(std::vector(indexed.begin(), indexed.end()), filtered);
-      }
+  bool inSlots() { return list().layout().order == ListLayout::Order::slots; }
+
+  void expectFinds(int64_t T::*key, int64_t id, std::span<const uint32_t> indexed) {
+    std::vector<uint32_t> filtered;
+    for (uint32_t i = 0; i < model.size(); ++i) {
+      if (model[i].*key == id) filtered.push_back(i);
+    }
+    EXPECT_EQ(std::vector(indexed.begin(), indexed.end()), filtered);
+  }
+
+  void expectIndexesAgree() {
+    for (int64_t id = 0; id < 50; ++id) {
+      if constexpr (historyKeyOf<T> != nullptr) expectFinds(historyKeyOf<T>, id, list().historyOf(id));
+      if constexpr (groupKeyOf<T> != nullptr) expectFinds(groupKeyOf<T>, id, list().groupOf(id));
     }
   }
 
@@ -110,11 +160,14 @@ class RecordListTest : public testing::Test {
   MemoryStore store;
   SaveFile saveFile{store};
   std::vector<T> model;
+  std::vector<bool> asleep;  // of each record of the model
   std::mt19937_64 random{7};
   int64_t counter = 100;
 };
 
 using Cases = testing::Types<Case<&GameState::saveAllSongList, &Song::totalListen>,
+                             Case<&GameState::saveAllSongList, &Song::viralityScore>,
+                             Case<&GameState::saveAllSongList, &Song::albumId>,
                              Case<&GameState::saveAllBillboardSongList, &BillboardSong::songId>,
                              Case<&GameState::saveAllAlbumList, &Album::albumId>,
                              Case<&GameState::saveAllWeeklySongListens, &WeeklySongListens::songId>,
@@ -125,6 +178,7 @@ TYPED_TEST(RecordListTest, AgreesWithAPlainVectorAndItsStoreWithAWholeSave) {
   for (int step = 0; step < 2000; ++step) {
     this->change();
     ASSERT_EQ(std::vector(this->list().begin(), this->list().end()), this->model) << "step " << step;
+    this->expectAwake();
     if (this->below(6) != 0) continue;
     this->save();
     ASSERT_EQ(differencesFromStore(this->state, this->store), std::vector<std::string>()) << "step " << step;
@@ -133,10 +187,11 @@ TYPED_TEST(RecordListTest, AgreesWithAPlainVectorAndItsStoreWithAWholeSave) {
       ASSERT_EQ(this->store.rows, this->rowsOfWholeList()) << "step " << step;
     }
     if (this->below(10) != 0) continue;
-    this->expectHistoryAgrees();
+    this->expectIndexesAgree();
     GameState loaded;
     EXPECT_TRUE(this->saveFile.load(loaded).damaged.empty());
     this->state = std::move(loaded);
+    this->wakeAll();
   }
 }
 
@@ -158,7 +213,7 @@ TYPED_TEST(RecordListTest, SavesOnlyTheRowsThatChanged) {
   EXPECT_EQ(rowsWritten(grow), 1) << "what is added stands at the end without being named in the stored order";
   EXPECT_LE(rowsWritten([&](auto& list) { list.erase(atHead ? 0 : list.size() - 1); }), inSlots ? 2 : 1);
   if (inSlots) {
-    EXPECT_EQ(rowsWritten([](auto& list) { list.sortDescending(TypeParam::key); }), 1);
+    EXPECT_EQ(rowsWritten([](auto& list) { list.sortDescending(TypeParam::member); }), 1);
     EXPECT_LE(rowsWritten([](auto& list) { list.erase(400); }), 4);
   }
 }
@@ -181,13 +236,37 @@ TEST(RecordListSort, LeavesEqualKeysInTheirOrderAndSurvivesNoNumber) {
     songs.append({.songId = static_cast<int64_t>(songs.size()), .viralityScore = score});
   }
   songs.eraseIf([](const Song& song) { return song.songId == 3; });
-  songs.sortDescending([](const Song& song) { return song.viralityScore; });
+  songs.sortDescending(&Song::viralityScore);
   std::vector<int64_t> ids;
   for (const Song& song : songs) ids.push_back(song.songId);
   EXPECT_EQ(ids, (std::vector<int64_t>{1, 4, 0, 2}));
   songs.append({.songId = 9, .viralityScore = std::numeric_limits<double>::quiet_NaN()});
-  songs.sortDescending([](const Song& song) { return song.viralityScore; });
+  songs.sortDescending(&Song::viralityScore);
   EXPECT_EQ(songs.size(), 5u);
+}
+
+TEST(RunningTally, CountsEachRowOnceAndAnewWhatWasRewritten) {
+  RecordList<WeeklySongListens> weeks(growing);
+  RunningTally<int64_t> tally;
+  int64_t looks = 0;
+  const auto total = [&] {
+    return tally.over(weeks, [&](int64_t& sum, const WeeklySongListens& week) {
+      sum += week.songListens;
+      ++looks;
+    });
+  };
+  for (const int64_t listens : {5, 7, 30}) weeks.append({.songListens = listens});
+  EXPECT_EQ(total(), 42);
+  weeks.append({.songListens = 8});
+  EXPECT_EQ(total(), 50);
+  EXPECT_EQ(looks, 4) << "only the new row was looked at";
+  weeks.update(0, [](WeeklySongListens& week) { week.songListens = 1; });
+  EXPECT_EQ(total(), 46);
+  weeks.erase(1);
+  weeks.append({.songListens = 2});
+  EXPECT_EQ(total(), 41);
+  weeks.assign({{.songListens = 3}});
+  EXPECT_EQ(total(), 3);
 }
 
 }  // namespace

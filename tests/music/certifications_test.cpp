@@ -93,7 +93,7 @@ TEST(Milestones, TellDebutPeakNumberOneAndCertification) {
     row.rankThisWeek = row.peakPosition = 30;
     world.state.saveAllBillboardSongList.append(row);
   }
-  const MilestoneSnapshot before = milestoneSnapshot(world.state);
+  const MilestoneSnapshot before = milestoneSnapshot(world.game);
   EXPECT_TRUE(milestonesSince(before, world.state, {1, 2023}).empty()) << "nothing happened yet";
 
   row.songId = 12;
@@ -120,7 +120,7 @@ TEST(Milestones, TellDebutPeakNumberOneAndCertification) {
 TEST(Milestones, ARecordNeedsThreeWeeksToBeatAndIsStrict) {
   World world;
   world.state.saveAllSongList.append(releasedSong(12, "Mine"));
-  const MilestoneSnapshot before = milestoneSnapshot(world.state);
+  const MilestoneSnapshot before = milestoneSnapshot(world.game);
   addStreams(world, 12, {10, 20, 30, 30, 31});
   EXPECT_TRUE(milestonesSince(before, world.state, {9, 2023}).empty()) << "no row of that week";
   EXPECT_EQ(texts(milestonesSince(before, world.state, {5, 2023})),

@@ -10,25 +10,42 @@
 #include "core/calendar.h"
 #include "core/money.h"
 #include "core/week_rows.h"
+#include "music/silence.h"
 #include "turn/income_statement.h"
 
 namespace backbeat {
 
 namespace {
 
-/// Whether the index of a history finds what looking at every row finds.
+/// Whether an index finds what looking at every row finds.
+template <class T, class Find>
+std::string indexFault(std::string_view key, const RecordList<T>& list, int64_t T::*number, Find find) {
+  if (number == nullptr) return {};
+  std::map<int64_t, std::vector<uint32_t>> plain;
+  for (uint32_t i = 0; i < list.size(); ++i) plain[list[i].*number].push_back(i);
+  for (const auto& [id, positions] : plain) {
+    const auto found = find(id);
+    if (!std::equal(found.begin(), found.end(), positions.begin(), positions.end())) {
+      return "what is found by " + std::to_string(id) + " in " + std::string(key) + " is not what its rows say";
+    }
+  }
+  return find(-987'654'321).empty() ? "" : "something is found by nothing in " + std::string(key);
+}
+
 template <class T>
 std::string indexFault(std::string_view key, const RecordList<T>& list) {
-  if constexpr (historyKeyOf<T> != nullptr) {
-    std::map<int64_t, std::vector<uint32_t>> plain;
-    for (uint32_t i = 0; i < list.size(); ++i) plain[list[i].*historyKeyOf<T>].push_back(i);
-    for (const auto& [id, positions] : plain) {
-      const auto found = list.historyOf(id);
-      if (!std::equal(found.begin(), found.end(), positions.begin(), positions.end())) {
-        return "the history of " + std::to_string(id) + " in " + std::string(key) + " is not what its rows say";
-      }
+  const std::string fault = indexFault(key, list, historyKeyOf<T>, [&](int64_t id) { return list.historyOf(id); });
+  return fault.empty() ? indexFault(key, list, groupKeyOf<T>, [&](int64_t id) { return list.groupOf(id); }) : fault;
+}
+
+/// Whether nothing sleeps that a turn would still look at.
+template <class T, class Silent>
+std::string sleepFault(std::string_view what, const RecordList<T>& list, Silent silent) {
+  const std::vector<uint32_t> awake = list.awake();
+  for (uint32_t i = 0; i < list.size(); ++i) {
+    if (!std::binary_search(awake.begin(), awake.end(), i) && !silent(list[i])) {
+      return std::string(what) + " " + std::to_string(i + 1) + " sleeps and is not silent";
     }
-    if (!list.historyOf(-987'654'321).empty()) return "a history of nothing in " + std::string(key);
   }
   return {};
 }
@@ -96,6 +113,15 @@ std::string historyFault(const GameState& state) {
     if (found.empty()) found = indexFault(field.key, state.*field.member);
   });
   return found;
+}
+
+std::string sleepFault(const GameState& state) {
+  const auto isSilentNow = [&](const auto& release) { return isSilent(state, release); };
+  std::string found = sleepFault("song", state.saveAllSongList, isSilentNow);
+  if (found.empty()) found = sleepFault("album", state.saveAllAlbumList, isSilentNow);
+  if (!found.empty()) return found;
+  return sleepFault("chart row", state.saveAllBillboardSongList,
+                    [](const BillboardSong& row) { return !row.isOnCharts; });
 }
 
 std::string weekFault(const GameState& state, const WeekBefore& before) {

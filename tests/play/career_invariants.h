@@ -15,8 +15,11 @@ struct WeekBefore {
   int64_t underContract = 0;
 };
 
-/// What is wrong with the indexes of the histories, or "": each finds what looking at every row finds.
+/// What is wrong with the indexes of the lists, or "": each finds what looking at every row finds.
 std::string historyFault(const GameState& state);
+
+/// Which record sleeps though a turn would still look at it, or "".
+std::string sleepFault(const GameState& state);
 
 /// What is wrong right after a week has ended, or "": with the calendar, the ledger, the cash, the songs and the
 /// week's rows.

@@ -92,7 +92,7 @@ GameState career() {
     state.saveAllSongList.append({.songId = id, .viralityScore = static_cast<double>(id % 50)});
     state.saveAllWeeklySongListens.append({.songId = id});
   }
-  state.saveAllSongList.sortDescending([](const Song& song) { return song.viralityScore; });
+  state.saveAllSongList.sortDescending(&Song::viralityScore);
   return state;
 }
 

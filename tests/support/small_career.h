@@ -20,7 +20,7 @@ inline GameState smallCareer() {
     state.saveAllSongList.append({.songId = id, .title = "Song", .viralityScore = static_cast<double>(id * 7 % 40)});
     state.saveAllChirpList.insertFront({.id = id, .timestamp = {1.7e9}});
   }
-  state.saveAllSongList.sortDescending([](const Song& song) { return song.viralityScore; });
+  state.saveAllSongList.sortDescending(&Song::viralityScore);
   state.saveAllMerchReleasedList.append({.merchId = 5, .songList = {state.saveAllSongList[0]}});
   return state;
 }

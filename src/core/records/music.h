@@ -53,6 +53,10 @@ inline constexpr auto fieldsOf<Song> = [](auto&& take) {
 template <>
 inline constexpr int64_t Song::*historyKeyOf<Song> = &Song::songId;
 
+/// An album finds its songs.
+template <>
+inline constexpr int64_t Song::*groupKeyOf<Song> = &Song::albumId;
+
 /// One album of the player; the built-in "Single" has id 0 and is never released.
 struct Album {
   int64_t albumId = 0;  ///< 0 for the built-in "Single"
@@ -82,6 +86,10 @@ inline constexpr auto fieldsOf<Album> = [](auto&& take) {
               Field{"marketingScore", &Album::marketingScore},
               Field{"percentageOfEarnings", &Album::percentageOfEarnings});
 };
+
+/// An album is found by its id.
+template <>
+inline constexpr int64_t Album::*historyKeyOf<Album> = &Album::albumId;
 
 /// Which picture an album wears.
 struct AlbumCover {
