@@ -29,7 +29,7 @@ struct Facts {
   std::string offChart;  ///< a title that left the chart this week
   const Song* onChart = nullptr;
   const Song* freshest = nullptr;   ///< of those out, the one with the most weeks left
-  const Song* bestKnown = nullptr;  ///< the most streamed
+  const Song* bestKnown = nullptr;  ///< the most streamed, of all only while none plays
   int64_t streams = 0;
   int64_t streamsBefore = 0;
   int64_t rising = 0;   ///< weeks in a row with more listeners
@@ -55,6 +55,11 @@ int64_t streamsOf(std::span<const WeeklySongListens> rows) {
   return sum;
 }
 
+void rememberBest(const GameState& state, const Song& song, Facts& facts) {
+  if (!facts.freshest || remainingLife(state, song) > remainingLife(state, *facts.freshest)) facts.freshest = &song;
+  if (!facts.bestKnown || song.totalListen > facts.bestKnown->totalListen) facts.bestKnown = &song;
+}
+
 void countSongs(const GameState& state, Facts& facts) {
   const RecordList<Song>& songs = state.saveAllSongList;
   const std::vector<uint32_t> awake = songs.awake();
@@ -71,8 +76,12 @@ void countSongs(const GameState& state, Facts& facts) {
     if (life > 0) ++facts.songsPlaying;
     if (!(life > 0) && life > -1) ++facts.silencedNow;
     if (song.chartRanking > 0) facts.onChart = &song;
-    if (!facts.freshest || life > remainingLife(state, *facts.freshest)) facts.freshest = &song;
-    if (!facts.bestKnown || song.totalListen > facts.bestKnown->totalListen) facts.bestKnown = &song;
+    rememberBest(state, song, facts);
+  }
+  if (facts.songsPlaying > 0) return;
+  // Nothing plays: what is told then is of songs that sleep.
+  for (const Song& song : songs) {
+    if (song.isReleased) rememberBest(state, song, facts);
   }
 }
 

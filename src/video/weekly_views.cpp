@@ -93,7 +93,7 @@ double remainingLife(const GameState& state, const MusicVideo& video) {
 void simulateWeeklyVideoViews(Game& game) {
   GameState& state = game.state;
   const int64_t subscribers = state.youVideoSubscriberCount;
-  state.saveAllMusicVideoList.sortDescending([](const MusicVideo& video) { return video.viralityScore; });
+  state.saveAllMusicVideoList.sortDescending(&MusicVideo::viralityScore);
   for (size_t i = 0; i < state.saveAllMusicVideoList.size(); ++i) {
     const MusicVideo& video = state.saveAllMusicVideoList[i];
     const double life = remainingLife(state, video);
