@@ -10,6 +10,7 @@
 
 #include "core/clock.h"
 #include "core/game_state.h"
+#include "core/label_memory.h"
 #include "core/platform.h"
 #include "core/random.h"
 #include "core/save_file.h"
@@ -107,6 +108,7 @@ struct Launch {
   std::vector<int64_t> venueDemand;                  ///< the luck of each venue, in the order of their table
   std::vector<int64_t> festivalSetList;              ///< songs picked for the festival on the table
   RunningTally<StreamWeeks> streamWeeks;
+  LabelMemory label;                                 ///< what of its history is summed already
 };
 
 struct Room;

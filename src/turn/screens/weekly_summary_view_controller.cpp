@@ -7,9 +7,12 @@
 #include "career/contract_end.h"
 #include "core/calendar.h"
 #include "core/money.h"
+#include "core/numbers.h"
 #include "core/own_photo.h"
 #include "core/purse.h"
 #include "core/view_words.h"
+#include "label/artist_week.h"
+#include "label/roster.h"
 #include "label/weekly_label_updates.h"
 #include "life/children_events.h"
 #include "life/relationship_events.h"
@@ -123,6 +126,28 @@ Rows albumsOf(const GameState& state, const WeeklyReport& report, const std::vec
          .value = withCommas(sales[i].albumSales),
          .note = "sold",
          .badge = badgeOf(milestones, &Milestone::albumId, sales[i].albumId)});
+  }
+  return rows;
+}
+
+/// The label's artists by what their songs streamed, the most heard first.
+Rows signedArtistsOf(const GameState& state, const WeeklyReport& report) {
+  std::map<int64_t, int64_t> streams;
+  for (const auto& week : report.weeklyEarningsSignedArtistSongs) {
+    streams[week.artistId] = add(streams[week.artistId], week.songListens);
+  }
+  std::vector<std::pair<int64_t, int64_t>> order(streams.begin(), streams.end());
+  std::stable_sort(order.begin(), order.end(), [](const auto& a, const auto& b) { return a.second > b.second; });
+  Rows rows;
+  for (const auto& [artistId, heard] : order) {
+    const size_t position = artistPosition(state, artistId);
+    if (position == state.saveAllSignedArtistList.size()) continue;
+    const std::string& name = state.saveAllSignedArtistList[position].name;
+    rows.items.push_back({.picture = person(name),
+                          .title = name,
+                          .value = withCommas(heard),
+                          .note = heard == 1 ? "stream" : "streams"});
+    if (rows.items.size() == mostListed) break;
   }
   return rows;
 }
@@ -308,6 +333,10 @@ void WeeklySummaryViewController::describeMusic(View& view) const {
   if (Rows albums = albumsOf(state(), report_, milestones_); !albums.items.empty()) {
     view.add(Heading{"ALBUM SALES"});
     view.add(std::move(albums));
+  }
+  if (Rows artists = signedArtistsOf(state(), report_); !artists.items.empty()) {
+    view.add(Heading{"POPULAR SIGNED ARTISTS\n"});
+    view.add(std::move(artists));
   }
   if (Rows verses = versesOf(report_); !verses.items.empty()) {
     view.add(Heading{"FEATURED ON"});
