@@ -120,7 +120,7 @@ void ViewController::describeWeek(View& view) const {
                        std::to_string(nextWeeksEnergy(state()))),
                  {.picture = icon("cash"),
                   .title = "Standing net",
-                   .subtitle = needsWork ? "Without a job" : standingNetCaption(state()),
+                  .subtitle = needsWork ? "Without a job" : standingNetCaption(state()),
                   .value = currency(net),
                   .tone = toneOfAmount(net)}}});
   if (inFirstWeeks(state())) view.add(hint("Energy comes back each week. What is left over is gone, so spend it."));
