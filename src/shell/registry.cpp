@@ -11,6 +11,7 @@
 #include "merch/segues.h"
 #include "music/screens/music_view_controller.h"
 #include "music/segues.h"
+#include "recognition/segues.h"
 #include "shell/segues.h"
 #include "social/screens/twitter_profile_view_controller.h"
 #include "social/segues.h"
@@ -34,8 +35,9 @@ const std::array<Tab, tabCount>& tabs() {
 }
 
 std::span<const Room* const> rooms() {
-  static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom, &videoRoom, &featuresRoom,
-                                        &liveRoom,   &merchRoom,  &labelRoom, &turnRoom,  &shellRoom};
+  static constexpr const Room* all[] = {&socialRoom,      &careerRoom, &musicRoom, &videoRoom,
+                                        &featuresRoom,    &liveRoom,   &merchRoom, &labelRoom,
+                                        &recognitionRoom, &turnRoom,   &shellRoom};
   return all;
 }
 

@@ -16,6 +16,8 @@ Standings tabFigures(const GameState& state) {
           {"Monthly Listeners", withCommas(state.totalFans), "goToMonthlyListenerDetail"},
           {"Billboard 100", "", "goToBillboard"},
           {"Certifications", "", "goToCertification"},
+          {"GRAM Awards", "1 win", "goToGramAwardDetail"},
+          {"GRAM Awards: subtitle", "2 nominations"},
           {"Artist Profile", "", "goToArtistProfile"},
           {"On Tour", "", "goToTourDetails"},
           {"Festivals", "2", "goToFestivalArchive"},

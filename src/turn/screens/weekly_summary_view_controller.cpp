@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <map>
+#include <utility>
 
 #include "career/contract_end.h"
 #include "core/calendar.h"
@@ -18,7 +19,6 @@
 #include "life/relationship_events.h"
 #include "live/festivals.h"
 #include "music/covers.h"
-#include "recognition/music_awards.h"
 #include "social/screens/chirp_post.h"
 #include "turn/screens/money_figures.h"
 #include "turn/week_story.h"
@@ -217,7 +217,7 @@ Outcome WeeklySummaryViewController::open() {
   resolveVentureExits(game_);
   updateEmployeesWeekly(game_);
   updateSignedArtistsWeekly(game_);
-  showAwardButton(game_);
+  awardShow_ = showAwardButton(state());
   milestones_ = milestonesSince(game_.turn.before, state(), report_.week);
   news_ = newsOf(game_);
   story_ = weekStory(game_, report_);
@@ -240,6 +240,7 @@ Outcome WeeklySummaryViewController::act(const Action& action) {
   if (action.id == "eventButton1") return eventButton1();
   if (action.id == "eventButton2") return eventButton2();
   if (action.id == "eventButton3") return eventButton3();
+  if (action.id == "awardButton") return awardButton();
   if (action.verb() == "ratingAnswer") {
     if (const auto answer = optionNumber(action.argument(), 4)) return answerRatingOffer(static_cast<int64_t>(*answer));
   }
@@ -278,6 +279,25 @@ Outcome WeeklySummaryViewController::closeButton() {
   Outcome outcome = runChildrenAnnualEvents(game_);
   outcome += closeScreen();
   return outcome;
+}
+
+Outcome WeeklySummaryViewController::awardButton() {
+  const AwardShow show = std::exchange(awardShow_, AwardShow::none);
+  if (show == AwardShow::none) return {};
+  return goTo(show == AwardShow::nominations ? "goToMusicAward" : "goToGrammyAwardAnnouncement");
+}
+
+void WeeklySummaryViewController::describeAwards(View& view) const {
+  if (awardShow_ == AwardShow::none) return;
+  const bool isNominations = awardShow_ == AwardShow::nominations;
+  const std::string year = std::to_string(state().yearNumber);
+  view.add(Card{.picture = drawn(Picture::Kind::object, "fork", year),
+                .title = isNominations ? "Who is nominated?" : "Awards night",
+                .text = isNominations ? "Only this week. A year whose nominations stay shut has no winners either"
+                                      : "The envelopes of the year are opened",
+                .buttons = {{.id = "awardButton",
+                             .label = year + (isNominations ? " Annual GRAM Nominations" : " Annual GRAM Winners"),
+                             .style = Button::Style::primary}}});
 }
 
 void WeeklySummaryViewController::describeEvents(View& view) const {
@@ -376,6 +396,7 @@ View WeeklySummaryViewController::view() const {
                               .tone = toneOfChange(change),
                               .note = "now " + withCommas(state().totalFans)}},
                    .style = Figures::Style::pair});
+  describeAwards(view);
   describeShowChirp(view);
   describeMusic(view);
   describeNews(view);
