@@ -7,6 +7,7 @@
 #include "career/segues.h"
 #include "features/segues.h"
 #include "label/segues.h"
+#include "life/segues.h"
 #include "live/segues.h"
 #include "merch/segues.h"
 #include "music/screens/music_view_controller.h"
@@ -37,7 +38,7 @@ const std::array<Tab, tabCount>& tabs() {
 std::span<const Room* const> rooms() {
   static constexpr const Room* all[] = {&socialRoom,      &careerRoom, &musicRoom, &videoRoom,
                                         &featuresRoom,    &liveRoom,   &merchRoom, &labelRoom,
-                                        &recognitionRoom, &turnRoom,   &shellRoom};
+                                        &recognitionRoom, &lifeRoom,   &turnRoom,  &shellRoom};
   return all;
 }
 
