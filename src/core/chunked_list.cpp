@@ -74,10 +74,11 @@ void mergeInto(std::vector<Entry>& order, const std::vector<Entry>& few, const B
 }
 
 /// A record got another key.
-void moveIn(std::unordered_map<int64_t, std::vector<uint32_t>>& index, uint32_t record, int64_t from, int64_t to) {
+template <class Index>
+void moveIn(Index& index, uint32_t record, int64_t from, int64_t to) {
   std::erase(index[from], record);
   if (index[from].empty()) index.erase(from);
-  std::vector<uint32_t>& records = index[to];
+  auto& records = index[to];
   records.insert(std::upper_bound(records.begin(), records.end(), record), record);
 }
 

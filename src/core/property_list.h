@@ -43,7 +43,7 @@ class PropertyListWriter {
   };
   Room room(size_t count);
   void put(Room room, size_t i, Ref ref) { refs_[room.first + i] = ref; }
-  Ref at(Room room, size_t i) const { return refs_[room.first + i]; }
+  Ref placed(Room room, size_t i) const { return refs_[room.first + i]; }
   Ref closeArray(Room items);
   Ref closeDictionary(Room keys, Room values);  ///< as many values as keys
 

@@ -118,7 +118,7 @@ RecordEncoder::Ref RecordEncoder::record(const ValueType& type, Room keys, const
     const FieldType& field = type.fields[i];
     const void* const place = at(from, field.offset);
     const bool isAsBefore = before.record && isSameObject(field.type.kind, place, at(before.record, field.offset));
-    writer_.put(values, i, isAsBefore ? writer_.at(before.values, i) : value(field.type, place));
+    writer_.put(values, i, isAsBefore ? writer_.placed(before.values, i) : value(field.type, place));
   }
   before = {from, values};
   return writer_.closeDictionary(keys, values);
