@@ -65,7 +65,7 @@ View AwardNight::view() const {
     return view;
   }
   view.mainAction = Button{.id = "nextEnvelope", .label = "Open the Next Envelope", .style = Button::Style::primary};
-  if (left > 1) view.aside = Button{.id = "allEnvelopes", .label = "Open All"};
+  if (left > 1) view.aside = Button{.id = "allEnvelopes", .label = "All"};
   return view;
 }
 

@@ -296,8 +296,7 @@ void WeeklySummaryViewController::describeAwards(View& view) const {
                 .text = isNominations ? "Only this week. A year whose nominations stay shut has no winners either"
                                       : "The envelopes of the year are opened",
                 .buttons = {{.id = "awardButton",
-                             .label = year + (isNominations ? " Annual GRAM Nominations" : " Annual GRAM Winners"),
-                             .style = Button::Style::primary}}});
+                             .label = year + (isNominations ? " Annual GRAM Nominations" : " Annual GRAM Winners")}}});
 }
 
 void WeeklySummaryViewController::describeEvents(View& view) const {
