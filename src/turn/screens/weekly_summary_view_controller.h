@@ -49,6 +49,7 @@ class WeeklySummaryViewController final : public Screen {
   std::string story_;                  // for a week without a headline
   WeeklyEvents events_;
   double cashBefore_ = 0;
+  double settlement_ = 0;  // what a divorce in this report took, in dollars
   bool hasAppeared_ = false;
 };
 
