@@ -11,4 +11,9 @@ namespace backbeat {
 void addLifeNeeds(const Game& game, std::vector<Need>& needs);
 void addLifeNews(const Game& game, std::vector<News>& news);
 
+/// `News::key` of the news that the partner has left.
+inline constexpr const char* breakUpKey = "break-up";
+/// Puts the artist on its poster, which parts in two between them.
+void tearApart(const GameState& state, Poster& poster);
+
 }  // namespace backbeat

@@ -36,6 +36,11 @@ std::optional<size_t> matchPosition(const GameState& state, int64_t matchId) {
 
 bool isMarried(const Matches& match) { return match.relationshipState >= love::married; }
 
+std::string statusText(const Matches& partner) {
+  if (isMarried(partner)) return "Married";
+  return partner.relationshipState == love::engaged ? "Engaged" : "Dating";
+}
+
 size_t matchesWaiting(const GameState& state) {
   return static_cast<size_t>(
       std::count_if(state.saveAllMatchesList.begin(), state.saveAllMatchesList.end(),

@@ -27,6 +27,9 @@ std::optional<size_t> matchPosition(const GameState& state, int64_t matchId);
 
 bool isMarried(const Matches& match);
 
+/// "Dating", "Engaged", "Married".
+std::string statusText(const Matches& partner);
+
 /// How many matched and were never asked out.
 size_t matchesWaiting(const GameState& state);
 

@@ -133,7 +133,10 @@ std::string weekFault(const GameState& state, const WeekBefore& before) {
   if (state.totalEnergyAvailable < 0) return "the energy is below 0";
   if (std::string found = ledgerFault(state); !found.empty()) return found;
   const bool advancePaidBack = before.underContract != state.underContract;  // a contract was not fulfilled in time
-  if (std::string found = cashFault(state, before.cash); !found.empty() && !advancePaidBack) return found;
+  const bool parted =
+      std::any_of(state.saveAllMatchesList.begin(), state.saveAllMatchesList.end(),
+                  [&](const Matches& match) { return match.weekEndedDating == state.weekNumberForTracking; });
+  if (std::string found = cashFault(state, before.cash); !found.empty() && !advancePaidBack && !parted) return found;
   std::set<int64_t> ids;
   for (const Song& song : state.saveAllSongList) {
     if (!ids.insert(song.songId).second) return "two songs have the id " + std::to_string(song.songId);

@@ -16,6 +16,7 @@
 #include "label/roster.h"
 #include "label/weekly_label_updates.h"
 #include "life/children_events.h"
+#include "life/news.h"
 #include "life/relationship_events.h"
 #include "live/festivals.h"
 #include "music/covers.h"
@@ -61,13 +62,14 @@ Figures incomeOf(const WeeklyReport& report) {
 
 double costOf(const WeeklyReport& report) { return report.totalExpenses + report.bonusPaidBack; }
 
-Figures expensesOf(const WeeklyReport& report) {
+Figures expensesOf(const WeeklyReport& report, double settlement) {
   Figures expenses{.title = "Cost"};
   addExpense(expenses, "Standing expenses", report.standingExpenses);
   addExpense(expenses, "Family", report.family);
   addExpense(expenses, "Touring", std::max(-report.tour, 0.0));
   addExpense(expenses, "Office", report.labelExpenses);
   addExpense(expenses, "Signing bonus paid back", report.bonusPaidBack);
+  addExpense(expenses, "Divorce", settlement);
   expenses.total = totalOf("Total cost", expenses.items);
   return expenses;
 }
@@ -231,7 +233,10 @@ Outcome WeeklySummaryViewController::appear() {
   const double cash = state().totalCashAvailable;
   outcome += checkContractDeadlines(game_);
   report_.bonusPaidBack = cash - state().totalCashAvailable;
+  const double cashWithPartner = state().totalCashAvailable;
   outcome += runRelationshipEvents(game_);
+  settlement_ = cashWithPartner - state().totalCashAvailable;
+  news_ = newsOf(game_);  // who has left, and who was born, came with the last step
   return outcome;
 }
 
@@ -377,14 +382,16 @@ View WeeklySummaryViewController::view() const {
             .picture = artistPicture(state()),
             .theme = Theme::report};
   if (!news_.empty() && news_.front().rank >= headlineRank) {
-    view.add(posterOf(news_.front()));
+    Poster poster = posterOf(news_.front());
+    if (news_.front().key == breakUpKey) tearApart(state(), poster);
+    view.add(std::move(poster));
   } else {
     view.add(Text{.text = story_, .style = Text::Style::lead});
   }
   Figures income = incomeOf(report_);
-  Figures expenses = expensesOf(report_);
+  Figures expenses = expensesOf(report_, settlement_);
   const double net = income.total->amount + expenses.total->amount;
-  const double cashAfter = cashBefore_ + report_.totalRevenue - costOf(report_);
+  const double cashAfter = cashBefore_ + report_.totalRevenue - costOf(report_) - settlement_;
   const int64_t change = game_.launch.weeklyFanChange;
   const std::string ofNet =
       report_.weeklyTourSales.empty() ? "cash " + currency(cashAfter) : "show " + currency(report_.tour);
