@@ -18,6 +18,7 @@
 #include "turn/screens/view_controller.h"
 #include "turn/segues.h"
 #include "video/segues.h"
+#include "wealth/segues.h"
 
 namespace backbeat {
 
@@ -34,8 +35,8 @@ const std::array<Tab, tabCount>& tabs() {
 }
 
 std::span<const Room* const> rooms() {
-  static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom, &videoRoom, &featuresRoom,
-                                        &liveRoom,   &merchRoom,  &labelRoom, &turnRoom,  &shellRoom};
+  static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom,  &videoRoom, &featuresRoom, &liveRoom,
+                                        &merchRoom,  &labelRoom,  &wealthRoom, &turnRoom,  &shellRoom};
   return all;
 }
 
