@@ -20,6 +20,7 @@
 #include "turn/screens/view_controller.h"
 #include "turn/segues.h"
 #include "video/segues.h"
+#include "wealth/segues.h"
 
 namespace backbeat {
 
@@ -36,9 +37,9 @@ const std::array<Tab, tabCount>& tabs() {
 }
 
 std::span<const Room* const> rooms() {
-  static constexpr const Room* all[] = {&socialRoom,      &careerRoom, &musicRoom, &videoRoom,
-                                        &featuresRoom,    &liveRoom,   &merchRoom, &labelRoom,
-                                        &recognitionRoom, &lifeRoom,   &turnRoom,  &shellRoom};
+  static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom, &videoRoom,  &featuresRoom,
+                                        &liveRoom,   &merchRoom,  &labelRoom, &wealthRoom, &recognitionRoom,
+                                        &lifeRoom,   &turnRoom,   &shellRoom};
   return all;
 }
 

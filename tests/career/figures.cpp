@@ -87,6 +87,8 @@ Standings lifeFigures(Game& twin) {
           {"Health", "", "goToLifestyleChoices 2"},
           {"Home", "", "goToLifestyleChoices 3"},
           {"Transportation", "", "goToLifestyleChoices 4"},
+          {"Exotic", currency(470'000 * 0.9), "goToTransportationOptions"},
+          {"Exotic: subtitle", state.saveAllTransportationOwnedList[0].title},
           {"Energy", std::to_string(state.totalEnergyMax - weeklyEnergyCosts(state)), "goToEnergyTransparency"},
           {"Living", currency(-living), "goToExpenseScreen"}};
 }
@@ -174,6 +176,7 @@ Standings energyFigures(Game& twin) {
           {"Child Abandonment ", cost(state.childAbandonmentEnergyLoss)},
           {"Annual Checkup ", gain(state.annualCheckupTotal)},
           {"Lifestyle ", gain(lifestyle)},
+          {"Garage ", gain(state.saveAllTransportationOwnedList[0].energyBonus)},
           {"Relationship ", gain(state.saveAllMatchesList[0].energyBonus)}};
 }
 

@@ -68,6 +68,22 @@ std::string weekRowsFault(std::string_view key, const RecordList<T>& list, Calen
   return {};
 }
 
+/// Whether each of the `owned` has one entry in the ledger, `offset` away from its id, and each entry from `first` to
+/// `last` one of them.
+template <class T>
+bool pairsUp(const GameState& state, const RecordList<T>& owned, int64_t T::*id, int64_t offset, int64_t first,
+             int64_t last) {
+  std::multiset<int64_t> codes;
+  for (const T& one : owned) codes.insert(one.*id + offset);
+  std::multiset<int64_t> entries;
+  for (const WeeklyLineItem& item : state.saveAllWeeklyLineItems) {
+    if (item.typeOfExpense >= first && item.typeOfExpense <= last) {
+      entries.insert(item.typeOfExpense);
+    }
+  }
+  return codes == entries;
+}
+
 /// Whether the ledger holds together.
 std::string ledgerFault(const GameState& state) {
   std::set<int64_t> entries;
@@ -81,6 +97,14 @@ std::string ledgerFault(const GameState& state) {
   if (std::count_if(items.begin(), items.end(),
                     [](const WeeklyLineItem& item) { return item.typeOfExpense == expense::basicNeeds; }) != 1) {
     return "the basic needs are not in the ledger once";
+  }
+  if (!pairsUp(state, state.saveAllInvestmentPropertyList, &InvestmentProperty::propertyId, 2'000,
+               expense::firstProperty, expense::lastProperty)) {
+    return "the homes and their taxes do not pair up";
+  }
+  if (!pairsUp(state, state.saveAllTransportationOwnedList, &Transportation::id, -2'000, expense::firstInsurance,
+               expense::lastInsurance)) {
+    return "the vehicles and their insurances do not pair up";
   }
   return {};
 }
