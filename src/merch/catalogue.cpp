@@ -28,9 +28,10 @@ Picture productPicture(const MerchOption& option, const std::string& name) {
 }
 
 Picture productPicture(const Merch& product) {
-  const auto* option = std::find_if(merchCatalogue.begin(), merchCatalogue.end(),
-                                    [&](const MerchOption& each) { return each.itemId == product.merchOptionId; });
-  return option == merchCatalogue.end() ? icon("shirt") : productPicture(*option, product.name);
+  for (const MerchOption& option : merchCatalogue) {
+    if (option.itemId == product.merchOptionId) return productPicture(option, product.name);
+  }
+  return icon("shirt");
 }
 
 std::string suggestedProductName(const GameState& state, const MerchOption& option, int64_t nth) {
