@@ -9,8 +9,6 @@ import { makeRoomForCopies } from "./room";
 import { asidesOf, isAside, type Row, type StoredRow } from "./rows";
 import { Save, type Trouble } from "./save";
 import { forgetStops, noteStop, stopsTooOften } from "./stops";
-import { trialProblem } from "./trial";
-import { warmUp } from "./warm";
 
 /** What the shell plays: the latest answer of the engine, and the way to press something. */
 export interface Player {
