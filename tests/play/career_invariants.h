@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "core/game_state.h"
+#include "core/game.h"
 
 namespace backbeat {
 
@@ -17,6 +17,9 @@ struct WeekBefore {
 
 /// What is wrong with the indexes of the histories, or "": each finds what looking at every row finds.
 std::string historyFault(const GameState& state);
+
+/// What is wrong with what the launch remembers of the label, or "": its sums are those of all weeks, to the last bit.
+std::string labelSumsFault(Game& game);
 
 /// What is wrong right after a week has ended, or "": with the calendar, the ledger, the cash, the songs and the
 /// week's rows.

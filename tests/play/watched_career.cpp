@@ -109,6 +109,7 @@ std::string WatchedCareer::fault(Care care) {
     const std::vector<std::string> unsaved = differencesFromStore(state(), store_);
     if (!unsaved.empty()) return "not saved: " + unsaved.front();
     if (std::string found = historyFault(state()); !found.empty()) return found;
+    if (std::string found = labelSumsFault(session().game()); !found.empty()) return found;
   }
   if (due || newHere) {
     if (std::string found = glassFault(session(), [&] { return shown(); }); !found.empty()) return found;
