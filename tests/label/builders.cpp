@@ -87,32 +87,33 @@ int64_t addSignedAlbum(GameState& state, int64_t artistId, int64_t songs, double
   return state.signedArtistAlbumId;
 }
 
-void addSignedWeeks(GameState& state, int64_t albumId, int64_t weeks, int64_t streams) {
-  const auto songs = state.saveAllSignedArtistSongList.historyOf(albumId);
-  for (int64_t ago = weeks; ago > 0; --ago) {
-    const int64_t before = state.weekNumberForTracking - ago;
-    const CalendarWeek week = {(before - 1) % 52 + 1, 2023 + (before - 1) / 52};
-    int64_t artistId = 0;
-    for (const uint32_t position : songs) {
-      const SignedArtistSong& song = state.saveAllSignedArtistSongList[position];
-      artistId = song.artistId;
-      state.saveAllSignedArtistWeeklySongListens.append({.songId = song.songId,
-                                                         .artistId = artistId,
-                                                         .albumId = albumId,
-                                                         .songTitle = song.title,
-                                                         .songListens = streams,
-                                                         .weekNumber = week.week,
-                                                         .yearNumber = week.year,
-                                                         .totalStreamRevenue = static_cast<double>(streams) * 0.0024});
-    }
-    state.saveAllSignedArtistWeeklyAlbumSales.append({.albumId = albumId,
-                                                      .artistId = artistId,
-                                                      .albumTitle = "Album " + std::to_string(albumId),
-                                                      .albumSales = 120,
-                                                      .albumRevenue = 672,
-                                                      .weekNumber = week.week,
-                                                      .yearNumber = week.year});
+void addSignedWeek(GameState& state, int64_t albumId, int64_t weeksAgo, int64_t streams) {
+  const int64_t before = state.weekNumberForTracking - weeksAgo;
+  const CalendarWeek week = {(before - 1) % 52 + 1, 2023 + (before - 1) / 52};
+  int64_t artistId = 0;
+  for (const uint32_t position : state.saveAllSignedArtistSongList.historyOf(albumId)) {
+    const SignedArtistSong& song = state.saveAllSignedArtistSongList[position];
+    artistId = song.artistId;
+    state.saveAllSignedArtistWeeklySongListens.append({.songId = song.songId,
+                                                       .artistId = artistId,
+                                                       .albumId = albumId,
+                                                       .songTitle = song.title,
+                                                       .songListens = streams,
+                                                       .weekNumber = week.week,
+                                                       .yearNumber = week.year,
+                                                       .totalStreamRevenue = static_cast<double>(streams) * 0.0024});
   }
+  state.saveAllSignedArtistWeeklyAlbumSales.append({.albumId = albumId,
+                                                    .artistId = artistId,
+                                                    .albumTitle = "Album " + std::to_string(albumId),
+                                                    .albumSales = 120,
+                                                    .albumRevenue = 672,
+                                                    .weekNumber = week.week,
+                                                    .yearNumber = week.year});
+}
+
+void addSignedWeeks(GameState& state, int64_t albumId, int64_t weeks, int64_t streams) {
+  for (int64_t ago = weeks; ago > 0; --ago) addSignedWeek(state, albumId, ago, streams);
 }
 
 }  // namespace backbeat

@@ -21,7 +21,8 @@ int64_t addSignedArtist(GameState& state, const std::string& name, int64_t level
 /// begin with, all of it 20. Its id.
 int64_t addSignedAlbum(GameState& state, int64_t artistId, int64_t songs, double rating);
 
-/// What the songs of an album streamed and the album sold, for so many weeks up to the last one.
+/// What the songs of an album streamed and the album sold in a week, or in so many up to the last one.
+void addSignedWeek(GameState& state, int64_t albumId, int64_t weeksAgo, int64_t streams);
 void addSignedWeeks(GameState& state, int64_t albumId, int64_t weeks, int64_t streams);
 
 }  // namespace backbeat

@@ -98,7 +98,7 @@ Standings homeFigures(Game& twin) {
   const double everything = allWeeks(albums, &SignedArtistWeeklyAlbumSales::albumRevenue) +
                             allWeeks(songs, &SignedArtistWeeklySongListens::totalStreamRevenue);
   return Standings{{"cover: badge", overall},
-                   {"Nova Reed", rating, "goToSignedArtistDetail 7"},
+                   {"Nova Reed", rating},
                    {"Nova Reed: subtitle", abbreviated(static_cast<double>(artist.monthlyListeners))},
                    {"Artists", "1/" + std::to_string(state.studioCapacity), "goToSignedArtists"},
                    {"Artists: subtitle", "1 ACTIVE • 0 DROPPED ARTIST(S)"},

@@ -96,13 +96,22 @@ void change(GameState& state, int64_t artistId, const std::function<void(SignedA
   state.saveAllSignedArtistList.update(static_cast<size_t>(artistId - 1), how);
 }
 
-/// An album that was out so many weeks before, with what it earned since.
-void putOut(GameState& state, int64_t artistId, int64_t songs, double rating, int64_t weeksAgo, int64_t streams) {
+/// An album that came out so many weeks before.
+void putOut(GameState& state, int64_t artistId, int64_t songs, double rating, int64_t weeksAgo) {
   const int64_t now = state.weekNumberForTracking;
   setDate(state, now - weeksAgo);
-  const int64_t album = addSignedAlbum(state, artistId, songs, rating);
+  addSignedAlbum(state, artistId, songs, rating);
   setDate(state, now);
-  addSignedWeeks(state, album, weeksAgo, streams);
+}
+
+/// What all albums have earned since they came out, each song of the first the given streams a week, the others fewer.
+void earnSince(GameState& state, int64_t streams) {
+  const int64_t now = state.weekNumberForTracking;
+  for (int64_t ago = 60; ago > 0; --ago) {
+    for (const SignedArtistAlbum& album : state.saveAllSignedArtistAlbumList) {
+      if (album.releaseWeek <= now - ago) addSignedWeek(state, album.albumId, ago, streams / album.albumId);
+    }
+  }
 }
 
 /// Every artist wants something: a review, a new contract, an hour; one has left and still earns.
@@ -128,9 +137,10 @@ void waiting(GameState& state) {
     artist.happiness = 43;
   });
   change(state, gone, [](SignedArtist& artist) { artist.underContract = false; });
-  putOut(state, ready, 9, 41.5, 20, 9'400);
-  putOut(state, up, 8, 36, 35, 1'200);
-  putOut(state, gone, 11, 28, 60, 800);
+  putOut(state, ready, 9, 41.5, 20);
+  putOut(state, up, 8, 36, 35);
+  putOut(state, gone, 11, 28, 60);
+  earnSince(state, 9'400);
   addSignedAlbum(state, busy, 10, 52);
   FeaturedOn verse;
   verse.songId = state.featuredOnSongId += 1;
@@ -165,8 +175,9 @@ void stars(GameState& state) {
     artist.weekSigned = state.weekNumberForTracking - 207;
     artist.weekEnd = state.weekNumberForTracking + 1;
   });
-  putOut(state, star, 8, 88, 1, 11'000'000);
-  putOut(state, silent, 8, 30, 29, 300);
+  putOut(state, star, 8, 88, 1);
+  putOut(state, silent, 8, 30, 29);
+  earnSince(state, 11'000'000);
   state.saveAllSignedArtistSongList.update(0, [](SignedArtistSong& song) { song.viralityScore = 45; });
 }
 
