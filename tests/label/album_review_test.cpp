@@ -51,7 +51,7 @@ TEST(AlbumReview, PutsSongsAndAnAlbumOutAndTellsTheFeed) {
   EXPECT_EQ(outcome.go->argument, "1");
   GameState& state = world.state;
   ASSERT_EQ(state.saveAllSignedArtistSongList.size(), 8u);
-  EXPECT_EQ(world.song(3).title, "Golden Rivers");
+  EXPECT_EQ(world.song(3).title, "Golden Shadows");
   EXPECT_DOUBLE_EQ(world.song(3).productionRating, 32);
   EXPECT_DOUBLE_EQ(world.song(3).viralityScore, 30 + 4 + 1);
   EXPECT_DOUBLE_EQ(world.song(3).marketingScore, 23);

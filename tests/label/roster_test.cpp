@@ -113,9 +113,11 @@ TEST(LabelSums, FollowTheWeeksThatComeAndThoseThatAreClearedAway) {
   // Two weeks go and two of another artist come: as many rows as before.
   world.state.saveAllSignedArtistWeeklyAlbumSales.erase(0);
   world.state.saveAllSignedArtistWeeklyAlbumSales.erase(0);
+  setDate(world.state, 302);
   addSignedWeeks(world.state, second, 2, 7'000);
   EXPECT_NEAR(storedRoyalties(world.game), plainSum(world.state), 1e-6);
   EXPECT_NEAR(earnedByArtist(world.game, 1), 672 + 14.4, 1e-6);
+  world.settle();
 }
 
 TEST(LabelReturn, CountsVersesForTheLabelAndKeepsTheBest) {
