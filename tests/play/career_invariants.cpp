@@ -10,6 +10,7 @@
 #include "core/calendar.h"
 #include "core/money.h"
 #include "core/week_rows.h"
+#include "label/accounts.h"
 #include "music/silence.h"
 #include "turn/income_statement.h"
 
@@ -146,6 +147,16 @@ std::string sleepFault(const GameState& state) {
   if (!found.empty()) return found;
   return sleepFault("chart row", state.saveAllBillboardSongList,
                     [](const BillboardSong& row) { return !row.isOnCharts; });
+}
+
+std::string labelSumsFault(Game& game) {
+  double streams = 0;
+  double sales = 0;
+  for (const auto& week : game.state.saveAllSignedArtistWeeklySongListens) streams += week.totalStreamRevenue;
+  for (const auto& week : game.state.saveAllSignedArtistWeeklyAlbumSales) sales += week.albumRevenue;
+  const LabelMemory& sums = labelSums(game);
+  if (sums.streams.total != streams) return "the label's streams are not summed as its weeks say";
+  return sums.sales.total == sales ? "" : "the label's sales are not summed as its weeks say";
 }
 
 std::string weekFault(const GameState& state, const WeekBefore& before) {

@@ -81,6 +81,7 @@ Standings reportFigures(Game& twin) {
                    {"Listeners: note", "now " + withCommas(state.totalFans)},
                    {"Borrowed Time", withCommas(state.saveAllFeaturedOnWeeklySongListens[1].songListens)},
                    {"Borrowed Time: subtitle", "Gil Ives"},
+                   {"Nova Reed", withCommas(state.saveAllSignedArtistWeeklySongListens[1].songListens)},
                    {film.songTitle, withCommas(film.videoViews)},
                    {"Harbour Bowl", withCommas(state.saveAllWeeklyTourSales[1].seatsSold)},
                    {"Harbour Bowl: subtitle", "Lisbon"},

@@ -113,7 +113,7 @@ void SignedArtistDetailViewController::describe(View& view) const {
 
 void SignedArtistDetailViewController::describeLevels(View& view, const SignedArtist& artist) const {
   view.add(Meter{.label = withChange("Talent meter", artist.talent, artist.originalTalent),
-                 .value = std::to_string(artist.talent),
+                 .value = withCommas(artist.talent),
                  .share = shareOf(artist.talent, int64_t{100}),
                  .steps = 12});
   Gauges traits;

@@ -33,7 +33,7 @@ Row rowOf(const GameState& state, const SignedArtist& artist) {
           .title = artist.name,
           .subtitle = standingOf(state, artist),
           .value = std::to_string(rating),
-          .tone = artist.underContract ? toneOfRating(static_cast<double>(rating)) : Tone::locked,
+          .tone = artist.underContract ? toneOfRating(static_cast<double>(rating)) : Tone::plain,
           .opens = true,
           .id = "artist:" + std::to_string(artist.artistId)};
   if (contractIsUp(state, artist)) row.badge = "CONTRACT";
