@@ -161,7 +161,7 @@ TEST(MatchList, AYesMakesACoupleAndANoIsGone) {
   EXPECT_EQ(chirp.message, "♥️ It's Official ♥️ Chirp, meet bae. Bae, meet Chirp 💋 Mara Voss");
   EXPECT_EQ(chirp.artistId, 200'002);
   EXPECT_EQ(chirp.likeCount, 505);
-  EXPECT_EQ(chirp.commentCount, 252) << "of the likes before they were cut";
+  EXPECT_EQ(chirp.commentCount, 252);
   EXPECT_EQ(chirp.reChirpCount, 50);
   EXPECT_TRUE(askOut(world.game, yes).alerts.empty()) << "they are together already";
 }
