@@ -111,7 +111,7 @@ Outcome swipe(Game& game, Swipe way) {
   drawMatchCandidate(game);
   if (way == Swipe::star) app.pendingSuperLike = 1;
   stateChanged(game);
-  return isMatch ? goTo("goToRelationshipMatch") : success();
+  return isMatch ? goTo("goToRelationshipMatch") : Outcome{};
 }
 
 Outcome createMatchRecord(Game& game) {

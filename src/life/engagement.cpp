@@ -1,11 +1,11 @@
 #include "life/engagement.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 #include "core/calendar.h"
 #include "core/money.h"
-#include "core/numbers.h"
 #include "core/purse.h"
 #include "life/partner.h"
 #include "wealth/net_assets.h"
@@ -115,7 +115,7 @@ int64_t weeksToNextStep(const Matches& partner) {
 double partnersAssets(const GameState& state, const Matches& partner) {
   constexpr int64_t atWorkFrom = 22;
   const int64_t years = std::max<int64_t>(ageNow(state, partner) - atWorkFrom, 1);
-  return static_cast<double>(truncate(partner.weeklyEarnings) * 13 * years);
+  return std::trunc(partner.weeklyEarnings) * 13 * static_cast<double>(years);
 }
 
 bool fertilityBlocked(const GameState& state) {

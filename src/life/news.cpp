@@ -1,10 +1,6 @@
 #include "life/news.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "core/money.h"
-#include "core/own_photo.h"
 #include "life/engagement.h"
 #include "life/partner.h"
 

@@ -79,6 +79,12 @@ void married(GameState& state) {
   addMatch(state, whoSaysNo(state, "Ada"));
 }
 
+/// So close that nothing parts them for years.
+void goldenWedding(GameState& state) {
+  married(state);
+  state.saveAllMatchesList.update(0, [](Matches& partner) { partner.relationshipStatus = 2'000; });
+}
+
 /// On the brink, with a prenup; the baby comes this week.
 void neglected(GameState& state) {
   begin(state, 800'000);
@@ -104,6 +110,7 @@ const RoomWorlds worlds({{"single", single},
                          {"in love", inLove},
                          {"engaged", engaged},
                          {"married", married},
+                         {"golden wedding", goldenWedding},
                          {"married with a prenup", neglected},
                          {"forgotten", forgotten}});
 

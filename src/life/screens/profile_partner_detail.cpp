@@ -5,7 +5,6 @@
 #include "core/money.h"
 #include "core/view_words.h"
 #include "life/partner.h"
-#include "life/screens/love_words.h"
 
 namespace backbeat {
 

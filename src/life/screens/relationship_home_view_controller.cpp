@@ -108,7 +108,7 @@ void RelationshipHomeViewController::describe(View& view, const Matches& partner
   view.add(Tiles{{{.icon = "wine", .label = "Quality Time", .id = "qualityTime", .price = qualityTimeCost},
                   {.icon = "message", .label = "Compliment", .id = "compliment", .price = complimentCost},
                   {.icon = "mic", .label = "Serenade", .id = "serenade", .price = serenadeCost},
-                  {.icon = "cash", .label = "Ask for Money", .id = "askForMoney", .price = askForMoneyCost(state())},
+                  {.icon = "cash", .label = "ASK FOR MONEY", .id = "askForMoney", .price = askForMoneyCost(state())},
                   mainTile(state(), partner),
                   {.icon = "heartBroken", .label = "Break Up", .id = "breakup", .price = breakupCost}}});
   view.add(Rows{.items = {wayTo("goToProfilePartner", "person", "Profile", "Who " + partner.name + " is"),
