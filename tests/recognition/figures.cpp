@@ -29,8 +29,14 @@ void goToAwardsNight(Game& game) {
   game.state.weekNumber = winnersWeek;
 }
 
-Standings nominationFigures(Game& /*twin*/) {
-  return {{"poster", "2049 Nominations"}, {"Glass Harbour: badge", "You"}};
+/// Whatever of this year's songs the draws let in is marked.
+Standings nominationFigures(Game& twin) {
+  runNominations(twin);
+  Standings standings = {{"poster", "2049 Nominations"}};
+  for (const Award& award : awardsOfYear(twin.state, twin.state.yearNumber)) {
+    standings.push_back({award.songOrAlbumName + ": badge", "You"});
+  }
+  return standings;
 }
 
 Standings winnerFigures(Game& /*twin*/) { return {{"poster", "2049 GRAM WINNERS"}}; }
