@@ -1,7 +1,10 @@
 #include "play/figures.h"
 
 #include "core/money.h"
+#include "core/short_money.h"
+#include "wealth/career_records.h"
 #include "wealth/property_catalogue.h"
+#include "wealth/rich_list.h"
 #include "wealth/vehicle_catalogue.h"
 
 namespace backbeat {
@@ -79,11 +82,36 @@ Standings motorsFigures(Game& twin) {
   return standings;
 }
 
+Standings richListFigures(Game& twin) {
+  const GameState& state = twin.state;
+  const double property = 1'310'000 * 1.125;
+  const double garage = 470'000 * 0.9;
+  const double ventures = 6'060'606 / 4.0;
+  const double all = state.totalCashAvailable + property + garage + ventures;
+  Standings standings = {{"Real Time Net Worth", "$8.8M"},
+                         {"Real Time Net Worth: note",
+                          "up " + abbreviatedDollars(all - state.netWorthSinceLastChecked) + " since your last visit"},
+                         {"Self-Made Score", std::to_string(selfMadeScore(state))},
+                         {"Philanthropy Score", std::to_string(1 + state.charisma / 25)}};
+  const std::pair<const char*, double> parts[] = {
+      {"Ventures", ventures}, {"Property", property}, {"Garage", garage}, {"Cash", state.totalCashAvailable}};
+  for (const auto& [title, value] : parts) {
+    standings.push_back({title, abbreviatedDollars(value)});
+    standings.push_back({std::string(title) + ": share", shareText(value / all)});
+  }
+  for (const RecordLine& line : careerRecords(state)) {
+    standings.push_back({line.label, line.value});
+    if (!line.note.empty()) standings.push_back({line.label + ": subtitle", line.note});
+  }
+  return standings;
+}
+
 std::vector<ScreenFigures> screens() {
   return {
       {.segue = "goToPropertyListing", .figures = marketFigures},
       {.segue = "goToPropertyPortfolio", .figures = portfolioFigures},
       {.segue = "goToTransportationOptions", .figures = motorsFigures},
+      {.segue = "goToForbesDetail", .figures = richListFigures},
   };
 }
 
