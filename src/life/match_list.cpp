@@ -65,7 +65,7 @@ void sortMatches(Game& game) {
   RecordList<Matches>& matches = game.state.saveAllMatchesList;
   const auto isBehind = [](const Matches& a, const Matches& b) { return a.relationshipState > b.relationshipState; };
   if (std::is_sorted(matches.begin(), matches.end(), isBehind)) return;
-  matches.sortDescending([](const Matches& match) { return match.relationshipState; });
+  matches.sortDescending(&Matches::relationshipState);
   game.save(&GameState::saveAllMatchesList);
 }
 
