@@ -14,7 +14,7 @@ Standings offerFigures(Game& twin) {
   return {{"poster: text", offer.artistName + " (" + withDecimals(offer.rating, 0) +
                                ") is interested in having you feature on their track - " + offer.title},
           {"Fee at once", currency(static_cast<double>(offer.fee))},
-          {"Of the streams", std::to_string(offer.royalty) + "%"},
+          {"Share", std::to_string(offer.royalty) + "%"},
           {"Track rating", withDecimals(offer.trackRating, 1)},
           {"Track rating: note", counted(static_cast<int64_t>(offer.trackRating) + 1, "week")},
           {"Your share", asked},

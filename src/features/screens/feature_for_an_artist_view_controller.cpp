@@ -54,7 +54,7 @@ void FeatureForAnArtistViewController::describeTerms(View& view) const {
                    .label = "Fee at once",
                    .value = isSigned ? "–" : currency(static_cast<double>(offer_.fee)),
                    .tone = isSigned ? Tone::plain : Tone::good},
-                  {.icon = "headphones", .label = "Of the streams", .value = percent(offer_.royalty)},
+                  {.icon = "headphones", .label = "Share", .value = percent(offer_.royalty)},
                   {.icon = "star",
                    .label = "Track rating",
                    .value = withDecimals(offer_.trackRating, 1),
