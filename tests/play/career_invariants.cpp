@@ -10,9 +10,11 @@
 #include "core/calendar.h"
 #include "core/money.h"
 #include "core/week_rows.h"
+#include "features/featured_streams.h"
 #include "label/accounts.h"
 #include "music/silence.h"
 #include "turn/income_statement.h"
+#include "video/weekly_views.h"
 
 namespace backbeat {
 
@@ -142,8 +144,15 @@ std::string historyFault(const GameState& state) {
 
 std::string sleepFault(const GameState& state) {
   const auto isSilentNow = [&](const auto& release) { return isSilent(state, release); };
+  const auto isForgottenNow = [&](const auto& release) { return isForgotten(state, release); };
   std::string found = sleepFault("song", state.saveAllSongList, isSilentNow);
   if (found.empty()) found = sleepFault("album", state.saveAllAlbumList, isSilentNow);
+  if (found.empty()) found = sleepFault("video", state.saveAllMusicVideoList, isForgottenNow);
+  if (found.empty()) found = sleepFault("verse", state.saveAllFeaturedOnList, isForgottenNow);
+  if (found.empty()) {
+    found = sleepFault("product", state.saveAllMerchReleasedList,
+                       [](const Merch& product) { return product.isRetired != 0; });
+  }
   if (!found.empty()) return found;
   return sleepFault("chart row", state.saveAllBillboardSongList,
                     [](const BillboardSong& row) { return !row.isOnCharts; });
