@@ -6,14 +6,13 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
-#include <unordered_map>
 
 namespace backbeat {
 
 /// Dollars of a list that grows week by week, summed as it grows.
 struct RunningSums {
-  std::unordered_map<int64_t, double> ofWork;    ///< by song or album
-  std::unordered_map<int64_t, double> ofArtist;  ///< by artist
+  std::map<int64_t, double> ofWork;    ///< by song or album
+  std::map<int64_t, double> ofArtist;  ///< by artist
   double total = 0;
   size_t rows = 0;                   ///< summed so far
   std::array<int64_t, 3> last = {};  ///< work, week and year of the last of them

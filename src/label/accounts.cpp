@@ -67,7 +67,7 @@ const LabelMemory& labelSums(Game& game) {
   return label;
 }
 
-double earnedBy(const std::unordered_map<int64_t, double>& sums, int64_t id) {
+double earnedBy(const std::map<int64_t, double>& sums, int64_t id) {
   const auto found = sums.find(id);
   return found == sums.end() ? 0 : found->second;
 }

@@ -16,7 +16,7 @@ double runningCosts(const GameState& state);
 const LabelMemory& labelSums(Game& game);
 
 /// Of a work or an artist among such sums; 0 of one that earned nothing.
-double earnedBy(const std::unordered_map<int64_t, double>& sums, int64_t id);
+double earnedBy(const std::map<int64_t, double>& sums, int64_t id);
 
 /// What an artist brought by songs and albums.
 double earnedByArtist(Game& game, int64_t artistId);

@@ -147,6 +147,13 @@ Outcome mainAction(Game& game) {
   return notReadyToPropose(game.state, partner).value_or(goTo("goToEngagementRing"));
 }
 
+bool canPropose(const GameState& state) {
+  const auto position = partnerPosition(state);
+  if (!position) return false;
+  const Matches& partner = state.saveAllMatchesList[*position];
+  return partner.relationshipState == love::dating && !notReadyToPropose(state, partner);
+}
+
 Outcome propose(Game& game, size_t number) {
   const auto position = partnerPosition(game.state);
   if (!position || number >= rings.size()) return {};

@@ -43,6 +43,9 @@ bool mayTakeNextStep(const GameState& state, const Matches& partner);
 /// too early, with too little love, and without what it costs; during a pregnancy it does nothing.
 Outcome mainAction(Game& game);
 
+/// Whether there is somebody to propose to and nothing but the ring's price in the way.
+bool canPropose(const GameState& state);
+
 /// Proposes with the ring at `number` of the table. Refused as the step is, and without the cash.
 Outcome propose(Game& game, size_t number);
 

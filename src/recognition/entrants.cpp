@@ -4,7 +4,6 @@
 #include <array>
 #include <iterator>
 #include <map>
-#include <unordered_map>
 
 #include "music/genres.h"
 
@@ -15,7 +14,7 @@ namespace {
 constexpr int64_t fewestSongs = 5;
 constexpr auto genreCount = static_cast<int64_t>(genres.size());
 
-using GenreOfSong = std::unordered_map<int64_t, int64_t>;
+using GenreOfSong = std::map<int64_t, int64_t>;
 
 GenreOfSong ownGenres(const GameState& state) {
   GenreOfSong known;
@@ -31,13 +30,13 @@ int64_t genreOfSong(const GenreOfSong& known, int64_t songId) {
 }
 
 /// What most songs of each album are in; the lowest number where two are equal.
-std::unordered_map<int64_t, int64_t> genresOfAlbums(const GameState& state, const GenreOfSong& known) {
-  std::unordered_map<int64_t, std::array<int64_t, genres.size()>> songs;
+std::map<int64_t, int64_t> genresOfAlbums(const GameState& state, const GenreOfSong& known) {
+  std::map<int64_t, std::array<int64_t, genres.size()>> songs;
   for (const Song& song : state.saveAllSongList) {
     const int64_t genre = genreOfSong(known, song.songId);
     if (genre != noGenre) songs[song.albumId][static_cast<size_t>(genre)] += 1;
   }
-  std::unordered_map<int64_t, int64_t> most;
+  std::map<int64_t, int64_t> most;
   for (const auto& [albumId, counts] : songs) {
     most[albumId] = std::distance(counts.begin(), std::max_element(counts.begin(), counts.end()));
   }

@@ -32,7 +32,7 @@ Standings ownArtistsOfferFigures(Game& twin) {
   const std::string share = std::to_string(offer.royalty) + "%";
   return {{"poster: text", offer.artistName + " (" + withDecimals(offer.rating, 0) +
                                ") is interested in having you feature on their track - " + offer.title},
-          {"Of the streams", share},
+          {"Share", share},
           {"Track rating", withDecimals(offer.trackRating, 1)},
           {"Track rating: note", counted(static_cast<int64_t>(offer.trackRating) + 1, "week")},
           {"Your share", share},

@@ -342,7 +342,6 @@ Standings artistFigures(Game& twin) {
   const double percent = 100 - std::round(nova.labelRevenuePercentage * 100);
   return Standings{{"cover: badge", std::to_string(artistRating(nova))},
                    {"cover: text", withCommas(nova.monthlyListeners) + " monthly listeners\nGospel"},
-                   {"In Production (Est. " + std::to_string(nova.weeksToCompleteAlbum) + " Weeks)", ""},
                    {"text", "Nova Reed signed " + counted(years, "year") + " for " +
                                 currency(static_cast<double>(nova.signingBonus)) + " and has earned " +
                                 currency(albumsEarned(state) + streamsEarned(state)) + " from a " +

@@ -181,7 +181,6 @@ Standings historyFigures(Game& twin) {
 }
 
 std::vector<ScreenFigures> screens() {
-  const auto endWeek = [](Game& game) { runWeekCycle(game, [] {}); };
   return {
       {.segue = "music", .figures = songTabFigures},
       {.segue = "music", .figures = albumTabFigures, .presses = {{"kind", "1"}}},
@@ -189,7 +188,10 @@ std::vector<ScreenFigures> screens() {
       {.segue = "goToArtistProfile", .figures = profileFigures},
       {.segue = "goToMonthlyListenerDetail", .figures = listenerFigures},
       {.segue = "goToBillboard", .figures = billboardFigures, .noFigures = {"title"}},
-      {.segue = "goToBillboard", .figures = nextBillboardFigures, .before = endWeek, .noFigures = {"title"}},
+      {.segue = "goToBillboard",
+       .figures = nextBillboardFigures,
+       .before = endWeekWithoutLabel,
+       .noFigures = {"title"}},
       {.segue = "goToBillboard", .figures = historyFigures, .presses = {{"historyButton", ""}}},
   };
 }

@@ -180,7 +180,12 @@ std::string weekFault(const GameState& state, const WeekBefore& before) {
   const bool parted =
       std::any_of(state.saveAllMatchesList.begin(), state.saveAllMatchesList.end(),
                   [&](const Matches& match) { return match.weekEndedDating == state.weekNumberForTracking; });
-  if (std::string found = cashFault(state, before.cash); !found.empty() && !advancePaidBack && !parted) return found;
+  // A child that is born in the report costs from the next week on, and the statement tells of it at once.
+  const bool gaveBirth =
+      std::any_of(state.saveAllChildList.begin(), state.saveAllChildList.end(),
+                  [&](const Child& child) { return child.birthWeekForTracking == state.weekNumberForTracking; });
+  const bool isTold = !advancePaidBack && !parted && !gaveBirth;
+  if (std::string found = cashFault(state, before.cash); !found.empty() && isTold) return found;
   std::set<int64_t> ids;
   for (const Song& song : state.saveAllSongList) {
     if (!ids.insert(song.songId).second) return "two songs have the id " + std::to_string(song.songId);

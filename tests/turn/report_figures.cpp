@@ -104,7 +104,7 @@ Standings reportFigures(Game& twin) {
                    {"Family", currency(-family)},
                    {"Office", currency(-office)},
                    {"Total cost", currency(-toldSumOf(expenses))},
-                   {"heading (7)", "Chances · " + std::to_string(state.totalEnergyAvailable) + " energy left"},
+                   {"heading (8)", "Chances · " + std::to_string(state.totalEnergyAvailable) + " energy left"},
                    {"Energy", std::to_string(state.totalEnergyAvailable)},
                    {"Energy: note", "of " + std::to_string(state.totalEnergyMax)},
                    {"Cash", currency(cash + net)}} +
@@ -118,7 +118,7 @@ std::vector<ScreenFigures> screens() {
   return {
       {.segue = "goToWeeklySummary",
        .figures = reportFigures,
-       .before = [](Game& game) { runWeekCycle(game, [] {}); },
+       .before = endWeekWithoutLabel,
        .noFigures = {"card (*", "card: *"}},
   };
 }

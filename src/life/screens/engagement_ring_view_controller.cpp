@@ -18,6 +18,10 @@ View EngagementRingViewController::view() const {
     view.add(EmptyHint{.icon = "ring", .text = "Nobody to give it to."});
     return view;
   }
+  if (!canPropose(state())) {
+    view.add(EmptyHint{.icon = "ring", .text = "Not now: a ring wants its moment."});
+    return view;
+  }
   view.subtitle = "For " + state().saveAllMatchesList[*position].name;
   Rows rows{.style = Rows::Style::shelf};
   for (size_t i = 0; i < rings.size(); ++i) {

@@ -18,7 +18,8 @@ std::string nameIn(const RecordList<T>& songs, int64_t songId) {
   return found == songs.size() ? "" : songs[found].artistName;
 }
 
-/// The label's songs are numbered as they come, so that none has to be looked for among those of fifty years.
+/// The label's songs are numbered as they come, so that none has to be looked for among those of fifty years, unless a
+/// file brought them in another order.
 std::string nameOnLabel(const RecordList<SignedArtistSong>& songs, int64_t songId) {
   size_t from = 0;
   for (size_t to = songs.size(); from < to;) {
@@ -29,7 +30,8 @@ std::string nameOnLabel(const RecordList<SignedArtistSong>& songs, int64_t songI
       to = middle;
     }
   }
-  return from == songs.size() || songs[from].songId != songId ? "" : songs[from].artistName;
+  const bool isThere = from != songs.size() && songs[from].songId == songId;
+  return isThere ? songs[from].artistName : nameIn(songs, songId);
 }
 
 /// Who sings: empty when the song behind the row is gone.

@@ -47,7 +47,7 @@ Outcome AwardNight::act(const Action& action) {
 }
 
 View AwardNight::view() const {
-  View view{.theme = Theme::gala};
+  View view{.title = "GRAM Awards", .theme = Theme::gala};
   const size_t left = fields_.size() - opened_;
   view.add(Poster{.pictures = {drawn(Picture::Kind::object, "fork", std::to_string(state().yearNumber))},
                   .kicker = "Annual GRAM Awards",
