@@ -11,6 +11,15 @@ namespace backbeat {
 namespace {
 
 // The partner is one who came into the world of figures with the ceiling of energy.
+void readyForARing(Game& game) {
+  game.state.saveAllMatchesList.update(*partnerPosition(game.state), [&](Matches& partner) {
+    partner.relationshipState = love::dating;
+    partner.relationshipStatus = 90;
+    partner.timeToPropose = 1;
+    partner.weekStartedDating = game.state.weekNumberForTracking - 20;
+  });
+}
+
 const Matches& partnerOf(const GameState& state) { return state.saveAllMatchesList[*partnerPosition(state)]; }
 
 void somebodyLikedBack(Game& game) { game.launch.dating.pendingMatch = somebody(game.state, "Theo"); }
@@ -111,7 +120,7 @@ std::vector<ScreenFigures> screens() {
           {.segue = "goToFxyMatchList", .figures = listFigures},
           {.segue = "goToYouMatchedWith", .argument = "7", .figures = matchFigures, .before = somebodyWaits},
           {.segue = "goToRelationshipHome", .figures = homeFigures},
-          {.segue = "goToEngagementRing", .figures = ringFigures},
+          {.segue = "goToEngagementRing", .figures = ringFigures, .before = readyForARing},
           {.segue = "goToProfilePartner", .figures = profileFigures},
           {.segue = "goToEditPartnerName", .figures = nameFigures}};
 }
