@@ -86,14 +86,17 @@ test("the envelope opened last unfolds on top, wherever one was reading", async 
   await page.evaluate((night) => window.stage.show(night), night(["Album", "Record"]));
   await page.waitForFunction(() => document.querySelectorAll(".award").length === 2);
   await page.evaluate(() => document.querySelector(".layer.modal .scroll").scrollTo({ top: 400 }));
-  const unfolding = await page.evaluate((night) => {
-    window.stage.show(night);
-    return new Promise((done) =>
-      document.addEventListener("animationstart", ({ target, animationName }) => {
-        if (animationName === "unfold") done(target.querySelector(".award-field").textContent);
-      }),
-    );
-  }, night(["Song", "Album", "Record"]));
+  const unfolding = await page.evaluate(
+    (night) => {
+      window.stage.show(night);
+      return new Promise((done) =>
+        document.addEventListener("animationstart", ({ target, animationName }) => {
+          if (animationName === "unfold") done(target.querySelector(".award-field").textContent);
+        }),
+      );
+    },
+    night(["Song", "Album", "Record"]),
+  );
   assert.equal(unfolding, "Song");
   await page.waitForFunction(() => document.querySelector(".layer.modal .scroll").scrollTop === 0);
   await context.close();
