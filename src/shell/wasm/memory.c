@@ -1,6 +1,6 @@
-// Copying and filling memory. The instruction for it begins slowly, since the browser leaves its own code for it, and most
-// of what the engine copies is a short text; the C library's loops are slow for what is long. So: a loop for the short, the
-// instruction for the rest.
+// Copying and filling memory. The instruction for it begins slowly, since the browser leaves its own code for it, and
+// most of what the engine copies is a short text; the C library's loops are slow for what is long. So: a loop for the
+// short, the instruction for the rest.
 #include <stddef.h>
 #include <stdint.h>
 
