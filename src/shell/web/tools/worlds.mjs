@@ -47,6 +47,20 @@ export async function openWorld(page, home, { rows, now }, query = "?seed=7") {
   await page.locator(".layer.top").first().waitFor();
 }
 
+/** Resolves once all that the page had to write is written. */
+export function settled(page) {
+  return page.evaluate(async () => {
+    const opened = await new Promise((done) => {
+      const opening = indexedDB.open("backbeat");
+      opening.onsuccess = () => done(opening.result);
+    });
+    const transaction = opened.transaction("rows", "readwrite");
+    transaction.objectStore("rows").count();
+    await new Promise((done) => (transaction.oncomplete = done));
+    opened.close();
+  });
+}
+
 function store(page, rows) {
   const plain = [...rows.values()].map(({ key, chunk, value }) => [key, chunk, Buffer.from(value).toString("base64")]);
   return page.evaluate(async (rows) => {
