@@ -1,5 +1,6 @@
 // A career at full stretch: a song released every week and rated so that about eighty stream at a time, an album of ten
-// of them every ten weeks, a post a week, and listeners enough to fill the chart.
+// of them every ten weeks, a post a week, and listeners enough to fill the chart. Besides, a video and a guest verse a
+// month, two tours of twelve venues a year, and a dozen products on the shelf, three of them new each season.
 #pragma once
 
 #include "core/clock.h"

@@ -70,6 +70,11 @@ std::string SavedWorld::weekWritten() const {
 }
 
 std::string SavedWorld::closedPath() {
+  if (store_) {
+    played_.game.state.timeUntilNextTour = 0;
+    played_.game.save(&GameState::timeUntilNextTour);
+    played_.game.saveFile.commit();
+  }
   if (store_) store_->rest();
   store_.reset();
   return path_.string() + ".played";

@@ -48,7 +48,8 @@ class SavedWorld {
   GameState& state() { return played_.game.state; }
   /// Rows and bytes of the recorded week.
   std::string weekWritten() const;
-  /// Closes the save, so that others can open it; from then on only the state is left.
+  /// Closes the save, so that others can open it; from then on only the state is left. The artist is rested by then, so
+  /// that a tour can be planned.
   std::string closedPath();
 
  private:

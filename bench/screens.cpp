@@ -21,6 +21,9 @@ const std::vector<HeavyScreen>& heavyScreens() {
       {"artist profile", {"1", "goToArtistProfile"}},
       {"song statistics", {"1", "song:1", "marketingButton"}},
       {"chirp feed", {"4"}},
+      {"channel", {"4", "goToYouVideo"}},
+      {"tour planner", {"1", "goToTour"}},
+      {"merch overview", {"3", "goToMerch"}},
       {"weekly report", {}},
   };
   return screens;

@@ -10,6 +10,7 @@
 
 #include "core/clock.h"
 #include "core/game_state.h"
+#include "core/label_memory.h"
 #include "core/platform.h"
 #include "core/random.h"
 #include "core/save_file.h"
@@ -92,6 +93,15 @@ struct ContractOffer {
   double tempViewingRates = 0;
 };
 
+/// What the dating app has on its glass.
+struct Dating {
+  int64_t seekingPreference = 1;  ///< 1 a woman, 0 a man
+  Matches candidate;              ///< on the card
+  int64_t distance = 0;           ///< minutes away
+  Matches pendingMatch;           ///< who liked the player back, until the next who does
+  int64_t pendingSuperLike = 0;   ///< 1: the next match counts as one by star
+};
+
 /// Working values of this launch; gone when the program ends, by design.
 struct Launch {
   int64_t contractOfferState = 0;  ///< 0 none, 1 an offer waits, 2 its terms were seen
@@ -107,6 +117,9 @@ struct Launch {
   std::vector<int64_t> venueDemand;                  ///< the luck of each venue, in the order of their table
   std::vector<int64_t> festivalSetList;              ///< songs picked for the festival on the table
   RunningTally<StreamWeeks> streamWeeks;
+  LabelMemory label;  ///< what of its history is summed already
+  Dating dating;
+  int64_t weddingWeek = 0;  ///< the absolute week of the last wedding
 };
 
 struct Room;

@@ -196,7 +196,7 @@ struct GameState {
   int64_t saveGenreForNextTime = 0;
   int64_t rejectionCount = 0;
   int64_t slideIntoDmsCount = 0;
-  std::map<std::string, std::string> recordDictionary;
+  std::map<std::string, std::string> recordDictionary;  ///< of the year's main fields: title and artist
   std::map<std::string, std::string> songDictionary;
   std::map<std::string, std::string> albumDictionary;
   int64_t userRank = 0;
@@ -252,6 +252,7 @@ struct GameState {
   RecordList<SongGenre> songGenres{growing};
   RecordList<FeaturedArtist> AllFeaturedArtists{edited};
   RecordList<CelebrityCameo> AllCelebrityCameos{edited};
+  RecordList<AwardYear> awardYear{edited};  ///< one, or none before the first nominations
 
   friend bool operator==(const GameState&, const GameState&) = default;
 };
@@ -421,9 +422,9 @@ inline constexpr auto scalars = std::to_array<Scalar>({
     {"saveGenreForNextTime", &GameState::saveGenreForNextTime, Lifetime::player},
     {"rejectionCount", &GameState::rejectionCount, Lifetime::player},
     {"slideIntoDmsCount", &GameState::slideIntoDmsCount, Lifetime::player},
-    {"recordDictionary", &GameState::recordDictionary, Lifetime::player},
-    {"songDictionary", &GameState::songDictionary, Lifetime::player},
-    {"albumDictionary", &GameState::albumDictionary, Lifetime::player},
+    {"recordDictionary", &GameState::recordDictionary},
+    {"songDictionary", &GameState::songDictionary},
+    {"albumDictionary", &GameState::albumDictionary},
     {"userRank", &GameState::userRank, Lifetime::player},
     {"userScore", &GameState::userScore, Lifetime::player},
     {"totalFanHighScore", &GameState::totalFanHighScore, Lifetime::player},
@@ -485,7 +486,8 @@ inline constexpr auto fieldsOf<GameState> = [](auto&& take) {
               SavedList{"saveAllAlbumCovers", &GameState::saveAllAlbumCovers},
               SavedList{"songGenres", &GameState::songGenres},
               SavedList{"AllFeaturedArtists", &GameState::AllFeaturedArtists, Lifetime::player},
-              SavedList{"AllCelebrityCameos", &GameState::AllCelebrityCameos, Lifetime::player});
+              SavedList{"AllCelebrityCameos", &GameState::AllCelebrityCameos, Lifetime::player},
+              SavedList{"awardYear", &GameState::awardYear});
 };
 
 /// A list of a state, whatever it holds, and the key under which it is stored.

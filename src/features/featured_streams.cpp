@@ -86,9 +86,18 @@ double remainingLife(const GameState& state, const FeaturedOn& verse) {
   return verse.productionRating - static_cast<double>(state.weekNumberForTracking - verse.releaseWeek);
 }
 
+bool isForgotten(const GameState& state, const FeaturedOn& verse) {
+  return verse.isReleased && verse.chartRanking <= 0 && verse.releaseWeek < state.weekNumberForTracking &&
+         !(remainingLife(state, verse) > 0);
+}
+
+void letForgottenVersesSleep(GameState& state) {
+  state.saveAllFeaturedOnList.letSleep([&](const FeaturedOn& verse) { return isForgotten(state, verse); });
+}
+
 void simulateFeaturedOnStreams(Game& game) {
   const RecordList<FeaturedOn>& verses = game.state.saveAllFeaturedOnList;
-  for (size_t i = 0; i < verses.size(); ++i) {
+  for (const uint32_t i : verses.awake()) {
     const double life = remainingLife(game.state, verses[i]);
     if (!verses[i].isReleased || !(life > 0)) continue;
     if (verses[i].marketingScore > 0) {

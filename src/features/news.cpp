@@ -1,5 +1,7 @@
 #include "features/news.h"
 
+#include <optional>
+
 #include "core/money.h"
 #include "music/chart.h"
 
@@ -53,30 +55,30 @@ Before chartBefore(const GameState& state, int64_t week) {
 
 void addChart(const Game& game, std::vector<News>& news) {
   const int64_t week = game.turn.before.absoluteWeek;
-  Before before = chartBefore(game.state, week);
-  for (const FeaturedOn& verse : game.state.saveAllFeaturedOnList) {
+  std::optional<Before> before;  // looks at all verses ever, so that only a week that tells of the chart asks
+  for (const uint32_t i : game.state.saveAllFeaturedOnList.awake()) {
+    const FeaturedOn& verse = game.state.saveAllFeaturedOnList[i];
     const BillboardSong* row = verse.chartRanking > 0 ? chartRowOf(game.state, verse) : nullptr;
-    if (!row || !row->isOnCharts) continue;
+    if (!row || !row->isOnCharts || !(isNewAtOne(*row) || isNewOnChart(*row, week))) continue;
+    if (!before) before = chartBefore(game.state, week);
     News told{.picture = cover(verse.title),
               .headline = quoted(verse.title) + " by " + verse.artistName,
               .text = "With your verse",
               .figure = std::to_string(row->rankThisWeek)};
     if (isNewAtOne(*row)) {
-      told.kind = before.atOne ? Kind::reached : Kind::first;
-      told.rank = before.atOne ? 350 : 550;
+      told.kind = before->atOne ? Kind::reached : Kind::first;
+      told.rank = before->atOne ? 350 : 550;
       told.key = "verse number one";
-      told.kicker = before.atOne ? "Number one, as a guest" : "Your first number one as a guest";
+      told.kicker = before->atOne ? "Number one, as a guest" : "Your first number one as a guest";
       told.headline += " is number one";
-      before = {.onChart = true, .atOne = true};
-    } else if (isNewOnChart(*row, week)) {
-      told.kind = before.onChart ? Kind::reached : Kind::first;
-      told.rank = before.onChart ? 190 : 420;
-      told.key = "verse chart entry";
-      told.kicker = before.onChart ? "New on the chart" : "Your first guest verse on the chart";
-      told.headline += " enters the chart at " + rank(row->rankThisWeek);
-      before.onChart = true;
+      before = Before{.onChart = true, .atOne = true};
     } else {
-      continue;
+      told.kind = before->onChart ? Kind::reached : Kind::first;
+      told.rank = before->onChart ? 190 : 420;
+      told.key = "verse chart entry";
+      told.kicker = before->onChart ? "New on the chart" : "Your first guest verse on the chart";
+      told.headline += " enters the chart at " + rank(row->rankThisWeek);
+      before->onChart = true;
     }
     news.push_back(std::move(told));
   }

@@ -1,11 +1,46 @@
 #include "label/accounts.h"
 
 #include "career/ledger.h"
+#include "core/numbers.h"
 #include "core/reported_week.h"
 #include "core/week_rows.h"
 #include "label/office.h"
 
 namespace backbeat {
+
+namespace {
+
+template <class T>
+std::array<int64_t, 3> markOf(const T& row, int64_t T::*work) {
+  return {row.*work, row.weekNumber, row.yearNumber};
+}
+
+/// Adds the rows that came since the last time; of a list that lost rows since then all.
+template <class T>
+void sumFurther(RunningSums& sums, const RecordList<T>& rows, int64_t T::*work, double T::*dollars) {
+  const bool grewOnly = sums.rows == 0 || (sums.rows <= rows.size() && markOf(rows[sums.rows - 1], work) == sums.last);
+  if (!grewOnly) sums = {};
+  for (; sums.rows < rows.size(); ++sums.rows) {
+    const T& row = rows[sums.rows];
+    sums.ofWork[row.*work] += row.*dollars;
+    sums.ofArtist[row.artistId] += row.*dollars;
+    sums.total += row.*dollars;
+  }
+  if (sums.rows > 0) sums.last = markOf(rows[sums.rows - 1], work);
+}
+
+double versesOnTheLabel(const GameState& state) {
+  double sum = 0;
+  for (const FeaturedOn& verse : state.saveAllFeaturedOnList) {
+    if (verse.isSignedArtist != 1) continue;
+    for (const uint32_t week : state.saveAllFeaturedOnWeeklySongListens.historyOf(verse.songId)) {
+      sum += state.saveAllFeaturedOnWeeklySongListens[week].totalStreamRevenue;
+    }
+  }
+  return sum;
+}
+
+}  // namespace
 
 double lastWeeksRoyalties(const GameState& state) {
   const CalendarWeek week = reportedWeek(state);
@@ -23,13 +58,44 @@ double runningCosts(const GameState& state) {
   return sum;
 }
 
-double storedRoyalties(const GameState& state) {
-  double sum = 0;
-  for (const SignedArtistWeeklyAlbumSales& row : state.saveAllSignedArtistWeeklyAlbumSales) sum += row.albumRevenue;
-  for (const SignedArtistWeeklySongListens& row : state.saveAllSignedArtistWeeklySongListens) {
-    sum += row.totalStreamRevenue;
-  }
-  return sum;
+const LabelMemory& labelSums(Game& game) {
+  LabelMemory& label = game.launch.label;
+  sumFurther(label.streams, game.state.saveAllSignedArtistWeeklySongListens, &SignedArtistWeeklySongListens::songId,
+             &SignedArtistWeeklySongListens::totalStreamRevenue);
+  sumFurther(label.sales, game.state.saveAllSignedArtistWeeklyAlbumSales, &SignedArtistWeeklyAlbumSales::albumId,
+             &SignedArtistWeeklyAlbumSales::albumRevenue);
+  return label;
+}
+
+double earnedBy(const std::map<int64_t, double>& sums, int64_t id) {
+  const auto found = sums.find(id);
+  return found == sums.end() ? 0 : found->second;
+}
+
+double earnedByArtist(Game& game, int64_t artistId) {
+  const LabelMemory& label = labelSums(game);
+  return earnedBy(label.sales.ofArtist, artistId) + earnedBy(label.streams.ofArtist, artistId);
+}
+
+double storedRoyalties(Game& game) {
+  const LabelMemory& label = labelSums(game);
+  return label.sales.total + label.streams.total;
+}
+
+LabelReturn labelReturn(Game& game) {
+  const LabelMemory& label = labelSums(game);
+  return {.albums = label.sales.total,
+          .streams = label.streams.total,
+          .verses = versesOnTheLabel(game.state),
+          .cost = game.state.totalRecordLabelCost};
+}
+
+void keepBestReturn(Game& game) {
+  if (game.state.isLabelLaunched < 1) return;
+  const int64_t net = truncate(labelReturn(game).net());
+  if (net <= game.state.mostSuccessfulLabelHighScore) return;
+  game.state.mostSuccessfulLabelHighScore = net;
+  game.save(&GameState::mostSuccessfulLabelHighScore);
 }
 
 }  // namespace backbeat

@@ -1,15 +1,34 @@
 #include "label/news.h"
 
 #include <algorithm>
+#include <map>
 
 #include "core/money.h"
+#include "core/week_rows.h"
+#include "label/roster.h"
+#include "label/signed_artist_output.h"
 #include "label/staff.h"
+#include "music/chart.h"
 
 namespace backbeat {
 
-void addLabelNeeds(const Game& game, std::vector<Need>& needs) {
-  const GameState& state = game.state;
-  if (state.isLabelLaunched < 1) return;
+namespace {
+
+std::string quoted(const std::string& title) { return "“" + title + "”"; }
+
+/// One need for all artists whom it is about; of one it leads to them.
+void addDue(std::vector<Need>& needs, const DueArtists& due, Need need, const std::string& one,
+            const std::string& several) {
+  if (due.count == 0) return;
+  need.picture = person(due.first->name);
+  need.title = due.count == 1 ? due.first->name + one : std::to_string(due.count) + several;
+  need.badge = "!";
+  need.segue = due.count == 1 ? "goToSignedArtistDetail" : "goToSignedArtists";
+  if (due.count == 1) need.argument = std::to_string(due.first->artistId);
+  needs.push_back(std::move(need));
+}
+
+void addStaffNeeds(const GameState& state, std::vector<Need>& needs) {
   const RecordList<Employee>& staff = state.saveAllEmployeeList;
   if (staff.empty()) {
     needs.push_back({.priority = 170,
@@ -30,7 +49,7 @@ void addLabelNeeds(const Game& game, std::vector<Need>& needs) {
        .segue = "goToLabelDetail"});
 }
 
-void addLabelNews(const Game& game, std::vector<News>& news) {
+void addFirstSigning(const Game& game, std::vector<News>& news) {
   // Only a label that closes forgets whom it signed.
   constexpr int64_t firstId = 1;
   const RecordList<SignedArtist>& artists = game.state.saveAllSignedArtistList;
@@ -44,6 +63,91 @@ void addLabelNews(const Game& game, std::vector<News>& news) {
                   .kicker = "The first artist of " + game.state.myLabelName,
                   .headline = artists[0].name + " signed with you",
                   .text = abbreviated(static_cast<double>(artists[0].monthlyListeners)) + " people listen already"});
+}
+
+/// Songs of the label that came onto the chart this week, or to its top for the first time.
+void addChartNews(const Game& game, std::vector<News>& news) {
+  const GameState& state = game.state;
+  const RecordList<BillboardSong>& chart = state.saveAllBillboardSongList;
+  for (const auto& week : rowsOfWeek(state.saveAllSignedArtistWeeklySongListens, game.turn.before.week)) {
+    if (week.songListens < game.turn.lastPlaceChartPosition) continue;
+    const auto known = chart.historyOf(week.songId + signedArtistSongOffset);
+    const size_t position = artistPosition(state, week.artistId);
+    if (known.empty() || position == state.saveAllSignedArtistList.size()) continue;
+    const BillboardSong& row = chart[known.front()];
+    const bool isNumberOne = row.isOnCharts && row.rankThisWeek == 1 && row.weeksAtOne == 1;
+    const bool isDebut = row.isOnCharts && row.weekNumber == game.turn.before.absoluteWeek;
+    if (!isNumberOne && !isDebut) continue;
+    const std::string& artist = state.saveAllSignedArtistList[position].name;
+    news.push_back(
+        {.rank = isNumberOne ? 560 : 240,
+         .key = isNumberOne ? "label number one" : "label chart entry",
+         .picture = person(artist),
+         .kicker = isNumberOne ? "Number one for " + state.myLabelName : "New on the chart",
+         .headline = quoted(week.songTitle) + (isNumberOne ? " by " + artist + " is number one"
+                                                           : " by " + artist + " enters at " + rank(row.rankThisWeek)),
+         .text = counted(week.songListens, "stream"),
+         .figure = std::to_string(row.rankThisWeek)});
+  }
+}
+
+/// Artists whose last song that streamed fell silent this week.
+void addSilences(const Game& game, std::vector<News>& news) {
+  const GameState& state = game.state;
+  const RecordList<SignedArtistSong>& songs = state.saveAllSignedArtistSongList;
+  std::map<int64_t, double> lives;  // the longest of each artist
+  // Those at the head of the list were silent before this week.
+  for (size_t i = game.launch.label.songs.count; i < songs.size(); ++i) {
+    const double life = remainingLife(state, songs[i]);
+    const auto [known, isNew] = lives.try_emplace(songs[i].artistId, life);
+    if (!isNew) known->second = std::max(known->second, life);
+  }
+  for (const auto& [artistId, life] : lives) {
+    const size_t position = artistPosition(state, artistId);
+    if (life > 0 || !(life > -1) || position == state.saveAllSignedArtistList.size()) continue;
+    const std::string& artist = state.saveAllSignedArtistList[position].name;
+    news.push_back({.kind = News::Kind::ended,
+                    .rank = 130,
+                    .key = "label silence",
+                    .picture = person(artist),
+                    .headline = artist + " has gone silent",
+                    .text = "None of their songs streams any more",
+                    .tone = Tone::plain});
+  }
+}
+
+void addEndedContracts(const GameState& state, std::vector<News>& news) {
+  for (const SignedArtist& artist : state.saveAllSignedArtistList) {
+    // The one that ended with this week; no contract is shorter than a year.
+    if (!artist.underContract || weeksLeft(state, artist) != 0) continue;
+    news.push_back({.kind = News::Kind::ended,
+                    .rank = 235,
+                    .key = "contract up",
+                    .picture = person(artist.name),
+                    .headline = artist.name + "'s contract is up",
+                    .text = "The album rests until you renew it",
+                    .tone = Tone::warning});
+  }
+}
+
+}  // namespace
+
+void addLabelNeeds(const Game& game, std::vector<Need>& needs) {
+  const GameState& state = game.state;
+  if (state.isLabelLaunched < 1) return;
+  addStaffNeeds(state, needs);
+  addDue(needs, dueArtists(state, contractIsUp), {.priority = 210, .subtitle = "Their album rests until you renew it"},
+         "'s contract is up", " contracts are up");
+  addDue(needs, dueArtists(state, albumWaits), {.priority = 190, .subtitle = "Review the songs and it comes out"},
+         "'s album is complete", " albums are complete");
+}
+
+void addLabelNews(const Game& game, std::vector<News>& news) {
+  if (game.state.isLabelLaunched < 1) return;
+  addFirstSigning(game, news);
+  addChartNews(game, news);
+  addSilences(game, news);
+  addEndedContracts(game.state, news);
 }
 
 }  // namespace backbeat

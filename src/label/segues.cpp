@@ -6,6 +6,7 @@
 #include "label/launch.h"
 #include "label/news.h"
 #include "label/scouting.h"
+#include "label/screens/artist_roi_view_controller.h"
 #include "label/screens/create_label_view_controller.h"
 #include "label/screens/create_signed_artist_view_controller.h"
 #include "label/screens/demo_and_offer_view_controller.h"
@@ -15,6 +16,9 @@
 #include "label/screens/label_capacity_view_controller.h"
 #include "label/screens/label_detail_view_controller.h"
 #include "label/screens/label_hire_staff_view_controller.h"
+#include "label/screens/signed_artist_detail_view_controller.h"
+#include "label/screens/signed_artist_song_list_view_controller.h"
+#include "label/screens/signed_artists_view_controller.h"
 
 namespace backbeat {
 
@@ -38,6 +42,12 @@ constexpr Segue segues[] = {
     {"goToDemoAndOffer", "DemoAndOfferViewController", push, makeOfferScreen},
     {"goToCreateSignedArtist", "CreateSignedArtistViewController", push, makeScreen<CreateSignedArtistViewController>,
      beginArtist},
+    {"goToSignedArtists", "SignedArtistsViewController", push, makeScreen<SignedArtistsViewController>},
+    {"goToSignedArtistDetail", "SignedArtistDetailViewController", push,
+     makeScreenWithId<SignedArtistDetailViewController>},
+    {"goToSignedArtistSongList", "SignedArtistSongListViewController", push,
+     makeScreenWithId<SignedArtistSongListViewController>},
+    {"goToArtistRoi", "ArtistRoiViewController", push, makeScreen<ArtistRoiViewController>},
 };
 
 bool hasLabel(const Game& game) { return game.state.isLabelLaunched >= 1; }

@@ -52,8 +52,4 @@ void updateEmployeesWeekly(Game& game) {
   game.save(&GameState::saveAllEmployeeList);
 }
 
-void updateSignedArtistsWeekly(Game& /*game*/) {
-  // An artist under contract keeps what they came with: nobody has taken up coaching and contracts yet.
-}
-
 }  // namespace backbeat

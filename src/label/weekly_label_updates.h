@@ -1,4 +1,4 @@
-// What a week does to the label's staff and artists.
+// What a week does to the label's staff.
 #pragma once
 
 #include "core/game.h"
@@ -8,8 +8,5 @@ namespace backbeat {
 /// Staff tire by their burn, faster where they have too many artists, and recover by the perks; their happiness
 /// follows, and in time their rating. Without staff nothing happens.
 void updateEmployeesWeekly(Game& game);
-
-/// Artists grow and grow unhappy.
-void updateSignedArtistsWeekly(Game& game);
 
 }  // namespace backbeat

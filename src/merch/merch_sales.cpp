@@ -99,7 +99,7 @@ void sellWeeklyMerch(Game& game) {
   if (products.empty()) return;
   const double share = game.random.uniformDouble(0.005, 0.015);
   double demand = share * static_cast<double>(state.totalFans) / weeksOfYear;
-  for (size_t i = 0; i < products.size(); ++i) {
+  for (const uint32_t i : products.awake()) {
     if (!isOnShelf(state, products[i])) continue;
     const bool atShows = isSoldAtShows(state, products[i]);
     if (atShows) demand += share * 3 * static_cast<double>(game.turn.seatsSoldOnTourForMerch);

@@ -1,6 +1,8 @@
 #include "merch/news.h"
 
 #include <algorithm>
+#include <optional>
+#include <span>
 
 #include "core/money.h"
 #include "merch/catalogue.h"
@@ -33,30 +35,40 @@ void addFirstProduct(const Game& game, std::vector<News>& news) {
                           ", in the shop in " + counted(weeks, "week")});
 }
 
+/// What of it was sold in the week; nullptr when none was.
+const MerchWeeklySales* rowOf(std::span<const MerchWeeklySales> sales, const Merch& product) {
+  const auto found = std::find_if(sales.begin(), sales.end(), [&](const MerchWeeklySales& row) {
+    return row.merchId == product.merchId && row.unitsSold > 0;
+  });
+  return found == sales.end() ? nullptr : &*found;
+}
+
+/// Whether nothing was ever sold to the last unit before the week.
+bool isFirstSellOut(const GameState& state, std::span<const MerchWeeklySales> sales) {
+  const auto& products = state.saveAllMerchReleasedList;
+  return std::none_of(products.begin(), products.end(), [&](const Merch& product) {
+    return product.reorderCount > 0 || (everSoldOut(product) && !(isSoldOut(product) && rowOf(sales, product)));
+  });
+}
+
 void addSoldOut(const Game& game, std::vector<News>& news) {
   const auto& products = game.state.saveAllMerchReleasedList;
   const std::span<const MerchWeeklySales> sales = rowsOfWeek(game.state.saveAllMerchWeeklySales, game.turn.before.week);
-  const auto soldOutNow = [&](const Merch& product) {
-    return isSoldOut(product) && std::any_of(sales.begin(), sales.end(), [&](const MerchWeeklySales& row) {
-             return row.merchId == product.merchId && row.unitsSold > 0;
-           });
-  };
-  bool isFirst = std::none_of(products.begin(), products.end(), [&](const Merch& product) {
-    return product.reorderCount > 0 || (everSoldOut(product) && !soldOutNow(product));
-  });
-  for (const MerchWeeklySales& row : sales) {
-    const auto position = productPosition(game.state, row.merchId);
-    if (!position || !soldOutNow(products[*position])) continue;
-    const Merch& product = products[*position];
-    news.push_back({.kind = isFirst ? News::Kind::first : News::Kind::reached,
-                    .rank = isFirst ? 500 : 335,
+  std::optional<bool> isFirst;  // looks at all there ever was, so that only a week that tells of one asks
+  for (const uint32_t i : products.awake()) {
+    const Merch& product = products[i];
+    const MerchWeeklySales* row = isSoldOut(product) ? rowOf(sales, product) : nullptr;
+    if (!row) continue;
+    if (!isFirst) isFirst = isFirstSellOut(game.state, sales);
+    news.push_back({.kind = *isFirst ? News::Kind::first : News::Kind::reached,
+                    .rank = *isFirst ? 500 : 335,
                     .key = "product sold out",
                     .picture = productPicture(product),
-                    .kicker = isFirst ? "Your first sold-out product" : "Gone from the shop",
+                    .kicker = *isFirst ? "Your first sold-out product" : "Gone from the shop",
                     .headline = product.name,
-                    .text = "The last units went for " + currency(row.merchGross) +
+                    .text = "The last units went for " + currency(row->merchGross) +
                             (canRestock(product) ? "; more can be made" : ", and there will be no more"),
-                    .figure = withCommas(row.unitsSold),
+                    .figure = withCommas(row->unitsSold),
                     .stamp = "SOLD OUT"});
     isFirst = false;
   }
@@ -67,7 +79,8 @@ void addSoldOut(const Game& game, std::vector<News>& news) {
 void addMerchNeeds(const Game& game, std::vector<Need>& needs) {
   const auto& products = game.state.saveAllMerchReleasedList;
   const Merch* waiting = nullptr;
-  for (const Merch& product : products) {
+  for (const uint32_t i : products.awake()) {
+    const Merch& product = products[i];
     if (!isSoldOut(product)) continue;
     if (!waiting || (canRestock(product) && !canRestock(*waiting))) waiting = &product;
   }

@@ -28,12 +28,14 @@ std::optional<size_t> productPosition(const GameState& state, int64_t merchId) {
 
 int64_t activeProducts(const GameState& state) {
   const auto& products = state.saveAllMerchReleasedList;
-  return std::count_if(products.begin(), products.end(), [](const Merch& product) { return product.isRetired == 0; });
+  const std::vector<uint32_t> awake = products.awake();
+  return std::count_if(awake.begin(), awake.end(), [&](uint32_t i) { return products[i].isRetired == 0; });
 }
 
 int64_t unitsStored(const GameState& state) {
   int64_t units = 0;
-  for (const Merch& product : state.saveAllMerchReleasedList) {
+  for (const uint32_t i : state.saveAllMerchReleasedList.awake()) {
+    const Merch& product = state.saveAllMerchReleasedList[i];
     if (product.isRetired == 0) units += product.remainingInventory;
   }
   return units;
@@ -53,6 +55,10 @@ int64_t weeksToManufacture(const GameState& state, int64_t units) {
 int64_t weeksUntilOnSale(const GameState& state, const Merch& product) {
   const int64_t week = product.weekLaunched + product.weeksToManufacture + product.weeksToShip + 1;
   return std::max<int64_t>(week - state.weekNumberForTracking, 0);
+}
+
+void letRetiredProductsSleep(GameState& state) {
+  state.saveAllMerchReleasedList.letSleep([](const Merch& product) { return product.isRetired != 0; });
 }
 
 bool isSoldOut(const Merch& product) { return product.isRetired == 0 && product.remainingInventory < 1; }

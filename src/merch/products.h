@@ -14,6 +14,9 @@ namespace backbeat {
 /// Position of a product by its id.
 std::optional<size_t> productPosition(const GameState& state, int64_t merchId);
 
+/// Lets what is retired sleep: no turn sells it and no shelf counts it. Called when a turn begins.
+void letRetiredProductsSleep(GameState& state);
+
 /// Products that are not retired; sold out ones count.
 int64_t activeProducts(const GameState& state);
 /// Units of them in the warehouse.

@@ -52,7 +52,8 @@ constexpr MenuLine menu[] = {
 /// What the artist shows of the shop.
 void addToProfile(const Game& game, View& view) {
   Rows shown{.style = Rows::Style::shelf};
-  for (const Merch& product : game.state.saveAllMerchReleasedList) {
+  for (const uint32_t i : game.state.saveAllMerchReleasedList.awake()) {
+    const Merch& product = game.state.saveAllMerchReleasedList[i];
     if (product.isRetired == 0 && product.showOnSpotify >= 1) shown.items.push_back(productRow(game.state, product));
   }
   if (shown.items.empty()) return;

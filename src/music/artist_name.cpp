@@ -21,9 +21,23 @@ constexpr std::array<std::string_view, 24> stageNames = {
     "Quill",   "Rivers",  "Sterling", "Tempo",  "Verse",   "Wilder",   "Young",   "Zephyr",
 };
 
+/// Awards are known by the artist's name, so they follow it; those of a signed artist of the same name stay.
+void takeAwardsAlong(Game& game, const std::string& name) {
+  GameState& state = game.state;
+  const std::string before = state.myArtistsName;
+  const RecordList<SignedArtist>& artists = state.saveAllSignedArtistList;
+  if (artists.find([&](const SignedArtist& artist) { return artist.name == before; }) != artists.size()) return;
+  RecordList<Award>& awards = state.saveAllMusicAwards;
+  for (size_t i = 0; i < awards.size(); ++i) {
+    if (awards[i].artistName == before) awards.update(i, [&](Award& award) { award.artistName = name; });
+  }
+  game.save(&GameState::saveAllMusicAwards);
+}
+
 }  // namespace
 
 void nameArtist(Game& game, const std::string& name) {
+  takeAwardsAlong(game, name);
   game.state.myArtistsName = name;
   game.state.promptToEnterName = 1;
   game.save(&GameState::myArtistsName, &GameState::promptToEnterName);

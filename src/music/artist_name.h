@@ -8,7 +8,7 @@
 namespace backbeat {
 
 /// Takes the text as it stands: nothing is trimmed, and an empty name is accepted, on purpose. What was posted and made
-/// under an earlier name keeps it.
+/// under an earlier name keeps it; awards go by the new one.
 void nameArtist(Game& game, const std::string& name);
 
 /// A stage name by hash: the same salt gives the same name, and no random draw is spent.

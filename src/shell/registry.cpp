@@ -7,10 +7,12 @@
 #include "career/segues.h"
 #include "features/segues.h"
 #include "label/segues.h"
+#include "life/segues.h"
 #include "live/segues.h"
 #include "merch/segues.h"
 #include "music/screens/music_view_controller.h"
 #include "music/segues.h"
+#include "recognition/segues.h"
 #include "shell/segues.h"
 #include "social/screens/twitter_profile_view_controller.h"
 #include "social/segues.h"
@@ -18,6 +20,7 @@
 #include "turn/screens/view_controller.h"
 #include "turn/segues.h"
 #include "video/segues.h"
+#include "wealth/segues.h"
 
 namespace backbeat {
 
@@ -34,8 +37,9 @@ const std::array<Tab, tabCount>& tabs() {
 }
 
 std::span<const Room* const> rooms() {
-  static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom, &videoRoom, &featuresRoom,
-                                        &liveRoom,   &merchRoom,  &labelRoom, &turnRoom,  &shellRoom};
+  static constexpr const Room* all[] = {&socialRoom, &careerRoom, &musicRoom, &videoRoom,  &featuresRoom,
+                                        &liveRoom,   &merchRoom,  &labelRoom, &wealthRoom, &recognitionRoom,
+                                        &lifeRoom,   &turnRoom,   &shellRoom};
   return all;
 }
 

@@ -94,6 +94,24 @@ void postChirpForArtist(Game& game, const std::string& message, int64_t audience
   game.save(&GameState::chirpId, &GameState::saveAllChirpList);
 }
 
+void postChirpForPerson(Game& game, int64_t artistId, const std::string& name, const std::string& imageString,
+                        const std::string& message) {
+  Chirp chirp = artistsChirp(game, message);
+  chirp.artistId = artistId;
+  chirp.artistName = name;
+  chirp.imageString = imageString;
+  chirp.typeOfAccount = account::person;
+  const double share = game.random.uniformDouble(0.05, 0.2);
+  const double likes = share * game.random.uniformDouble(100, 10'000);
+  const double comments = likes * game.random.uniformDouble(0.1, 0.5);
+  const double reChirps = likes * game.random.uniformDouble(0.1, 0.5);
+  chirp.likeCount = truncate(likes);
+  chirp.commentCount = truncate(comments);
+  chirp.reChirpCount = truncate(reChirps);
+  game.state.saveAllChirpList.insertFront(std::move(chirp));
+  game.save(&GameState::chirpId, &GameState::saveAllChirpList);
+}
+
 Outcome pinChirp(Game& game, int64_t id) {
   RecordList<Chirp>& chirps = game.state.saveAllChirpList;
   if (positionOf(game.state, id) == chirps.size()) return {};
@@ -141,7 +159,9 @@ std::vector<size_t> chirpsInOrder(const GameState& state) {
 
 Picture portraitOf(const GameState& state, const Chirp& chirp) {
   if (chirp.typeOfAccount == account::player) return artistPicture(state, chirp.artistName);
-  return chirp.typeOfAccount == account::company ? icon("business") : person(chirp.artistName);
+  if (chirp.typeOfAccount == account::company) return icon("business");
+  // A partner keeps the face under another name.
+  return person(chirp.artistId >= account::firstPartner ? chirp.imageString : chirp.artistName);
 }
 
 std::string chirpAge(const Chirp& chirp, Date now) {

@@ -20,6 +20,8 @@ inline constexpr int64_t player = 0;
 inline constexpr int64_t signedArtist = 1;
 inline constexpr int64_t company = 2;
 inline constexpr int64_t person = 3;
+
+inline constexpr int64_t firstPartner = 200'000;  ///< `Chirp::artistId` of a partner: this and the match's own id
 }  // namespace account
 
 /// Once in a save, from 26 listeners on: the first followers, a random 30 to 60 % of the listeners.
@@ -35,6 +37,10 @@ bool songAnnounced(const GameState& state, int64_t songId);
 /// A post that the game writes in the artist's name: free, with counts drawn from `audience` (the followers, as a
 /// rule).
 void postChirpForArtist(Game& game, const std::string& message, int64_t audience, int64_t albumId = -1);
+
+/// A post by somebody else; its counts are drawn after the message.
+void postChirpForPerson(Game& game, int64_t artistId, const std::string& name, const std::string& imageString,
+                        const std::string& message);
 
 /// Pinning one clears any other; it changes the order of display only.
 Outcome pinChirp(Game& game, int64_t id);

@@ -40,7 +40,8 @@ void addIncome(const GameState& state, IncomeStatement& statement) {
   statement.touring = sumOf(state.saveAllWeeklyTourSales, week, &WeeklyTourSales::tourRevenue);
   statement.featuredStreams =
       sumOf(state.saveAllFeaturedOnWeeklySongListens, week, &FeaturedOnWeeklySongListens::totalStreamRevenue);
-  for (const FeaturedOn& song : state.saveAllFeaturedOnList) {
+  for (const uint32_t i : state.saveAllFeaturedOnList.awake()) {
+    const FeaturedOn& song = state.saveAllFeaturedOnList[i];
     if (song.releaseWeek == state.weekNumberForTracking - 1) statement.flatFees += song.flatFee;
   }
   const size_t festival = festivalOfWeek(state, week);

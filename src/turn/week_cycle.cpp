@@ -8,6 +8,7 @@
 #include "label/signed_artist_output.h"
 #include "live/tours.h"
 #include "merch/merch_sales.h"
+#include "merch/products.h"
 #include "music/album_sales.h"
 #include "music/chart.h"
 #include "music/listeners.h"
@@ -32,6 +33,9 @@ void runWeekCycle(Game& game, const std::function<void()>& openReport, const Ste
   begin("before");
   game.turn = Turn();
   letSilentMusicSleep(state);
+  letForgottenVideosSleep(state);
+  letForgottenVersesSleep(state);
+  letRetiredProductsSleep(state);
   game.turn.before = milestoneSnapshot(game);
   step("album sales", simulateWeeklyAlbumSales);    // 1, first: it opens the marketing pool
   step("song streams", simulateWeeklySongStreams);  // 2, fills the chart

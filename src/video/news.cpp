@@ -61,7 +61,8 @@ void addViews(const GameState& state, const MusicVideo& video, const WeeklyVideo
 void addVideoNews(const Game& game, std::vector<News>& news) {
   const GameState& state = game.state;
   const MilestoneSnapshot& before = game.turn.before;
-  for (const MusicVideo& video : state.saveAllMusicVideoList) {
+  for (const uint32_t i : state.saveAllMusicVideoList.awake()) {
+    const MusicVideo& video = state.saveAllMusicVideoList[i];
     if (video.weekForTracking == before.absoluteWeek) addPremiere(state, video, news);
   }
   for (const WeeklyVideoViews& week : rowsOfWeek(state.saveAllWeeklyVideoViews, before.week)) {

@@ -57,7 +57,8 @@ constexpr MenuLine menu[] = {
 void addNeeds(const Game& game, std::vector<Need>& needs) {
   const GameState& state = game.state;
   const Song* hit = nullptr;
-  for (const Song& song : state.saveAllSongList) {
+  for (const uint32_t i : state.saveAllSongList.awake()) {
+    const Song& song = state.saveAllSongList[i];
     if (song.chartRanking <= 0 || (hit && hit->chartRanking <= song.chartRanking)) continue;
     if (state.saveAllMusicVideoList.historyOf(song.songId).empty()) hit = &song;
   }

@@ -90,11 +90,19 @@ double remainingLife(const GameState& state, const MusicVideo& video) {
   return video.productionRating - static_cast<double>(state.weekNumberForTracking - video.weekForTracking);
 }
 
+bool isForgotten(const GameState& state, const MusicVideo& video) {
+  return video.isReleased && video.weekForTracking < state.weekNumberForTracking && !(remainingLife(state, video) > 0);
+}
+
+void letForgottenVideosSleep(GameState& state) {
+  state.saveAllMusicVideoList.letSleep([&](const MusicVideo& video) { return isForgotten(state, video); });
+}
+
 void simulateWeeklyVideoViews(Game& game) {
   GameState& state = game.state;
   const int64_t subscribers = state.youVideoSubscriberCount;
   state.saveAllMusicVideoList.sortDescending(&MusicVideo::viralityScore);
-  for (size_t i = 0; i < state.saveAllMusicVideoList.size(); ++i) {
+  for (const uint32_t i : state.saveAllMusicVideoList.awake()) {
     const MusicVideo& video = state.saveAllMusicVideoList[i];
     const double life = remainingLife(state, video);
     if (!video.isReleased || !(life > 0)) continue;

@@ -19,20 +19,24 @@ double venturesValue(const GameState& state) {
   return sum;
 }
 
+double estimateOf(const GameState& state, const InvestmentProperty& home) {
+  return home.pricePaid * (state.realEstateIndex - home.realEstateIndex + 1);
+}
+
 double propertiesValue(const GameState& state) {
   double sum = 0;
-  for (const InvestmentProperty& house : state.saveAllInvestmentPropertyList) {
-    sum += house.pricePaid * (state.realEstateIndex - house.realEstateIndex + 1);
-  }
+  for (const InvestmentProperty& home : state.saveAllInvestmentPropertyList) sum += estimateOf(state, home);
   return sum;
+}
+
+double estimateOf(const GameState& state, const Transportation& vehicle) {
+  const double years = static_cast<double>(state.yearNumber - vehicle.yearPurchased);
+  return vehicle.pricePaid + years * yearlyDepreciation * vehicle.pricePaid;
 }
 
 double transportationValue(const GameState& state) {
   double sum = 0;
-  for (const Transportation& vehicle : state.saveAllTransportationOwnedList) {
-    const double years = static_cast<double>(state.yearNumber - vehicle.yearPurchased);
-    sum += vehicle.pricePaid + years * yearlyDepreciation * vehicle.pricePaid;
-  }
+  for (const Transportation& vehicle : state.saveAllTransportationOwnedList) sum += estimateOf(state, vehicle);
   return sum;
 }
 

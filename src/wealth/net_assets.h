@@ -8,11 +8,16 @@ namespace backbeat {
 /// The stakes in startups that have not exited, each at its last valuation, in dollars.
 double venturesValue(const GameState& state);
 
-/// The houses at today's market: what was paid, moved by the change of the index since.
+/// What a home brings at today's market: what was paid, moved by the difference of the indexes, which are not set in
+/// proportion. Intended.
+double estimateOf(const GameState& state, const InvestmentProperty& home);
+/// The sum over all homes.
 double propertiesValue(const GameState& state);
 
-/// The vehicles, each 2.5 % of its price cheaper for every year; there is no floor, so that very old ones count below
-/// 0: intended.
+/// What a vehicle brings: 2.5 % of its price less for every year. There is no floor, so that after forty years it is a
+/// debt: intended.
+double estimateOf(const GameState& state, const Transportation& vehicle);
+/// The sum over all vehicles.
 double transportationValue(const GameState& state);
 
 /// All of that and the cash; may be negative.

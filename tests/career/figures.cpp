@@ -51,6 +51,8 @@ void furnish(GameState& state, OwnValues& own) {
   state.saveAllContractLabelList.append(label);
   Matches match = own.record<Matches>();
   match.relationshipState = 1;
+  match.weekMatched = match.weekStartedDating = state.weekNumberForTracking - 211;
+  match.timeToBirth = -1;
   state.saveAllMatchesList.append(match);
 }
 
@@ -75,6 +77,9 @@ Standings lifeFigures(Game& twin) {
           {"Job Board", "", "goToJobBoard"},
           {"Job Board: subtitle", currency(state.weeklyJobIncome) + "/week · 14 weeks left"},
           {"Job Board: price", priceText(jobBoardCost)},
+          {"Relationship", "", "goToRelationshipHome"},
+          {"Relationship: subtitle", state.saveAllMatchesList[0].name + " · Dating"},
+          {"FXY", "", "goToFXYDating"},
           {"Food", "-" + currency(food.amount), "goToLifestyleChoices 0"},
           {"Food: note", "+" + std::to_string(food.energyBoost) + " max energy"},
           {"Fashion", "-" + currency(fashion.amount), "goToLifestyleChoices 1"},
@@ -82,6 +87,8 @@ Standings lifeFigures(Game& twin) {
           {"Health", "", "goToLifestyleChoices 2"},
           {"Home", "", "goToLifestyleChoices 3"},
           {"Transportation", "", "goToLifestyleChoices 4"},
+          {"Exotic", currency(470'000 * 0.9), "goToTransportationOptions"},
+          {"Exotic: subtitle", state.saveAllTransportationOwnedList[0].title},
           {"Energy", std::to_string(state.totalEnergyMax - weeklyEnergyCosts(state)), "goToEnergyTransparency"},
           {"Living", currency(-living), "goToExpenseScreen"}};
 }
@@ -169,6 +176,7 @@ Standings energyFigures(Game& twin) {
           {"Child Abandonment ", cost(state.childAbandonmentEnergyLoss)},
           {"Annual Checkup ", gain(state.annualCheckupTotal)},
           {"Lifestyle ", gain(lifestyle)},
+          {"Garage ", gain(state.saveAllTransportationOwnedList[0].energyBonus)},
           {"Relationship ", gain(state.saveAllMatchesList[0].energyBonus)}};
 }
 

@@ -49,8 +49,7 @@ const std::set<std::string> outlives = {
     // What was ever reached.
     "AllCompletedAchievements", "totalFanHighScore", "mostPopularSongHighScore", "mostSuccessfulLabelHighScore",
     "mostPopularAlbumHighScore", "longestBillBoardHitHighScore", "mostNumberOneHighScore", "highestGrossAlbumWeekly",
-    "mostGramWins", "mostAchievementsCompleted", "userRank", "userScore", "recordDictionary", "songDictionary",
-    "albumDictionary", "saveAllLegacyList",
+    "mostGramWins", "mostAchievementsCompleted", "userRank", "userScore", "saveAllLegacyList",
     // First uses and habits.
     "loginCount", "savePulse", "assignFollowers", "assignSubscribers", "didSubscribe", "rejectionCount",
     "slideIntoDmsCount", "saveGenreForNextTime", "appearance",

@@ -9,17 +9,15 @@ namespace {
 
 Standings offerFigures(Game& twin) {
   const VerseOffer offer = drawVerseOffer(twin);
-  const std::string asked = std::to_string(offer.royalty + 5) + "%";
   const int64_t chance = negotiationChance(twin.state, offer, 5);
   return {{"poster: text", offer.artistName + " (" + withDecimals(offer.rating, 0) +
                                ") is interested in having you feature on their track - " + offer.title},
           {"Fee at once", currency(static_cast<double>(offer.fee))},
-          {"Of the streams", std::to_string(offer.royalty) + "%"},
+          {"Share", std::to_string(offer.royalty) + "%"},
           {"Track rating", withDecimals(offer.trackRating, 1)},
           {"Track rating: note", counted(static_cast<int64_t>(offer.trackRating) + 1, "week")},
-          {"Your share", asked},
+          {"Your share", std::to_string(offer.royalty + 5) + "%"},
           {"Your share: note", "+5 points"},
-          {"of the streams", asked},
           {"Chance", std::to_string(chance) + "%"},
           {"Chance: share", shareText(static_cast<double>(chance) / 100)},
           {"NEGOTIATE: price", "25 energy"},
@@ -34,7 +32,7 @@ Standings ownArtistsOfferFigures(Game& twin) {
   const std::string share = std::to_string(offer.royalty) + "%";
   return {{"poster: text", offer.artistName + " (" + withDecimals(offer.rating, 0) +
                                ") is interested in having you feature on their track - " + offer.title},
-          {"Of the streams", share},
+          {"Share", share},
           {"Track rating", withDecimals(offer.trackRating, 1)},
           {"Track rating: note", counted(static_cast<int64_t>(offer.trackRating) + 1, "week")},
           {"Your share", share},

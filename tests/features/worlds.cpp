@@ -41,7 +41,7 @@ void guest(GameState& state) {
   addVerse(state, agedVerse(state, 2, "Velvet Letters", 30), 30, 9'000);
   FeaturedOn hit = agedVerse(state, 3, "Neon Carousel", 3);
   hit.productionRating = 96;
-  hit.viralityScore = 70;
+  hit.viralityScore = 94;
   hit.marketingScore = 95;
   hit.chartRanking = 9;
   addVerse(state, std::move(hit), 3, 9'400'000);

@@ -100,7 +100,7 @@ Standings homeFigures(Game& twin) {
   return Standings{{"cover: badge", overall},
                    {"Nova Reed", rating},
                    {"Nova Reed: subtitle", abbreviated(static_cast<double>(artist.monthlyListeners))},
-                   {"Artists", "1/" + std::to_string(state.studioCapacity)},
+                   {"Artists", "1/" + std::to_string(state.studioCapacity), "goToSignedArtists"},
                    {"Artists: subtitle", "1 ACTIVE • 0 DROPPED ARTIST(S)"},
                    {"Royalties", currency(royalties * 1.125)},
                    {"Running costs", currency(salaries(state) + perksAndRent(state))},
@@ -114,7 +114,8 @@ Standings homeFigures(Game& twin) {
                    {"Benefits & Culture", "", "goToLabelBenefits"},
                    {"Benefits & Culture: subtitle", "+" + withDecimals(state.labelEnergyBoost, 2) + " ENERGY • +" +
                                                         withDecimals(state.labelMoraleBoost, 2) + " HAPPINESS"},
-                   {"Create an Artist", "", "goToCreateSignedArtist"}} +
+                   {"Create an Artist", "", "goToCreateSignedArtist"},
+                   {"Return on Investment", "", "goToArtistRoi"}} +
          deskFigures(state) + full("Staff energy", energy) + full("Staff happiness", morale) +
          full("Artist rating", static_cast<double>(artistRating(artist))) + full("Artist happiness", artist.happiness);
 }
@@ -284,6 +285,110 @@ Standings creationFigures(Game& twin) {
   return {{"cover: text", left}, {"cover: badge", "1"}, {"to give", left}, {"CREATE: price", "75 energy"}};
 }
 
+/// The album of Nova Reed whose weeks the report knows.
+void furnish(GameState& state, OwnValues& own) {
+  SignedArtistSong song = own.record<SignedArtistSong>();
+  song.songId = 6001;
+  song.title = "Salt Lanterns";
+  song.albumId = 6002;
+  song.artistId = 7;
+  state.saveAllSignedArtistSongList.append(song);
+  SignedArtistAlbum album = own.record<SignedArtistAlbum>();
+  album.albumId = 6002;
+  album.title = "Night Ferry";
+  album.artistId = 7;
+  state.saveAllSignedArtistAlbumList.append(album);
+}
+
+const SignedArtistSong& lanterns(const GameState& state) {
+  return state.saveAllSignedArtistSongList[state.saveAllSignedArtistSongList.historyOf(6002).front()];
+}
+
+const SignedArtistAlbum& ferry(const GameState& state) {
+  return state.saveAllSignedArtistAlbumList[state.saveAllSignedArtistAlbumList.historyOf(7).front()];
+}
+
+double streamsEarned(const GameState& state) {
+  return allWeeks(state.saveAllSignedArtistWeeklySongListens, &SignedArtistWeeklySongListens::totalStreamRevenue);
+}
+
+double albumsEarned(const GameState& state) {
+  return allWeeks(state.saveAllSignedArtistWeeklyAlbumSales, &SignedArtistWeeklyAlbumSales::albumRevenue);
+}
+
+std::string toGo(const GameState& state, const SignedArtist& artist) {
+  return std::to_string(artist.weekEnd - state.weekNumberForTracking);
+}
+
+Standings rosterFigures(Game& twin) {
+  const GameState& state = twin.state;
+  const SignedArtist& nova = state.saveAllSignedArtistList[0];
+  return {{"under contract", "1/" + std::to_string(state.studioCapacity)},
+          {"Nova Reed", std::to_string(artistRating(nova)), "goToSignedArtistDetail 7"},
+          {"Nova Reed: subtitle", "IN PRODUCTION (" + std::to_string(nova.weeksToCompleteAlbum) + ")\n" +
+                                      toGo(state, nova) + " WEEKS LEFT • " + withCommas(nova.monthlyListeners) +
+                                      " MONTHLY LISTENERS"}};
+}
+
+Standings levelFigures(const std::string& name, int64_t value, int64_t original) {
+  const int64_t change = value - original;
+  return full(name + " (" + (change > 0 ? "+" : "") + std::to_string(change) + ")", static_cast<double>(value));
+}
+
+Standings artistFigures(Game& twin) {
+  const GameState& state = twin.state;
+  const SignedArtist& nova = state.saveAllSignedArtistList[0];
+  const int64_t years = (nova.weekEnd - nova.weekSigned) / 52;
+  const double percent = 100 - std::round(nova.labelRevenuePercentage * 100);
+  return Standings{{"cover: badge", std::to_string(artistRating(nova))},
+                   {"cover: text", withCommas(nova.monthlyListeners) + " monthly listeners\nGospel"},
+                   {"text", "Nova Reed signed " + counted(years, "year") + " for " +
+                                currency(static_cast<double>(nova.signingBonus)) + " and has earned " +
+                                currency(albumsEarned(state) + streamsEarned(state)) + " from a " +
+                                std::to_string(std::llround(percent)) + "% royalty."},
+                   {"text (2)", toGo(state, nova) + " weeks of the contract remain."},
+                   {"Salt Lanterns", currency(streamsEarned(state))},
+                   {"Salt Lanterns: subtitle", withCommas(lanterns(state).totalListen) + " streams"},
+                   {"Night Ferry", currency(albumsEarned(state)), "goToSignedArtistSongList 6002"},
+                   {"Night Ferry: subtitle", withCommas(ferry(state).albumsSold) + " sold"},
+                   {"COACH: price", priceText({.energy = 30 - state.businessTrait1 / 5})}} +
+         levelFigures("Talent meter", nova.talent, nova.originalTalent) +
+         levelFigures("Songwriting", nova.songwriting, nova.originalSongwriting) +
+         levelFigures("Vocals", nova.vocals, nova.originalVocals) +
+         levelFigures("Rhythm", nova.rhythm, nova.originalRhythm) +
+         levelFigures("Charisma", nova.charisma, nova.originalCharisma) +
+         levelFigures("Virality", nova.virality, nova.originalVirality) + full("Happiness", nova.happiness);
+}
+
+Standings songListFigures(Game& twin) {
+  const GameState& state = twin.state;
+  return {{"cover: badge", withDecimals(ferry(state).productionRating, 1)},
+          {"sold", withCommas(ferry(state).albumsSold)},
+          {"sold: note", "at " + price(ferry(state).price)},
+          {"earned", currency(albumsEarned(state))},
+          {"out", std::to_string(ferry(state).releaseYear)},
+          {"1. Salt Lanterns", withDecimals(lanterns(state).productionRating, 1)},
+          {"1. Salt Lanterns: note", withCommas(lanterns(state).totalListen) + " streams"}};
+}
+
+Standings returnFigures(Game& twin) {
+  const GameState& state = twin.state;
+  const SignedArtist& nova = state.saveAllSignedArtistList[0];
+  const double revenue = albumsEarned(state) + streamsEarned(state);
+  const double net = revenue - state.totalRecordLabelCost;
+  const double best = std::max(std::trunc(net), static_cast<double>(state.mostSuccessfulLabelHighScore));
+  return {{"Albums", currency(albumsEarned(state))},
+          {"Streams", currency(streamsEarned(state))},
+          {"Your verses", "$0"},
+          {"Cost of the label", currency(-state.totalRecordLabelCost)},
+          {"Net Earnings", currency(net)},
+          {"Nova Reed", currency(revenue), "goToSignedArtistDetail 7"},
+          {"Nova Reed: subtitle", "Signed in " + std::to_string(nova.yearSigned) + "\n" +
+                                      withCommas(nova.monthlyListeners) + " Monthly Listeners"},
+          {"Nova Reed: note", "of " + currency(nova.totalLifetimeCost)},
+          {"text", "Best return of any label: " + currency(best)}};
+}
+
 std::vector<ScreenFigures> screens() {
   return {
       {.segue = "goToCreateLabel",
@@ -304,10 +409,14 @@ std::vector<ScreenFigures> screens() {
       {.segue = "goToCreateSignedArtist",
        .figures = creationFigures,
        .presses = {{"charisma", "1"}, {"charisma", "1"}, {"rhythm", "1"}}},
+      {.segue = "goToSignedArtists", .figures = rosterFigures, .noFigures = {"subtitle"}},
+      {.segue = "goToSignedArtistDetail", .argument = "7", .figures = artistFigures},
+      {.segue = "goToSignedArtistSongList", .argument = "6002", .figures = songListFigures},
+      {.segue = "goToArtistRoi", .figures = returnFigures, .noFigures = {"subtitle"}},
   };
 }
 
-const FiguresOf label{.screens = screens};
+const FiguresOf label{.furnish = furnish, .screens = screens};
 
 }  // namespace
 

@@ -1,5 +1,7 @@
 #include "play/worlds.h"
 
+#include <functional>
+
 #include "label/builders.h"
 #include "label/departments.h"
 #include "label/office.h"
@@ -90,12 +92,103 @@ void emptyScouts(GameState& state) {
   state.saveAllCreatedArtists.append(created);
 }
 
+void change(GameState& state, int64_t artistId, const std::function<void(SignedArtist&)>& how) {
+  state.saveAllSignedArtistList.update(static_cast<size_t>(artistId - 1), how);
+}
+
+/// An album that came out so many weeks before.
+void putOut(GameState& state, int64_t artistId, int64_t songs, double rating, int64_t weeksAgo) {
+  const int64_t now = state.weekNumberForTracking;
+  setDate(state, now - weeksAgo);
+  addSignedAlbum(state, artistId, songs, rating);
+  setDate(state, now);
+}
+
+/// What all albums have earned since they came out, each song of the first the given streams a week, the others fewer.
+void earnSince(GameState& state, int64_t streams) {
+  const int64_t now = state.weekNumberForTracking;
+  for (int64_t ago = 60; ago > 0; --ago) {
+    for (const SignedArtistAlbum& album : state.saveAllSignedArtistAlbumList) {
+      if (album.releaseWeek <= now - ago) addSignedWeek(state, album.albumId, ago, streams / album.albumId);
+    }
+  }
+}
+
+/// Every artist wants something: a review, a new contract, an hour; one has left and still earns.
+void waiting(GameState& state) {
+  furnishHead(state, 330, 18);
+  foundLabel(state);
+  state.studioCapacity = 8;
+  state.totalRecordLabelCost = 1'250'000;
+  for (const int64_t code : {0, 0, 1, 2, 3, 4}) addEmployee(state, code, 70);
+  const int64_t ready = addSignedArtist(state, "Juno Hale", 62);
+  const int64_t up = addSignedArtist(state, "Lil Ember", 48);
+  const int64_t busy = addSignedArtist(state, "Cassia Bloom", 71);
+  const int64_t gone = addSignedArtist(state, "Otto Marsh", 30);
+  change(state, ready, [](SignedArtist& artist) {
+    artist.weeksToCompleteAlbum = 0;
+    artist.vocals += 3;
+    artist.charisma -= 2;
+  });
+  change(state, up, [&](SignedArtist& artist) {
+    artist.weekSigned = state.weekNumberForTracking - 104;
+    artist.weekEnd = state.weekNumberForTracking;
+    artist.weeksToCompleteAlbum = 0;
+    artist.happiness = 43;
+  });
+  change(state, gone, [](SignedArtist& artist) { artist.underContract = false; });
+  putOut(state, ready, 9, 41.5, 20);
+  putOut(state, up, 8, 36, 35);
+  putOut(state, gone, 11, 28, 60);
+  earnSince(state, 9'400);
+  addSignedAlbum(state, busy, 10, 52);
+  FeaturedOn verse;
+  verse.songId = state.featuredOnSongId += 1;
+  verse.artistId = ready;
+  verse.artistName = "Juno Hale";
+  verse.title = "Side by Side";
+  verse.isReleased = true;
+  verse.isSignedArtist = 1;
+  verse.releaseWeek = state.weekNumberForTracking - 3;
+  verse.releaseYear = state.yearNumber;
+  verse.productionRating = 40;
+  verse.totalListen = 90'000;
+  verse.percentageOfEarnings = 0.2;
+  verse.streamPayRate = 0.003;
+  state.saveAllFeaturedOnList.append(verse);
+}
+
+/// Half of the chart is the label's; one artist falls silent and another's contract ends with this week.
+void stars(GameState& state) {
+  furnishHead(state, 280, 20);
+  foundLabel(state);
+  state.studioCapacity = 12;
+  for (const int64_t code : {0, 0, 1, 2, 3, 4}) addEmployee(state, code, 90);
+  const int64_t star = addSignedArtist(state, "Saga Berg", 96);
+  const int64_t silent = addSignedArtist(state, "Kid Velvet", 33);
+  change(state, star, [](SignedArtist& artist) {
+    artist.monthlyListeners = 45'000'000;
+    artist.happiness = 118;
+    artist.weeksToCompleteAlbum = 1;
+  });
+  change(state, silent, [&](SignedArtist& artist) {
+    artist.weekSigned = state.weekNumberForTracking - 207;
+    artist.weekEnd = state.weekNumberForTracking + 1;
+  });
+  putOut(state, star, 8, 88, 1);
+  putOut(state, silent, 8, 30, 29);
+  earnSince(state, 11'000'000);
+  state.saveAllSignedArtistSongList.update(0, [](SignedArtistSong& song) { song.viralityScore = 45; });
+}
+
 const RoomWorlds worlds({{"before the label", beforeTheLabel},
                          {"label to dream of", toDreamOf},
                          {"label's first day", firstDay},
                          {"label at work", atWork},
                          {"full label", fullLabel},
-                         {"label without scouts", emptyScouts}});
+                         {"label without scouts", emptyScouts},
+                         {"label that waits", waiting},
+                         {"label of stars", stars}});
 
 }  // namespace
 }  // namespace backbeat

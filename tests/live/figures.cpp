@@ -58,21 +58,21 @@ Standings plannerFigures(Game& twin) {
   const int64_t energyLeft = state.totalEnergyMax - 5 - state.weeklyEnergyCost - state.openLabelEnergyCost -
                              state.merchEnergyCost - state.childEnergyCost;
   const std::string left = std::to_string(energyLeft);
-  return standings +
-         Standings{{"subtitle", "Mara Voss | 2049"},
-                   {"Tour title", "Mara Voss | 2049"},
-                   {"Shows per venue", "1"},
-                   {"text", "This tour would leave you " + currency(ryman.net) + " after what your label takes."},
-                   {"heading", "Venues · 1 of 26"},
-                   {"Average ticket", price(ryman.ticket)},
-                   {"Your label's cost of a ticket", price(ticketCost)},
-                   {"Your label's share of the rest", "0%"},
-                   {"Tour Energy Left: ", withCommas(energyLeft)},
-                   {"Expected for you", currency(ryman.net)},
-                   {"seats, 1 week", "2,500"},
-                   {"avg ticket", price(ryman.ticket)},
-                   {"for you", shortDollars(ryman.net)},
-                   {"a week, " + left + " left", "5"}};
+  return standings + Standings{{"subtitle", "Mara Voss | 2049"},
+                               {"Tour title", "Mara Voss | 2049"},
+                               {"Shows per venue", "1"},
+                               {"text", "1 week on the road would leave you " + currency(ryman.net) +
+                                            " after what your label takes."},
+                               {"heading", "Venues · 1 of 26"},
+                               {"Average ticket", price(ryman.ticket)},
+                               {"Your label's cost of a ticket", price(ticketCost)},
+                               {"Your label's share of the rest", "0%"},
+                               {"Tour Energy Left: ", withCommas(energyLeft)},
+                               {"Expected for you", currency(ryman.net)},
+                               {"seats", "2,500"},
+                               {"avg ticket", price(ryman.ticket)},
+                               {"for you", shortDollars(ryman.net)},
+                               {"a week, " + left + " left", "5"}};
 }
 
 void playTwoShows(Game& game) {

@@ -62,11 +62,13 @@ const Merch& productNamed(const GameState& state, std::string_view name) {
 
 std::string wayTo(const Merch& product) { return "goToAdminMerch " + std::to_string(product.merchId); }
 
+std::string unitsForSale(const Merch& product) { return withCommas(product.remainingInventory) + " units for sale"; }
+
 Standings shelfFigures(const GameState& state, const char* name, const std::string& standing) {
   const Merch& product = productNamed(state, name);
   const std::string where = name;
   return {{where, price(product.pricePerUnit), wayTo(product)},
-          {where + ": subtitle", withCommas(product.remainingInventory) + " units for sale" + standing},
+          {where + ": subtitle", standing},
           {where + ": note", "of " + withCommas(product.startingInventory)},
           {where + ": share", shareText(static_cast<double>(product.remainingInventory) /
                                         static_cast<double>(product.startingInventory))}};
@@ -85,8 +87,6 @@ Standings shopFigures(Game& twin) {
              {"net last week", currency(merchOf(state))},
              {"product lines", "3 of 1873"},
              {"of 417K stored", abbreviated(static_cast<double>(units))},
-             {"text", "Mara Voss has released 4 signature product(s) including 1 limited edition(s). With sales of " +
-                          currency(sales) + " your merchandise has become an exciting revenue oportunity."},
              {"Lantern Hoody: badge", "Limited edition"},
              {"Free of charge", "", "goToMerchWebsite"},
              {"Free of charge: note", "2.8% Transaction Fee + Onsite Terminals"},
@@ -96,9 +96,12 @@ Standings shopFigures(Game& twin) {
              {"Free of charge: note", "7 days"},
              {"text", "Together $0 a week."},
              {"Old Mug", withCommas(mug.totalUnitsSold), wayTo(mug)},
-             {"Old Mug: subtitle", "Mug · " + std::to_string(mug.yearLaunched)}} +
-         shelfFigures(state, "Static Tee", " • Sold out (tap to reorder)") +
-         shelfFigures(state, "Boats on Vinyl", " • Manufacturing (5 weeks)") + shelfFigures(state, "Lantern Hoody", "");
+             {"Old Mug: subtitle", "Mug · " + std::to_string(mug.yearLaunched)},
+             {"text", "Mara Voss has released 4 signature product(s) including 1 limited edition(s). With sales of " +
+                          currency(sales) + " your merchandise has become an exciting revenue oportunity."}} +
+         shelfFigures(state, "Static Tee", "Sold out (tap to reorder)") +
+         shelfFigures(state, "Boats on Vinyl", "Manufacturing (5 weeks)") +
+         shelfFigures(state, "Lantern Hoody", unitsForSale(productNamed(state, "Lantern Hoody")));
 }
 
 int64_t unitsFree(const GameState& state) { return 417'353 - unitsStored(state); }
@@ -186,7 +189,7 @@ Standings advice(const Merch& product) {
 
 Standings hoodyFigures(Game& twin) {
   const Merch& hoody = productNamed(twin.state, "Lantern Hoody");
-  return productFigures(hoody, withCommas(hoody.remainingInventory) + " units for sale") + advice(hoody) +
+  return productFigures(hoody, unitsForSale(hoody)) + advice(hoody) +
          Standings{{"cover: badge", "Limited edition"}, {"Units sold: points", pointsText({1'205, 1'109})}};
 }
 
@@ -201,8 +204,8 @@ void sellHoodies(Game& game) {
 
 Standings recordFigures(Game& twin) {
   const Merch& record = productNamed(twin.state, "Boats on Vinyl");
-  return productFigures(record, withCommas(record.remainingInventory) + " units for sale • Manufacturing (5 weeks)") +
-         advice(record) + Standings{{"Side A", "72.5"}, {"Side B", "61.2"}};
+  return productFigures(record, unitsForSale(record) + " • Manufacturing (5 weeks)") + advice(record) +
+         Standings{{"Side A", "72.5"}, {"Side B", "61.2"}};
 }
 
 Standings shirtFigures(Game& twin) {
@@ -222,23 +225,19 @@ Standings websiteFigures(Game&) {
 }
 
 Standings makerFigures(Game&) {
-  return {{"Plans: Bronze: value", "$99 a week"},
-          {"Plans: Bronze: product lines", "3"},
-          {"Plans: Bronze: run of 10,000 units", "21 day"},
-          {"Plans: Silver: value", "$189 a week"},
-          {"Plans: Silver: product lines", "7"},
-          {"Plans: Silver: run of 10,000 units", "14 day"},
-          {"Plans: Gold: value", "$349 a week"},
-          {"Plans: Gold: product lines", "12"},
-          {"Plans: Gold: run of 10,000 units", "7 day"}};
+  return {{"Plans: Bronze: value", "$99 a week"},         {"Plans: Bronze: product lines", "3"},
+          {"Plans: Bronze: per 10,000 units", "21 days"}, {"Plans: Silver: value", "$189 a week"},
+          {"Plans: Silver: product lines", "7"},          {"Plans: Silver: per 10,000 units", "14 days"},
+          {"Plans: Gold: value", "$349 a week"},          {"Plans: Gold: product lines", "12"},
+          {"Plans: Gold: per 10,000 units", "7 days"}};
 }
 
 Standings warehouseFigures(Game&) {
   return {{"Plans: Small: value", "$499 a week"},       {"Plans: Small: units in store", "25,000"},
-          {"Plans: Small: shipping", "14 day"},         {"Plans: Medium: value", "$999 a week"},
-          {"Plans: Medium: units in store", "125,000"}, {"Plans: Medium: shipping", "14 day"},
+          {"Plans: Small: to ship", "14 days"},         {"Plans: Medium: value", "$999 a week"},
+          {"Plans: Medium: units in store", "125,000"}, {"Plans: Medium: to ship", "14 days"},
           {"Plans: Large: value", "$1,999 a week"},     {"Plans: Large: units in store", "1,000,000"},
-          {"Plans: Large: shipping", "7 day"}};
+          {"Plans: Large: to ship", "7 days"}};
 }
 
 void pickSongs(Game& game) {

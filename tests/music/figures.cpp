@@ -9,6 +9,7 @@
 #include "music/album_sales.h"
 #include "music/certifications.h"
 #include "music/streaming.h"
+#include "turn/week_cycle.h"
 
 namespace backbeat {
 
@@ -134,6 +135,16 @@ Standings songFigures(const GameState& state, std::string_view title) {
     standings.push_back({name + ": note", "+" + shortly(weeksOf(state, song).counts.back())});
   }
   return standings;
+}
+
+void endWeekWithoutLabel(Game& game) {
+  RecordList<SignedArtistSong>& songs = game.state.saveAllSignedArtistSongList;
+  for (size_t i = 0; i < songs.size(); ++i) songs.update(i, [](SignedArtistSong& song) { song.isReleased = false; });
+  RecordList<SignedArtistAlbum>& albums = game.state.saveAllSignedArtistAlbumList;
+  for (size_t i = 0; i < albums.size(); ++i) {
+    albums.update(i, [](SignedArtistAlbum& album) { album.isReleased = false; });
+  }
+  runWeekCycle(game, [] {});
 }
 
 }  // namespace backbeat

@@ -36,6 +36,9 @@ Standings weekTable(const std::string& column, const Weeks& weeks, int64_t year)
 /// The bar to the next certification.
 Standings certificationFigures(const std::string& label, int64_t total, const std::string& next, int64_t asks);
 
+/// Ends a week in which the label's artists, whose figures are out of this world, keep silent.
+void endWeekWithoutLabel(Game& game);
+
 /// The marketing plans, the third one picked.
 Standings marketingFigures(Game& twin);
 

@@ -16,6 +16,8 @@ Standings tabFigures(const GameState& state) {
           {"Monthly Listeners", withCommas(state.totalFans), "goToMonthlyListenerDetail"},
           {"Billboard 100", "", "goToBillboard"},
           {"Certifications", "", "goToCertification"},
+          {"GRAM Awards", "1 win", "goToGramAwardDetail"},
+          {"GRAM Awards: subtitle", "2 nominations"},
           {"Artist Profile", "", "goToArtistProfile"},
           {"On Tour", "", "goToTourDetails"},
           {"Festivals", "2", "goToFestivalArchive"},
@@ -179,7 +181,6 @@ Standings historyFigures(Game& twin) {
 }
 
 std::vector<ScreenFigures> screens() {
-  const auto endWeek = [](Game& game) { runWeekCycle(game, [] {}); };
   return {
       {.segue = "music", .figures = songTabFigures},
       {.segue = "music", .figures = albumTabFigures, .presses = {{"kind", "1"}}},
@@ -187,7 +188,10 @@ std::vector<ScreenFigures> screens() {
       {.segue = "goToArtistProfile", .figures = profileFigures},
       {.segue = "goToMonthlyListenerDetail", .figures = listenerFigures},
       {.segue = "goToBillboard", .figures = billboardFigures, .noFigures = {"title"}},
-      {.segue = "goToBillboard", .figures = nextBillboardFigures, .before = endWeek, .noFigures = {"title"}},
+      {.segue = "goToBillboard",
+       .figures = nextBillboardFigures,
+       .before = endWeekWithoutLabel,
+       .noFigures = {"title"}},
       {.segue = "goToBillboard", .figures = historyFigures, .presses = {{"historyButton", ""}}},
   };
 }

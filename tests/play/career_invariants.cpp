@@ -10,8 +10,11 @@
 #include "core/calendar.h"
 #include "core/money.h"
 #include "core/week_rows.h"
+#include "features/featured_streams.h"
+#include "label/accounts.h"
 #include "music/silence.h"
 #include "turn/income_statement.h"
+#include "video/weekly_views.h"
 
 namespace backbeat {
 
@@ -68,6 +71,22 @@ std::string weekRowsFault(std::string_view key, const RecordList<T>& list, Calen
   return {};
 }
 
+/// Whether each of the `owned` has one entry in the ledger, `offset` away from its id, and each entry from `first` to
+/// `last` one of them.
+template <class T>
+bool pairsUp(const GameState& state, const RecordList<T>& owned, int64_t T::*id, int64_t offset, int64_t first,
+             int64_t last) {
+  std::multiset<int64_t> codes;
+  for (const T& one : owned) codes.insert(one.*id + offset);
+  std::multiset<int64_t> entries;
+  for (const WeeklyLineItem& item : state.saveAllWeeklyLineItems) {
+    if (item.typeOfExpense >= first && item.typeOfExpense <= last) {
+      entries.insert(item.typeOfExpense);
+    }
+  }
+  return codes == entries;
+}
+
 /// Whether the ledger holds together.
 std::string ledgerFault(const GameState& state) {
   std::set<int64_t> entries;
@@ -81,6 +100,14 @@ std::string ledgerFault(const GameState& state) {
   if (std::count_if(items.begin(), items.end(),
                     [](const WeeklyLineItem& item) { return item.typeOfExpense == expense::basicNeeds; }) != 1) {
     return "the basic needs are not in the ledger once";
+  }
+  if (!pairsUp(state, state.saveAllInvestmentPropertyList, &InvestmentProperty::propertyId, 2'000,
+               expense::firstProperty, expense::lastProperty)) {
+    return "the homes and their taxes do not pair up";
+  }
+  if (!pairsUp(state, state.saveAllTransportationOwnedList, &Transportation::id, -2'000, expense::firstInsurance,
+               expense::lastInsurance)) {
+    return "the vehicles and their insurances do not pair up";
   }
   return {};
 }
@@ -117,11 +144,28 @@ std::string historyFault(const GameState& state) {
 
 std::string sleepFault(const GameState& state) {
   const auto isSilentNow = [&](const auto& release) { return isSilent(state, release); };
+  const auto isForgottenNow = [&](const auto& release) { return isForgotten(state, release); };
   std::string found = sleepFault("song", state.saveAllSongList, isSilentNow);
   if (found.empty()) found = sleepFault("album", state.saveAllAlbumList, isSilentNow);
+  if (found.empty()) found = sleepFault("video", state.saveAllMusicVideoList, isForgottenNow);
+  if (found.empty()) found = sleepFault("verse", state.saveAllFeaturedOnList, isForgottenNow);
+  if (found.empty()) {
+    found = sleepFault("product", state.saveAllMerchReleasedList,
+                       [](const Merch& product) { return product.isRetired != 0; });
+  }
   if (!found.empty()) return found;
   return sleepFault("chart row", state.saveAllBillboardSongList,
                     [](const BillboardSong& row) { return !row.isOnCharts; });
+}
+
+std::string labelSumsFault(Game& game) {
+  double streams = 0;
+  double sales = 0;
+  for (const auto& week : game.state.saveAllSignedArtistWeeklySongListens) streams += week.totalStreamRevenue;
+  for (const auto& week : game.state.saveAllSignedArtistWeeklyAlbumSales) sales += week.albumRevenue;
+  const LabelMemory& sums = labelSums(game);
+  if (sums.streams.total != streams) return "the label's streams are not summed as its weeks say";
+  return sums.sales.total == sales ? "" : "the label's sales are not summed as its weeks say";
 }
 
 std::string weekFault(const GameState& state, const WeekBefore& before) {
@@ -133,7 +177,15 @@ std::string weekFault(const GameState& state, const WeekBefore& before) {
   if (state.totalEnergyAvailable < 0) return "the energy is below 0";
   if (std::string found = ledgerFault(state); !found.empty()) return found;
   const bool advancePaidBack = before.underContract != state.underContract;  // a contract was not fulfilled in time
-  if (std::string found = cashFault(state, before.cash); !found.empty() && !advancePaidBack) return found;
+  const bool parted =
+      std::any_of(state.saveAllMatchesList.begin(), state.saveAllMatchesList.end(),
+                  [&](const Matches& match) { return match.weekEndedDating == state.weekNumberForTracking; });
+  // A child that is born in the report costs from the next week on, and the statement tells of it at once.
+  const bool gaveBirth =
+      std::any_of(state.saveAllChildList.begin(), state.saveAllChildList.end(),
+                  [&](const Child& child) { return child.birthWeekForTracking == state.weekNumberForTracking; });
+  const bool isTold = !advancePaidBack && !parted && !gaveBirth;
+  if (std::string found = cashFault(state, before.cash); !found.empty() && isTold) return found;
   std::set<int64_t> ids;
   for (const Song& song : state.saveAllSongList) {
     if (!ids.insert(song.songId).second) return "two songs have the id " + std::to_string(song.songId);

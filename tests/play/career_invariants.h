@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "core/game_state.h"
+#include "core/game.h"
 
 namespace backbeat {
 
@@ -20,6 +20,9 @@ std::string historyFault(const GameState& state);
 
 /// Which record sleeps though a turn would still look at it, or "".
 std::string sleepFault(const GameState& state);
+
+/// What is wrong with what the launch remembers of the label, or "": its sums are those of all weeks, to the last bit.
+std::string labelSumsFault(Game& game);
 
 /// What is wrong right after a week has ended, or "": with the calendar, the ledger, the cash, the songs and the
 /// week's rows.

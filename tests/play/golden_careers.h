@@ -22,7 +22,8 @@ struct GoldenCareer {
 
 /// One artist's first 52 weeks: songs, boosts, announcements, a job, traits, chirps.
 void playGoldenYear(Player& player);
-/// Ten years of a keen artist: songs, albums, traits, the week's chances, and a contract with a label.
+/// Ten years of a keen artist: songs, albums, traits, the week's chances with their festivals and verses, videos, a
+/// shop, a contract with a label, and a tour under it.
 void playGoldenDecade(Player& player);
 /// A year and a half of a star: songs that enter the chart, climb, leave it and come back.
 void playGoldenHits(Player& player);

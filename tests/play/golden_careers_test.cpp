@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <map>
+#include <numeric>
 #include <sstream>
 
 #include "core/memory_store.h"
@@ -71,7 +72,7 @@ TEST(GoldenYear, EndsTheSameInTheRealProgram) {
   EXPECT_EQ(run.output, hashText(stateHash(golden.end)) + "\n");
 }
 
-TEST(GoldenDecade, HoldsACareerWithAlbumsAndALabel) {
+TEST(GoldenDecade, HoldsACareerWithAlbumsALabelAndAllThatIsBesideRecords) {
   const PlayedCareer& career = goldenCareer("golden_decade");
   EXPECT_EQ(career.end.yearNumber, 2033);
   EXPECT_GT(career.end.totalFans, 35'000);
@@ -79,6 +80,16 @@ TEST(GoldenDecade, HoldsACareerWithAlbumsAndALabel) {
                           [](const Album& album) { return album.isReleased && album.albumsSold > 0; }));
   EXPECT_TRUE(std::any_of(career.events.begin(), career.events.end(),
                           [](const TraceEvent& event) { return event.action.id == "signContract"; }));
+  const auto total = [](const auto& list, auto amountOf) {
+    return std::accumulate(list.begin(), list.end(), 0.0,
+                           [&](double sum, const auto& each) { return sum + static_cast<double>(amountOf(each)); });
+  };
+  EXPECT_GT(total(career.end.saveAllMusicVideoList, [](const MusicVideo& video) { return video.totalViews; }), 1'000);
+  EXPECT_GT(total(career.end.saveAllWeeklyTourSales, [](const WeeklyTourSales& show) { return show.seatsSold; }),
+            1'000);
+  EXPECT_GT(total(career.end.saveAllMerchReleasedList, [](const Merch& made) { return made.totalUnitsSold; }), 1'000);
+  EXPECT_GT(total(career.end.saveAllFeaturedOnList, [](const FeaturedOn& verse) { return verse.totalListen; }), 1'000);
+  EXPECT_GT(total(career.end.saveAllFestivalList, [](const Festival& festival) { return festival.reviewStars; }), 0);
 }
 
 /// What became of a chart row from one week to the next.

@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <array>
+#include <utility>
 
+#include "core/view_find.h"
 #include "play/golden_careers.h"
 #include "shell/simulate/player.h"
 
@@ -12,6 +14,12 @@ constexpr int64_t weeks = 520;
 constexpr int64_t weeksBetweenSongs = 3;
 constexpr int64_t songsOnAlbum = 4;
 constexpr int64_t energyKeptForMusic = 30;
+constexpr int64_t weeksBetweenVideos = 12;
+constexpr int64_t weeksBetweenLooksAtTheShop = 13;
+constexpr double enoughForAShop = 60'000;
+constexpr int64_t listenersOfAShop = 10'000;
+constexpr std::array<const char*, 3> venues = {"venue:19", "venue:22", "venue:25"};
+constexpr std::array<const char*, 3> products = {"0", "15", "13"};  // a cassette, a phone case, a mug
 constexpr std::array<const char*, 5> practised = {"songWriting", "vocalRange", "rhythm", "charisma", "virality"};
 
 /// Position of the album in production with that title among the options of the song screen; "0" is the single.
@@ -110,6 +118,98 @@ void answerLabel(Player& player) {
   player.tab(homeTab);
 }
 
+/// The latest song that is out and has no video.
+const Song* songToFilm(const GameState& state) {
+  const Song* latest = nullptr;
+  for (const Song& song : state.saveAllSongList) {
+    if (!song.isReleased || !state.saveAllMusicVideoList.historyOf(song.songId).empty()) continue;
+    if (!latest || std::pair(song.releaseWeek, song.songId) > std::pair(latest->releaseWeek, latest->songId)) {
+      latest = &song;
+    }
+  }
+  return latest;
+}
+
+/// Another style each time, with a director and a face where the money allows.
+void film(Player& player, int64_t week) {
+  const Song* song = songToFilm(player.state());
+  if (!song) return;
+  const bool hasMoney = player.state().totalCashAvailable > 50'000;
+  player.tab(musicTab);
+  player.press("kind", "0");
+  player.press("song:" + std::to_string(song->songId));
+  player.press("musicVideoButton");
+  player.press("style", std::to_string(week / weeksBetweenVideos % 6));
+  player.press("director", hasMoney ? "1" : "0");
+  player.press("promotion", hasMoney ? "2" : "0");
+  player.press("createButton");
+  player.settle();
+}
+
+void goOnTour(Player& player) {
+  const GameState& state = player.state();
+  if (state.underContract < 1 || state.onTour != 0 || state.timeUntilNextTour >= 1) return;
+  player.tab(musicTab);
+  player.press("goToTour");
+  player.press("showsPerVenue", "1");
+  for (const char* venue : venues) player.press(venue);
+  player.press("startTouringButton");
+  player.settle();
+}
+
+void launchProduct(Player& player) {
+  const std::string option = products[static_cast<size_t>(player.state().merchId) % products.size()];
+  player.press("goToLaunchNewMerch");
+  player.press("option", option);
+  player.press("dice");
+  player.press("price", "3");
+  if (option == "0") {
+    player.press("goToChooseMerchSongList");
+    for (const Row& song : rowsOf(player.view())) {
+      if (!song.id.empty() && !song.selected) player.press(song.id);
+      if (player.launch().merchSongs.size() == 8) break;
+    }
+    player.press("doneButton");
+  }
+  player.press("launchMerchButton");
+  player.settle();
+}
+
+/// Orders again what is sold out, retires the oldest product when the shelf is full, and launches another one.
+void keepShop(Player& player) {
+  const GameState& state = player.state();
+  if (state.totalCashAvailable < enoughForAShop || state.totalFans < listenersOfAShop) return;
+  player.tab(businessTab);
+  player.press("goToMerch");
+  for (const char* service : {"goToMerchWebsite", "goToMerchManufacturing", "goToMerchLogistics"}) {
+    if (state.merchId > 0) break;
+    player.press(service);
+    player.press("plan", "0");
+    player.back();
+  }
+  int64_t onShelf = 0;
+  std::string oldest;
+  std::string soldOut;
+  for (const Merch& product : state.saveAllMerchReleasedList) {
+    if (product.isRetired != 0) continue;
+    const std::string id = "goToAdminMerch:" + std::to_string(product.merchId);
+    if (onShelf++ == 0) oldest = id;
+    if (product.remainingInventory < 1) soldOut = id;
+  }
+  if (!soldOut.empty()) {
+    player.press(soldOut);
+    player.press("restockButton");
+    player.answer(1);
+  } else if (onShelf == static_cast<int64_t>(products.size())) {
+    player.press(oldest);
+    player.press("retireButton");
+    player.answer(1);
+  } else {
+    launchProduct(player);
+  }
+  player.settle();
+}
+
 }  // namespace
 
 void playGoldenDecade(Player& player) {
@@ -122,6 +222,9 @@ void playGoldenDecade(Player& player) {
     lookForWork(player);
     practise(player, week);
     answerLabel(player);
+    if (week % weeksBetweenVideos == 0) film(player, week);
+    goOnTour(player);
+    if (week % weeksBetweenLooksAtTheShop == 0) keepShop(player);
     player.endTheWeek(week % 2 == 0);
   }
 }

@@ -25,7 +25,7 @@ struct Difference {
   Meant meant;
   std::string_view why;
 };
-constexpr std::array<Difference, 22> differences = {{
+constexpr std::array<Difference, 28> differences = {{
     {"MusicViewController createSongButton", Meant::askedThere, "the way to where songs are made"},
     {"SongDetailViewController announceButton", Meant::askedThere, "the way to the composer"},
     {"TwitterProfileViewController goToCreateTwitterMessage", Meant::askedThere, "the way to the composer"},
@@ -47,6 +47,12 @@ constexpr std::array<Difference, 22> differences = {{
     {"SignedContractViewController confirmEndContract", Meant::mayTake, "the question names the advance"},
     {"AdminMerchViewController restockButton", Meant::energyFirst, "who asks the maker has had the trouble"},
     {"AdminMerchViewController retireButton", Meant::energyFirst, "the same, for who asks for an offer"},
+    {"FxyMatchListViewController match", Meant::mayTake, "who is caught may be divorced"},
+    {"RelationshipHomeViewController qualityTime", Meant::mayTake, "what a date costs is drawn"},
+    {"RelationshipHomeViewController askForMoney", Meant::mayTake, "who asks too much may be divorced"},
+    {"RelationshipHomeViewController breakupConfirmed", Meant::mayTake, "the question names the settlement"},
+    {"RelationshipHomeViewController signPrenup", Meant::mayTake, "the wedding costs, and the step to it does not"},
+    {"RelationshipHomeViewController noPrenup", Meant::mayTake, "the same"},
     {"SettingsViewController restartConfirmed", Meant::mayTake, "another life begins"},
 }};
 

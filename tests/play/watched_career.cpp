@@ -110,6 +110,7 @@ std::string WatchedCareer::fault(Care care) {
     if (!unsaved.empty()) return "not saved: " + unsaved.front();
     if (std::string found = historyFault(state()); !found.empty()) return found;
     if (std::string found = sleepFault(state()); !found.empty()) return found;
+    if (std::string found = labelSumsFault(session().game()); !found.empty()) return found;
   }
   if (due || newHere) {
     if (std::string found = glassFault(session(), [&] { return shown(); }); !found.empty()) return found;

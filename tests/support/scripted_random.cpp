@@ -16,9 +16,20 @@ ScriptedRandom& ScriptedRandom::doubleIs(double lo, double hi, double result) {
   return *this;
 }
 
+ScriptedRandom& ScriptedRandom::bitsAre(uint64_t result) {
+  script_.push_back(Bits{result});
+  return *this;
+}
+
 uint64_t ScriptedRandom::bits64() {
-  ADD_FAILURE() << "bare bits were drawn";
-  return 0;
+  const Bits* next = script_.empty() ? nullptr : std::get_if<Bits>(&script_.front());
+  if (!next) {
+    ADD_FAILURE() << "bare bits were drawn";
+    return 0;
+  }
+  const uint64_t result = next->result;
+  script_.pop_front();
+  return result;
 }
 
 int64_t ScriptedRandom::integer(int64_t lo, int64_t hi) {

@@ -18,6 +18,9 @@ class ScriptedRandom final : public Random {
   /// The next draw is a double from lo to hi, and gives `result`.
   ScriptedRandom& doubleIs(double lo, double hi, double result);
 
+  /// The next draw is of bare bits, and gives `result`.
+  ScriptedRandom& bitsAre(uint64_t result);
+
   uint64_t bits64() override;
   int64_t integer(int64_t lo, int64_t hi) override;
   double uniformDouble(double lo, double hi) override;
@@ -29,7 +32,10 @@ class ScriptedRandom final : public Random {
   struct Double {
     double lo, hi, result;
   };
-  std::deque<std::variant<Integer, Double>> script_;
+  struct Bits {
+    uint64_t result;
+  };
+  std::deque<std::variant<Integer, Double, Bits>> script_;
 };
 
 }  // namespace backbeat

@@ -89,7 +89,13 @@ Standings businessFigures(Game& twin) {
           {"MY LABEL", "", "goToLabelDetail"},
           {"MY LABEL: subtitle", state.myLabelName},
           {"Merch", currency(merchOf(state)), "goToMerch"},
-          {"Merch: subtitle", "3 products on the shelf"}};
+          {"Merch: subtitle", "3 products on the shelf"},
+          {"International Realty", "", "goToPropertyListing"},
+          {"Portfolio", currency(property), "goToPropertyPortfolio"},
+          {"Portfolio: subtitle", "1 holding"},
+          {"Farbes", "Unranked", "goToForbesDetail"},
+          {"Motors", currency(garage), "goToTransportationOptions"},
+          {"Motors: subtitle", state.saveAllTransportationOwnedList[0].title}};
 }
 
 Standings netWorthFigures(Game& twin) {

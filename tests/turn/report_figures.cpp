@@ -81,6 +81,7 @@ Standings reportFigures(Game& twin) {
                    {"Listeners: note", "now " + withCommas(state.totalFans)},
                    {"Borrowed Time", withCommas(state.saveAllFeaturedOnWeeklySongListens[1].songListens)},
                    {"Borrowed Time: subtitle", "Gil Ives"},
+                   {"Nova Reed", withCommas(state.saveAllSignedArtistWeeklySongListens[1].songListens)},
                    {film.songTitle, withCommas(film.videoViews)},
                    {"Harbour Bowl", withCommas(state.saveAllWeeklyTourSales[1].seatsSold)},
                    {"Harbour Bowl: subtitle", "Lisbon"},
@@ -103,7 +104,7 @@ Standings reportFigures(Game& twin) {
                    {"Family", currency(-family)},
                    {"Office", currency(-office)},
                    {"Total cost", currency(-toldSumOf(expenses))},
-                   {"heading (7)", "Chances · " + std::to_string(state.totalEnergyAvailable) + " energy left"},
+                   {"heading (8)", "Chances · " + std::to_string(state.totalEnergyAvailable) + " energy left"},
                    {"Energy", std::to_string(state.totalEnergyAvailable)},
                    {"Energy: note", "of " + std::to_string(state.totalEnergyMax)},
                    {"Cash", currency(cash + net)}} +
@@ -117,7 +118,7 @@ std::vector<ScreenFigures> screens() {
   return {
       {.segue = "goToWeeklySummary",
        .figures = reportFigures,
-       .before = [](Game& game) { runWeekCycle(game, [] {}); },
+       .before = endWeekWithoutLabel,
        .noFigures = {"card (*", "card: *"}},
   };
 }

@@ -55,6 +55,17 @@ void furnish(GameState& state, OwnValues& own) {
   inBothWeeks(state.saveAllWeeklyVideoViews, state, own);
   inBothWeeks(state.saveAllSignedArtistWeeklySongListens, state, own);
   inBothWeeks(state.saveAllSignedArtistWeeklyAlbumSales, state, own);
+  // Nova Reed sings for the label.
+  for (size_t i = 0; i < 2; ++i) {
+    state.saveAllSignedArtistWeeklySongListens.update(i, [](SignedArtistWeeklySongListens& week) {
+      week.artistId = 7;
+      week.songId = 6001;
+    });
+    state.saveAllSignedArtistWeeklyAlbumSales.update(i, [](SignedArtistWeeklyAlbumSales& week) {
+      week.artistId = 7;
+      week.albumId = 6002;
+    });
+  }
   inBothWeeks(state.saveAllFestivalList, state, own);
   for (size_t i = 0; i < 2; ++i) {
     state.saveAllMerchWeeklySales.update(i, [](MerchWeeklySales& sales) { sales.merchGross += 30'000; });

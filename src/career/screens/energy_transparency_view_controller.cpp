@@ -68,6 +68,9 @@ Rows ceilingGains(const GameState& state) {
   Rows rows;
   addLine(rows, "health", "Annual Checkup ", std::max(state.annualCheckupTotal, int64_t{0}));
   addLine(rows, "life", "Lifestyle ", lifestyleBoost(state));
+  int64_t garage = 0;
+  for (const Transportation& vehicle : state.saveAllTransportationOwnedList) garage += vehicle.energyBonus;
+  addLine(rows, "car", "Garage ", garage);
   int64_t relationship = 0;
   for (const Matches& match : state.saveAllMatchesList) {
     if (match.relationshipState >= 1) relationship += match.energyBonus;

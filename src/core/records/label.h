@@ -117,6 +117,10 @@ inline constexpr auto fieldsOf<SignedArtist> = [](auto&& take) {
       Field{"totalLifetimeCost", &SignedArtist::totalLifetimeCost});
 };
 
+/// An artist is found by their id.
+template <>
+inline constexpr int64_t SignedArtist::*historyKeyOf<SignedArtist> = &SignedArtist::artistId;
+
 /// One song of a signed artist.
 struct SignedArtistSong {
   int64_t songId = 0;
@@ -157,6 +161,10 @@ inline constexpr auto fieldsOf<SignedArtistSong> = [](auto&& take) {
       Field{"isExplicit", &SignedArtistSong::isExplicit});
 };
 
+/// The songs of an album are found together.
+template <>
+inline constexpr int64_t SignedArtistSong::*historyKeyOf<SignedArtistSong> = &SignedArtistSong::albumId;
+
 /// One album of a signed artist.
 struct SignedArtistAlbum {
   int64_t albumId = 0;
@@ -188,6 +196,10 @@ inline constexpr auto fieldsOf<SignedArtistAlbum> = [](auto&& take) {
       Field{"price", &SignedArtistAlbum::price}, Field{"marketingScore", &SignedArtistAlbum::marketingScore},
       Field{"percentageOfEarnings", &SignedArtistAlbum::percentageOfEarnings});
 };
+
+/// The albums of an artist are found together.
+template <>
+inline constexpr int64_t SignedArtistAlbum::*historyKeyOf<SignedArtistAlbum> = &SignedArtistAlbum::artistId;
 
 /// What one signed artist's song streamed in one week.
 struct SignedArtistWeeklySongListens {

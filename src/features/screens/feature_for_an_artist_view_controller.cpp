@@ -54,7 +54,7 @@ void FeatureForAnArtistViewController::describeTerms(View& view) const {
                    .label = "Fee at once",
                    .value = isSigned ? "–" : currency(static_cast<double>(offer_.fee)),
                    .tone = isSigned ? Tone::plain : Tone::good},
-                  {.icon = "headphones", .label = "Of the streams", .value = percent(offer_.royalty)},
+                  {.icon = "headphones", .label = "Share", .value = percent(offer_.royalty), .note = "of streams"},
                   {.icon = "star",
                    .label = "Track rating",
                    .value = withDecimals(offer_.trackRating, 1),
@@ -79,8 +79,7 @@ View FeatureForAnArtistViewController::view() const {
   view.add(Button{.id = "closeButton", .label = "Not This One"});
   if (!offer_.isSignedArtist) {
     const int64_t chance = negotiationChance(state(), offer_, pointsAsked_);
-    view.totals = {{.label = "of the streams", .value = percent(offer_.royalty + pointsAsked_)},
-                   {.label = "Chance", .value = percent(chance), .share = static_cast<double>(chance) / 100}};
+    view.totals = {{.label = "Chance", .value = percent(chance), .share = static_cast<double>(chance) / 100}};
   }
   view.mainAction = Button{.id = "negotiateButton", .label = "NEGOTIATE", .price = negotiateVerseCost};
   view.aside = Button{.id = "acceptButton", .label = "ACCEPT", .price = acceptVerseCost};

@@ -9,6 +9,7 @@
 #include "label/accounts.h"
 #include "label/launch.h"
 #include "label/office.h"
+#include "label/roster.h"
 #include "label/screens/label_words.h"
 #include "label/staff.h"
 
@@ -53,7 +54,19 @@ Row artistRow(const SignedArtist& artist) {
           .title = artist.name,
           .subtitle = abbreviated(static_cast<double>(artist.monthlyListeners)),
           .value = std::to_string(rating),
-          .tone = toneOfRating(static_cast<double>(rating))};
+          .tone = toneOfRating(static_cast<double>(rating)),
+          .id = "artist:" + std::to_string(artist.artistId)};
+}
+
+/// Leads to the one artist from whom something is due, or to all of them.
+void addDue(Rows& rows, const DueArtists& due, const std::string& one, const std::string& several) {
+  if (due.count == 0) return;
+  const bool isOne = due.count == 1;
+  rows.items.push_back({.picture = person(due.first->name),
+                        .title = isOne ? due.first->name + one : std::to_string(due.count) + several,
+                        .badge = "!",
+                        .opens = true,
+                        .id = isOne ? "artist:" + std::to_string(due.first->artistId) : "goToSignedArtists"});
 }
 
 /// The unhappiest of those in the department whose happiness costs them their rating, and how many they are.
@@ -108,7 +121,7 @@ Row concernOf(const GameState& state, const LabelRatings& label, size_t code) {
 Outcome LabelDetailViewController::open() {
   if (state().isLabelLaunched < 1) return {};
   refreshLabelRatings(game_);
-  storedRoyalties_ = storedRoyalties(state());
+  storedRoyalties_ = storedRoyalties(game_);
   return {};
 }
 
@@ -119,8 +132,10 @@ Outcome LabelDetailViewController::press(const Action& action) {
     closeLabel(game_);
     return closeScreen();
   }
-  for (const std::string_view way : {"goToFindNewArtists", "goToLabelHireStaff", "goToLabelCapacity",
-                                     "goToLabelBenefits", "goToCreateSignedArtist"}) {
+  if (action.verb() == "artist") return goTo("goToSignedArtistDetail", std::string(action.argument()));
+  for (const std::string_view way :
+       {"goToFindNewArtists", "goToLabelHireStaff", "goToLabelCapacity", "goToLabelBenefits", "goToCreateSignedArtist",
+        "goToSignedArtists", "goToArtistRoi"}) {
     if (action.id == way) return goTo(action.id);
   }
   return {};
@@ -132,6 +147,7 @@ void LabelDetailViewController::describe(View& view) const {
                  .title = state().myLabelName,
                  .text = state().myLabelSlogan,
                  .badge = std::to_string(label.overall)});
+  describeDue(view);
   describeDepartments(view, label);
   describeRoster(view);
   describeMoney(view, label);
@@ -146,6 +162,13 @@ void LabelDetailViewController::describe(View& view) const {
                "department gives a bonus that follows its rating whenever you come here: happier artists, better "
                "terms, more virality and marketing for what you record, and more revenue.\n\nA week takes energy, "
                "salaries, perks and rent, whatever the artists bring."};
+}
+
+void LabelDetailViewController::describeDue(View& view) const {
+  Rows due;
+  addDue(due, dueArtists(state(), contractIsUp), "'s contract is up", " contracts are up");
+  addDue(due, dueArtists(state(), albumWaits), "'s album is complete", " albums are complete");
+  if (!due.items.empty()) view.add(std::move(due));
 }
 
 void LabelDetailViewController::describeDepartments(View& view, const LabelRatings& label) const {
@@ -181,11 +204,10 @@ void LabelDetailViewController::describeRoster(View& view) const {
   } else {
     view.add(std::move(strip));
   }
-  view.add(Rows{{{.picture = icon("mic"),
-                  .title = "Artists",
-                  .subtitle = std::to_string(roster.active) + " ACTIVE • " + std::to_string(roster.dropped) +
-                              " DROPPED ARTIST(S)",
-                  .value = std::to_string(roster.active) + "/" + std::to_string(state().studioCapacity)}}});
+  view.add(
+      Rows{{wayTo("goToSignedArtists", "mic", "Artists",
+                  std::to_string(roster.active) + " ACTIVE • " + std::to_string(roster.dropped) + " DROPPED ARTIST(S)",
+                  std::to_string(roster.active) + "/" + std::to_string(state().studioCapacity))}});
 }
 
 void LabelDetailViewController::describeMoney(View& view, const LabelRatings& label) const {
@@ -227,7 +249,8 @@ void LabelDetailViewController::describeWays(View& view) const {
             wayTo("goToLabelBenefits", "coffee", "Benefits & Culture",
                   spoils ? "+" + shortNumber(energy) + " ENERGY • +" + shortNumber(morale) + " HAPPINESS"
                          : "What your staff get besides their pay"),
-            wayTo("goToCreateSignedArtist", "pencil", "Create an Artist", "After your own idea")}});
+            wayTo("goToCreateSignedArtist", "pencil", "Create an Artist", "After your own idea"),
+            wayTo("goToArtistRoi", "trend", "Return on Investment", "What it has all come to")}});
 }
 
 }  // namespace backbeat

@@ -17,6 +17,7 @@ class LabelDetailViewController final : public LabelScreen {
   void describe(View& view) const override;
 
  private:
+  void describeDue(View& view) const;
   void describeDepartments(View& view, const LabelRatings& label) const;
   void describeRoster(View& view) const;
   void describeMoney(View& view, const LabelRatings& label) const;

@@ -30,7 +30,7 @@ Row playedStop(const WeeklyTourSales& show) {
 Row comingStop(const MusicTour& venue, int64_t week, bool isNext) {
   Row row{.title = venue.stadium,
           .subtitle = (isNext ? "This week" : showDate(week)) + "\n" + venue.location,
-          .value = withCommas(std::min(venue.seatsSold, venue.seatCapacity)),
+          .value = withCommas(std::clamp(venue.seatsSold, int64_t{0}, venue.seatCapacity)),
           .note = "of " + withCommas(venue.seatCapacity) + " Seats",
           .selected = isNext};
   if (venue.numberOfShows > 1) row.subtitle += " · " + counted(venue.numberOfShows, "show");

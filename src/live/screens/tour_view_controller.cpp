@@ -23,10 +23,11 @@ Tone toneOfDemand(double percent) {
 Text outlookOf(const TourTotals& totals) {
   if (totals.numberOfShows == 0) return caption("Choose where to play. Every figure below is known before you go.");
   const std::string amount = currency(std::abs(totals.expectedNet));
+  const std::string weeks = counted(totals.weeksOnTour, "week");
   if (totals.expectedNet < 0) {
-    return caption("This tour would lose you " + amount + ". Fuller houses sell dearer tickets.", Tone::bad);
+    return caption(weeks + " on the road would lose you " + amount + ". Fuller houses sell dearer tickets.", Tone::bad);
   }
-  return caption("This tour would leave you " + amount + " after what your label takes.", Tone::good);
+  return caption(weeks + " on the road would leave you " + amount + " after what your label takes.", Tone::good);
 }
 
 Figures sumOf(const GameState& state, const TourTotals& totals) {
@@ -127,7 +128,7 @@ View TourViewController::view() const {
   view.add(sumOf(state(), totals));
   const int64_t left = energyForTour(state()) - totals.energyCostToTour;
   view.totals = {
-      {.label = "seats, " + counted(totals.weeksOnTour, "week"), .value = withCommas(totals.totalCapacity)},
+      {.label = "seats", .value = withCommas(totals.totalCapacity)},
       {.label = "avg ticket", .value = price(totals.averageTicketPrice)},
       {.label = "for you", .value = shortDollars(totals.expectedNet), .tone = toneOfChange(totals.expectedNet)},
       {.label = "a week, " + std::to_string(left) + " left",

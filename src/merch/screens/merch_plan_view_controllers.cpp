@@ -9,18 +9,17 @@ namespace {
 
 constexpr int64_t daysInWeek = 7;
 
-std::string days(int64_t weeks) { return std::to_string(weeks * daysInWeek) + " day"; }
+std::string days(int64_t weeks) { return counted(weeks * daysInWeek, "day"); }
 
-/// Value and label read as one: "14 day run of 10,000 units".
 std::vector<Fact> factsOf(const MerchService& service, const MerchPlan& plan) {
   switch (service.kind) {
     case MerchService::Kind::website: return {{.label = feeName(plan.fee), .value = withDecimals(plan.fee, 1) + "%"}};
     case MerchService::Kind::manufacturing:
       return {{.label = "product lines", .value = std::to_string(plan.limit)},
-              {.label = "run of 10,000 units", .value = days(plan.weeks)}};
+              {.label = "per 10,000 units", .value = days(plan.weeks)}};
     case MerchService::Kind::logistics:
       return {{.label = "units in store", .value = withCommas(plan.limit)},
-              {.label = "shipping", .value = days(plan.weeks)}};
+              {.label = "to ship", .value = days(plan.weeks)}};
   }
   return {};
 }

@@ -83,6 +83,7 @@ View MerchViewController::view() const {
   describeShelf(view);
   describePlans(view);
   describeRetired(view);
+  if (!state().saveAllMerchReleasedList.empty()) view.add(caption(summary(state())));
   view.mainAction = Button{.id = "goToLaunchNewMerch", .label = "New Product", .style = Button::Style::primary};
   view.help =
       Help{.title = "How a shop works",
@@ -96,7 +97,6 @@ View MerchViewController::view() const {
 
 void MerchViewController::describeShelf(View& view) const {
   const std::vector<size_t> positions = productsWhere(state(), false);
-  if (!state().saveAllMerchReleasedList.empty()) view.add(caption(summary(state())));
   if (positions.empty()) {
     view.add(EmptyHint{.icon = "shirt",
                        .text = "Nothing on the shelf. With a website, a manufacturer and a warehouse you can launch "

@@ -18,11 +18,27 @@ std::string nameIn(const RecordList<T>& songs, int64_t songId) {
   return found == songs.size() ? "" : songs[found].artistName;
 }
 
+/// The label's songs are numbered as they come, so that none has to be looked for among those of fifty years, unless a
+/// file brought them in another order.
+std::string nameOnLabel(const RecordList<SignedArtistSong>& songs, int64_t songId) {
+  size_t from = 0;
+  for (size_t to = songs.size(); from < to;) {
+    const size_t middle = (from + to) / 2;
+    if (songs[middle].songId < songId) {
+      from = middle + 1;
+    } else {
+      to = middle;
+    }
+  }
+  const bool isThere = from != songs.size() && songs[from].songId == songId;
+  return isThere ? songs[from].artistName : nameIn(songs, songId);
+}
+
 /// Who sings: empty when the song behind the row is gone.
 std::string artistOf(const GameState& state, const BillboardSong& song) {
   if (isOwnSong(song)) return state.myArtistsName;
   if (song.songId < featuredSongOffset) {
-    return nameIn(state.saveAllSignedArtistSongList, song.songId - signedArtistSongOffset);
+    return nameOnLabel(state.saveAllSignedArtistSongList, song.songId - signedArtistSongOffset);
   }
   return nameIn(state.saveAllFeaturedOnList, song.songId - featuredSongOffset);
 }

@@ -27,6 +27,14 @@ void countMusic(const GameState& state, CareerYear& row) {
   }
 }
 
+void countTheRest(const GameState& state, CareerYear& row) {
+  row.videos = static_cast<int64_t>(state.saveAllMusicVideoList.size());
+  row.shows = static_cast<int64_t>(state.saveAllWeeklyTourSales.size());
+  for (const WeeklyTourSales& show : state.saveAllWeeklyTourSales) row.touring += show.tourRevenue;
+  row.products = static_cast<int64_t>(state.saveAllMerchReleasedList.size());
+  for (const Merch& product : state.saveAllMerchReleasedList) row.merch += product.totalRevenue - product.totalCost;
+}
+
 }  // namespace
 
 double Column::of(const CareerYear& row) const {
@@ -56,6 +64,7 @@ CareerYear careerYear(const GameState& state, int64_t year) {
   row.virality = state.virality;
   row.studio = studioRating(state);
   countMusic(state, row);
+  countTheRest(state, row);
   return row;
 }
 

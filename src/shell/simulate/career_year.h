@@ -22,9 +22,14 @@ struct CareerYear {
   int64_t albums = 0;  ///< released
   int64_t streams = 0;
   int64_t albumsSold = 0;
-  int64_t chartHits = 0;      ///< own songs that ever charted
-  int64_t bestRank = 0;       ///< 0 when none did
-  int64_t weeksAtOne = 0;     ///< of all own songs together
+  int64_t chartHits = 0;   ///< own songs that ever charted
+  int64_t bestRank = 0;    ///< 0 when none did
+  int64_t weeksAtOne = 0;  ///< of all own songs together
+  int64_t videos = 0;
+  int64_t shows = 0;          ///< played on tours
+  int64_t products = 0;       ///< ever on the shelf
+  double touring = 0;         ///< dollars, after what labels took
+  double merch = 0;           ///< dollars of sales less orders and fees
   int64_t underContract = 0;  ///< 1 while a label's contract runs
   int64_t energyCeiling = 0;
   int64_t songWriting = 0;
@@ -44,7 +49,7 @@ struct Column {
   std::string text(const CareerYear& row) const;  ///< dollars with cents
 };
 
-inline constexpr std::array<Column, 20> columns = {{
+inline constexpr std::array<Column, 25> columns = {{
     {"year", &CareerYear::year},
     {"cash", &CareerYear::cash},
     {"net_assets", &CareerYear::netAssets},
@@ -57,6 +62,11 @@ inline constexpr std::array<Column, 20> columns = {{
     {"chart_hits", &CareerYear::chartHits},
     {"best_rank", &CareerYear::bestRank},
     {"weeks_at_one", &CareerYear::weeksAtOne},
+    {"videos", &CareerYear::videos},
+    {"shows", &CareerYear::shows},
+    {"products", &CareerYear::products},
+    {"touring", &CareerYear::touring},
+    {"merch", &CareerYear::merch},
     {"under_contract", &CareerYear::underContract},
     {"energy_ceiling", &CareerYear::energyCeiling},
     {"songwriting", &CareerYear::songWriting},

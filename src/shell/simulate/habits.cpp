@@ -1,7 +1,6 @@
 #include "shell/simulate/habits.h"
 
 #include <algorithm>
-#include <charconv>
 #include <string>
 #include <vector>
 
@@ -13,6 +12,7 @@
 #include "music/marketing_plans.h"
 #include "music/song_creation.h"
 #include "music/song_release.h"
+#include "shell/simulate/habit_words.h"
 
 namespace backbeat {
 
@@ -21,18 +21,6 @@ namespace {
 constexpr std::array<const char*, lifestyleCategories.size()> lifestyleButtons = {
     "goToFoodButton", "goToFashionButton", "goToHealthButton", "goToHomeButton", "goToTransportationButton"};
 constexpr int64_t mostJobs = 5;
-
-bool hasEnergy(Player& player, int64_t energy) { return player.state().totalEnergyAvailable >= energy; }
-
-/// The first whole number in a text; 0 when there is none.
-int64_t numberIn(std::string_view text) {
-  const size_t begin = text.find_first_of("0123456789");
-  int64_t number = 0;
-  if (begin != text.npos) std::from_chars(text.data() + begin, text.data() + text.size(), number);
-  return number;
-}
-
-double dollarsOf(const std::optional<Price>& price) { return price ? price->dollars : 0; }
 
 /// Of the rows `prefix`0, `prefix`1 and so on, each dearer than the one before: the last one that `budget` pays;
 /// an empty one when it pays none.
@@ -43,21 +31,6 @@ Row dearestRow(Player& player, const std::string& prefix, double budget) {
     if (row.id.empty()) return best;
     if (dollarsOf(row.price) <= budget) best = row;
   }
-}
-
-/// Takes the option with the best rating that `budget` pays; what it costs.
-double chooseBest(Player& player, const std::string& list, double budget) {
-  const Choice choice = blockWithId<Choice>(player.view(), list);
-  if (choice.id.empty()) return 0;
-  size_t best = 0;
-  for (size_t i = 1; i < choice.options.size(); ++i) {
-    const Option& option = choice.options[i];
-    if (dollarsOf(option.price) > budget) continue;
-    if (numberIn(option.note) > numberIn(choice.options[best].note)) best = i;
-  }
-  const double cost = dollarsOf(choice.options[best].price);
-  player.press(list, std::to_string(best));
-  return cost;
 }
 
 /// Sends away the guests of the last song and asks the best one that `budget` pays and who comes.
@@ -76,12 +49,6 @@ void chooseGuest(Player& player, double budget) {
   if (!best.empty()) toPress.push_back(best);
   for (const std::string& guest : toPress) player.press(guest);
   player.back();
-}
-
-void openSong(Player& player, int64_t songId) {
-  player.tab(musicTab);
-  player.press("kind", "0");
-  player.press("song:" + std::to_string(songId));
 }
 
 void openAlbum(Player& player, int64_t albumId) {

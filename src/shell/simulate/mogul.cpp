@@ -1,6 +1,7 @@
 #include "shell/simulate/mogul.h"
 
 #include "shell/simulate/habits.h"
+#include "shell/simulate/stage_habits.h"
 
 namespace backbeat {
 
@@ -17,6 +18,11 @@ constexpr double shareForMarketing = 0.5;
 constexpr double shareForTheStudio = 0.25;
 constexpr double shareForAWeekOfLife = 0.004;
 constexpr size_t albumPrice = 2;  // $9.99
+constexpr int64_t weeksBetweenVideos = 4;
+constexpr double shareForAVideo = 0.2;
+constexpr TourHabit greatTour = {.shareOfEnergy = 0.5};
+constexpr int64_t productsOnTheShelf = 3;
+constexpr double shareForAProduct = 0.5;
 
 }  // namespace
 
@@ -33,6 +39,9 @@ void Mogul::playWeek(Player& player, int64_t week) {
   makeSong(
       player,
       {.budget = share(shareForASong), .guestBudget = share(shareForAGuest), .forAlbum = makesAlbums && week % 4 != 1});
+  if (week % weeksBetweenVideos == 0) filmBestSong(player, share(shareForAVideo));
+  goOnTour(player, greatTour);
+  runShop(player, {.products = productsOnTheShelf, .budget = share(shareForAProduct)});
   improveStudio(player, share(shareForTheStudio));
   practise(player, allTraits, 0);
   player.endTheWeek(true);

@@ -19,7 +19,8 @@ std::unique_ptr<Strategy> make() {
 constexpr StrategyEntry all[] = {
     {"idle", "ends weeks and does nothing else", make<Idle>},
     {"casual", "a job, a song every other month, a few traits", make<Casual>},
-    {"keen", "a song every other week, albums, traits, studio, marketing, contracts", make<Keen>},
+    {"keen", "a song every other week, albums, traits, studio, marketing, contracts, films, small tours, a shop",
+     make<Keen>},
     {"mogul", "keen, and everything that money buys", make<Mogul>},
 };
 

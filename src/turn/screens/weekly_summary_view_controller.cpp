@@ -3,19 +3,23 @@
 #include <algorithm>
 #include <cstdlib>
 #include <map>
+#include <utility>
 
 #include "career/contract_end.h"
 #include "core/calendar.h"
 #include "core/money.h"
+#include "core/numbers.h"
 #include "core/own_photo.h"
 #include "core/purse.h"
 #include "core/view_words.h"
+#include "label/artist_week.h"
+#include "label/roster.h"
 #include "label/weekly_label_updates.h"
 #include "life/children_events.h"
+#include "life/news.h"
 #include "life/relationship_events.h"
 #include "live/festivals.h"
 #include "music/covers.h"
-#include "recognition/music_awards.h"
 #include "social/screens/chirp_post.h"
 #include "turn/screens/money_figures.h"
 #include "turn/week_story.h"
@@ -58,13 +62,14 @@ Figures incomeOf(const WeeklyReport& report) {
 
 double costOf(const WeeklyReport& report) { return report.totalExpenses + report.bonusPaidBack; }
 
-Figures expensesOf(const WeeklyReport& report) {
+Figures expensesOf(const WeeklyReport& report, double settlement) {
   Figures expenses{.title = "Cost"};
   addExpense(expenses, "Standing expenses", report.standingExpenses);
   addExpense(expenses, "Family", report.family);
   addExpense(expenses, "Touring", std::max(-report.tour, 0.0));
   addExpense(expenses, "Office", report.labelExpenses);
   addExpense(expenses, "Signing bonus paid back", report.bonusPaidBack);
+  addExpense(expenses, "Divorce", settlement);
   expenses.total = totalOf("Total cost", expenses.items);
   return expenses;
 }
@@ -123,6 +128,28 @@ Rows albumsOf(const GameState& state, const WeeklyReport& report, const std::vec
          .value = withCommas(sales[i].albumSales),
          .note = "sold",
          .badge = badgeOf(milestones, &Milestone::albumId, sales[i].albumId)});
+  }
+  return rows;
+}
+
+/// The label's artists by what their songs streamed, the most heard first.
+Rows signedArtistsOf(const GameState& state, const WeeklyReport& report) {
+  std::map<int64_t, int64_t> streams;
+  for (const auto& week : report.weeklyEarningsSignedArtistSongs) {
+    streams[week.artistId] = add(streams[week.artistId], week.songListens);
+  }
+  std::vector<std::pair<int64_t, int64_t>> order(streams.begin(), streams.end());
+  std::stable_sort(order.begin(), order.end(), [](const auto& a, const auto& b) { return a.second > b.second; });
+  Rows rows;
+  for (const auto& [artistId, heard] : order) {
+    const size_t position = artistPosition(state, artistId);
+    if (position == state.saveAllSignedArtistList.size()) continue;
+    const std::string& name = state.saveAllSignedArtistList[position].name;
+    rows.items.push_back({.picture = person(name),
+                          .title = name,
+                          .value = withCommas(heard),
+                          .note = heard == 1 ? "stream" : "streams"});
+    if (rows.items.size() == mostListed) break;
   }
   return rows;
 }
@@ -192,7 +219,7 @@ Outcome WeeklySummaryViewController::open() {
   resolveVentureExits(game_);
   updateEmployeesWeekly(game_);
   updateSignedArtistsWeekly(game_);
-  showAwardButton(game_);
+  awardShow_ = showAwardButton(state());
   milestones_ = milestonesSince(game_.turn.before, state(), report_.week);
   news_ = newsOf(game_);
   story_ = weekStory(game_, report_);
@@ -206,7 +233,10 @@ Outcome WeeklySummaryViewController::appear() {
   const double cash = state().totalCashAvailable;
   outcome += checkContractDeadlines(game_);
   report_.bonusPaidBack = cash - state().totalCashAvailable;
+  const double cashWithPartner = state().totalCashAvailable;
   outcome += runRelationshipEvents(game_);
+  settlement_ = cashWithPartner - state().totalCashAvailable;
+  news_ = newsOf(game_);  // who has left, and who was born, came with the last step
   return outcome;
 }
 
@@ -215,6 +245,7 @@ Outcome WeeklySummaryViewController::act(const Action& action) {
   if (action.id == "eventButton1") return eventButton1();
   if (action.id == "eventButton2") return eventButton2();
   if (action.id == "eventButton3") return eventButton3();
+  if (action.id == "awardButton") return awardButton();
   if (action.verb() == "ratingAnswer") {
     if (const auto answer = optionNumber(action.argument(), 4)) return answerRatingOffer(static_cast<int64_t>(*answer));
   }
@@ -253,6 +284,24 @@ Outcome WeeklySummaryViewController::closeButton() {
   Outcome outcome = runChildrenAnnualEvents(game_);
   outcome += closeScreen();
   return outcome;
+}
+
+Outcome WeeklySummaryViewController::awardButton() {
+  const AwardShow show = std::exchange(awardShow_, AwardShow::none);
+  if (show == AwardShow::none) return {};
+  return goTo(show == AwardShow::nominations ? "goToMusicAward" : "goToGrammyAwardAnnouncement");
+}
+
+void WeeklySummaryViewController::describeAwards(View& view) const {
+  if (awardShow_ == AwardShow::none) return;
+  const bool isNominations = awardShow_ == AwardShow::nominations;
+  const std::string year = std::to_string(state().yearNumber);
+  view.add(Card{.picture = drawn(Picture::Kind::object, "fork", year),
+                .title = isNominations ? "Who is nominated?" : "Awards night",
+                .text = isNominations ? "Only this week. A year whose nominations stay shut has no winners either"
+                                      : "The envelopes of the year are opened",
+                .buttons = {{.id = "awardButton",
+                             .label = year + (isNominations ? " Annual GRAM Nominations" : " Annual GRAM Winners")}}});
 }
 
 void WeeklySummaryViewController::describeEvents(View& view) const {
@@ -309,6 +358,10 @@ void WeeklySummaryViewController::describeMusic(View& view) const {
     view.add(Heading{"ALBUM SALES"});
     view.add(std::move(albums));
   }
+  if (Rows artists = signedArtistsOf(state(), report_); !artists.items.empty()) {
+    view.add(Heading{"POPULAR SIGNED ARTISTS\n"});
+    view.add(std::move(artists));
+  }
   if (Rows verses = versesOf(report_); !verses.items.empty()) {
     view.add(Heading{"FEATURED ON"});
     view.add(std::move(verses));
@@ -329,14 +382,16 @@ View WeeklySummaryViewController::view() const {
             .picture = artistPicture(state()),
             .theme = Theme::report};
   if (!news_.empty() && news_.front().rank >= headlineRank) {
-    view.add(posterOf(news_.front()));
+    Poster poster = posterOf(news_.front());
+    if (news_.front().key == breakUpKey) tearApart(state(), poster);
+    view.add(std::move(poster));
   } else {
     view.add(Text{.text = story_, .style = Text::Style::lead});
   }
   Figures income = incomeOf(report_);
-  Figures expenses = expensesOf(report_);
+  Figures expenses = expensesOf(report_, settlement_);
   const double net = income.total->amount + expenses.total->amount;
-  const double cashAfter = cashBefore_ + report_.totalRevenue - costOf(report_);
+  const double cashAfter = cashBefore_ + report_.totalRevenue - costOf(report_) - settlement_;
   const int64_t change = game_.launch.weeklyFanChange;
   const std::string ofNet =
       report_.weeklyTourSales.empty() ? "cash " + currency(cashAfter) : "show " + currency(report_.tour);
@@ -347,6 +402,7 @@ View WeeklySummaryViewController::view() const {
                               .tone = toneOfChange(change),
                               .note = "now " + withCommas(state().totalFans)}},
                    .style = Figures::Style::pair});
+  describeAwards(view);
   describeShowChirp(view);
   describeMusic(view);
   describeNews(view);

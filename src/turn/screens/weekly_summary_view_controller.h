@@ -4,6 +4,7 @@
 #include "core/news.h"
 #include "core/screen.h"
 #include "music/milestones.h"
+#include "recognition/music_awards.h"
 #include "turn/weekly_events.h"
 #include "turn/weekly_report.h"
 
@@ -31,6 +32,8 @@ class WeeklySummaryViewController final : public Screen {
   Outcome eventButton1() { return pressEventButton(game_, events_, events_.buttonEvent1); }
   Outcome eventButton2() { return pressEventButton(game_, events_, events_.buttonEvent2); }
   Outcome eventButton3() { return pressEventButton(game_, events_, events_.buttonEvent3); }
+  /// The way to the awards in their two weeks; good for one press.
+  Outcome awardButton();
   /// The only way out. A year's news of the children comes with it.
   Outcome closeButton();
 
@@ -38,6 +41,7 @@ class WeeklySummaryViewController final : public Screen {
 
  private:
   bool ratingOfferStands() const;
+  void describeAwards(View& view) const;
   void describeShowChirp(View& view) const;
   void describeMusic(View& view) const;
   void describeNews(View& view) const;
@@ -48,7 +52,9 @@ class WeeklySummaryViewController final : public Screen {
   std::vector<News> news_;             // as it stood when the report opened
   std::string story_;                  // for a week without a headline
   WeeklyEvents events_;
+  AwardShow awardShow_ = AwardShow::none;
   double cashBefore_ = 0;
+  double settlement_ = 0;  // what a divorce in this report took, in dollars
   bool hasAppeared_ = false;
 };
 

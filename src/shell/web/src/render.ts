@@ -1,4 +1,6 @@
 import { html, type TemplateResult } from "lit";
+import { keyed } from "lit/directives/keyed.js";
+import { ref } from "lit/directives/ref.js";
 import { cardBlock, coverBlock } from "./blocks/cards";
 import "./blocks/chart";
 import { buttonBlock, choiceBlock, fieldBlock, photoBlock, toggleBlock } from "./blocks/controls";
@@ -86,10 +88,22 @@ export function renderBlocks(blocks: Block[], scene: Scene): TemplateResult[] {
     const company = companyAt(blocks, i, scene.theme);
     const together = blocks.slice(i, i + company.length).map((block) => renderBlock(block, scene));
     if (company.look.startsWith("channel")) together.unshift(wall(blocks));
-    drawn.push(company.look ? html`<div class=${company.look}>${together}</div>` : together[0]!);
+    const isLatest = company.look.startsWith("award") && blocks.findIndex(({ kind }) => kind === "card") === i;
+    if (isLatest) drawn.push(envelope(blocks[i]!, company.look, together));
+    else drawn.push(company.look ? html`<div class=${company.look}>${together}</div>` : together[0]!);
     i += company.length;
   }
   return drawn;
+}
+
+/** The envelope opened last, on top of the others: it unfolds anew when another takes its place. */
+function envelope(block: Block, look: string, together: TemplateResult[]): TemplateResult {
+  const field = block.kind === "card" ? block.badge : "";
+  return html`${keyed(field, html`<div class=${look} ${ref(bringIntoView)}>${together}</div>`)}`;
+}
+
+function bringIntoView(element?: Element): void {
+  if (element) requestAnimationFrame(() => element.closest(".scroll")?.scrollTo({ top: 0 }));
 }
 
 /** The sleeves of the songs whose films are shown here. */

@@ -79,7 +79,8 @@ export function decodeBatch(bytes: Uint8Array): Row[] {
     const remove = view.getUint8(at + 4) !== 0;
     at += 5;
     const value = take(length());
-    rows.push({ key, chunk, value: remove ? null : value });
+    // A copy: a store that is handed a part of the batch would keep all of it with each row.
+    rows.push({ key, chunk, value: remove ? null : value.slice() });
   }
   return rows;
 }

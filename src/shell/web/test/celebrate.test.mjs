@@ -1,4 +1,4 @@
-// The good news at the head of a report, as it moves.
+// Good news as it moves: at the head of a report, and on awards night.
 import assert from "node:assert/strict";
 import { after, before, test } from "node:test";
 import { openStage } from "./open.mjs";
@@ -60,5 +60,44 @@ test("under sad news nothing counts and nothing falls", async () => {
   const { page, context, first } = await rise("mourn");
   assert.deepEqual(first, { rising: true, confetti: null, figure: "$41,230" });
   await page.locator("backbeat-app:not(.moving)").waitFor();
+  await context.close();
+});
+
+const night = (fields) => ({
+  ...root,
+  stack: [1, 3],
+  modal: true,
+  view: {
+    key: 3,
+    theme: "gala",
+    blocks: [
+      { kind: "poster", title: "2031 GRAM WINNERS" },
+      ...fields.flatMap((badge) => [
+        { kind: "card", badge },
+        { kind: "rows", items: Array.from({ length: 9 }, (_, i) => ({ title: `${badge}, ${i}` })) },
+      ]),
+    ],
+    mainAction: { id: "nextEnvelope", label: "Open the Next Envelope" },
+  },
+});
+
+test("the envelope opened last unfolds on top, wherever one was reading", async () => {
+  const { page, context } = await stage.open({ reducedMotion: "no-preference" });
+  await page.evaluate((night) => window.stage.show(night), night(["Album", "Record"]));
+  await page.waitForFunction(() => document.querySelectorAll(".award").length === 2);
+  await page.evaluate(() => document.querySelector(".layer.modal .scroll").scrollTo({ top: 400 }));
+  const unfolding = await page.evaluate(
+    (night) => {
+      window.stage.show(night);
+      return new Promise((done) =>
+        document.addEventListener("animationstart", ({ target, animationName }) => {
+          if (animationName === "unfold") done(target.querySelector(".award-field").textContent);
+        }),
+      );
+    },
+    night(["Song", "Album", "Record"]),
+  );
+  assert.equal(unfolding, "Song");
+  await page.waitForFunction(() => document.querySelector(".layer.modal .scroll").scrollTop === 0);
   await context.close();
 });

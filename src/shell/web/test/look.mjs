@@ -102,7 +102,10 @@ export function drawnLate(page) {
   return page.evaluate(() =>
     [...document.querySelectorAll(".layer.top .blocks *")]
       .filter((piece) => getComputedStyle(piece).contentVisibility === "auto")
-      .filter((piece) => piece.getBoundingClientRect().top < innerHeight)
+      .filter((piece) => {
+        const scrolled = piece.closest(".scroll")?.scrollTop ?? 0; // what a reader scrolled to was drawn by then
+        return piece.getBoundingClientRect().top + scrolled < innerHeight;
+      })
       .map((piece) => `drawn late: ${piece.outerHTML.slice(0, 90)}`),
   );
 }

@@ -11,9 +11,16 @@ export const filmNames = Object.keys(careers).filter((name) => careers[name].fil
 /** A world by its name: its rows and the hour, in unix milliseconds, at which somebody plays on there. */
 export const world = (name) => ({ rows: careerRows(name), now: careers[name].now });
 
+/** A row as versions wrote it that kept no check with it: the check is of its place, and no copy's. */
+const unchecked = (row) => ({
+  ...row,
+  value: Buffer.concat([Buffer.from("ido"[row.value[0] - 0x31]), row.value.slice(9)]),
+});
+
 /** The same career with a history of weekly streams of `chunks` chunks: each of them is a list of its own. */
-function lengthened({ rows, now }, chunks) {
+function lengthened({ rows: checked, now }, chunks) {
   const list = "saveAllWeeklySongListens";
+  const rows = new Map([...checked].filter(([, { key }]) => key !== "#rows").map(([at, row]) => [at, unchecked(row)]));
   const long = new Map(rows);
   const own = [...rows.values()].filter(({ key }) => key === list).sort((a, b) => a.chunk - b.chunk);
   const last = own.pop(); // the only one that is not full
@@ -38,6 +45,20 @@ export async function openWorld(page, home, { rows, now }, query = "?seed=7") {
   await store(page, rows);
   await page.goto(`${home}${query}`);
   await page.locator(".layer.top").first().waitFor();
+}
+
+/** Resolves once all that the page had to write is written. */
+export function settled(page) {
+  return page.evaluate(async () => {
+    const opened = await new Promise((done) => {
+      const opening = indexedDB.open("backbeat");
+      opening.onsuccess = () => done(opening.result);
+    });
+    const transaction = opened.transaction("rows", "readwrite");
+    transaction.objectStore("rows").count();
+    await new Promise((done) => (transaction.oncomplete = done));
+    opened.close();
+  });
 }
 
 function store(page, rows) {

@@ -152,7 +152,7 @@ class DeckElement extends LitElement {
     tap();
     const answered = { deck: this.deck, pull, side: choice.side ?? "left" };
     this.answered = answered;
-    this.scene.press(choice.id);
+    this.scene.press(choice.id, pull.x || pull.y ? "swipe" : "");
     // Whoever is still there has not been answered: the game refused.
     requestAnimationFrame(() => {
       if (this.answered !== answered) return;

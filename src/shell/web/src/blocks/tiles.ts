@@ -26,11 +26,14 @@ function tile({ icon, label, value, note, tone, id }: Tile, scene: Scene): Templ
     : html`<div class=${look}>${body}</div>`;
 }
 
+/** Here the figure comes first, so that a colon after the words would lead to nothing. */
 function bare(items: Tile[]): TemplateResult {
   return html`<div class="bare-tiles">
     ${items.map(
       ({ label, value, tone }) =>
-        html`<span class=${toneClass(tone)}><b dir="auto">${value}</b><small dir="auto">${label}</small></span>`,
+        html`<span class=${toneClass(tone)}
+          ><b dir="auto">${value}</b><small dir="auto">${label?.replace(/:\s*$/, "")}</small></span
+        >`,
     )}
   </div>`;
 }

@@ -1,6 +1,6 @@
 import { html, nothing, type TemplateResult } from "lit";
 import { buttonBlock } from "../blocks/controls";
-import type { Header, Story, View } from "../protocol";
+import type { ButtonData, Header, Story, Total, View } from "../protocol";
 import type { Scene } from "../scene";
 import { endWeekButton } from "./end-week";
 import "./share-button";
@@ -16,7 +16,7 @@ export function dock(view: View | null, scene: Scene): Part {
   );
   const buttons = [
     aside ? buttonBlock(aside, scene) : null,
-    mainAction ? buttonBlock({ style: "primary", ...mainAction }, scene) : null,
+    mainAction ? buttonBlock({ style: "primary", ...toldOnce(mainAction, totals) }, scene) : null,
     story ? html`<bb-share-button .story=${story}></bb-share-button>` : null,
   ].filter((button) => button !== null);
   if (buttons.length === 0 && totals.length === 0) return nothing;
@@ -24,6 +24,14 @@ export function dock(view: View | null, scene: Scene): Part {
     ${totals.length > 0 ? html`<bb-totals .totals=${totals}></bb-totals>` : nothing}
     <div class="dock-buttons ${aside && buttons.length > 1 ? "with-aside" : ""}">${buttons}</div>
   </div>`;
+}
+
+/** Money that stands right above the button, and is there, is not told a second time on it. */
+function toldOnce(button: ButtonData, totals: Total[]): ButtonData {
+  const { price } = button;
+  if (!price?.affordable || !totals.some(({ value }) => value === price.dollars)) return button;
+  const { dollars: _, ...rest } = price;
+  return { ...button, price: rest };
 }
 
 /** On the root of a tab the foot belongs to END THE WEEK; the root's own buttons stand at its head. */

@@ -1,0 +1,86 @@
+#include "wealth/segues.h"
+
+#include "core/money.h"
+#include "wealth/net_assets.h"
+#include "wealth/news.h"
+#include "wealth/rich_list.h"
+#include "wealth/screens/forbes_detail_view_controller.h"
+#include "wealth/screens/property_listing_view_controller.h"
+#include "wealth/screens/property_portfolio_view_controller.h"
+#include "wealth/screens/transportation_options_view_controller.h"
+
+namespace backbeat {
+
+namespace {
+
+using enum Segue::Presentation;
+
+constexpr Segue segues[] = {
+    {"goToPropertyListing", "PropertyListingViewController", push, makeScreen<PropertyListingViewController>},
+    {"goToPropertyPortfolio", "PropertyPortfolioViewController", push,
+     makeScreenWithId<PropertyPortfolioViewController>},
+    {"goToTransportationOptions", "TransportationOptionsViewController", push,
+     makeScreen<TransportationOptionsViewController>},
+    {"goToForbesDetail", "ForbesDetailViewController", push, makeScreen<ForbesDetailViewController>},
+};
+
+bool ownsHomes(const Game& game) { return !game.state.saveAllInvestmentPropertyList.empty(); }
+
+void describePortfolio(const Game& game, Row& row) {
+  row.subtitle = counted(static_cast<int64_t>(game.state.saveAllInvestmentPropertyList.size()), "holding");
+  row.value = currency(propertiesValue(game.state));
+}
+
+void describeGarage(const Game& game, Row& row) {
+  const auto& owned = game.state.saveAllTransportationOwnedList;
+  if (owned.empty()) return;
+  row.subtitle = owned.size() == 1 ? owned[0].title : std::to_string(owned.size()) + " in the garage";
+  row.value = currency(transportationValue(game.state));
+}
+
+constexpr MenuLine motors(TabNumber tab, std::string_view section, int64_t order, std::string_view title) {
+  return {.tab = tab,
+          .section = section,
+          .order = order,
+          .icon = "car",
+          .title = title,
+          .subtitle = "Cars, boats and planes of your own",
+          .segue = "goToTransportationOptions",
+          .describe = describeGarage};
+}
+
+void describeRichList(const Game& game, Row& row) { row.value = worldRank(netAssets(game.state)); }
+
+constexpr MenuLine menu[] = {
+    motors(lifeTab, "Lifestyle", 360, "Exotic"),
+    motors(businessTab, "Wealth", 330, "Motors"),
+    {.tab = businessTab,
+     .section = "Wealth",
+     .order = 310,
+     .icon = "house",
+     .title = "International Realty",
+     .subtitle = "Homes and land around the world",
+     .segue = "goToPropertyListing"},
+    {.tab = businessTab,
+     .section = "Wealth",
+     .order = 320,
+     .icon = "key",
+     .title = "Portfolio",
+     .segue = "goToPropertyPortfolio",
+     .shown = ownsHomes,
+     .describe = describePortfolio},
+    {.tab = businessTab,
+     .section = "Wealth",
+     .order = 390,
+     .icon = "podium",
+     .title = "Farbes",
+     .subtitle = "The list of the rich",
+     .segue = "goToForbesDetail",
+     .describe = describeRichList},
+};
+
+}  // namespace
+
+const Room wealthRoom = {.segues = segues, .menu = menu, .addNeeds = addWealthNeeds, .addNews = addWealthNews};
+
+}  // namespace backbeat
