@@ -19,7 +19,7 @@
 namespace backbeat {
 namespace {
 
-constexpr uint64_t careersOfTheCheck = 84;  // twelve of each world
+constexpr uint64_t careersOfTheCheck = 84;  // at least one of each world
 constexpr int64_t stepsOfTheCheck = 300;
 
 /// Where the running career stands, for the handler of a crash: it may only read what is already there.
