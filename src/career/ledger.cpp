@@ -1,18 +1,32 @@
 #include "career/ledger.h"
 
+#include <utility>
+
 namespace backbeat {
 
-void ensureBasicNeeds(Game& game) {
-  RecordList<WeeklyLineItem>& items = game.state.saveAllWeeklyLineItems;
-  const auto isBasicNeeds = [](const WeeklyLineItem& item) { return item.typeOfExpense == expense::basicNeeds; };
-  if (items.find(isBasicNeeds) != items.size()) return;
+size_t entryPosition(const GameState& state, int64_t code) {
+  return state.saveAllWeeklyLineItems.find([&](const WeeklyLineItem& item) { return item.typeOfExpense == code; });
+}
+
+void addExpense(GameState& state, std::string_view title, double dollars, int64_t code, int64_t energyBoost) {
   WeeklyLineItem item;
-  item.title = "Basic Needs";
-  item.amount = 50;
-  item.year = game.state.yearNumber;
+  item.title = std::string(title);
+  item.amount = dollars;
+  item.year = state.yearNumber;
   item.isExpense = true;
-  item.typeOfExpense = expense::basicNeeds;
-  items.append(std::move(item));
+  item.typeOfExpense = code;
+  item.energyBoost = energyBoost;
+  state.saveAllWeeklyLineItems.append(std::move(item));
+}
+
+void removeEntry(GameState& state, int64_t code) {
+  const size_t position = entryPosition(state, code);
+  if (position != state.saveAllWeeklyLineItems.size()) state.saveAllWeeklyLineItems.erase(position);
+}
+
+void ensureBasicNeeds(Game& game) {
+  if (entryPosition(game.state, expense::basicNeeds) != game.state.saveAllWeeklyLineItems.size()) return;
+  addExpense(game.state, "Basic Needs", 50, expense::basicNeeds);
   game.save(&GameState::saveAllWeeklyLineItems);
 }
 

@@ -1,6 +1,8 @@
 // The ledger of standing weekly entries, and what their codes mean.
 #pragma once
 
+#include <string_view>
+
 #include "core/game.h"
 
 namespace backbeat {
@@ -23,6 +25,15 @@ inline constexpr int64_t lastStaff = 11'999;
 inline constexpr int64_t lastLabelCost = 24'999;  ///< up to here entries count into the label's total cost
 inline constexpr int64_t firstMerch = 25'000;     ///< website, manufacturing and logistics plans
 }  // namespace expense
+
+/// Position of the first entry with that code, or the size of the ledger.
+size_t entryPosition(const GameState& state, int64_t code);
+
+/// Puts an expense of so many dollars a week at the end of the ledger. The caller saves, here and below.
+void addExpense(GameState& state, std::string_view title, double dollars, int64_t code, int64_t energyBoost = 0);
+
+/// Takes the first entry with that code out. Without one nothing happens.
+void removeEntry(GameState& state, int64_t code);
 
 /// Makes sure that the ledger holds "Basic Needs", $50 a week; does nothing when it does.
 void ensureBasicNeeds(Game& game);

@@ -1,5 +1,6 @@
 #include "career/lifestyle.h"
 
+#include "career/ledger.h"
 #include "core/calendar.h"
 #include "core/money.h"
 #include "core/purse.h"
@@ -8,14 +9,9 @@ namespace backbeat {
 
 namespace {
 
-size_t entryPosition(const GameState& state, const LifestyleCategory& category) {
-  return state.saveAllWeeklyLineItems.find(
-      [&](const WeeklyLineItem& item) { return item.typeOfExpense == category.typeOfExpense; });
-}
-
 /// Takes the running entry out of the ledger, with what it gave. False when there is none.
 bool removeEntry(GameState& state, const LifestyleCategory& category) {
-  const size_t position = entryPosition(state, category);
+  const size_t position = entryPosition(state, category.typeOfExpense);
   if (position == state.saveAllWeeklyLineItems.size()) return false;
   if (category.givesVirality()) {
     state.fashionViralityBonus = 0;
@@ -38,7 +34,7 @@ Outcome noExpenseFound() { return refuse<"No Expense Found">("\nYou don't have a
 }  // namespace
 
 std::optional<WeeklyLineItem> lifestyleEntry(const GameState& state, const LifestyleCategory& category) {
-  const size_t position = entryPosition(state, category);
+  const size_t position = entryPosition(state, category.typeOfExpense);
   if (position == state.saveAllWeeklyLineItems.size()) return std::nullopt;
   return state.saveAllWeeklyLineItems[position];
 }
@@ -62,14 +58,7 @@ Outcome chooseLifestyle(Game& game, const LifestyleCategory& category, const Lif
   } else {
     state.totalEnergyMax += option.energyBoost;
   }
-  WeeklyLineItem entry;
-  entry.title = option.title;
-  entry.amount = option.cost;
-  entry.year = state.yearNumber;
-  entry.isExpense = true;
-  entry.typeOfExpense = category.typeOfExpense;
-  entry.energyBoost = option.energyBoost;
-  state.saveAllWeeklyLineItems.append(std::move(entry));
+  addExpense(state, option.title, option.cost, category.typeOfExpense, option.energyBoost);
   pay(game, option.firstPayment());
   game.save(&GameState::saveAllWeeklyLineItems, &GameState::totalEnergyMax, &GameState::fashionViralityBonus);
   stateChanged(game);

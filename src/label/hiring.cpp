@@ -91,13 +91,7 @@ Outcome hireEmployee(Game& game, const Candidate& candidate) {
   }
   state.employeeId += 1;
   state.saveAllEmployeeList.append(employeeFrom(candidate, state.employeeId));
-  WeeklyLineItem salary;
-  salary.title = nameOf(candidate);
-  salary.amount = static_cast<double>(candidate.weeklySalary());
-  salary.year = state.yearNumber;
-  salary.isExpense = true;
-  salary.typeOfExpense = state.employeeId;
-  state.saveAllWeeklyLineItems.append(std::move(salary));
+  addExpense(state, nameOf(candidate), static_cast<double>(candidate.weeklySalary()), state.employeeId);
   game.save(&GameState::employeeId, &GameState::saveAllEmployeeList, &GameState::saveAllWeeklyLineItems);
   return successAndClose();
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "career/ledger.h"
 #include "core/calendar.h"
 #include "core/money.h"
 #include "core/purse.h"
@@ -65,9 +66,7 @@ Outcome fireEmployee(Game& game, int64_t employeeId) {
   }
   state.saveAllEmployeeList.erase(position);
   pay(game, severance(employee));
-  RecordList<WeeklyLineItem>& ledger = state.saveAllWeeklyLineItems;
-  const size_t salary = ledger.find([&](const WeeklyLineItem& item) { return item.typeOfExpense == employeeId; });
-  if (salary != ledger.size()) ledger.erase(salary);
+  removeEntry(state, employeeId);
   if (staffOf(state, employee.employeeDepartmentCode) == 0) clearBonus(state, employee.employeeDepartmentCode);
   game.save(&GameState::saveAllEmployeeList, &GameState::saveAllWeeklyLineItems);
   labelChanged(game);  // saves the bonuses, too

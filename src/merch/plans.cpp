@@ -1,5 +1,6 @@
 #include "merch/plans.h"
 
+#include "career/ledger.h"
 #include "core/calendar.h"
 #include "core/money.h"
 #include "merch/products.h"
@@ -86,13 +87,8 @@ Outcome chooseMerchPlan(Game& game, const MerchService& service, size_t number) 
         "\nYou have too much inventory remaining to switch to this plan.\n\nRetire products to downgrade.");
   }
   const bool replaces = removeEntry(state, service);
-  WeeklyLineItem entry;
-  entry.title = replaces && plan.title == "Website (Touring)" ? "Website (Dynamic)" : plan.title;
-  entry.amount = plan.weeklyPrice;
-  entry.year = state.yearNumber;
-  entry.isExpense = true;
-  entry.typeOfExpense = service.typeOfExpense;
-  state.saveAllWeeklyLineItems.append(std::move(entry));
+  const auto title = replaces && plan.title == "Website (Touring)" ? "Website (Dynamic)" : plan.title;
+  addExpense(state, title, plan.weeklyPrice, service.typeOfExpense);
   game.save(&GameState::saveAllWeeklyLineItems);
   setTerms(game, service, plan);
   stateChanged(game);

@@ -27,23 +27,6 @@ Transportation vehicleOf(const GameState& state, const TransportationOption& opt
   return vehicle;
 }
 
-void addInsurance(GameState& state, const TransportationOption& option) {
-  WeeklyLineItem insurance;
-  insurance.title = "Transportation Insurance";
-  insurance.amount = option.weeklyInsuranceCost;
-  insurance.year = state.yearNumber;
-  insurance.isExpense = true;
-  insurance.typeOfExpense = insuranceCode(option.id);
-  state.saveAllWeeklyLineItems.append(std::move(insurance));
-}
-
-void endInsurance(GameState& state, int64_t id) {
-  auto& items = state.saveAllWeeklyLineItems;
-  const size_t position =
-      items.find([&](const WeeklyLineItem& item) { return item.typeOfExpense == insuranceCode(id); });
-  if (position != items.size()) items.erase(position);
-}
-
 }  // namespace
 
 std::optional<size_t> vehiclePosition(const GameState& state, int64_t id) {
@@ -85,7 +68,7 @@ Outcome buyVehicle(Game& game, const TransportationOption& option) {
   if (option.transportationType == vehicle::road && lifestyleEntry(state, lifestyle)) {
     clearLifestyleExpense(game, lifestyle);
   }
-  addInsurance(state, option);
+  addExpense(state, "Transportation Insurance", option.weeklyInsuranceCost, insuranceCode(option.id));
   state.saveAllTransportationOwnedList.append(vehicleOf(state, option));
   state.totalEnergyMax += option.energyBonus;
   game.save(&GameState::saveAllTransportationOwnedList, &GameState::saveAllWeeklyLineItems, &GameState::totalEnergyMax);
@@ -116,7 +99,7 @@ Outcome sellVehicle(Game& game, int64_t id) {
     earn(game, {.dollars = value});
   }
   state.saveAllTransportationOwnedList.erase(*position);
-  endInsurance(state, id);
+  removeEntry(state, insuranceCode(id));
   state.totalEnergyMax -= sold.energyBonus;
   game.save(&GameState::saveAllTransportationOwnedList, &GameState::saveAllWeeklyLineItems, &GameState::totalEnergyMax);
   stateChanged(game);

@@ -42,21 +42,6 @@ InvestmentProperty holdingOf(const GameState& state, const Property& property) {
   return home;
 }
 
-size_t taxPosition(const GameState& state, int64_t propertyId) {
-  return state.saveAllWeeklyLineItems.find(
-      [&](const WeeklyLineItem& item) { return item.typeOfExpense == propertyTaxCode(propertyId); });
-}
-
-void addTax(GameState& state, const Property& property) {
-  WeeklyLineItem tax;
-  tax.title = "Property Tax";
-  tax.amount = property.weeklyTax();
-  tax.year = state.yearNumber;
-  tax.isExpense = true;
-  tax.typeOfExpense = propertyTaxCode(property.propertyId);
-  state.saveAllWeeklyLineItems.append(std::move(tax));
-}
-
 }  // namespace
 
 std::optional<size_t> holdingPosition(const GameState& state, int64_t propertyId) {
@@ -97,7 +82,7 @@ Outcome buyProperty(Game& game, const Property& property) {
   if (std::optional<Outcome> refusal = whyNotToBuy(state, property)) return *std::move(refusal);
   pay(game, costOf(property));
   state.saveAllInvestmentPropertyList.append(holdingOf(state, property));
-  addTax(state, property);
+  addExpense(state, "Property Tax", property.weeklyTax(), propertyTaxCode(property.propertyId));
   game.save(&GameState::saveAllInvestmentPropertyList, &GameState::saveAllWeeklyLineItems);
   stateChanged(game);
   return success();
@@ -127,9 +112,7 @@ Outcome sellProperty(Game& game, int64_t propertyId) {
   pay(game, sellPropertyCost);
   earn(game, {.dollars = proceeds});
   state.saveAllInvestmentPropertyList.erase(*position);
-  if (const size_t tax = taxPosition(state, propertyId); tax != state.saveAllWeeklyLineItems.size()) {
-    state.saveAllWeeklyLineItems.erase(tax);
-  }
+  removeEntry(state, propertyTaxCode(propertyId));
   game.save(&GameState::saveAllInvestmentPropertyList, &GameState::saveAllWeeklyLineItems);
   stateChanged(game);
   const double gain = proceeds - sold.pricePaid;
@@ -145,7 +128,7 @@ std::vector<KnownIndex> knownIndexes(const GameState& state) {
     known.back().index = index;
   };
   for (const InvestmentProperty& home : state.saveAllInvestmentPropertyList) {
-    const size_t tax = taxPosition(state, home.propertyId);
+    const size_t tax = entryPosition(state, propertyTaxCode(home.propertyId));
     if (tax != state.saveAllWeeklyLineItems.size()) add(state.saveAllWeeklyLineItems[tax].year, home.realEstateIndex);
   }
   add(state.yearNumber, state.realEstateIndex);
