@@ -304,7 +304,8 @@ struct EmptyHint {
 };
 
 /// A head led by its picture: news, a place, a couple. People on it are cut out.
-/// scene: a wide view with the text on it. ticket: a torn-off stub, for what was sold. torn: the picture parts in two.
+/// scene: a wide view with the text on it. ticket: one with its end to tear off, for what was sold. torn: the picture
+/// parts in two.
 struct Poster {
   std::vector<Picture> pictures = {};  ///< at most two
   std::string kicker = {};             ///< the small line above the title

@@ -73,7 +73,7 @@ function bigFigure(figure: string | undefined): TemplateResult | typeof nothing 
   return figure ? html`<p class="poster-figure" style="--letters:${figure.length}" dir="auto">${figure}</p>` : nothing;
 }
 
-/** For what was sold: a stub with a bar code. */
+/** For what was sold: a ticket whose end has a bar code. */
 function ticket({ kicker, title, text, figure, stamp }: Poster): TemplateResult {
   return html`<section class="poster ticket">
     <div class="ticket-main">
@@ -82,7 +82,7 @@ function ticket({ kicker, title, text, figure, stamp }: Poster): TemplateResult 
       ${text ? html`<p class="ticket-text" dir="auto">${text}</p>` : nothing} ${bigFigure(figure)}
       ${stamp ? html`<bb-stamp .text=${stamp}></bb-stamp>` : nothing}
     </div>
-    <div class="ticket-stub" aria-hidden="true"></div>
+    <div class="ticket-end" aria-hidden="true"></div>
   </section>`;
 }
 
