@@ -39,6 +39,8 @@ int64_t artistRating(const SignedArtist& artist) {
   return weakestCountedTwice({artist.songwriting, artist.vocals, artist.rhythm, artist.charisma, artist.virality});
 }
 
+int64_t royaltyOf(const SignedArtist& artist) { return 100 - roundHalfAway(artist.labelRevenuePercentage * 100); }
+
 double drawViralityRoll(Random& random, int64_t virality) {
   return roundTo(random.uniformDouble(0, static_cast<double>(virality)) * 0.75, 2);
 }

@@ -21,6 +21,9 @@ int64_t weakestCountedTwice(const std::array<int64_t, 5>& levels);
 /// A signed artist's rating, by the five traits: the weakest counts twice, up to 100 (110 for the player: intended).
 int64_t artistRating(const SignedArtist& artist);
 
+/// Per cent of the earnings that a signed artist keeps.
+int64_t royaltyOf(const SignedArtist& artist);
+
 /// How far a piece of work catches on: up to three quarters of the virality of whoever makes it, two decimals.
 double drawViralityRoll(Random& random, int64_t virality);
 

@@ -157,7 +157,6 @@ class ChunkedList {
   void eraseSlots(const std::vector<uint32_t>& positions);
   std::vector<std::pair<uint32_t, uint32_t>> closeSlots(const std::vector<uint32_t>& freeSlots);
   size_t positionOfSlot(uint32_t slot) const;
-  void mark(uint32_t number);
   void markGone(size_t first, size_t last, size_t before);
 
   ListLayout layout_;

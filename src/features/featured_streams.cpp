@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "core/numbers.h"
-#include "core/text.h"
 #include "music/chart.h"
 #include "music/streaming.h"
 
@@ -41,21 +40,13 @@ void record(GameState& state, const FeaturedOn& verse, double streams) {
   state.saveAllFeaturedOnWeeklySongListens.append(std::move(week));
 }
 
-int64_t chartedRank(Game& game, const FeaturedOn& verse, int64_t streams) {
-  // Off the chart and not on it before: the row need not be built.
-  if (streams < game.turn.lastPlaceChartPosition && verse.chartRanking <= 0) return 0;
-  const std::string guest = verse.features.size() < 2 ? "" : trimmed(verse.features[1]);
-  return runChartStep(game, {verse.songId + featuredSongOffset, trimmed(verse.title), guest, streams},
-                      verse.chartRanking);
-}
-
 void launchWeek(Game& game, size_t position) {
   RecordList<FeaturedOn>& verses = game.state.saveAllFeaturedOnList;
   const FeaturedOn& verse = verses[position];
   const double multiplier = power(viralityBase, verse.viralityScore / viralitySpread);
   const double reach = static_cast<double>(marketingReachFor(truncate(verse.marketingScore)));
   const double streams = multiplier / damper * reach * (verse.productionRating / 100);
-  const int64_t ranking = chartedRank(game, verse, truncate(streams));
+  const int64_t ranking = chartedRank(game, verse, featuredSongOffset, truncate(streams));
   record(game.state, verse, streams);
   verses.update(position, [&](FeaturedOn& changed) {
     changed.chartRanking = ranking;
@@ -71,7 +62,7 @@ void residualWeek(Game& game, size_t position, double life) {
   const double total = static_cast<double>(verse.totalListen);
   const double streams = std::min(life / lifeScale * total * residualShare, mostStreams - total);
   const int64_t count = truncate(streams);
-  const int64_t ranking = chartedRank(game, verse, count);
+  const int64_t ranking = chartedRank(game, verse, featuredSongOffset, count);
   if (streams >= fewestRecorded) record(game.state, verse, streams);
   if (count == 0 && ranking == verse.chartRanking) return;
   verses.update(position, [&](FeaturedOn& changed) {

@@ -57,7 +57,7 @@ Asker askerFrom(const SignedArtist& artist) {
            .artistName = artist.name,
            .rating = static_cast<double>(artistRating(artist)),
            .virality = static_cast<double>(artist.virality),
-           .royalty = 100 - roundHalfAway(artist.labelRevenuePercentage * 100)}};
+           .royalty = royaltyOf(artist)}};
 }
 
 /// Everybody whom the label has under contract.

@@ -1,6 +1,5 @@
 #include "label/roster.h"
 
-#include "core/numbers.h"
 #include "music/genres.h"
 
 namespace backbeat {
@@ -31,8 +30,6 @@ DueArtists dueArtists(const GameState& state, bool (*isDue)(const GameState&, co
   }
   return due;
 }
-
-int64_t royaltyOf(const SignedArtist& artist) { return 100 - roundHalfAway(artist.labelRevenuePercentage * 100); }
 
 std::string_view genreOf(int64_t artistId) {
   constexpr auto count = static_cast<int64_t>(genres.size());

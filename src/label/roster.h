@@ -28,9 +28,6 @@ struct DueArtists {
 };
 DueArtists dueArtists(const GameState& state, bool (*isDue)(const GameState&, const SignedArtist&));
 
-/// Per cent of the earnings that the artist keeps.
-int64_t royaltyOf(const SignedArtist& artist);
-
 /// What the artist plays, always the same. It follows from the id and is kept nowhere.
 std::string_view genreOf(int64_t artistId);
 

@@ -105,6 +105,10 @@ int64_t runChartStep(Game& game, const ChartEntry& entry, int64_t ranking) {
   return rank;
 }
 
+std::string firstGuest(const std::vector<std::string>& features) {
+  return features.size() < 2 ? "" : trimmed(features[1]);
+}
+
 void settleBillboardRanks(Game& game) {
   RecordList<BillboardSong>& rows = game.state.saveAllBillboardSongList;
   if (rows.empty()) return;

@@ -4,8 +4,10 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "core/game.h"
+#include "core/text.h"
 
 namespace backbeat {
 
@@ -32,6 +34,20 @@ struct ChartEntry {
 /// `ranking` is the one it had. A row that returns keeps `isOnCharts` false, on purpose: it is passed over from then
 /// on.
 int64_t runChartStep(Game& game, const ChartEntry& entry, int64_t ranking);
+
+/// The guest whom a row names when it names the first alone, or "".
+std::string firstGuest(const std::vector<std::string>& features);
+
+/// The same for what has the members of a song: by its id and the offset of its kind, what it streamed this week, and
+/// the guests whom its row names.
+template <class Work>
+int64_t chartedRank(Game& game, const Work& work, int64_t offset, int64_t streams,
+                    std::string (*guests)(const std::vector<std::string>&) = firstGuest) {
+  // Off the chart and not on it before: the row need not be built.
+  if (streams < game.turn.lastPlaceChartPosition && work.chartRanking <= 0) return 0;
+  return runChartStep(game, {work.songId + offset, trimmed(work.title), guests(work.features), streams},
+                      work.chartRanking);
+}
 
 /// Sorts the rows by streams and pushes ties and overtakers down, so that ranks rise strictly (with gaps, and past 75
 /// where the top is crowded: nothing cuts them). Leaves an empty chart alone.

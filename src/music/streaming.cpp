@@ -38,24 +38,13 @@ WeeklySongListens record(const GameState& state, const Song& song, const Streams
   return week;
 }
 
-std::string joinedFeatures(const Song& song) {
+std::string joinedFeatures(const std::vector<std::string>& features) {
   std::string names;
-  for (size_t i = 1; i < song.features.size(); ++i) {
+  for (size_t i = 1; i < features.size(); ++i) {
     if (i > 1) names += ", ";
-    names += trimmed(song.features[i]);
+    names += trimmed(features[i]);
   }
   return names;
-}
-
-/// In the residual phase the chart row names the first guest only.
-std::string firstFeature(const Song& song) { return song.features.size() < 2 ? "" : trimmed(song.features[1]); }
-
-int64_t chartedRank(Game& game, const Song& song, int64_t streams, bool launch) {
-  // Off the chart and not on it before: the row need not be built.
-  if (streams < game.turn.lastPlaceChartPosition && song.chartRanking <= 0) return 0;
-  return runChartStep(game,
-                      {song.songId, trimmed(song.title), launch ? joinedFeatures(song) : firstFeature(song), streams},
-                      song.chartRanking);
 }
 
 double driftedMarketing(Random& random, double marketing, double productionRating) {
@@ -78,7 +67,7 @@ void launchWeek(Game& game, size_t position, int64_t fans) {
   Streams streams;
   streams.listens = audience * (song.productionRating / 100);
   streams.count = truncate(streams.listens);
-  const int64_t ranking = chartedRank(game, song, streams.count, true);
+  const int64_t ranking = chartedRank(game, song, 0, streams.count, joinedFeatures);
   game.state.saveAllWeeklySongListens.append(record(game.state, song, streams));
   const double marketing = driftedMarketing(game.random, song.marketingScore, song.productionRating);
   songs.update(position, [&](Song& changed) {
@@ -106,7 +95,7 @@ void residualWeek(Game& game, size_t position) {
   const Song& song = songs[position];
   const Streams streams = residualStreams(game, song);
   if (streams.count >= 2) game.state.saveAllWeeklySongListens.append(record(game.state, song, streams));
-  const int64_t ranking = chartedRank(game, song, streams.count, false);
+  const int64_t ranking = chartedRank(game, song, 0, streams.count);  // the row names the first guest alone
   if (streams.count == 0 && ranking == song.chartRanking) return;
   songs.update(position, [&](Song& changed) {
     changed.totalListen = add(changed.totalListen, streams.count);
