@@ -11,22 +11,13 @@ namespace backbeat {
 namespace {
 
 template <class T>
-std::array<int64_t, 3> markOf(const T& row, int64_t T::*work) {
-  return {row.*work, row.weekNumber, row.yearNumber};
-}
-
-/// Adds the rows that came since the last time; of a list that lost rows since then all.
-template <class T>
-void sumFurther(RunningSums& sums, const RecordList<T>& rows, int64_t T::*work, double T::*dollars) {
-  const bool grewOnly = sums.rows == 0 || (sums.rows <= rows.size() && markOf(rows[sums.rows - 1], work) == sums.last);
-  if (!grewOnly) sums = {};
-  for (; sums.rows < rows.size(); ++sums.rows) {
-    const T& row = rows[sums.rows];
-    sums.ofWork[row.*work] += row.*dollars;
-    sums.ofArtist[row.artistId] += row.*dollars;
-    sums.total += row.*dollars;
-  }
-  if (sums.rows > 0) sums.last = markOf(rows[sums.rows - 1], work);
+const EarnedSums& sumFurther(RunningTally<EarnedSums>& sums, const RecordList<T>& rows, int64_t T::*work,
+                             double T::*dollars) {
+  return sums.over(rows, [&](EarnedSums& sum, const T& row) {
+    sum.ofWork[row.*work] += row.*dollars;
+    sum.ofArtist[row.artistId] += row.*dollars;
+    sum.total += row.*dollars;
+  });
 }
 
 double versesOnTheLabel(const GameState& state) {
@@ -58,13 +49,12 @@ double runningCosts(const GameState& state) {
   return sum;
 }
 
-const LabelMemory& labelSums(Game& game) {
+LabelSums labelSums(Game& game) {
   LabelMemory& label = game.launch.label;
-  sumFurther(label.streams, game.state.saveAllSignedArtistWeeklySongListens, &SignedArtistWeeklySongListens::songId,
-             &SignedArtistWeeklySongListens::totalStreamRevenue);
-  sumFurther(label.sales, game.state.saveAllSignedArtistWeeklyAlbumSales, &SignedArtistWeeklyAlbumSales::albumId,
-             &SignedArtistWeeklyAlbumSales::albumRevenue);
-  return label;
+  return {sumFurther(label.streams, game.state.saveAllSignedArtistWeeklySongListens,
+                     &SignedArtistWeeklySongListens::songId, &SignedArtistWeeklySongListens::totalStreamRevenue),
+          sumFurther(label.sales, game.state.saveAllSignedArtistWeeklyAlbumSales,
+                     &SignedArtistWeeklyAlbumSales::albumId, &SignedArtistWeeklyAlbumSales::albumRevenue)};
 }
 
 double earnedBy(const std::map<int64_t, double>& sums, int64_t id) {
@@ -73,17 +63,17 @@ double earnedBy(const std::map<int64_t, double>& sums, int64_t id) {
 }
 
 double earnedByArtist(Game& game, int64_t artistId) {
-  const LabelMemory& label = labelSums(game);
+  const LabelSums label = labelSums(game);
   return earnedBy(label.sales.ofArtist, artistId) + earnedBy(label.streams.ofArtist, artistId);
 }
 
 double storedRoyalties(Game& game) {
-  const LabelMemory& label = labelSums(game);
+  const LabelSums label = labelSums(game);
   return label.sales.total + label.streams.total;
 }
 
 LabelReturn labelReturn(Game& game) {
-  const LabelMemory& label = labelSums(game);
+  const LabelSums label = labelSums(game);
   return {.albums = label.sales.total,
           .streams = label.streams.total,
           .verses = versesOnTheLabel(game.state),

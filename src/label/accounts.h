@@ -11,9 +11,14 @@ double lastWeeksRoyalties(const GameState& state);
 /// Dollars that the coming week costs whatever comes in: salaries, perks and rent.
 double runningCosts(const GameState& state);
 
+struct LabelSums {
+  const EarnedSums& streams;
+  const EarnedSums& sales;
+};
+
 /// Dollars of all weeks still remembered, without the bonus: by song, album and artist, and in all. They are summed as
 /// the weeks come, so that asking looks at those alone that came since the last time.
-const LabelMemory& labelSums(Game& game);
+LabelSums labelSums(Game& game);
 
 /// Of a work or an artist among such sums; 0 of one that earned nothing.
 double earnedBy(const std::map<int64_t, double>& sums, int64_t id);

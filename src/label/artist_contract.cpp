@@ -1,6 +1,7 @@
 #include "label/artist_contract.h"
 
 #include <algorithm>
+#include "career/skill.h"
 
 #include "core/calendar.h"
 #include "core/money.h"

@@ -95,9 +95,8 @@ void addChartNews(const Game& game, std::vector<News>& news) {
 void addSilences(const Game& game, std::vector<News>& news) {
   const GameState& state = game.state;
   const RecordList<SignedArtistSong>& songs = state.saveAllSignedArtistSongList;
-  std::map<int64_t, double> lives;  // the longest of each artist
-  // Those at the head of the list were silent before this week.
-  for (size_t i = game.launch.label.songs.count; i < songs.size(); ++i) {
+  std::map<int64_t, double> lives;          // the longest of each artist
+  for (const uint32_t i : songs.awake()) {  // the others were silent before this week
     const double life = remainingLife(state, songs[i]);
     const auto [known, isNew] = lives.try_emplace(songs[i].artistId, life);
     if (!isNew) known->second = std::max(known->second, life);

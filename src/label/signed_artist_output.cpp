@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include "core/numbers.h"
-#include "core/text.h"
 #include "label/accounts.h"
 #include "label/roster.h"
 #include "music/album_sales.h"
@@ -39,16 +38,6 @@ constexpr double costOfGoods = 2.99;
 /// Nothing comes near it by itself; what is out of a file may have centuries to grow.
 constexpr double most = 1e12;
 
-/// How many works at the head of the list are silent for good. Those that were so a week ago are not asked again.
-template <class T, class IsSilent>
-size_t firstWithVoice(SilentWorks& silent, const RecordList<T>& works, int64_t T::*id, IsSilent&& isSilent) {
-  const bool asBefore =
-      silent.count > 0 && silent.count <= works.size() && works[silent.count - 1].*id == silent.lastId;
-  if (!asBefore) silent = {};
-  while (silent.count < works.size() && isSilent(works[silent.count])) silent.lastId = works[silent.count++].*id;
-  return silent.count;
-}
-
 double listenersOf(const GameState& state, int64_t artistId) {
   const size_t position = artistPosition(state, artistId);
   if (position == state.saveAllSignedArtistList.size()) return 0;
@@ -74,14 +63,6 @@ void record(GameState& state, const SignedArtistSong& song, double streams) {
   state.saveAllSignedArtistWeeklySongListens.append(std::move(week));
 }
 
-int64_t chartedRank(Game& game, const SignedArtistSong& song, int64_t streams) {
-  // Off the chart and not on it before: the row need not be built.
-  if (streams < game.turn.lastPlaceChartPosition && song.chartRanking <= 0) return 0;
-  const std::string guest = song.features.size() < 2 ? "" : trimmed(song.features[1]);
-  return runChartStep(game, {song.songId + signedArtistSongOffset, trimmed(song.title), guest, streams},
-                      song.chartRanking);
-}
-
 double launchStreams(Game& game, const SignedArtistSong& song) {
   const double multiplier = power(songViralityBase, song.viralityScore / songViralitySpread);
   const double reach = static_cast<double>(marketingReachFor(truncate(song.marketingScore)));
@@ -95,7 +76,7 @@ void launchWeek(Game& game, size_t position) {
   RecordList<SignedArtistSong>& songs = game.state.saveAllSignedArtistSongList;
   const double streams = launchStreams(game, songs[position]);
   const int64_t count = truncate(streams);
-  const int64_t ranking = chartedRank(game, songs[position], count);
+  const int64_t ranking = chartedRank(game, songs[position], signedArtistSongOffset, count);
   record(game.state, songs[position], streams);
   songs.update(position, [&](SignedArtistSong& song) {
     song.chartRanking = ranking;
@@ -110,7 +91,7 @@ void residualWeek(Game& game, size_t position, double life) {
   const double total = static_cast<double>(songs[position].totalListen);
   const double streams = std::min(life / lifeScale * total * residualShare, most - total);
   const int64_t count = truncate(streams);
-  const int64_t ranking = chartedRank(game, songs[position], count);
+  const int64_t ranking = chartedRank(game, songs[position], signedArtistSongOffset, count);
   if (streams >= fewestStreamsRecorded) record(game.state, songs[position], streams);
   if (count == 0 && ranking == songs[position].chartRanking) return;
   songs.update(position, [&](SignedArtistSong& song) {
@@ -190,14 +171,24 @@ double remainingLife(const GameState& state, const SignedArtistSong& song) {
   return song.productionRating - static_cast<double>(state.weekNumberForTracking - song.releaseWeek);
 }
 
+bool isSilent(const GameState& state, const SignedArtistSong& song) {
+  return song.isReleased && !(remainingLife(state, song) > 0);
+}
+
+bool isSilent(const GameState& state, const SignedArtistAlbum& album) {
+  return album.isReleased && !(lifeOf(state, album, songsOf(state, album)) > 0);
+}
+
+void letSilentArtistsSleep(GameState& state) {
+  const auto isSilentNow = [&](const auto& work) { return isSilent(state, work); };
+  state.saveAllSignedArtistSongList.letSleep(isSilentNow);
+  state.saveAllSignedArtistAlbumList.letSleep(isSilentNow);
+}
+
 void simulateSignedArtistStreams(Game& game) {
   const GameState& state = game.state;
   const RecordList<SignedArtistSong>& songs = state.saveAllSignedArtistSongList;
-  const auto isSilent = [&](const SignedArtistSong& song) {
-    return song.isReleased && !(remainingLife(state, song) > 0);
-  };
-  const size_t first = firstWithVoice(game.launch.label.songs, songs, &SignedArtistSong::songId, isSilent);
-  for (size_t i = first; i < songs.size(); ++i) {
+  for (const uint32_t i : songs.awake()) {
     const double life = remainingLife(state, songs[i]);
     // A song that dies on the chart keeps its row there: it is skipped before the chart step, on purpose.
     if (!songs[i].isReleased || !(life > 0)) continue;
@@ -214,11 +205,7 @@ void simulateSignedArtistStreams(Game& game) {
 void simulateSignedArtistAlbumSales(Game& game) {
   const GameState& state = game.state;
   const RecordList<SignedArtistAlbum>& albums = state.saveAllSignedArtistAlbumList;
-  const auto isSilent = [&](const SignedArtistAlbum& album) {
-    return album.isReleased && !(lifeOf(state, album, songsOf(state, album)) > 0);
-  };
-  const size_t first = firstWithVoice(game.launch.label.albums, albums, &SignedArtistAlbum::albumId, isSilent);
-  for (size_t i = first; i < albums.size(); ++i) {
+  for (const uint32_t i : albums.awake()) {
     const AlbumSongs songs = songsOf(state, albums[i]);
     const double life = lifeOf(state, albums[i], songs);
     if (!albums[i].isReleased || !(life > 0)) continue;

@@ -36,6 +36,7 @@ void runWeekCycle(Game& game, const std::function<void()>& openReport, const Ste
   letForgottenVideosSleep(state);
   letForgottenVersesSleep(state);
   letRetiredProductsSleep(state);
+  letSilentArtistsSleep(state);
   game.turn.before = milestoneSnapshot(game);
   step("album sales", simulateWeeklyAlbumSales);    // 1, first: it opens the marketing pool
   step("song streams", simulateWeeklySongStreams);  // 2, fills the chart

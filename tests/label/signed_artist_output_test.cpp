@@ -93,7 +93,8 @@ TEST(SignedStreams, FallSilentForGoodAndSilenceIsFoundAgainAfterClearingUp) {
   world.stream();
   ASSERT_EQ(world.streams().size(), 1u);
   EXPECT_EQ(world.streams()[0].songId, 2);
-  EXPECT_EQ(world.game.launch.label.songs.count, 1u);
+  letSilentArtistsSleep(world.state);
+  EXPECT_EQ(world.state.saveAllSignedArtistSongList.awake(), (std::vector<uint32_t>{1}));
   world.state.saveAllSignedArtistSongList.erase(0);
   world.settle();
   world.stream();

@@ -12,6 +12,7 @@
 #include "core/week_rows.h"
 #include "features/featured_streams.h"
 #include "label/accounts.h"
+#include "label/signed_artist_output.h"
 #include "music/silence.h"
 #include "turn/income_statement.h"
 #include "video/weekly_views.h"
@@ -153,6 +154,8 @@ std::string sleepFault(const GameState& state) {
     found = sleepFault("product", state.saveAllMerchReleasedList,
                        [](const Merch& product) { return product.isRetired != 0; });
   }
+  if (found.empty()) found = sleepFault("song of the label", state.saveAllSignedArtistSongList, isSilentNow);
+  if (found.empty()) found = sleepFault("album of the label", state.saveAllSignedArtistAlbumList, isSilentNow);
   if (!found.empty()) return found;
   return sleepFault("chart row", state.saveAllBillboardSongList,
                     [](const BillboardSong& row) { return !row.isOnCharts; });
@@ -163,7 +166,7 @@ std::string labelSumsFault(Game& game) {
   double sales = 0;
   for (const auto& week : game.state.saveAllSignedArtistWeeklySongListens) streams += week.totalStreamRevenue;
   for (const auto& week : game.state.saveAllSignedArtistWeeklyAlbumSales) sales += week.albumRevenue;
-  const LabelMemory& sums = labelSums(game);
+  const LabelSums sums = labelSums(game);
   if (sums.streams.total != streams) return "the label's streams are not summed as its weeks say";
   return sums.sales.total == sales ? "" : "the label's sales are not summed as its weeks say";
 }

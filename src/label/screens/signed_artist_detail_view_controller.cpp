@@ -47,7 +47,7 @@ std::vector<Earner> greatestFirst(std::vector<Earner> works) {
 
 std::vector<Earner> albumsOf(Game& game, int64_t artistId) {
   const RecordList<SignedArtistAlbum>& albums = game.state.saveAllSignedArtistAlbumList;
-  const LabelMemory& sums = labelSums(game);
+  const LabelSums sums = labelSums(game);
   std::vector<Earner> works;
   for (const uint32_t i : albums.historyOf(artistId)) {
     works.push_back({i, earnedBy(sums.sales.ofWork, albums[i].albumId)});
@@ -57,7 +57,7 @@ std::vector<Earner> albumsOf(Game& game, int64_t artistId) {
 
 std::vector<Earner> songsOf(Game& game, const std::vector<Earner>& albums) {
   const RecordList<SignedArtistSong>& songs = game.state.saveAllSignedArtistSongList;
-  const LabelMemory& sums = labelSums(game);
+  const LabelSums sums = labelSums(game);
   std::vector<Earner> works;
   for (const Earner& album : albums) {
     for (const uint32_t i : songs.historyOf(game.state.saveAllSignedArtistAlbumList[album.position].albumId)) {
