@@ -3,8 +3,8 @@
 
 packages_for() {
   case $1 in
-    browser) echo clang-19 lld-19 wasi-libc libc++-19-dev-wasm32 libc++abi-19-dev-wasm32 libclang-rt-19-dev-wasm32 \
-      libxxhash-dev ninja-build ;;
+    browser) echo binaryen clang-19 lld-19 wasi-libc libc++-19-dev-wasm32 libc++abi-19-dev-wasm32 \
+      libclang-rt-19-dev-wasm32 libxxhash-dev ninja-build ;;
     computer) echo clang-19 cmake ninja-build libcli11-dev libedit-dev libsqlite3-dev libutf8proc-dev \
       libxxhash-dev zlib1g-dev ;;
     node) echo nodejs npm ca-certificates ;;
