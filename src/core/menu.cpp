@@ -1,9 +1,9 @@
 #include "core/menu.h"
 
-#include <algorithm>
 #include <vector>
 
 #include "core/room.h"
+#include "core/sorting.h"
 #include "core/view_words.h"
 
 namespace backbeat {
@@ -17,8 +17,7 @@ std::vector<const MenuLine*> linesOf(const Game& game, TabNumber tab) {
       if (line.tab == tab && (!line.shown || line.shown(game))) lines.push_back(&line);
     }
   }
-  std::stable_sort(lines.begin(), lines.end(),
-                   [](const MenuLine* a, const MenuLine* b) { return a->order < b->order; });
+  sortStably(lines, [](const MenuLine* a, const MenuLine* b) { return a->order < b->order; });
   return lines;
 }
 

@@ -1,8 +1,7 @@
 #include "core/needs.h"
 
-#include <algorithm>
-
 #include "core/room.h"
+#include "core/sorting.h"
 
 namespace backbeat {
 
@@ -13,7 +12,7 @@ std::vector<Need> needsOf(const Game& game) {
   for (const Room* room : game.rooms) {
     if (room->addNeeds) room->addNeeds(game, needs);
   }
-  std::stable_sort(needs.begin(), needs.end(), [](const Need& a, const Need& b) { return a.priority > b.priority; });
+  sortStably(needs, [](const Need& a, const Need& b) { return a.priority > b.priority; });
   if (needs.size() > mostNeeds) needs.resize(mostNeeds);
   return needs;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/room.h"
+#include "core/sorting.h"
 
 namespace backbeat {
 
@@ -19,7 +20,7 @@ std::vector<News> newsOf(const Game& game) {
   for (const Room* room : game.rooms) {
     if (room->addNews) room->addNews(game, news);
   }
-  std::stable_sort(news.begin(), news.end(), [](const News& a, const News& b) { return a.rank > b.rank; });
+  sortStably(news, [](const News& a, const News& b) { return a.rank > b.rank; });
   return news;
 }
 

@@ -5,6 +5,7 @@
 #include "core/money.h"
 #include "core/news.h"
 #include "core/numbers.h"
+#include "core/sorting.h"
 #include "music/certifications.h"
 #include "music/chart.h"
 #include "music/listeners.h"
@@ -41,7 +42,7 @@ std::vector<Place> placesOf(const std::vector<SongStanding>& songs, const Record
   for (const SongStanding& song : songs) {
     for (const uint32_t position : list.historyOf(song.songId)) places.push_back({position, &song});
   }
-  std::sort(places.begin(), places.end(), [](const Place& a, const Place& b) { return a.position < b.position; });
+  sortStably(places, [](const Place& a, const Place& b) { return a.position < b.position; });
   return places;
 }
 
@@ -183,8 +184,7 @@ std::vector<Milestone> milestonesSince(const MilestoneSnapshot& before, const Ga
     }
   }
   addRecords(milestones, after, week);
-  std::stable_sort(milestones.begin(), milestones.end(),
-                   [](const Milestone& a, const Milestone& b) { return a.kind < b.kind; });
+  sortStably(milestones, [](const Milestone& a, const Milestone& b) { return a.kind < b.kind; });
   return milestones;
 }
 

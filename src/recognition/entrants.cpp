@@ -5,6 +5,7 @@
 #include <iterator>
 #include <map>
 
+#include "core/sorting.h"
 #include "music/genres.h"
 
 namespace backbeat {
@@ -47,8 +48,7 @@ std::map<int64_t, int64_t> genresOfAlbums(const GameState& state, const GenreOfS
 int64_t genreOfArtist(int64_t artistId) { return artistId < 1 ? noGenre : (artistId - 1) % genreCount; }
 
 void bestFirst(std::vector<Entrant>& entrants) {
-  std::stable_sort(entrants.begin(), entrants.end(),
-                   [](const Entrant& a, const Entrant& b) { return a.rating > b.rating; });
+  sortStably(entrants, [](const Entrant& a, const Entrant& b) { return a.rating > b.rating; });
 }
 
 template <class T>

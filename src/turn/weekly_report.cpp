@@ -6,6 +6,7 @@
 #include "career/ledger.h"
 #include "core/bands.h"
 #include "core/calendar.h"
+#include "core/sorting.h"
 #include "label/office.h"
 #include "live/festivals.h"
 #include "social/chirps.h"
@@ -103,9 +104,8 @@ WeeklyReport buildWeeklyReport(Game& game) {
   report.weeklyMusicVideoViews = gathered(state.saveAllWeeklyVideoViews, report.week);
   reviewFestival(game, report.week);
   report.festival = festivalPlayed(state, report.week);
-  std::stable_sort(
-      report.weeklySongListens.begin(), report.weeklySongListens.end(),
-      [](const WeeklySongListens& a, const WeeklySongListens& b) { return a.songListens > b.songListens; });
+  sortStably(report.weeklySongListens,
+             [](const WeeklySongListens& a, const WeeklySongListens& b) { return a.songListens > b.songListens; });
   chirpAboutShow(game, report);
   return report;
 }

@@ -7,6 +7,7 @@
 #include "core/calendar.h"
 #include "core/money.h"
 #include "core/numbers.h"
+#include "core/sorting.h"
 #include "core/text.h"
 #include "music/about_text.h"
 
@@ -63,7 +64,7 @@ size_t videoPosition(const GameState& state, int64_t videoId) {
 std::vector<size_t> videosByAge(const GameState& state) {
   const RecordList<MusicVideo>& videos = state.saveAllMusicVideoList;
   std::vector<size_t> positions = positionsOf(videos);
-  std::sort(positions.begin(), positions.end(), [&](size_t a, size_t b) {
+  sortStably(positions, [&](size_t a, size_t b) {
     return std::tie(videos[a].weekForTracking, videos[a].videoId) >
            std::tie(videos[b].weekForTracking, videos[b].videoId);
   });
@@ -73,8 +74,7 @@ std::vector<size_t> videosByAge(const GameState& state) {
 std::vector<size_t> videosByViews(const GameState& state) {
   const RecordList<MusicVideo>& videos = state.saveAllMusicVideoList;
   std::vector<size_t> positions = videosByAge(state);
-  std::stable_sort(positions.begin(), positions.end(),
-                   [&](size_t a, size_t b) { return videos[a].totalViews > videos[b].totalViews; });
+  sortStably(positions, [&](size_t a, size_t b) { return videos[a].totalViews > videos[b].totalViews; });
   return positions;
 }
 

@@ -5,6 +5,7 @@
 #include "career/skill.h"
 #include "career/studio.h"
 #include "core/money.h"
+#include "core/sorting.h"
 #include "core/view_words.h"
 #include "label/accounts.h"
 #include "label/launch.h"
@@ -186,8 +187,7 @@ void LabelDetailViewController::describeDepartments(View& view, const LabelRatin
     Row concern = concernOf(state(), label, code);
     if (!concern.title.empty()) concerns.items.push_back(std::move(concern));
   }
-  std::stable_sort(concerns.items.begin(), concerns.items.end(),
-                   [](const Row& a, const Row& b) { return a.badge == "!" && b.badge != "!"; });
+  sortStably(concerns.items, [](const Row& a, const Row& b) { return a.badge == "!" && b.badge != "!"; });
   view.add(std::move(desk));
   view.add(std::move(concerns));
 }

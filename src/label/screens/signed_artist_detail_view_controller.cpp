@@ -1,10 +1,10 @@
 #include "label/screens/signed_artist_detail_view_controller.h"
 
-#include <algorithm>
 #include <vector>
 
 #include "career/skill.h"
 #include "core/money.h"
+#include "core/sorting.h"
 #include "core/view_words.h"
 #include "label/accounts.h"
 #include "label/album_review.h"
@@ -41,7 +41,7 @@ struct Earner {
 };
 
 std::vector<Earner> greatestFirst(std::vector<Earner> works) {
-  std::stable_sort(works.begin(), works.end(), [](const Earner& a, const Earner& b) { return a.dollars > b.dollars; });
+  sortStably(works, [](const Earner& a, const Earner& b) { return a.dollars > b.dollars; });
   return works;
 }
 

@@ -1,9 +1,8 @@
 #include "label/screens/signed_artists_view_controller.h"
 
-#include <algorithm>
-
 #include "career/skill.h"
 #include "core/money.h"
+#include "core/sorting.h"
 #include "label/departments.h"
 #include "label/roster.h"
 #include "label/screens/label_words.h"
@@ -54,8 +53,7 @@ std::vector<size_t> SignedArtistsViewController::inOrder() const {
   const RecordList<SignedArtist>& artists = state().saveAllSignedArtistList;
   std::vector<size_t> order(artists.size());
   for (size_t i = 0; i < order.size(); ++i) order[i] = i;
-  std::stable_sort(order.begin(), order.end(),
-                   [&](size_t a, size_t b) { return urgency(state(), artists[a]) > urgency(state(), artists[b]); });
+  sortStably(order, [&](size_t a, size_t b) { return urgency(state(), artists[a]) > urgency(state(), artists[b]); });
   return order;
 }
 

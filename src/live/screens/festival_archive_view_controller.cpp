@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/money.h"
+#include "core/sorting.h"
 #include "core/view_words.h"
 #include "live/festival_invitation.h"
 #include "live/festivals.h"
@@ -102,7 +103,7 @@ View FestivalArchiveViewController::view() const {
       past.push_back(i);
     }
   }
-  std::stable_sort(past.begin(), past.end(), [&](size_t a, size_t b) {
+  sortStably(past, [&](size_t a, size_t b) {
     return festivals[a].weekNumberForTracking > festivals[b].weekNumberForTracking;
   });
   if (!ahead.items.empty()) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/money.h"
+#include "core/sorting.h"
 #include "merch/product_launch.h"
 #include "music/covers.h"
 
@@ -44,8 +45,7 @@ std::vector<size_t> ChooseMerchSongListViewController::releasedSongs() const {
   for (size_t i = 0; i < songs.size(); ++i) {
     if (songs[i].isReleased) positions.push_back(i);
   }
-  std::stable_sort(positions.begin(), positions.end(),
-                   [&](size_t a, size_t b) { return songs[a].productionRating > songs[b].productionRating; });
+  sortStably(positions, [&](size_t a, size_t b) { return songs[a].productionRating > songs[b].productionRating; });
   return positions;
 }
 

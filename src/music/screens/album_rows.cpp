@@ -1,11 +1,11 @@
 #include "music/screens/album_rows.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include "career/label_contract.h"
 #include "core/money.h"
 #include "core/numbers.h"
+#include "core/sorting.h"
 #include "music/album_sales.h"
 #include "music/certifications.h"
 #include "music/covers.h"
@@ -31,7 +31,7 @@ std::vector<size_t> songsOnAlbum(const GameState& state, int64_t albumId) {
   for (size_t i = 0; i < songs.size(); ++i) {
     if (songs[i].albumId == albumId) positions.push_back(i);
   }
-  std::sort(positions.begin(), positions.end(), [&](size_t a, size_t b) { return songs[a].songId < songs[b].songId; });
+  sortStably(positions, [&](size_t a, size_t b) { return songs[a].songId < songs[b].songId; });
   return positions;
 }
 

@@ -5,6 +5,7 @@
 #include "core/money.h"
 #include "core/own_photo.h"
 #include "core/room.h"
+#include "core/sorting.h"
 #include "core/view_find.h"
 #include "music/about_text.h"
 #include "music/covers.h"
@@ -90,8 +91,7 @@ void ArtistProfileViewController::describePopular(View& view) const {
     view.add(EmptyHint{.icon = "note", .text = "Your page is empty. Release a song and the world can press play."});
     return;
   }
-  std::stable_sort(songs.begin(), songs.end(),
-                   [](const Song* a, const Song* b) { return a->totalListen > b->totalListen; });
+  sortStably(songs, [](const Song* a, const Song* b) { return a->totalListen > b->totalListen; });
   view.add(Heading{.text = "Popular", .link = Link{.id = "goToCertification", .label = "Certifications"}});
   Rows rows;
   for (size_t i = 0; i < std::min(popularShown, songs.size()); ++i) {
@@ -141,8 +141,7 @@ void ArtistProfileViewController::describeVideos(View& view) const {
   std::vector<const MusicVideo*> videos;
   for (const MusicVideo& video : state().saveAllMusicVideoList) videos.push_back(&video);
   if (videos.empty()) return;
-  std::stable_sort(videos.begin(), videos.end(),
-                   [](const MusicVideo* a, const MusicVideo* b) { return a->totalViews > b->totalViews; });
+  sortStably(videos, [](const MusicVideo* a, const MusicVideo* b) { return a->totalViews > b->totalViews; });
   view.add(Heading{.text = "Music videos", .link = Link{.id = "goToYouVideo", .label = "YouVideo"}});
   Rows films{.style = Rows::Style::films};
   for (size_t i = 0; i < std::min(videosShown, videos.size()); ++i) {

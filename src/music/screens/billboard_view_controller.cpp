@@ -1,8 +1,7 @@
 #include "music/screens/billboard_view_controller.h"
 
-#include <algorithm>
-
 #include "core/money.h"
+#include "core/sorting.h"
 #include "music/chart.h"
 #include "music/covers.h"
 
@@ -84,7 +83,7 @@ std::vector<size_t> BillboardViewController::rowsShown() const {
   for (size_t i = 0; i < rows.size(); ++i) {
     if (history_ || rows[i].isOnCharts) shown.push_back(i);
   }
-  std::stable_sort(shown.begin(), shown.end(), [&](size_t a, size_t b) {
+  sortStably(shown, [&](size_t a, size_t b) {
     return history_ ? rows[a].weeksAtOne > rows[b].weeksAtOne : rows[a].rankThisWeek < rows[b].rankThisWeek;
   });
   return shown;

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "core/money.h"
+#include "core/sorting.h"
 #include "music/certifications.h"
 #include "music/screens/statistics.h"
 
@@ -45,7 +46,7 @@ void describeInReach(View& view, const GameState& state) {
     songs.emplace_back(static_cast<double>(song.totalListen) / static_cast<double>(*next), &song);
   }
   if (songs.empty()) return;
-  std::stable_sort(songs.begin(), songs.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
+  sortStably(songs, [](const auto& a, const auto& b) { return a.first > b.first; });
   view.add(Heading{"Next in reach"});
   for (size_t i = 0; i < std::min(inReachShown, songs.size()); ++i) {
     Meter meter = songCertificationMeter(*songs[i].second);

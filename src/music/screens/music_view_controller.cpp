@@ -1,6 +1,5 @@
 #include "music/screens/music_view_controller.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "career/ledger.h"
@@ -8,6 +7,7 @@
 #include "core/money.h"
 #include "core/own_photo.h"
 #include "core/record_codec.h"
+#include "core/sorting.h"
 #include "music/album_release.h"
 #include "music/screens/album_rows.h"
 #include "music/screens/song_rows.h"
@@ -37,7 +37,7 @@ std::vector<size_t> releasedSongs(const GameState& state) {
   const RecordList<Song>& songs = state.saveAllSongList;
   std::vector<size_t> positions = positionsWhere(songs, true);
   const auto age = [&](size_t i) { return std::pair(songs[i].releaseWeek, songs[i].songId); };
-  std::sort(positions.begin(), positions.end(), [&](size_t a, size_t b) { return age(a) > age(b); });
+  sortStably(positions, [&](size_t a, size_t b) { return age(a) > age(b); });
   return positions;
 }
 

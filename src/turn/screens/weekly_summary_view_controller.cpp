@@ -11,6 +11,7 @@
 #include "core/numbers.h"
 #include "core/own_photo.h"
 #include "core/purse.h"
+#include "core/sorting.h"
 #include "core/view_words.h"
 #include "label/artist_week.h"
 #include "label/roster.h"
@@ -114,8 +115,7 @@ Rows songsOf(const GameState& state, const WeeklyReport& report, const std::vect
 
 Rows albumsOf(const GameState& state, const WeeklyReport& report, const std::vector<Milestone>& milestones) {
   std::vector<WeeklyAlbumSales> sales = report.weeklyAlbumSales;
-  std::stable_sort(sales.begin(), sales.end(),
-                   [](const auto& a, const auto& b) { return a.albumSales > b.albumSales; });
+  sortStably(sales, [](const auto& a, const auto& b) { return a.albumSales > b.albumSales; });
   Rows rows;
   for (size_t i = 0; i < std::min(mostListed, sales.size()); ++i) {
     if (sales[i].albumSales < 1) break;
@@ -139,7 +139,7 @@ Rows signedArtistsOf(const GameState& state, const WeeklyReport& report) {
     streams[week.artistId] = add(streams[week.artistId], week.songListens);
   }
   std::vector<std::pair<int64_t, int64_t>> order(streams.begin(), streams.end());
-  std::stable_sort(order.begin(), order.end(), [](const auto& a, const auto& b) { return a.second > b.second; });
+  sortStably(order, [](const auto& a, const auto& b) { return a.second > b.second; });
   Rows rows;
   for (const auto& [artistId, heard] : order) {
     const size_t position = artistPosition(state, artistId);
@@ -157,8 +157,7 @@ Rows signedArtistsOf(const GameState& state, const WeeklyReport& report) {
 /// What other artists' songs with a verse of the player streamed, the most heard first.
 Rows versesOf(const WeeklyReport& report) {
   std::vector<FeaturedOnWeeklySongListens> weeks = report.weeklyFeaturedOnSongListens;
-  std::stable_sort(weeks.begin(), weeks.end(),
-                   [](const auto& a, const auto& b) { return a.songListens > b.songListens; });
+  sortStably(weeks, [](const auto& a, const auto& b) { return a.songListens > b.songListens; });
   Rows rows;
   for (size_t i = 0; i < std::min(mostListed, weeks.size()); ++i) {
     rows.items.push_back({.picture = cover(weeks[i].songTitle),
@@ -172,8 +171,7 @@ Rows versesOf(const WeeklyReport& report) {
 
 Rows videosOf(const GameState& state, const WeeklyReport& report) {
   std::vector<WeeklyVideoViews> views = report.weeklyMusicVideoViews;
-  std::stable_sort(views.begin(), views.end(),
-                   [](const auto& a, const auto& b) { return a.videoViews > b.videoViews; });
+  sortStably(views, [](const auto& a, const auto& b) { return a.videoViews > b.videoViews; });
   Rows rows;
   for (size_t i = 0; i < std::min(mostListed, views.size()); ++i) {
     if (views[i].videoViews < 1) break;
