@@ -16,12 +16,14 @@ RecordBuffer::RecordBuffer(const RecordBuffer& other)
 RecordBuffer::RecordBuffer(RecordBuffer&& other) noexcept
     : type_(other.type_),
       bytes_(std::move(other.bytes_)),
+      first_(std::exchange(other.first_, 0)),
       size_(std::exchange(other.size_, 0)),
       capacity_(std::exchange(other.capacity_, 0)) {}
 
 RecordBuffer& RecordBuffer::operator=(RecordBuffer other) noexcept {
   std::swap(type_, other.type_);
   std::swap(bytes_, other.bytes_);
+  std::swap(first_, other.first_);
   std::swap(size_, other.size_);
   std::swap(capacity_, other.capacity_);
   return *this;
@@ -37,8 +39,13 @@ void* RecordBuffer::add() {
 }
 
 void RecordBuffer::insert(size_t i, void* record) {
-  makeRoom();
-  for (size_t place = size_; place > i; --place) relocate(recordAt(place), recordAt(place - 1));
+  if (i == 0 && size_ > 0) {
+    makeRoomInFront();
+    --first_;
+  } else {
+    makeRoom();
+    for (size_t place = size_; place > i; --place) relocate(recordAt(place), recordAt(place - 1));
+  }
   type_->take(recordAt(i), record);
   ++size_;
 }
@@ -71,16 +78,24 @@ void RecordBuffer::reorder(std::span<const uint32_t> order) {
   std::unique_ptr<char[]> ordered(new char[size_ * type_->size]);
   for (size_t i = 0; i < size_; ++i) relocate(ordered.get() + i * type_->size, recordAt(order[i]));
   bytes_ = std::move(ordered);
+  first_ = 0;
   capacity_ = size_;
 }
 
 void RecordBuffer::makeRoom() {
-  if (size_ < capacity_) return;
-  const size_t wider = std::max(size_t{4}, 2 * capacity_);
-  std::unique_ptr<char[]> moved(new char[wider * type_->size]);
-  for (size_t i = 0; i < size_; ++i) relocate(moved.get() + i * type_->size, recordAt(i));
+  if (first_ + size_ == capacity_) moveInto(first_, std::max(size_t{4}, 2 * capacity_));
+}
+
+void RecordBuffer::makeRoomInFront() {
+  if (first_ == 0) moveInto(size_, capacity_ + size_);
+}
+
+void RecordBuffer::moveInto(size_t first, size_t capacity) {
+  std::unique_ptr<char[]> moved(new char[capacity * type_->size]);
+  for (size_t i = 0; i < size_; ++i) relocate(moved.get() + (first + i) * type_->size, recordAt(i));
   bytes_ = std::move(moved);
-  capacity_ = wider;
+  first_ = first;
+  capacity_ = capacity;
 }
 
 // Raw memory takes what is at `from`, which is raw memory afterwards.

@@ -145,7 +145,7 @@ class Loader {
   int64_t lost() const { return std::max(counted_.value_or(0) - visited_, int64_t{0}); }
 
   std::vector<std::string> damaged;  ///< keys, those of lists first
-  std::set<uint64_t> rows;           ///< where the rows are that stay
+  RowPlaces rows;                    ///< where the rows are that stay
   std::map<std::string, Bytes, std::less<>> otherObjects;
 
  private:

@@ -4,9 +4,9 @@
 
 #include <map>
 #include <optional>
-#include <set>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -31,6 +31,12 @@ struct StoredList {
   uint32_t chunks = 0;             ///< rows 0 to `chunks` - 1 are there
   std::vector<int32_t> leftovers;  ///< rows that could not be read and go when the list is saved
 };
+
+/// Places of rows, each by a fingerprint that serves as its hash.
+struct AsItIs {
+  size_t operator()(uint64_t fingerprint) const { return static_cast<size_t>(fingerprint); }
+};
+using RowPlaces = std::unordered_set<uint64_t, AsItIs>;
 
 class SaveFile {
  public:
@@ -97,8 +103,8 @@ class SaveFile {
   std::map<std::pair<std::string, int32_t>, size_t> pendingRows_;  // where each row stands in pending_, while failing
   std::map<std::string, StoredList, std::less<>> lists_;
   std::map<std::string, Bytes, std::less<>> otherObjects_;
-  std::set<uint64_t> rows_;  // the fingerprint of each place that is taken
-  bool counted_ = true;      // the store, or what is pending, knows how many they are
+  RowPlaces rows_;       // the places that are taken
+  bool counted_ = true;  // the store, or what is pending, knows how many they are
   bool failing_ = false;
   bool keeping_ = true;
 };
