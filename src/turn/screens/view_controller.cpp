@@ -9,6 +9,7 @@
 #include "core/needs.h"
 #include "core/own_photo.h"
 #include "core/view_words.h"
+#include "music/chart.h"
 #include "music/screens/song_rows.h"
 #include "social/chirps.h"
 #include "turn/goals.h"
@@ -23,22 +24,33 @@ constexpr size_t topSongs = 3;
 
 std::string signedNumber(int64_t number) { return (number > 0 ? "+" : "") + withCommas(number); }
 
-/// The best rank that any song of the artist ever held, or 0.
+/// The best rank that any song of the artist ever held, verses for others among them, or 0.
 int64_t bestChart(const GameState& state) {
   int64_t best = 0;
   for (const BillboardSong& row : state.saveAllBillboardSongList) {
+    const bool isLabels = row.songId >= signedArtistSongOffset && row.songId < featuredSongOffset;
+    if (isLabels) continue;
     if (best == 0 || row.peakPosition < best) best = row.peakPosition;
   }
   return best;
 }
 
+// What is asleep is out and off the chart, so that Home need not look at it.
+
 /// The best rank that a song holds now, or 0.
 int64_t chartNow(const GameState& state) {
   int64_t best = 0;
-  for (const Song& song : state.saveAllSongList) {
-    if (song.chartRanking > 0 && (best == 0 || song.chartRanking < best)) best = song.chartRanking;
+  for (const uint32_t position : state.saveAllSongList.awake()) {
+    const int64_t ranking = state.saveAllSongList[position].chartRanking;
+    if (ranking > 0 && (best == 0 || ranking < best)) best = ranking;
   }
   return best;
+}
+
+int64_t songsInMaking(const GameState& state) {
+  const std::vector<uint32_t> awake = state.saveAllSongList.awake();
+  return std::count_if(awake.begin(), awake.end(),
+                       [&](uint32_t position) { return !state.saveAllSongList[position].isReleased; });
 }
 
 }  // namespace
@@ -84,8 +96,8 @@ void ViewController::describeStanding(View& view) const {
     listeners.tone = toneOfChange(change);
   }
   view.add(std::move(listeners));
-  const auto released = std::count_if(state().saveAllSongList.begin(), state().saveAllSongList.end(),
-                                      [](const Song& song) { return song.isReleased; });
+  const int64_t inMaking = songsInMaking(state());
+  const int64_t released = static_cast<int64_t>(state().saveAllSongList.size()) - inMaking;
   const int64_t best = bestChart(state());
   Tile followers{
       .icon = "people", .label = "Followers", .value = abbreviated(static_cast<double>(state().followerCount))};
@@ -96,7 +108,6 @@ void ViewController::describeStanding(View& view) const {
     followers.tone = toneOfChange(change);
   }
   Tile songs{.icon = "note", .label = "Songs out", .value = withCommas(released)};
-  const int64_t inMaking = static_cast<int64_t>(state().saveAllSongList.size()) - released;
   if (inMaking > 0) songs.note = "+" + withCommas(inMaking) + " finished";
   Tile chart{.icon = "trophy", .label = "Best chart", .value = best > 0 ? rank(best) : "–", .id = "goToBillboard"};
   if (const int64_t now = chartNow(state()); now > 0) chart.note = "now " + rank(now);
