@@ -120,7 +120,7 @@ Outcome adopt(Game& game, const Child& child) {
   } else {
     pay(game, adoptionCost);
     join(game, child);
-    grantAchievement(game, achievement::adoption);
+    grantAchievement(game, achievement::openHeart);
     stateChanged(game);
     outcome = news<"👪 Welcome Home 👪">("\n" + child.name + " is a part of your family now.");
   }

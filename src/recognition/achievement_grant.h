@@ -13,7 +13,7 @@ inline constexpr int64_t perfectPartner = 206;
 inline constexpr int64_t hipThrust = 207;
 inline constexpr int64_t beachBody = 208;
 inline constexpr int64_t veganInfluencer = 209;
-inline constexpr int64_t adoption = 211;
+inline constexpr int64_t openHeart = 211;
 inline constexpr int64_t takeover = 307;
 }  // namespace achievement
 

@@ -11,6 +11,7 @@ constexpr int64_t weeksWithTheFamily = 26;
 constexpr int64_t mostWeeksOfALife = 1'600;
 constexpr int64_t weeksOfTheLast = 60;
 constexpr int64_t weeksBetweenLessons = 6;
+constexpr double enoughCash = 30'000;
 
 void abandonOne(Player& player) {
   player.tab(lifeTab);
@@ -29,6 +30,7 @@ bool liveALife(Player& player) {
     if (!hasChild) lookForLove(player, {});
     if (!hasChild || week % weeksBetweenLessons == 0) lookAfterPartner(player, {});
     if (week % weeksBetweenLessons == 1) raiseChildren(player);
+    lookForWork(player, enoughCash);
     player.endTheWeek();
   }
   return false;
@@ -44,6 +46,7 @@ void playGoldenDynasty(Player& player) {
   }
   if (!retire(player, ageOfMajority) || !liveALife(player)) return;
   for (int64_t week = 1; week <= weeksOfTheLast; ++week) {
+    lookForWork(player, enoughCash);
     if (week % 4 == 1) makeSong(player, {.budget = 2'000});
     if (week % 4 == 3) releaseSingles(player, {.announces = true});
     practise(player, allTraits, 20);
