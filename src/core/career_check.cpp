@@ -62,6 +62,9 @@ constexpr NamedBounds boundsOfFields[] = {
     {"transactionFees", {-1e3, 1e3}},
     {"startingInventory", {-1e9, 1e9}},
     {"remainingInventory", {-1e9, 1e9}},
+    {"followers", {0, 1e11}},  // of a child, who may become the artist
+    {"totalEnergyMax", {-1e8, 1e8}},
+    {"netWorth", {-9e15, 9e15}},
 };
 
 template <size_t count>

@@ -212,6 +212,8 @@ struct GameState {
   int64_t mostAchievementsCompleted = 0;
   std::string appearance = "system";  ///< the player's choice of look: "system", "dark" or "light"
 
+  std::string heirParentNames;  ///< of an artist who took over: the parents, one a line
+
   // Written at a restart and at a takeover, read nowhere.
   double weeklyExpenses = 0;
   int64_t musicality = 0;
@@ -437,6 +439,7 @@ inline constexpr auto scalars = std::to_array<Scalar>({
     {"mostGramWins", &GameState::mostGramWins, Lifetime::player},
     {"mostAchievementsCompleted", &GameState::mostAchievementsCompleted, Lifetime::player},
     {"appearance", &GameState::appearance, Lifetime::player},
+    {"heirParentNames", &GameState::heirParentNames, Lifetime::family},
     {"weeklyExpenses", &GameState::weeklyExpenses, Lifetime::artist, Loading::writeOnly},
     {"musicality", &GameState::musicality, Lifetime::artist, Loading::writeOnly},
 });

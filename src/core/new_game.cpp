@@ -19,18 +19,21 @@ void endLives(Game& game, Lifetime last) {
   });
 }
 
+void forgetLaunch(Game& game) {
+  const Launch before = game.launch;
+  game.launch = Launch();
+  game.launch.leaderboardPassDone = before.leaderboardPassDone;
+  game.launch.musicScreenLoaded = before.musicScreenLoaded;
+  game.launch.venueDemand = before.venueDemand;
+}
+
 void restartGame(Game& game) {
   GameState& state = game.state;
   endLives(game, Lifetime::family);
   state.totalEnergyMax += state.permanentEnergyUpgrade;
   state.totalEnergyAvailable = state.totalEnergyMax;
   game.save(&GameState::totalEnergyAvailable, &GameState::totalEnergyMax);
-  // What only this launch knows of the old life goes with it; what it does once stays done.
-  const Launch before = game.launch;
-  game.launch = Launch();
-  game.launch.leaderboardPassDone = before.leaderboardPassDone;
-  game.launch.musicScreenLoaded = before.musicScreenLoaded;
-  game.launch.venueDemand = before.venueDemand;
+  forgetLaunch(game);
   stateChanged(game);
 }
 

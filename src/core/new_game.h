@@ -9,6 +9,9 @@ namespace backbeat {
 /// key.
 void endLives(Game& game, Lifetime last);
 
+/// What only this launch knows of the old life goes with it; what a launch does once stays done.
+void forgetLaunch(Game& game);
+
 /// Begins anew. What outlives every artist stays: bought energy, achievements, the family's legacy, first-use memory,
 /// the changed names of guests and cameos, high scores.
 void restartGame(Game& game);

@@ -34,11 +34,25 @@ std::optional<size_t> dataOf(std::string_view address) {
   return std::nullopt;
 }
 
-/// 1 is the one that a name has by itself.
-int64_t chosenPortrait(const GameState& state) {
-  const std::string_view kept = state.twitterProfileImage;
-  if (!kept.starts_with(chosen)) return 1;
-  return std::clamp<int64_t>(wholeNumber(kept.substr(chosen.size())).value_or(1), 1, portraitsOfName);
+/// Which of the portraits of a name: 1 is the one that it has by itself. The name is the artist's, or one that an heir
+/// brought along.
+struct ChosenPortrait {
+  int64_t number = 1;
+  std::string_view ofName = {};
+};
+
+/// Reads "portrait:3" or "portrait:1:woman:Ada".
+ChosenPortrait chosenPortrait(std::string_view kept) {
+  if (!kept.starts_with(chosen)) return {};
+  kept.remove_prefix(chosen.size());
+  const size_t end = std::min(kept.find(':'), kept.size());
+  const int64_t number = wholeNumber(kept.substr(0, end)).value_or(1);
+  return {std::clamp<int64_t>(number, 1, portraitsOfName), kept.substr(std::min(end + 1, kept.size()))};
+}
+
+std::string keptPortrait(int64_t number, std::string_view ofName) {
+  const std::string which = std::string(chosen) + std::to_string(number);
+  return ofName.empty() ? (number == 1 ? "" : which) : which + ":" + std::string(ofName);
 }
 
 }  // namespace
@@ -59,17 +73,27 @@ PhotoField photoField(bool taken) { return {.id = "photo", .label = "Your own ph
 bool hasOwnPhoto(const GameState& state) { return dataOf(state.twitterProfileImage).has_value(); }
 
 void chooseNextPortrait(Game& game) {
-  const int64_t next = chosenPortrait(game.state) % portraitsOfName + 1;
-  game.state.twitterProfileImage = next == 1 ? "" : std::string(chosen) + std::to_string(next);
+  const ChosenPortrait now = chosenPortrait(game.state.twitterProfileImage);
+  game.state.twitterProfileImage = keptPortrait(now.number % portraitsOfName + 1, now.ofName);
+  game.save(&GameState::twitterProfileImage);
+}
+
+void bringPortrait(Game& game, std::string_view name) {
+  game.state.twitterProfileImage = keptPortrait(1, name);
   game.save(&GameState::twitterProfileImage);
 }
 
 Picture artistPicture(const GameState& state) { return artistPicture(state, state.myArtistsName); }
 
 Picture artistPicture(const GameState& state, const std::string& name) {
-  if (hasOwnPhoto(state)) return {Picture::Kind::photo, state.twitterProfileImage};
-  const int64_t portrait = chosenPortrait(state);
-  return person(portrait == 1 ? name : name + " #" + std::to_string(portrait));
+  return portraitOf(state.twitterProfileImage, name);
+}
+
+Picture portraitOf(const std::string& kept, const std::string& name) {
+  if (dataOf(kept)) return {Picture::Kind::photo, kept};
+  const auto [number, ofName] = chosenPortrait(kept);
+  const std::string drawn = ofName.empty() ? name : std::string(ofName);
+  return person(number == 1 ? drawn : drawn + " #" + std::to_string(number));
 }
 
 }  // namespace backbeat

@@ -26,8 +26,13 @@ bool hasOwnPhoto(const GameState& state);
 /// Chooses the next of the twelve portraits that a name can have; after the last comes the first. A photo goes.
 void chooseNextPortrait(Game& game);
 
+/// Draws the artist after that name from now on, whatever the artist is called: an heir keeps the face of the child.
+void bringPortrait(Game& game, std::string_view name);
+
 /// The artist's portrait: the player's own photo, or one drawn after the name, which may be one that is being typed.
 Picture artistPicture(const GameState& state);
 Picture artistPicture(const GameState& state, const std::string& name);
+/// The same for somebody of that name of whom `twitterProfileImage` was kept.
+Picture portraitOf(const std::string& kept, const std::string& name);
 
 }  // namespace backbeat

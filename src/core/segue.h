@@ -21,6 +21,11 @@ struct Segue {
   Outcome (*enter)(Game& game) = nullptr;
 };
 
+/// The way into another life, for a screen to answer with instead of a segue: every screen of every tab and every modal
+/// one is closed, what they still had to say is dropped, home is opened anew, and an artist without a name is asked for
+/// one on the music tab. The alerts of that answer come after it.
+inline constexpr std::string_view startOverSegue = "startOver";
+
 template <class S>
 std::unique_ptr<Screen> makeScreen(Game& game, std::string_view) {
   return std::make_unique<S>(game);

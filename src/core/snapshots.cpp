@@ -17,9 +17,10 @@ struct KindOfSnapshot {
   std::string_view title;
 };
 
-constexpr std::array<KindOfSnapshot, 4> kinds = {{
+constexpr std::array<KindOfSnapshot, 5> kinds = {{
     {SnapshotKind::newYear, "newYear", "New Year "},
     {SnapshotKind::restart, "restart", "Before the restart"},
+    {SnapshotKind::takeover, "takeover", "Before the takeover"},
     {SnapshotKind::import, "import", "Before the import"},
     {SnapshotKind::restore, "restore", "Before going back"},
 }};

@@ -12,7 +12,7 @@
 
 namespace backbeat {
 
-enum class SnapshotKind { newYear, restart, import, restore };
+enum class SnapshotKind { newYear, restart, takeover, import, restore };
 
 /// All copies together may take this much; beyond it each new one costs an old one, after a question.
 inline constexpr int64_t snapshotBudget = 100'000'000;

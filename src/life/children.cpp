@@ -1,64 +1,120 @@
 #include "life/children.h"
 
 #include <algorithm>
-#include <charconv>
 
-#include "life/dark_skin.h"
+#include "core/calendar.h"
+#include "core/money.h"
+#include "core/text.h"
 
 namespace backbeat {
 
 namespace {
 
-constexpr int64_t daughter = 1;
+constexpr int64_t weeksOfYear = 52;
+constexpr int64_t weeksOfMonth = 4;
+constexpr int64_t walksFrom = 2;  ///< years, here and below
+constexpr int64_t grownFrom = 20;
+constexpr int64_t elderlyFrom = 60;
 
-/// Whether the picture, "woman12.png" or "man7.png", is drawn with dark skin.
-bool hasDarkSkin(std::string_view matchImage) {
-  const auto isListed = [&](std::string_view kind, const auto& numbers) {
-    if (!matchImage.starts_with(kind)) return false;
-    int64_t number = 0;
-    const std::string_view rest = matchImage.substr(kind.size());
-    std::from_chars(rest.data(), rest.data() + rest.size(), number);
-    return std::find(numbers.begin(), numbers.end(), number) != numbers.end();
-  };
-  return isListed("woman", femaleDarkSkin) || isListed("man", maleDarkSkin);
+/// The last age at which a school is gone to.
+struct School {
+  int64_t lastAge;
+  const char* name;
+};
+constexpr School schools[] = {{2, ""},
+                              {4, "Preschool"},
+                              {5, "Kindergarten"},
+                              {10, "Elementary School"},
+                              {13, "Middle School"},
+                              {17, "High School"}};
+
+bool shows(const Child& child, const char* kind) { return child.imageString.find(kind) != std::string::npos; }
+
+const char* formOf(const GameState& state, const Child& child) {
+  const bool isGirl = child.gender == daughter;
+  const int64_t age = ageOf(state, child);
+  if (shows(child, "child")) {
+    if (age < walksFrom) return "baby";
+    return isGirl ? "girl" : "boy";
+  }
+  if (age < grownFrom) return isGirl ? "teenGirl" : "teenBoy";
+  if (age < elderlyFrom) return isGirl ? "woman" : "man";
+  return isGirl ? "oldWoman" : "oldMan";
 }
 
-std::string drawPicture(Random& random, int64_t gender, bool isDark) {
-  const std::string kind = gender == daughter ? "femalechild" : "malechild";
-  const int64_t number = isDark ? random.integer(1, 3) : random.integer(1, 6);
-  return kind + (isDark ? "" : "w") + std::to_string(number) + ".png";
+/// Who it is, whom it takes after, and how: a line each.
+std::string looksOf(const Child& child) {
+  const bool isLight = shows(child, "childw") || shows(child, "teenw");
+  return std::to_string(child.birthWeekForTracking) + " " + std::to_string(child.gender) + " " +
+         std::to_string(child.ageofDeath) + "\n" + child.artistName + " " + child.partnerName + "\n" +
+         (isLight ? "light" : "dark");
 }
 
 }  // namespace
 
-void becomeParentByBirth(Game& game, const Matches& partner) {
-  GameState& state = game.state;
-  Random& random = game.random;
-  Child child;
-  child.id = ++state.childId;
-  child.name = "Newborn";
-  child.birthYear = state.yearNumber;
-  child.birthWeek = state.weekNumber;
-  child.birthWeekForTracking = state.weekNumberForTracking;
-  child.partnerName = partner.name;
-  child.artistName = state.myArtistsName;
-  child.admiration = 100;
-  child.typeOfRelationship = 1;
-  child.gender = random.integer(0, 1);
-  child.relationship = child.gender == daughter ? "Daughter" : "Son";
-  child.weeklyEnergyCost = random.integer(3, 10);
-  child.weeklyFinancialCost = random.uniformDouble(75, 250);
-  child.imageString = drawPicture(random, child.gender, hasDarkSkin(partner.matchImage));
-  for (int64_t Child::*trait :
-       {&Child::songWriting, &Child::virality, &Child::vocals, &Child::rhythm, &Child::charisma}) {
-    child.*trait = random.integer(-10, 10);
+std::optional<size_t> childPosition(const GameState& state, int64_t index) {
+  if (index < 0 || static_cast<size_t>(index) >= state.saveAllChildList.size()) return std::nullopt;
+  return static_cast<size_t>(index);
+}
+
+bool isInFamily(const Child& child) { return child.typeOfRelationship > 0; }
+
+bool mayTakeOver(const GameState& state, const Child& child) {
+  return isInFamily(child) && ageOf(state, child) >= ageOfMajority;
+}
+
+int64_t ageOf(const GameState& state, const Child& child) {
+  if (child.typeOfRelationship == kinship::dead) return child.ageofDeath;
+  return state.yearNumber - child.birthYear;
+}
+
+std::string ageText(const GameState& state, const Child& child) {
+  const int64_t weeks = state.weekNumberForTracking - child.birthWeekForTracking;
+  if (weeks < weeksOfYear && child.typeOfRelationship != kinship::dead) {
+    return std::to_string(weeks / weeksOfMonth) + " months old";
   }
-  child.totalEnergyMax = random.integer(100, 135);
-  child.weeklyAdmirationLoss = random.uniformDouble(0.25, 1.25);
-  child.ageofDeath = random.integer(65, 90);
-  state.childEnergyCost += child.weeklyEnergyCost;
-  state.saveAllChildList.append(std::move(child));
-  game.save(&GameState::saveAllChildList, &GameState::childEnergyCost, &GameState::childId);
+  const int64_t years = std::max<int64_t>(ageOf(state, child), 1);
+  return std::to_string(years) + (years == 1 ? " year old" : " years old");
+}
+
+std::string schoolOf(const GameState& state, const Child& child) {
+  const int64_t age = ageOf(state, child);
+  const auto school =
+      std::find_if(std::begin(schools), std::end(schools), [&](const School& each) { return age <= each.lastAge; });
+  return school == std::end(schools) ? "" : school->name;
+}
+
+std::string standingText(const GameState& state, const Child& child) {
+  if (child.typeOfRelationship == kinship::dead) return "died at " + std::to_string(child.ageofDeath);
+  if (!isInFamily(child)) return "abandoned";
+  return ageOf(state, child) > ageOfMajority ? "left home" : ageText(state, child);
+}
+
+bool raiseTalent(Child& child, int64_t Child::*level) {
+  if (child.*level >= mostTalent) return false;
+  child.*level += 1;
+  return true;
+}
+
+void admire(Child& child, double points) {
+  child.admiration = std::clamp(child.admiration + points, 0.0, mostAdmiration);
+}
+
+Picture portraitOf(const GameState& state, const Child& child) {
+  return drawn(Picture::Kind::person, formOf(state, child), looksOf(child));
+}
+
+std::string grownPortrait(const Child& child) {
+  return std::string(child.gender == daughter ? "woman" : "man") + ":" + looksOf(child);
+}
+
+void renameChild(Game& game, int64_t index, const std::string& name) {
+  const auto position = childPosition(game.state, index);
+  const std::string chosen = firstCharacters(trimmed(name), longestChildName);
+  if (!position || chosen.empty()) return;
+  game.state.saveAllChildList.update(*position, [&](Child& child) { child.name = chosen; });
+  game.save(&GameState::saveAllChildList);
+  stateChanged(game);
 }
 
 }  // namespace backbeat

@@ -1,4 +1,4 @@
-// What a year brings to the artist's children.
+// What a week does to the artist's children.
 #pragma once
 
 #include "core/game.h"
@@ -6,7 +6,7 @@
 
 namespace backbeat {
 
-/// Runs as the report closes. Without children there is no news.
-Outcome runChildrenAnnualEvents(Game& game);
+/// Runs once a week, as the report closes. Tells who has died and who has left home.
+Outcome weeklyChildUpdate(Game& game);
 
 }  // namespace backbeat

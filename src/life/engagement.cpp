@@ -80,9 +80,9 @@ Outcome askForPrenup(const GameState& state, const Matches& partner) {
 Outcome tryForBaby(Game& game, size_t position) {
   const Matches& partner = game.state.saveAllMatchesList[position];
   if (!hasEnergy(game.state, babyCost)) return noEnergy("\nYou do not have enough energy to make a baby today.");
-  if (fertilityBlocked(game.state)) return notOpenYet("The adoption agency is still being built.");
   pay(game, babyCost);
   stateChanged(game);
+  if (fertilityBlocked(game.state)) return goTo("goToAdoptionDetail");
   const int64_t luck = game.random.integer(0, 100);
   if (luck % 7 == 0) {  // 0 among them: intended
     game.state.saveAllMatchesList.update(position, [](Matches& parent) { parent.timeToBirth = weeksOfPregnancy; });

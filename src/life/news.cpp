@@ -1,6 +1,7 @@
 #include "life/news.h"
 
 #include "core/money.h"
+#include "life/children.h"
 #include "life/engagement.h"
 #include "life/partner.h"
 
@@ -126,6 +127,59 @@ void addBirth(const GameState& state, std::vector<News>& news) {
                           currency(child.weeklyFinancialCost) + " a week"});
 }
 
+/// Everybody grows older at New Year: who goes to school, is a teen now, or of age.
+void addBirthdays(const GameState& state, std::vector<News>& news) {
+  struct Birthday {
+    int64_t age;
+    int64_t rank;
+    const char* headline;
+    const char* text;
+  };
+  static constexpr Birthday birthdays[] = {
+      {6, 240, " goes to school now", "The lunch box is bigger than the child"},
+      {ageOfTeens, 260, " is a teen now", "Doors will be closed, some of them loudly"},
+      {ageOfMajority, 440, " is of age", "From now on your name could be carried on"}};
+  if (state.weekNumber != 1) return;
+  for (const Child& child : state.saveAllChildList) {
+    for (const Birthday& birthday : birthdays) {
+      if (!isInFamily(child) || ageOf(state, child) != birthday.age) continue;
+      news.push_back({.rank = birthday.rank,
+                      .key = "birthday",
+                      .picture = portraitOf(state, child),
+                      .kicker = ageText(state, child),
+                      .headline = child.name + birthday.headline,
+                      .text = birthday.text});
+    }
+  }
+}
+
+/// A newborn without a name comes first, then whoever hardly looks up to the artist any more.
+void addChildNeed(const GameState& state, std::vector<Need>& needs) {
+  constexpr double lowAdmiration = 25;
+  const RecordList<Child>& children = state.saveAllChildList;
+  const size_t nameless =
+      children.find([](const Child& child) { return isInFamily(child) && child.name == newbornName; });
+  if (nameless != children.size()) {
+    needs.push_back({.priority = 210,
+                     .picture = portraitOf(state, children[nameless]),
+                     .title = "Your child has no name yet",
+                     .subtitle = "It will stand on record sleeves one day",
+                     .segue = "goToEditChildName",
+                     .argument = std::to_string(nameless)});
+    return;
+  }
+  const size_t distant = children.find([&](const Child& child) {
+    return isInFamily(child) && ageOf(state, child) <= ageOfMajority && child.admiration < lowAdmiration;
+  });
+  if (distant == children.size()) return;
+  needs.push_back({.priority = 130,
+                   .picture = portraitOf(state, children[distant]),
+                   .title = children[distant].name + " hardly looks up to you",
+                   .subtitle = "Spend some time together",
+                   .segue = "goToChildDetail",
+                   .argument = std::to_string(distant)});
+}
+
 }  // namespace
 
 void tearApart(const GameState& state, Poster& poster) {
@@ -134,6 +188,7 @@ void tearApart(const GameState& state, Poster& poster) {
 }
 
 void addLifeNeeds(const Game& game, std::vector<Need>& needs) {
+  addChildNeed(game.state, needs);
   const auto position = partnerPosition(game.state);
   if (!position) return addMatchNeed(game.state, needs);
   const Matches& partner = game.state.saveAllMatchesList[*position];
@@ -152,6 +207,7 @@ void addLifeNews(const Game& game, std::vector<News>& news) {
   addWedding(game, week, news);
   addBreakUp(game.state, news);
   addBirth(game.state, news);
+  addBirthdays(game.state, news);
 }
 
 }  // namespace backbeat

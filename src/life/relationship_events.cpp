@@ -1,8 +1,8 @@
 #include "life/relationship_events.h"
 
-#include "life/children.h"
 #include "life/dating_pools.h"
 #include "life/endings.h"
+#include "life/parenthood.h"
 #include "life/partner.h"
 #include "life/relationship_pools.h"
 

@@ -1,9 +1,16 @@
 #include "life/segues.h"
 
+#include "life/children.h"
 #include "life/news.h"
 #include "life/partner.h"
+#include "life/screens/adoption_detail_view_controller.h"
+#include "life/screens/child_detail_view_controller.h"
+#include "life/screens/child_list_view_controller.h"
+#include "life/screens/dynasty_detail_view_controller.h"
+#include "life/screens/edit_child_name_view_controller.h"
 #include "life/screens/edit_partner_name_view_controller.h"
 #include "life/screens/engagement_ring_view_controller.h"
+#include "life/screens/family_dynasty_view_controller.h"
 #include "life/screens/fxy_dating_view_controller.h"
 #include "life/screens/fxy_match_list_view_controller.h"
 #include "life/screens/fxy_matching_view_controller.h"
@@ -11,6 +18,7 @@
 #include "life/screens/profile_partner_detail.h"
 #include "life/screens/relationship_home_view_controller.h"
 #include "life/screens/relationship_match_view_controller.h"
+#include "life/screens/take_over_detail_view_controller.h"
 
 namespace backbeat {
 
@@ -28,6 +36,13 @@ constexpr Segue segues[] = {
     {"goToEngagementRing", "EngagementRingViewController", push, makeScreen<EngagementRingViewController>},
     {"goToProfilePartner", "ProfilePartnerDetail", push, makeScreen<ProfilePartnerDetail>},
     {"goToEditPartnerName", "EditPartnerNameViewController", push, makeScreen<EditPartnerNameViewController>},
+    {"goToAdoptionDetail", "AdoptionDetailViewController", push, makeScreen<AdoptionDetailViewController>},
+    {"goToChildList", "ChildListViewController", push, makeScreen<ChildListViewController>},
+    {"goToChildDetail", "ChildDetailViewController", push, makeScreenWithId<ChildDetailViewController>},
+    {"goToEditChildName", "EditChildNameViewController", push, makeScreenWithId<EditChildNameViewController>},
+    {"goToTakeOverDetail", "TakeOverDetailViewController", push, makeScreenWithId<TakeOverDetailViewController>},
+    {"goToFamilyDynasty", "FamilyDynastyViewController", push, makeScreen<FamilyDynastyViewController>},
+    {"goToDynastyDetail", "DynastyDetailViewController", push, makeScreenWithId<DynastyDetailViewController>},
 };
 
 void describePartner(const Game& game, Row& row) {
@@ -43,6 +58,23 @@ void describeDating(const Game& game, Row& row) {
   if (waiting == 0) return;
   row.value = std::to_string(waiting);
   row.note = waiting == 1 ? "match waits" : "matches wait";
+}
+
+bool hasChildren(const Game& game) { return !game.state.saveAllChildList.empty(); }
+
+/// The youngest that is there, and how many there are.
+void describeChildren(const Game& game, Row& row) {
+  const RecordList<Child>& children = game.state.saveAllChildList;
+  row.value = std::to_string(children.size());
+  row.note = std::to_string(game.state.childEnergyCost) + " energy a week";
+  row.subtitle = children.back().name + ", " + standingText(game.state, children.back());
+  row.picture = portraitOf(game.state, children.back());
+}
+
+bool hasAncestors(const Game& game) { return !game.state.saveAllLegacyList.empty(); }
+
+void describeDynasty(const Game& game, Row& row) {
+  row.subtitle = "In memory of " + game.state.saveAllLegacyList.back().name;
 }
 
 constexpr MenuLine menu[] = {
@@ -62,6 +94,22 @@ constexpr MenuLine menu[] = {
      .subtitle = "The dating app",
      .segue = "goToFXYDating",
      .describe = describeDating},
+    {.tab = lifeTab,
+     .section = "Family",
+     .order = 260,
+     .icon = "family",
+     .title = "Children",
+     .segue = "goToChildList",
+     .shown = hasChildren,
+     .describe = describeChildren},
+    {.tab = lifeTab,
+     .section = "Family",
+     .order = 270,
+     .icon = "document",
+     .title = "Dynasty",
+     .segue = "goToFamilyDynasty",
+     .shown = hasAncestors,
+     .describe = describeDynasty},
 };
 
 }  // namespace

@@ -148,6 +148,10 @@ void Navigator::appear() {
 }
 
 void Navigator::follow(const std::shared_ptr<Screen>& from, Outcome outcome) {
+  if (outcome.go && outcome.go->segue == startOverSegue) {
+    startOver();
+    outcome.go.reset();
+  }
   for (Alert& alert : outcome.alerts) alerts_.push_back({++lastAlertKey_, std::move(alert), from});
   if (outcome.feedback != Feedback::none) feedback_ = outcome.feedback;
   if (!outcome.go) return;
@@ -179,9 +183,7 @@ bool Navigator::admitted(const Segue& segue, const std::shared_ptr<Screen>& from
 
 /// The ways that lead to no screen.
 bool Navigator::followReserved(const Go& go) {
-  if (go.segue == startOverSegue) {
-    startOver();
-  } else if (go.segue == exportCareerSegue) {
+  if (go.segue == exportCareerSegue) {
     request_ = {Request::Kind::exportCareer, ""};
     game_.launch.exportedInYear = game_.state.yearNumber;
   } else if (go.segue == importCareerSegue) {

@@ -66,11 +66,6 @@ struct Shown {
   std::optional<Beside> beside;  ///< at a desk: what can be seen next to the screen of the tab that is on top
 };
 
-/// The way back to the beginning, for a screen to answer with instead of a segue: every screen of every tab and every
-/// modal one is closed, what they still had to say is dropped, home is opened anew and the music tab is shown, which
-/// asks for a name.
-inline constexpr std::string_view startOverSegue = "startOver";
-
 /// Answered instead of a segue by a screen that needs the program around the game; see Request. The last one carries
 /// the copy's name.
 inline constexpr std::string_view exportCareerSegue = "exportCareer";

@@ -67,8 +67,9 @@ TEST(NewGame, AnHeirGoesOnInTheSameYearAndHasAName) {
   enrich(world.state);
   world.settle();
   endLives(world.game, Lifetime::artist);
-  EXPECT_EQ(keysThatDiffer(world.state, GameState()),
-            with(outlives, {"weekNumber", "yearNumber", "weekNumberForTracking", "promptToEnterName"}));
+  EXPECT_EQ(
+      keysThatDiffer(world.state, GameState()),
+      with(outlives, {"weekNumber", "yearNumber", "weekNumberForTracking", "promptToEnterName", "heirParentNames"}));
   world.expectSaved();
 }
 

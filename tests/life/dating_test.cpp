@@ -8,6 +8,7 @@
 #include "life/builders.h"
 #include "life/dating_pools.h"
 #include "life/match_list.h"
+#include "life/parenthood_pools.h"
 #include "life/partner.h"
 #include "life/relationship_pools.h"
 #include "support/world.h"
@@ -40,6 +41,10 @@ TEST(LoveTexts, AreAsManyAsTheyShouldBeAndNoneTwice) {
   expectPool("serenadeReactions", serenadeReactions, 20);
   expectPool("serenadeReactionsExplicit", serenadeReactionsExplicit, 20);
   expectPool("generalChirps", generalChirps, 20);
+  expectPool("childCompliments", childCompliments, 35);
+  expectPool("babyReaction", babyReaction, 12);
+  expectPool("qualityTimeActivites", qualityTimeActivites, 20);
+  expectPool("causeOfDeathList", causeOfDeathList, 12);
   EXPECT_EQ(maleNames.size(), 79u);
   EXPECT_EQ(femaleNames.size(), 86u);
   EXPECT_EQ(matchInterests.size(), 78u);

@@ -14,6 +14,10 @@ std::vector<Wish> home(std::initializer_list<Wish> further) {
   return then({{"Life"}, {"goToRelationshipHome"}}, further);
 }
 
+std::vector<Wish> child(const char* name, std::initializer_list<Wish> further) {
+  return then({{"Life"}, {"goToChildList"}, {name}}, further);
+}
+
 const RoomErrands errands({
     {"like, match and write",
      {"single"},
@@ -59,6 +63,40 @@ const RoomErrands errands({
     {"give another name",
      {"dating"},
      home({{"goToProfilePartner"}, {"goToEditPartnerName"}, {"name"}, {"saveButton"}})},
+    {"adopt", {"old artist"}, home({{"ADOPT"}, {"adoptButton"}, {"👪 Welcome Home 👪"}}), 20},
+    {"adopt too late", {"old artist"}, home({{"ADOPT"}, {"adoptButton"}, {"😃 BITTER SWEET 😭"}}), 20},
+    {"adopt without cash", {"poor old artist"}, home({{"ADOPT"}, {"adoptButton"}, {"💰 Not Enough Cash 💰"}})},
+    {"name a child", {"family of five"}, {{"Home"}, {"Your child has no name yet"}, {"name"}, {"saveButton"}}},
+    {"name a child again", {"family of five"}, child("Otis", {{"goToEditChildName"}, {"name"}, {"saveButton"}})},
+    {"praise a child", {"family of five"}, child("Otis", {{"complimentChild"}, {"❤️ Otis ❤️"}})},
+    {"sing a child to sleep", {"family of five"}, child("Otis", {{"playMusic"}, {"🎵 Lullably 🎵"}})},
+    {"teach a child to sing", {"family of five"}, child("Jasper", {{"playMusic"}, {"🎤 Vocals 🎤"}}), 20},
+    {"teach a child the beat", {"family of five"}, child("Jasper", {{"playMusic"}, {"🎶 Rhythm 🎶"}}), 20},
+    {"write with a child", {"family of five"}, child("Jasper", {{"playMusic"}, {"✍️ Songwriting ✍️"}}), 20},
+    {"spend time with a child", {"family of five"}, child("Jasper", {{"qualityTimeWithChild"}, {"😃 Quality Time 😃"}})},
+    {"abandon a child", {"family of five"}, child("Jasper", {{"abandonChild"}, {"Abandon"}})},
+    {"see a child leave home", {"family of five"}, {{"🎓 All Grown Up 🎓"}}, 2},
+    {"bury a child", {"old artist"}, {{"🕊️ In Loving Memory 🕊️"}}, 2},
+    {"think about retiring", {"old artist"}, child("Teo", {{"goToTakeOverDetail"}, {"playAsButton"}, {"👑 Retire? 👑"}})},
+    {"retire",
+     {"old artist"},
+     child("Teo", {{"goToTakeOverDetail"},
+                   {"playAsButton"},
+                   {"Retire"},
+                   {"👑 A New Generation 👑"},
+                   {"Life"},
+                   {"goToFamilyDynasty"},
+                   {"legacy"}})},
+    {"retire in the third generation",
+     {"third generation"},
+     child("Otis", {{"goToTakeOverDetail"},
+                    {"playAsButton"},
+                    {"Retire"},
+                    {"👑 A New Generation 👑"},
+                    {"Life"},
+                    {"goToFamilyDynasty"}})},
+    {"read the family's book", {"third generation"}, {{"Life"}, {"goToFamilyDynasty"}, {"legacy"}}},
+    {"look at a child in the book", {"third generation"}, {{"Life"}, {"goToFamilyDynasty"}, {"child"}}},
 });
 
 }  // namespace

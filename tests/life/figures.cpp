@@ -1,10 +1,17 @@
 #include "play/figures.h"
+
+#include <cmath>
+
 #include "core/money.h"
 #include "core/numbers.h"
+#include "core/view_words.h"
 #include "life/builders.h"
+#include "life/children.h"
 #include "life/dating.h"
 #include "life/engagement.h"
+#include "life/parenthood.h"
 #include "life/partner.h"
+#include "wealth/net_assets.h"
 
 namespace backbeat {
 
@@ -110,6 +117,113 @@ Standings profileFigures(Game& twin) {
           {"Change the Name", "", "goToEditPartnerName"}};
 }
 
+const Child& childIn(const GameState& state) { return state.saveAllChildList[0]; }
+
+std::string costOf(const Child& child) { return currency(child.weeklyFinancialCost); }
+
+Standings talentFigures(const Child& child) {
+  Standings standings;
+  for (const Talent& talent : talents) {
+    standings.push_back({talent.label, std::to_string(child.*talent.level)});
+    standings.push_back({std::string(talent.label) + ": share", shareText(shareOf(child.*talent.level, int64_t{100}))});
+  }
+  return standings;
+}
+
+Standings childListFigures(Game& twin) {
+  const Child& child = childIn(twin.state);
+  return {{"subtitle", std::to_string(twin.state.childEnergyCost) + " energy a week"},
+          {child.name, "18 years old", "goToChildDetail 0"},
+          {child.name + ": subtitle", child.relationship},
+          {child.name + ": share", shareText(1)}};
+}
+
+Standings childFigures(Game& twin) {
+  const Child& child = childIn(twin.state);
+  return Standings{{"title", child.name},
+                   {"subtitle", child.relationship},
+                   {"poster", child.name},
+                   {"poster: text", "18 years old"},
+                   {"Admiration", std::to_string(truncate(child.admiration))},
+                   {"Admiration: share", shareText(1)},
+                   {"Compliment", "", "nowhere"},
+                   {"Compliment: price", "2 energy"},
+                   {"Play Music", "", "nowhere"},
+                   {"Play Music: price", "5 energy"},
+                   {"Quality Time", "", "nowhere"},
+                   {"Quality Time: price", "10 energy"},
+                   {"Rename", "", "goToEditChildName 0"},
+                   {"Parents:: subtitle", child.artistName + " & " + child.partnerName},
+                   {"Weekly Energy: ", std::to_string(child.weeklyEnergyCost)},
+                   {"Weekly Expense: ", costOf(child)},
+                   {"Followers: ", withCommas(child.followers)},
+                   {"Occupation: ", child.occupation},
+                   {"Abandon: price", "50 energy"}} +
+         talentFigures(child);
+}
+
+Standings adoptionFigures(Game& twin) {
+  const Child child = drawAdoption(twin);
+  return Standings{{"poster: text", "Age: " + std::to_string(twin.state.yearNumber - child.birthYear) +
+                                        "\nCould be your " + (child.gender == daughter ? "daughter" : "son")},
+                   {"Weekly Energy: ", std::to_string(child.weeklyEnergyCost)},
+                   {"Weekly Expense: ", costOf(child)},
+                   {"text", "The adoption process costs $50,000 if the adoption is approved."}} +
+         talentFigures(child);
+}
+
+Standings childNameFigures(Game& twin) { return {{"Name", childIn(twin.state).name}}; }
+
+Standings takeoverFigures(Game& twin) {
+  const Child& child = childIn(twin.state);
+  return Standings{{"poster", child.name},
+                   {"poster: text", "18 years old\n" + child.occupation},
+                   {"Followers: ", withCommas(child.followers)},
+                   {"Inheritance: ", currency(std::trunc(netAssets(twin.state)))},
+                   {"Max Energy: ", std::to_string(child.totalEnergyMax + twin.state.permanentEnergyUpgrade)},
+                   {"text", "You need 75 energy for this step, and keep it. A talent below 1 begins at 1."},
+                   {"button", "PLAY AS " + child.name}} +
+         talentFigures(child);
+}
+
+void somebodyHasDied(Game& game) {
+  Legacy legacy = ancestor("Nova Voss", 2005, 2043);
+  legacy.parentsNames = {"Ada", "Theo"};
+  game.state.saveAllLegacyList.append(legacy);
+}
+
+Standings pageFigures() {
+  return {
+      {"page: kicker", "Beloved (2005 – 2043)"},
+      {"page: text",
+       "Nova Voss lived a wonderful life and passed away peacefully at the age of 38. Throughout their career, Nova "
+       "Voss released 214 songs, 12 albums (1 diamond-certified) and toured 3 times. With 31 Billboard and 17 #1 "
+       "hits, Nova Voss left their mark on the music industry and is survived by 3 children."},
+      {"songs", "214"},
+      {"number ones", "17"},
+      {"Golden Forks", "2"},
+      {"net worth", "$48.2M"}};
+}
+
+Standings dynastyFigures(Game& twin) {
+  const Child& child = childIn(twin.state);
+  return Standings{{"Nova Voss", "2005 – 2043", "goToDynastyDetail 0"},
+                   {"Mara Voss", "since " + std::to_string(twin.state.ageAtTakeover)},
+                   {child.name, "18 years old", "goToChildDetail 0"},
+                   {"Nova Voss", "", "goToDynastyDetail 0"},
+                   {"Nova Voss: subtitle", "2005 – 2043 (child of Ada & Theo)"}} +
+         pageFigures();
+}
+
+Standings lifeFigures(Game&) {
+  return Standings{
+             {"Net Worth at Death", "$48,200,000"},     {"Net Worth at Death: subtitle", "Unranked in the world."},
+             {"Most Popular Album ", "6,100,000 sold"}, {"Most Popular Song ", "812,000,000 plays"},
+             {"Most Popular Tour ", "92,000 seats"},    {"Longest #1 Hit ", "9 weeks"},
+             {"Longest Billboard Hit ", "44 weeks"}} +
+         pageFigures();
+}
+
 Standings nameFigures(Game& twin) { return {{"Name", partnerOf(twin.state).name}}; }
 Standings none(Game&) { return {}; }
 
@@ -122,7 +236,14 @@ std::vector<ScreenFigures> screens() {
           {.segue = "goToRelationshipHome", .figures = homeFigures},
           {.segue = "goToEngagementRing", .figures = ringFigures, .before = readyForARing},
           {.segue = "goToProfilePartner", .figures = profileFigures},
-          {.segue = "goToEditPartnerName", .figures = nameFigures}};
+          {.segue = "goToEditPartnerName", .figures = nameFigures},
+          {.segue = "goToChildList", .figures = childListFigures},
+          {.segue = "goToChildDetail", .argument = "0", .figures = childFigures},
+          {.segue = "goToAdoptionDetail", .figures = adoptionFigures},
+          {.segue = "goToEditChildName", .argument = "0", .figures = childNameFigures},
+          {.segue = "goToTakeOverDetail", .argument = "0", .figures = takeoverFigures},
+          {.segue = "goToFamilyDynasty", .figures = dynastyFigures, .before = somebodyHasDied},
+          {.segue = "goToDynastyDetail", .argument = "0", .figures = lifeFigures, .before = somebodyHasDied}};
 }
 
 const FiguresOf life{.screens = screens};

@@ -104,6 +104,68 @@ void forgotten(GameState& state) {
   addPartner(state, partner, 1, 120);
 }
 
+/// Married, with five children of all ages: a newborn, one to be sung to, one to be taught, one to be let go, one gone.
+void familyOfFive(GameState& state) {
+  married(state);
+  setDate(state, 1'196);  // the last week of a year
+  state.totalFans = 40'000;
+  state.saveAllMatchesList.update(0, [&](Matches& partner) { partner.weekMatched = partner.weekStartedDating = 300; });
+  Child newborn = childOf(state, "Newborn", 0);
+  newborn.gender = 1;
+  newborn.relationship = "Daughter";
+  newborn.imageString = "femalechild2.png";
+  newborn.birthWeekForTracking -= 9;
+  addChild(state, childOf(state, "Otis", 2));
+  addChild(state, childOf(state, "Jasper", 12));
+  addChild(state, childOf(state, "Milo", 18));
+  addChild(state, childOf(state, "Remy", 23));
+  addChild(state, newborn);
+  state.saveAllChildList.update(1, [](Child& child) { child.admiration = 12; });
+}
+
+/// One who has a label, houses and awards, is too old for children of the own, and has outlived most.
+void oldArtist(GameState& state) {
+  goldenWedding(state);
+  setDate(state, 3'068);  // the last week of a year
+  state.myLabelName = "Long Way Records";
+  state.saveAllMatchesList.update(0, [&](Matches& partner) {
+    partner.age = 30;
+    partner.weekMatched = partner.weekStartedDating = 400;
+  });
+  addChild(state, childOf(state, "Teo", 40));
+  Child frail = childOf(state, "Wren", 64);
+  frail.ageofDeath = 65;
+  addChild(state, frail);
+  Child gone = childOf(state, "June", 20);
+  gone.typeOfRelationship = -1;
+  gone.relationship = "Abandoned";
+  addChild(state, gone);
+}
+
+/// The same without the means.
+void poorOldArtist(GameState& state) {
+  oldArtist(state);
+  state.totalCashAvailable = 900;
+}
+
+/// Two were artists before, and a child is ready.
+void thirdGeneration(GameState& state) {
+  setDate(state, 4'000);
+  begin(state, 2'000'000);
+  setDate(state, 4'000);
+  state.saveAllLegacyList.append(ancestor("Nova Voss", 2005, 2062));
+  Legacy second = ancestor("Ada", 2031, 2090);
+  second.parentsNames = {"Nova Voss", "Theo"};
+  second.successorBirthYear = 2060;
+  state.saveAllLegacyList.append(second);
+  state.ageAtTakeover = 2090;
+  state.heirParentNames = "Ada\nMilan";
+  state.twitterProfileImage = "portrait:1:woman:1924 1 80\nAda Milan\nlight";
+  addPartner(state, somebody(state, "Theo"), 3, 500);
+  addChild(state, childOf(state, "Otis", 20));
+  addChild(state, childOf(state, "Wren", 6));
+}
+
 const RoomWorlds worlds({{"single", single},
                          {"dating", dating},
                          {"lukewarm", lukewarm},
@@ -112,7 +174,11 @@ const RoomWorlds worlds({{"single", single},
                          {"married", married},
                          {"golden wedding", goldenWedding},
                          {"married with a prenup", neglected},
-                         {"forgotten", forgotten}});
+                         {"forgotten", forgotten},
+                         {"family of five", familyOfFive},
+                         {"old artist", oldArtist},
+                         {"poor old artist", poorOldArtist},
+                         {"third generation", thirdGeneration}});
 
 }  // namespace
 }  // namespace backbeat

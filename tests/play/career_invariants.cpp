@@ -113,6 +113,19 @@ std::string ledgerFault(const GameState& state) {
   return {};
 }
 
+/// What is wrong with the family, or "".
+std::string familyFault(const GameState& state) {
+  int64_t energy = 0;
+  for (const Child& child : state.saveAllChildList) {
+    energy += child.weeklyEnergyCost;
+    if (child.admiration < 0 || child.admiration > 100) return "the admiration of " + child.name + " is out of bounds";
+    if (child.typeOfRelationship < 1 && (child.weeklyEnergyCost != 0 || child.weeklyFinancialCost != 0)) {
+      return child.name + " is not in the family and costs something";
+    }
+  }
+  return energy == state.childEnergyCost ? "" : "the children's energy is not the sum of what each takes";
+}
+
 /// Whether the cash moved by what the income statement tells. The statement sums all streams though the best song alone
 /// is paid, and counts fees that were paid when they were agreed on. Merchandise is paid at the sale and once more.
 std::string cashFault(const GameState& state, double cashBefore) {
@@ -179,6 +192,7 @@ std::string weekFault(const GameState& state, const WeekBefore& before) {
   }
   if (state.totalEnergyAvailable < 0) return "the energy is below 0";
   if (std::string found = ledgerFault(state); !found.empty()) return found;
+  if (std::string found = familyFault(state); !found.empty()) return found;
   const bool advancePaidBack = before.underContract != state.underContract;  // a contract was not fulfilled in time
   const bool parted =
       std::any_of(state.saveAllMatchesList.begin(), state.saveAllMatchesList.end(),

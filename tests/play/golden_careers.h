@@ -28,6 +28,10 @@ void playGoldenDecade(Player& player);
 /// A year and a half of a star: songs that enter the chart, climb, leave it and come back.
 void playGoldenHits(Player& player);
 
+/// A family of three generations: the first artist raises and retires, the second loves, marries, raises and retires,
+/// and the third begins.
+void playGoldenDynasty(Player& player);
+
 std::span<const GoldenCareer> goldenCareers();
 
 /// A golden career as the screens of today play it.

@@ -92,6 +92,17 @@ TEST(GoldenDecade, HoldsACareerWithAlbumsALabelAndAllThatIsBesideRecords) {
   EXPECT_GT(total(career.end.saveAllFestivalList, [](const Festival& festival) { return festival.reviewStars; }), 0);
 }
 
+TEST(GoldenDynasty, HandsAFamilyOnTwice) {
+  const GameState& end = goldenCareer("golden_dynasty").end;
+  ASSERT_EQ(end.saveAllLegacyList.size(), 2u);
+  EXPECT_TRUE(end.saveAllLegacyList[0].parentsNames.empty());
+  EXPECT_EQ(end.saveAllLegacyList[1].parentsNames.size(), 2u);
+  EXPECT_EQ(end.myArtistsName, "Juno");
+  EXPECT_EQ(end.childAbandonmentEnergyLoss, 0) << "that was the first one's grief";
+  const std::vector<int64_t>& completed = end.AllCompletedAchievements;
+  EXPECT_EQ(std::count(completed.begin(), completed.end(), 307), 1);
+}
+
 /// What became of a chart row from one week to the next.
 struct ChartLife {
   bool climbed = false;

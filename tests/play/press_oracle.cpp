@@ -25,7 +25,7 @@ struct Difference {
   Meant meant;
   std::string_view why;
 };
-constexpr std::array<Difference, 28> differences = {{
+constexpr std::array<Difference, 30> differences = {{
     {"MusicViewController createSongButton", Meant::askedThere, "the way to where songs are made"},
     {"SongDetailViewController announceButton", Meant::askedThere, "the way to the composer"},
     {"TwitterProfileViewController goToCreateTwitterMessage", Meant::askedThere, "the way to the composer"},
@@ -53,6 +53,8 @@ constexpr std::array<Difference, 28> differences = {{
     {"RelationshipHomeViewController breakupConfirmed", Meant::mayTake, "the question names the settlement"},
     {"RelationshipHomeViewController signPrenup", Meant::mayTake, "the wedding costs, and the step to it does not"},
     {"RelationshipHomeViewController noPrenup", Meant::mayTake, "the same"},
+    {"AdoptionDetailViewController adoptButton", Meant::mayTake, "pays when the adoption is approved"},
+    {"TakeOverDetailViewController takeOverConfirmed", Meant::mayTake, "another life begins"},
     {"SettingsViewController restartConfirmed", Meant::mayTake, "another life begins"},
 }};
 

@@ -99,6 +99,8 @@ void furnish(GameState& state, OwnValues& own) {
   }
   Child child = own.record<Child>();
   child.typeOfRelationship = 1;
+  child.birthYear = state.yearNumber - 18;
+  child.birthWeekForTracking = state.weekNumberForTracking - 18 * 52;
   state.saveAllChildList.append(child);
   for (int64_t department = 0; department < 3; ++department) {
     Employee employee = own.record<Employee>();

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "core/keep_aside.h"
 #include "core/view_words.h"
-#include "shell/keep_aside.h"
 #include "shell/navigator.h"
 
 namespace backbeat {
@@ -20,6 +20,7 @@ std::string with(std::string_view verb, const std::string& name) { return std::s
 std::string pictureOf(SnapshotKind kind) {
   switch (kind) {
     case SnapshotKind::newYear: return "calendar";
+    case SnapshotKind::takeover: return "family";
     case SnapshotKind::import: return "box";
     case SnapshotKind::restart:
     case SnapshotKind::restore: break;
@@ -89,9 +90,9 @@ View RestoreViewController::view() const {
   view.add(std::move(rows));
   view.add(
       caption("These copies take " + roomOf(bytes) + " of " + std::to_string(snapshotBudget / 1'000'000) + " MB."));
-  view.add(
-      caption("Five each are kept of New Years, and of what was there before a restart, an import and a way back; and "
-              "of what you went back from, the furthest week of each career."));
+  view.add(caption(
+      "Five each are kept of New Years, and of what was there before a restart, a takeover, an import and a way "
+      "back; and of what you went back from, the furthest week of each career."));
   return view;
 }
 

@@ -3,11 +3,11 @@
 #include <array>
 
 #include "career/ledger.h"
+#include "core/keep_aside.h"
 #include "core/new_game.h"
 #include "core/view_words.h"
 #include "music/artist_name.h"
 #include "shell/export_reminder.h"
-#include "shell/keep_aside.h"
 #include "shell/navigator.h"
 
 namespace backbeat {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "shell/simulate/casual.h"
+#include "shell/simulate/dynast.h"
 #include "shell/simulate/idle.h"
 #include "shell/simulate/keen.h"
 #include "shell/simulate/mogul.h"
@@ -21,6 +22,7 @@ constexpr StrategyEntry all[] = {
     {"casual", "a job, a song every other month, a few traits", make<Casual>},
     {"keen", "a song every other week, albums, traits, studio, marketing, contracts, films, small tours, a shop",
      make<Keen>},
+    {"dynast", "keen, with a family: an heir is raised and goes on", make<Dynast>},
     {"mogul", "keen, and everything that money buys", make<Mogul>},
 };
 

@@ -279,7 +279,7 @@ Outcome WeeklySummaryViewController::answerRatingOffer(int64_t answer) {
 }
 
 Outcome WeeklySummaryViewController::closeButton() {
-  Outcome outcome = runChildrenAnnualEvents(game_);
+  Outcome outcome = weeklyChildUpdate(game_);
   outcome += closeScreen();
   return outcome;
 }

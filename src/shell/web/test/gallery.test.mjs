@@ -148,6 +148,30 @@ test("a portrait suits its name, and a name keeps its skin through life", async 
   await context.close();
 });
 
+test("brothers and sisters take after the same kin, and each stays who it is", async () => {
+  const { page, context, faults } = await stage.open();
+  const drawn = await page.evaluate(() => {
+    const { portrait } = window.stage;
+    const skinOf = (named) => /fill="(#\w+)"/.exec(portrait(named))[1];
+    const colours = (kin, family) =>
+      ["baby:1 0 80", "girl:2 1 71", "teenBoy:3 0 66", "woman:4 1 90", "oldMan:5 0 88"].map((own) =>
+        skinOf(`${own}\n${kin}\n${family}`),
+      );
+    const kins = ["Nova Theo", "Mara Voss Ines", "Juno", "Otis Wren"];
+    return {
+      light: kins.map((kin) => colours(kin, "light")),
+      dark: kins.map((kin) => colours(kin, "dark")),
+      faces: new Set(["1 0 80", "2 0 71", "3 0 66"].map((own) => portrait(`boy:${own}\nNova Theo\nlight`))).size,
+    };
+  });
+  for (const family of [...drawn.light, ...drawn.dark]) assert.equal(new Set(family).size, 1, String(family));
+  const shared = drawn.light.flat().filter((skin) => drawn.dark.flat().includes(skin));
+  assert.deepEqual(shared, []);
+  assert.equal(drawn.faces, 3);
+  assert.deepEqual(faults, []);
+  await context.close();
+});
+
 test("pictures come after the screen, with who is seen in them", async () => {
   const { page, context, faults } = await stage.open();
   const item = (kind, name) => ({ picture: { kind, name }, title: name.split("\n")[0] });

@@ -1,5 +1,6 @@
 import { createAvatar } from "@dicebear/core";
 import * as peeps from "@dicebear/open-peeps";
+import { drawsOf, pick } from "./chance";
 import { presentationOf, type Presentation } from "./people";
 
 type Look = Parameters<typeof createAvatar<peeps.Options>>[1];
@@ -82,6 +83,22 @@ const looks: Record<string, (name: string) => Look> = {
 
 export const portraitForms: readonly string[] = Object.keys(looks);
 
+const skins: Record<string, string[]> = { light: ["ffdbb4", "edb98a", "d08b5b"], dark: ["ae5d29", "694d3d"] };
+const hair = ["2c1b18", "4a312c", "724133", "a55728", "b58143", "d6b370", "c93305"];
+const darkHair = ["2c1b18", "4a312c"];
+
+/** Who takes after kin says so in three lines, as in "girl:Ada\nNova Theo\nlight": brothers and sisters share skin and hair. */
+function inherited(name: string): Look {
+  const [, kin = "", family = ""] = name.split("\n");
+  const tone = family.split(" ", 1)[0]!;
+  if (!Object.hasOwn(skins, tone)) return {};
+  const draw = drawsOf(`kin of ${kin}`);
+  return {
+    skinColor: [pick(skins[tone]!, draw)],
+    headContrastColor: [pick(tone === "dark" ? darkHair : hair, draw)],
+  };
+}
+
 /** A portrait as an SVG text, cut out: it follows from the name alone, or from "form:name". */
 export function portrait(named: string): string {
   const colon = named.indexOf(":");
@@ -89,5 +106,6 @@ export function portrait(named: string): string {
   const asked = Object.hasOwn(looks, form);
   const name = asked ? named.slice(colon + 1) : named;
   const look = asked ? looks[form]!(name) : adult(presentationOf(name));
-  return createAvatar(peeps, { seed: name, maskProbability: 0, scale: 92, translateY: 4, ...look }).toString();
+  const kin = inherited(name);
+  return createAvatar(peeps, { seed: name, maskProbability: 0, scale: 92, translateY: 4, ...kin, ...look }).toString();
 }

@@ -1,4 +1,4 @@
-#include "shell/keep_aside.h"
+#include "core/keep_aside.h"
 
 namespace backbeat {
 

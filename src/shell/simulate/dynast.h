@@ -1,0 +1,17 @@
+// Works as keen does, and raises an heir who goes on when old enough.
+#pragma once
+
+#include "shell/simulate/keen.h"
+
+namespace backbeat {
+
+class Dynast final : public Strategy {
+ public:
+  void playWeek(Player& player, int64_t week) override;
+
+ private:
+  Keen work_;
+  int64_t firstWeek_ = 1;  ///< of the generation that plays
+};
+
+}  // namespace backbeat
