@@ -63,9 +63,8 @@ Standings portfolioFigures(Game& twin) {
 
 Standings motorsFigures(Game& twin) {
   const Transportation& boat = twin.state.saveAllTransportationOwnedList[0];
-  Standings standings = {{"poster", boat.title},
-                         {"poster: text", "Bought " + std::to_string(boat.yearPurchased) + " for $470,000"},
-                         {"poster: figure", "$423,000"},
+  Standings standings = {{boat.title, "$423,000"},
+                         {boat.title + ": subtitle", "Bought " + std::to_string(boat.yearPurchased) + " for $470,000"},
                          {"Lost in value", "-10.0%"},
                          {"Lost in value: note", "2.5% a year"},
                          {"Insurance", currency(boat.weeklyCost)},
