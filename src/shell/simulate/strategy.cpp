@@ -4,8 +4,10 @@
 
 #include "shell/simulate/casual.h"
 #include "shell/simulate/idle.h"
+#include "shell/simulate/investor.h"
 #include "shell/simulate/keen.h"
 #include "shell/simulate/mogul.h"
+#include "shell/simulate/owner.h"
 
 namespace backbeat {
 
@@ -21,6 +23,8 @@ constexpr StrategyEntry all[] = {
     {"casual", "a job, a song every other month, a few traits", make<Casual>},
     {"keen", "a song every other week, albums, traits, studio, marketing, contracts, films, small tours, a shop",
      make<Keen>},
+    {"owner", "keen, and homes and vehicles for what is left", make<Owner>},
+    {"investor", "keen, and a part in every startup that asks", make<Investor>},
     {"mogul", "keen, and everything that money buys", make<Mogul>},
 };
 
