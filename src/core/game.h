@@ -14,6 +14,7 @@
 #include "core/platform.h"
 #include "core/random.h"
 #include "core/save_file.h"
+#include "core/venture_memory.h"
 #include "core/week_rows.h"
 
 namespace backbeat {
@@ -71,6 +72,7 @@ struct Turn {
   int64_t lastPlaceChartPosition = 0;    ///< streams that enter the chart
   std::vector<int64_t> songsOnCharts;    ///< rank, streams, rank, streams ... of this week
   int64_t seatsSoldOnTourForMerch = 0;
+  std::vector<VentureWeek> ventures;  ///< of which the report has something to tell
 };
 
 /// The terms of a label's offer while it is on the table.
@@ -119,6 +121,7 @@ struct Launch {
   RunningTally<StreamWeeks> streamWeeks;
   LabelMemory label;  ///< what of its history is summed already
   Dating dating;
+  VentureMemory ventures;
   int64_t weddingWeek = 0;  ///< the absolute week of the last wedding
 };
 

@@ -125,9 +125,10 @@ struct Row {
 /// A grouped list. A long list is windowed: `items` are the rows from `from` of `total` in all, and a press of `id`
 /// with a row number as value moves the window there. A list with `total` 0 is whole.
 /// Styles. shelf: two columns, picture on top. strip: sideways. route: a rail of stops, `selected` is now, tone good is
-/// done, the badge is a stamp. films: a wide still at the left. wire: a glyph and a text, without a card.
+/// done, the badge is a stamp. films: a wide still at the left. wire: a glyph and a text, without a card. floor: one
+/// thing at a time on a lit floor, `selected` is the one that stands there, the others come by a swipe.
 struct Rows {
-  enum class Style { list, shelf, strip, route, films, wire };
+  enum class Style { list, shelf, strip, route, films, wire, floor };
   std::vector<Row> items = {};
   std::string id = {};
   int64_t total = 0;

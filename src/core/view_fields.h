@@ -20,7 +20,7 @@ template <>
 inline constexpr auto viewNames<Text::Style> = std::to_array<std::string_view>({"body", "caption", "lead"});
 template <>
 inline constexpr auto viewNames<Rows::Style> = std::to_array<std::string_view>({"list", "shelf", "strip", "route",
-                                                                                "films", "wire"});
+                                                                                "films", "wire", "floor"});
 template <>
 inline constexpr auto viewNames<Button::Style> = std::to_array<std::string_view>({"primary", "secondary",
                                                                                   "destructive"});

@@ -38,6 +38,32 @@ Chirp artistsChirp(Game& game, const std::string& message) {
   return chirp;
 }
 
+/// Who posts that is not the artist.
+struct Other {
+  int64_t artistId;
+  const std::string& name;
+  const std::string& imageString;
+  int64_t typeOfAccount;
+};
+
+void postForOther(Game& game, const Other& other, const std::string& message, double fewestReaders,
+                  double mostReaders) {
+  Chirp chirp = artistsChirp(game, message);
+  chirp.artistId = other.artistId;
+  chirp.artistName = other.name;
+  chirp.imageString = other.imageString;
+  chirp.typeOfAccount = other.typeOfAccount;
+  const double share = game.random.uniformDouble(0.05, 0.2);
+  const double likes = share * game.random.uniformDouble(fewestReaders, mostReaders);
+  const double comments = likes * game.random.uniformDouble(0.1, 0.5);
+  const double reChirps = likes * game.random.uniformDouble(0.1, 0.5);
+  chirp.likeCount = truncate(likes);
+  chirp.commentCount = truncate(comments);
+  chirp.reChirpCount = truncate(reChirps);
+  game.state.saveAllChirpList.insertFront(std::move(chirp));
+  game.save(&GameState::chirpId, &GameState::saveAllChirpList);
+}
+
 size_t positionOf(const GameState& state, int64_t id) {
   return state.saveAllChirpList.find([&](const Chirp& chirp) { return chirp.id == id; });
 }
@@ -96,20 +122,12 @@ void postChirpForArtist(Game& game, const std::string& message, int64_t audience
 
 void postChirpForPerson(Game& game, int64_t artistId, const std::string& name, const std::string& imageString,
                         const std::string& message) {
-  Chirp chirp = artistsChirp(game, message);
-  chirp.artistId = artistId;
-  chirp.artistName = name;
-  chirp.imageString = imageString;
-  chirp.typeOfAccount = account::person;
-  const double share = game.random.uniformDouble(0.05, 0.2);
-  const double likes = share * game.random.uniformDouble(100, 10'000);
-  const double comments = likes * game.random.uniformDouble(0.1, 0.5);
-  const double reChirps = likes * game.random.uniformDouble(0.1, 0.5);
-  chirp.likeCount = truncate(likes);
-  chirp.commentCount = truncate(comments);
-  chirp.reChirpCount = truncate(reChirps);
-  game.state.saveAllChirpList.insertFront(std::move(chirp));
-  game.save(&GameState::chirpId, &GameState::saveAllChirpList);
+  postForOther(game, {artistId, name, imageString, account::person}, message, 100, 10'000);
+}
+
+void postChirpForCompany(Game& game, int64_t artistId, const std::string& name, const std::string& imageString,
+                         const std::string& message) {
+  postForOther(game, {artistId, name, imageString, account::company}, message, 50'000, 5'000'000);
 }
 
 Outcome pinChirp(Game& game, int64_t id) {
@@ -159,7 +177,9 @@ std::vector<size_t> chirpsInOrder(const GameState& state) {
 
 Picture portraitOf(const GameState& state, const Chirp& chirp) {
   if (chirp.typeOfAccount == account::player) return artistPicture(state, chirp.artistName);
-  if (chirp.typeOfAccount == account::company) return icon("business");
+  if (chirp.typeOfAccount == account::company) {
+    return drawn(Picture::Kind::mark, chirp.imageString.substr(0, chirp.imageString.find('.')), chirp.artistName);
+  }
   // A partner keeps the face under another name.
   return person(chirp.artistId >= account::firstPartner ? chirp.imageString : chirp.artistName);
 }

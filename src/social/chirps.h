@@ -21,6 +21,7 @@ inline constexpr int64_t signedArtist = 1;
 inline constexpr int64_t company = 2;
 inline constexpr int64_t person = 3;
 
+inline constexpr int64_t firstCompany = 100'000;  ///< `Chirp::artistId` of a company: this and the company's own id
 inline constexpr int64_t firstPartner = 200'000;  ///< `Chirp::artistId` of a partner: this and the match's own id
 }  // namespace account
 
@@ -41,6 +42,9 @@ void postChirpForArtist(Game& game, const std::string& message, int64_t audience
 /// A post by somebody else; its counts are drawn after the message.
 void postChirpForPerson(Game& game, int64_t artistId, const std::string& name, const std::string& imageString,
                         const std::string& message);
+/// The same by a company, which many more read. `imageString` names its logo: "tones.png".
+void postChirpForCompany(Game& game, int64_t artistId, const std::string& name, const std::string& imageString,
+                         const std::string& message);
 
 /// Pinning one clears any other; it changes the order of display only.
 Outcome pinChirp(Game& game, int64_t id);

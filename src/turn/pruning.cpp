@@ -62,6 +62,7 @@ Outcome optimize(Game& game) {
 
 Outcome resetStartups(Game& game) {
   game.state.saveAllVentureInvestments.clear();
+  game.launch.ventures = {};  // what was offered for those stakes
   game.save(&GameState::saveAllVentureInvestments);
   return success();
 }

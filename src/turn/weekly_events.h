@@ -44,8 +44,7 @@ int64_t drawWeeklyEvent(Game& game, WeeklyEvents& events, EventButton& button);
 Outcome pressEventButton(Game& game, WeeklyEvents& events, EventButton& button);
 
 /// Runs option `id`. Without its energy or cash it is refused and nothing is paid; otherwise it is paid first and its
-/// reward drawn after. What leads to a door that is not open yet (a company's slides or its next round) makes its tests
-/// and then refuses before anything is paid.
+/// reward drawn after.
 Outcome resolveWeeklyEvent(Game& game, WeeklyEvents& events, int64_t id);
 
 /// The card of a button that is shown; `press` is the action of its press. Its price is the caption's, with what a

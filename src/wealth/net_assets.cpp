@@ -8,13 +8,17 @@ constexpr double yearlyDepreciation = -0.025;
 
 }  // namespace
 
+double estimateOf(const Venture& venture) {
+  if (venture.totalOutstandingShares == 0) return 0;
+  const double per100 =
+      static_cast<double>(venture.totalSharesOwned) / static_cast<double>(venture.totalOutstandingShares) * 100;
+  return per100 / 100 * static_cast<double>(venture.lastValuation);
+}
+
 double venturesValue(const GameState& state) {
   double sum = 0;
   for (const Venture& venture : state.saveAllVentureInvestments) {
-    if (venture.hasExited != 0 || venture.totalOutstandingShares == 0) continue;
-    const double per100 =
-        static_cast<double>(venture.totalSharesOwned) / static_cast<double>(venture.totalOutstandingShares) * 100;
-    sum += per100 / 100 * static_cast<double>(venture.lastValuation);
+    if (venture.hasExited == 0) sum += estimateOf(venture);
   }
   return sum;
 }

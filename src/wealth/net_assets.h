@@ -5,6 +5,8 @@
 
 namespace backbeat {
 
+/// What a stake is worth at the company's last valuation, in dollars, whether the company still runs or not.
+double estimateOf(const Venture& venture);
 /// The stakes in startups that have not exited, each at its last valuation, in dollars.
 double venturesValue(const GameState& state);
 

@@ -1,13 +1,19 @@
 #include "wealth/segues.h"
 
+#include <algorithm>
+
 #include "core/money.h"
 #include "wealth/net_assets.h"
 #include "wealth/news.h"
 #include "wealth/rich_list.h"
 #include "wealth/screens/forbes_detail_view_controller.h"
+#include "wealth/screens/investment_option_view_controller.h"
 #include "wealth/screens/property_listing_view_controller.h"
 #include "wealth/screens/property_portfolio_view_controller.h"
+#include "wealth/screens/sell_venture_shares_view_controller.h"
 #include "wealth/screens/transportation_options_view_controller.h"
+#include "wealth/screens/venture_portfolio_view_controller.h"
+#include "wealth/ventures.h"
 
 namespace backbeat {
 
@@ -21,6 +27,10 @@ constexpr Segue segues[] = {
      makeScreenWithId<PropertyPortfolioViewController>},
     {"goToTransportationOptions", "TransportationOptionsViewController", push,
      makeScreen<TransportationOptionsViewController>},
+    {"goToVenturePortfolio", "VenturePortfolioViewController", push, makeScreen<VenturePortfolioViewController>},
+    {"goToSellVentureShares", "SellVentureSharesViewController", push,
+     makeScreenWithId<SellVentureSharesViewController>},
+    {"goToVentureDeal", "InvestmentOptionViewController", modal, makeScreen<InvestmentOptionViewController>},
     {"goToForbesDetail", "ForbesDetailViewController", push, makeScreen<ForbesDetailViewController>},
 };
 
@@ -49,6 +59,14 @@ constexpr MenuLine motors(TabNumber tab, std::string_view section, int64_t order
           .describe = describeGarage};
 }
 
+void describeStartups(const Game& game, Row& row) {
+  const auto& ventures = game.state.saveAllVentureInvestments;
+  const auto running = std::count_if(ventures.begin(), ventures.end(), isRunning);
+  if (running == 0) return;
+  row.subtitle = std::to_string(running) + " running";
+  row.value = currency(venturesValue(game.state));
+}
+
 void describeRichList(const Game& game, Row& row) { row.value = worldRank(netAssets(game.state)); }
 
 constexpr MenuLine menu[] = {
@@ -69,6 +87,14 @@ constexpr MenuLine menu[] = {
      .segue = "goToPropertyPortfolio",
      .shown = ownsHomes,
      .describe = describePortfolio},
+    {.tab = businessTab,
+     .section = "Wealth",
+     .order = 340,
+     .icon = "rocket",
+     .title = "Startups",
+     .subtitle = "Parts of young companies",
+     .segue = "goToVenturePortfolio",
+     .describe = describeStartups},
     {.tab = businessTab,
      .section = "Wealth",
      .order = 390,

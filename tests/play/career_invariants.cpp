@@ -16,6 +16,8 @@
 #include "music/silence.h"
 #include "turn/income_statement.h"
 #include "video/weekly_views.h"
+#include "wealth/net_assets.h"
+#include "wealth/ventures.h"
 
 namespace backbeat {
 
@@ -126,9 +128,74 @@ std::string familyFault(const GameState& state) {
   return energy == state.childEnergyCost ? "" : "the children's energy is not the sum of what each takes";
 }
 
+/// Whether the parts of a startup add up: nobody has less than nothing, and all together no more than there is.
+std::string shareFault(const Venture& venture) {
+  const auto fault = [&](const char* what) { return venture.businessName + ": " + what; };
+  if (venture.totalSharesOwned < 0 || venture.totalSharesOwned > venture.totalOutstandingShares) {
+    return fault("more shares owned than there are");
+  }
+  if (venture.percentageOwned != 100 * venture.totalSharesOwned / venture.totalOutstandingShares) {
+    return fault("the part owned is not what the shares say");
+  }
+  int64_t sum = venture.percentageOwned + venture.percentageRemaining;
+  int64_t least = std::min(venture.percentageOwned, venture.percentageRemaining);
+  for (const int64_t percent : venture.shareholderPercentage) {
+    sum += percent;
+    least = std::min(least, percent);
+  }
+  if (least < 0 || sum > 100) return fault("the parts do not add up");
+  const size_t rounds = static_cast<size_t>(venture.currentFundingRound) + 1;
+  if (venture.fundingRoundHistory.size() != rounds || venture.shareholderName.size() != rounds ||
+      venture.shareholderPercentage.size() != rounds) {
+    return fault("not every round left its lead investor");
+  }
+  return {};
+}
+
+std::string ventureFault(const GameState& state) {
+  std::set<int64_t> companies;
+  for (const Venture& venture : state.saveAllVentureInvestments) {
+    if (!companies.insert(venture.businessId).second) return "two stakes in " + venture.businessName;
+    if (std::string found = shareFault(venture); !found.empty()) return found;
+  }
+  return {};
+}
+
+/// What the startups that ended since then have paid, in dollars.
+double exitsSince(const WeekBefore& before, const GameState& state) {
+  double sum = 0;
+  for (const Venture& venture : state.saveAllVentureInvestments) {
+    const bool paid = venture.hasExited == venture_exit::acquired || venture.hasExited == venture_exit::listed;
+    if (!paid || !before.running.contains(venture.businessId)) continue;
+    sum += static_cast<double>(venture.lastValuation) * static_cast<double>(venture.totalSharesOwned) /
+           static_cast<double>(venture.totalOutstandingShares);
+  }
+  return sum;
+}
+
+/// Whether the fortune is the sum of all that is owned.
+std::string fortuneFault(const GameState& state) {
+  double sum = state.totalCashAvailable;
+  for (const InvestmentProperty& home : state.saveAllInvestmentPropertyList) {
+    sum += home.pricePaid * (1 + state.realEstateIndex - home.realEstateIndex);
+  }
+  for (const Transportation& vehicle : state.saveAllTransportationOwnedList) {
+    sum += vehicle.pricePaid * (1 - 0.025 * static_cast<double>(state.yearNumber - vehicle.yearPurchased));
+  }
+  for (const Venture& venture : state.saveAllVentureInvestments) {
+    if (venture.hasExited != venture_exit::running) continue;
+    sum += static_cast<double>(venture.lastValuation) * static_cast<double>(venture.totalSharesOwned) /
+           static_cast<double>(venture.totalOutstandingShares);
+  }
+  const double told = netAssets(state);
+  return std::abs(told - sum) <= 1e-9 * std::abs(sum) + 0.01
+             ? ""
+             : "the fortune is " + currency(told) + " where all that is owned comes to " + currency(sum);
+}
+
 /// Whether the cash moved by what the income statement tells. The statement sums all streams though the best song alone
 /// is paid, and counts fees that were paid when they were agreed on. Merchandise is paid at the sale and once more.
-std::string cashFault(const GameState& state, double cashBefore) {
+std::string cashFault(const GameState& state, const WeekBefore& before) {
   const IncomeStatement told = incomeStatement(state);
   double standingIncome = 0;
   for (const WeeklyLineItem& item : state.saveAllWeeklyLineItems) standingIncome += item.isExpense ? 0 : item.amount;
@@ -138,8 +205,8 @@ std::string cashFault(const GameState& state, double cashBefore) {
     if (row.songListens > mostStreams) bestSong = row.totalStreamRevenue;
     mostStreams = std::max(mostStreams, row.songListens);
   }
-  const double expected = cashBefore + told.income() - told.streams + bestSong - told.flatFees + standingIncome +
-                          state.weeklyJobIncome - told.expenses() + told.merch;
+  const double expected = before.cash + exitsSince(before, state) + told.income() - told.streams + bestSong -
+                          told.flatFees + standingIncome + state.weeklyJobIncome - told.expenses() + told.merch;
   if (!(std::abs(state.totalCashAvailable - expected) <= 1e-9 * std::abs(expected) + 0.01)) {
     return "the cash is " + currency(state.totalCashAvailable) + " where the week's records say " + currency(expected);
   }
@@ -147,6 +214,15 @@ std::string cashFault(const GameState& state, double cashBefore) {
 }
 
 }  // namespace
+
+WeekBefore weekBefore(const GameState& state) {
+  WeekBefore before{
+      .tracking = state.weekNumberForTracking, .cash = state.totalCashAvailable, .underContract = state.underContract};
+  for (const Venture& venture : state.saveAllVentureInvestments) {
+    if (venture.hasExited == venture_exit::running) before.running.insert(venture.businessId);
+  }
+  return before;
+}
 
 std::string historyFault(const GameState& state) {
   std::string found;
@@ -193,6 +269,8 @@ std::string weekFault(const GameState& state, const WeekBefore& before) {
   if (state.totalEnergyAvailable < 0) return "the energy is below 0";
   if (std::string found = ledgerFault(state); !found.empty()) return found;
   if (std::string found = familyFault(state); !found.empty()) return found;
+  if (std::string found = ventureFault(state); !found.empty()) return found;
+  if (std::string found = fortuneFault(state); !found.empty()) return found;
   const bool advancePaidBack = before.underContract != state.underContract;  // a contract was not fulfilled in time
   const bool parted =
       std::any_of(state.saveAllMatchesList.begin(), state.saveAllMatchesList.end(),
@@ -202,7 +280,7 @@ std::string weekFault(const GameState& state, const WeekBefore& before) {
       std::any_of(state.saveAllChildList.begin(), state.saveAllChildList.end(),
                   [&](const Child& child) { return child.birthWeekForTracking == state.weekNumberForTracking; });
   const bool isTold = !advancePaidBack && !parted && !gaveBirth;
-  if (std::string found = cashFault(state, before.cash); !found.empty() && isTold) return found;
+  if (std::string found = cashFault(state, before); !found.empty() && isTold) return found;
   std::set<int64_t> ids;
   for (const Song& song : state.saveAllSongList) {
     if (!ids.insert(song.songId).second) return "two songs have the id " + std::to_string(song.songId);

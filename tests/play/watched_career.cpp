@@ -44,7 +44,7 @@ void WatchedCareer::launch(uint64_t seed) {
 }
 
 void WatchedCareer::play(const TraceEvent& event) {
-  week_ = {state().weekNumberForTracking, state().totalCashAvailable, state().underContract};
+  week_ = weekBefore(state());
   endingWeek_ = event.action.id == "endTheWeekButton";
   oracle_.before(shown(), state());
   career_.play(event);

@@ -104,6 +104,14 @@ void addLists(View& view) {
   view.add(
       Rows{.items = {{.picture = drawn(Kind::still, "neon", "Undertow"), .title = "Undertow", .subtitle = "4M views"}},
            .style = Rows::Style::films});
+  view.add(Rows{.items = {{.picture = drawn(Kind::object, "scooter", "Scooter"),
+                           .title = "Scooter",
+                           .subtitle = "Bought 2023 for $500",
+                           .value = "$450",
+                           .selected = true,
+                           .id = "own:7001"},
+                          {.picture = drawn(Kind::object, "sedan", "Sedan"), .title = "Sedan", .id = "own:7004"}},
+                .style = Rows::Style::floor});
   view.add(
       Rows{.items = {{.picture = icon("trend"), .title = "Rents go up in the old town."}}, .style = Rows::Style::wire});
   view.add(Table{

@@ -18,7 +18,6 @@ const RoomErrands errands({
     take("Annual Checkup"),
     take("America Has Talent"),
     take("Drop Shipping"),
-    take("Pitch Deck"),
     take("Go Fund You", "signed"),
     take("Sell Your Beats"),
     take("TikTak"),

@@ -93,6 +93,8 @@ Standings businessFigures(Game& twin) {
           {"International Realty", "", "goToPropertyListing"},
           {"Portfolio", currency(property), "goToPropertyPortfolio"},
           {"Portfolio: subtitle", "1 holding"},
+          {"Startups", currency(ventures), "goToVenturePortfolio"},
+          {"Startups: subtitle", "1 running"},
           {"Farbes", "Unranked", "goToForbesDetail"},
           {"Motors", currency(garage), "goToTransportationOptions"},
           {"Motors: subtitle", state.saveAllTransportationOwnedList[0].title}};

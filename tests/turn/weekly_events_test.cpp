@@ -242,8 +242,39 @@ TEST(WeeklyEvents, ThePortfolioAtThePressDecidesWhoAsks) {
   world.draw(world.events.buttonEvent2, 10);
   EXPECT_EQ(world.events.buttonEvent2.caption(), "Venture Raise 50");
   const GameState before = world.state;
-  EXPECT_EQ(only(world.take(10)).title, "🚪 Not Open Yet 🚪");
+  EXPECT_EQ(world.take(10).go->segue, "goToVentureDeal");
+  EXPECT_EQ(world.game.launch.ventures.ventureDealKind, 2);
+  EXPECT_EQ(world.game.launch.ventures.ventureDealIndex, 0);
   EXPECT_TRUE(world.state == before);
+}
+
+TEST(WeeklyEvents, APitchIsOfACompanyThatWasNeverBacked) {
+  GigWorld world;
+  world.state.totalEnergyAvailable = 100;
+  world.settle();
+  world.random.integerIs(0, 9, 6);
+  EXPECT_EQ(world.take(9).go->segue, "goToVentureDeal");
+  EXPECT_EQ(world.game.launch.ventures.ventureDealIndex, 6);
+  EXPECT_EQ(world.state.totalEnergyAvailable, 50);
+  world.expectSaved();
+
+  Venture held;
+  held.businessId = 1;
+  world.state.saveAllVentureInvestments.append(held);
+  world.settle();
+  for (int64_t i = 9; i >= 1; --i) world.random.integerIs(0, i, i);  // the shuffle leaves the order
+  world.take(9);
+  EXPECT_EQ(world.game.launch.ventures.ventureDealIndex, 1);
+  world.expectSaved();
+
+  world.state.totalEnergyAvailable = 60;
+  while (world.state.saveAllVentureInvestments.size() < 10) world.state.saveAllVentureInvestments.append(held);
+  world.settle();
+  EXPECT_EQ(only(world.take(9)).title, "Nothing of Interest");
+  EXPECT_EQ(world.state.totalEnergyAvailable, 60);
+  world.state.totalEnergyAvailable = 49;
+  world.settle();
+  EXPECT_EQ(only(world.take(9)).title, "Not Enough Energy") << "which is said first";
 }
 
 TEST(WeeklyEvents, TheLatestDrawSaysWhetherAFanOrAVerseWaits) {
@@ -276,8 +307,6 @@ TEST(WeeklyEvents, AFestivalLooksAtFansSongsAndEnergyInThatOrder) {
   EXPECT_EQ(only(world.take(15)).title, "Not Enough Energy");
   world.state.totalEnergyAvailable = 50;
   world.settle();
-  EXPECT_EQ(only(world.take(9)).title, "🚪 Not Open Yet 🚪");
-  EXPECT_EQ(world.state.totalEnergyAvailable, 50);
   EXPECT_EQ(world.take(15).go.value_or(Go{}).segue, "goToFestivalInvite");
   EXPECT_EQ(world.state.totalEnergyAvailable, 0);
 }

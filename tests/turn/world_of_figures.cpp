@@ -30,6 +30,13 @@ void furnishWealth(GameState& state, OwnValues& own) {
   venture.totalOutstandingShares = 80'000;
   venture.totalSharesOwned = 20'000;
   venture.lastValuation = 6'060'606;
+  venture.investmentAmount = 1'010'101;
+  venture.currentFundingRound = 2;
+  venture.timeUntilNextRaise = 3;
+  venture.weekSinceUpdate = state.weekNumberForTracking;  // no report looks at it yet
+  venture.news = {"SPROUT is on a roll.  up from $4.4M 🔼🎉"};
+  venture.businessName = "Sprout";
+  venture.businessId = 83;
   state.saveAllVentureInvestments.append(venture);
 }
 

@@ -1,5 +1,6 @@
 #include "wealth/builders.h"
 
+#include "wealth/company_catalogue.h"
 #include "wealth/garage.h"
 #include "wealth/real_estate.h"
 
@@ -54,6 +55,39 @@ void ownVehicle(GameState& state, int64_t id, int64_t year) {
   state.saveAllTransportationOwnedList.append(vehicle);
   state.totalEnergyMax += option.energyBonus;
   addEntry(state, "Transportation Insurance", option.weeklyInsuranceCost, insuranceCode(id), year);
+}
+
+Venture stakeIn(const GameState& state, int64_t businessId, int64_t round) {
+  const Company& company = *companyWithId(businessId);
+  Venture venture;
+  venture.businessId = businessId;
+  venture.businessName = company.businessName;
+  venture.businessTagline = company.businessTagline;
+  venture.businessDescription = company.businessDescription;
+  venture.businessImage = company.businessImage;
+  venture.currentFundingRound = round;
+  venture.lastValuation = company.initialValuation;
+  venture.totalOutstandingShares = company.totalShares;
+  venture.totalSharesOwned = company.totalShares / 10;
+  venture.investmentAmount = static_cast<double>(company.initialValuation) / 10;
+  venture.percentageRemaining = 85;
+  venture.fundingRoundHistory = {company.initialValuation * 15 / 100};
+  venture.shareholderName = {"Walt & Sons"};
+  venture.shareholderPercentage = {5};
+  for (int64_t later = 1; later <= round; ++later) {  // each issues a quarter of the shares anew
+    venture.totalOutstandingShares += venture.totalOutstandingShares / 4;
+    venture.percentageRemaining = venture.percentageRemaining * 4 / 5;
+    for (int64_t& percent : venture.shareholderPercentage) percent = percent * 4 / 5;
+    venture.fundingRoundHistory.push_back(venture.lastValuation / 4);
+    venture.shareholderName.emplace_back("Theel Investments");
+    venture.shareholderPercentage.push_back(20);
+    venture.lastValuation += venture.lastValuation / 2;
+  }
+  venture.percentageOwned = 100 * venture.totalSharesOwned / venture.totalOutstandingShares;
+  venture.weekSinceUpdate = state.weekNumberForTracking - 30;
+  venture.timeUntilNextRaise = round < 3 ? 1 : -1;
+  venture.news = {venture.businessName + ": " + venture.shareholderName.back() + " entered a 20% position for $1.0M"};
+  return venture;
 }
 
 }  // namespace backbeat

@@ -1,4 +1,4 @@
-// Homes and vehicles for a test, with their entries in the ledger.
+// Homes and vehicles for a test, with their entries in the ledger, and parts of startups.
 #pragma once
 
 #include <cstdint>
@@ -12,5 +12,9 @@ void ownHome(GameState& state, int64_t propertyId, double index, int64_t year);
 
 /// The vehicle of that id, bought in a year; its bonus lifts the energy ceiling.
 void ownVehicle(GameState& state, int64_t id, int64_t year);
+
+/// A part of the startup of that id, whose rounds up to `round` are over, a week before the next one is due: a tenth of
+/// its shares bought at first, and what later rounds left of that.
+Venture stakeIn(const GameState& state, int64_t businessId, int64_t round);
 
 }  // namespace backbeat

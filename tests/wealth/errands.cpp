@@ -3,7 +3,38 @@
 namespace backbeat {
 namespace {
 
+constexpr int64_t wait = 300;  // weeks: each chance comes by itself long before
+
 const RoomErrands errands({
+    {"back a startup for half of what it offers",
+     {"rich"},
+     {{"Pitch Deck"},
+      {"stake", "1"},
+      {"investButton"},
+      {"🚀 You're In 🚀"},
+      {"Business"},
+      {"goToVenturePortfolio"},
+      {"goToSellVentureShares"},
+      {"declineButton"},
+      {"findBuyerButton"},
+      {"💼 No Interest 💼"}},
+     wait},
+    {"let a pitch pass", {"rich"}, {{"Pitch Deck"}, {"passButton"}}, wait},
+    {"be too poor for a round",
+     {"poor investor"},
+     {{"Venture Raise"}, {"investButton"}, {"💰 Not Enough Cash 💰"}, {"passButton"}, {"🚪 Round Closed 🚪"}},
+     wait},
+    {"have seen every deck", {"ten startups"}, {{"Pitch Deck"}, {"Nothing of Interest"}}, wait},
+    {"follow on", {"ten startups"}, {{"Venture Raise"}, {"investButton"}, {"🚀 You're In 🚀"}}, wait},
+    {"sell a part of a startup",
+     {"ten startups"},
+     {{"Business"},
+      {"goToVenturePortfolio"},
+      {"goToSellVentureShares:5"},
+      {"acceptButton"},
+      {"🤝 Stake Sold 🤝"},
+      {"findBuyerButton"},
+      {"💼 No Interest 💼"}}},
     {"buy a home and sell it again",
      {"house hunter"},
      {{"Business"},

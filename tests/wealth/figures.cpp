@@ -5,7 +5,10 @@
 #include "wealth/career_records.h"
 #include "wealth/property_catalogue.h"
 #include "wealth/rich_list.h"
+#include "wealth/screens/venture_words.h"
 #include "wealth/vehicle_catalogue.h"
+#include "wealth/venture_rounds.h"
+#include "wealth/venture_sale.h"
 
 namespace backbeat {
 
@@ -63,9 +66,8 @@ Standings portfolioFigures(Game& twin) {
 
 Standings motorsFigures(Game& twin) {
   const Transportation& boat = twin.state.saveAllTransportationOwnedList[0];
-  Standings standings = {{"poster", boat.title},
-                         {"poster: text", "Bought " + std::to_string(boat.yearPurchased) + " for $470,000"},
-                         {"poster: figure", "$423,000"},
+  Standings standings = {{boat.title, "$423,000"},
+                         {boat.title + ": subtitle", "Bought " + std::to_string(boat.yearPurchased) + " for $470,000"},
                          {"Lost in value", "-10.0%"},
                          {"Lost in value: note", "2.5% a year"},
                          {"Insurance", currency(boat.weeklyCost)},
@@ -106,11 +108,80 @@ Standings richListFigures(Game& twin) {
   return standings;
 }
 
+Standings startupsFigures(Game& twin) {
+  const Venture& sprout = twin.state.saveAllVentureInvestments[0];
+  const std::string percent = std::to_string(sprout.percentageOwned) + "%";
+  return {{"Worth today", "$1,515,152"},
+          {"Worth today: note", "+$505,050 on $1,010,101 put in"},
+          {"Sprout: share", shareText(1)},
+          {"SPROUT: subtitle", "is on a roll.  up from $4.4M 🔼🎉"},
+          {"heading", "News"},
+          {"heading", "Holdings · 1 running"},
+          {"Sprout", "$1.5M", "goToSellVentureShares 83"},
+          {"Sprout: subtitle", "Series B · " + percent},
+          {"Sprout: note", "+50%"},
+          {"Sprout: points", pointsText({1'010'101, 6'060'606 / 4.0})}};
+}
+
+Standings stakeFigures(Game& twin) {
+  const Venture& sprout = twin.state.saveAllVentureInvestments[0];
+  const std::string percent = std::to_string(sprout.percentageOwned) + "%";
+  const double rate = buyBackRate(twin.random.integer(0, 100));
+  const double offer = 6'060'606 / 4.0 * rate;
+  return {{"cover: badge", "Series B"},
+          {"You: share", shareText(1)},
+          {"Not sold: share", shareText(1)},
+          {"cover: text", sprout.businessTagline + " and most recently was valued at $6.0M"},
+          {"Your part", percent},
+          {"Your part: note", "20,000 shares"},
+          {"Put in", "$1.0M"},
+          {"Worth", "$1.5M"},
+          {"Worth: note", "+50%"},
+          {"The offer", currency(offer)},
+          {"The offer: note", gainText((offer - 1'010'101) / 1'010'101 * 100) + " on what you put in"},
+          {"text",
+           "Sprout is operating as a private growth company so your stake can only be sold to other internal "
+           "shareholders until it is bought or goes public.\n\n20,000 shares (" +
+               percent + ")\n\nSprout is interested at buying back your stake at a" +
+               withDecimals((1 - rate) * 100, 0) + "% discount."},
+          {"text", sprout.businessDescription},
+          {"You", percent},
+          {"Not sold", std::to_string(sprout.percentageRemaining) + "%"},
+          {"SPROUT: subtitle", "is on a roll.  up from $4.4M 🔼🎉"}};
+}
+
+void pitchTheRockets(Game& game) { game.launch.ventures.ventureDealIndex = 2; }
+
+Standings dealFigures(Game& twin) {
+  const FundingOffer offer = drawPitch(twin.random, companies[2]);
+  const std::string percent = std::to_string(offer.percent);
+  const std::string whole = withCommas(100'000 * offer.percent) + " shares (" + percent + "% stake in Space Alpha)";
+  const int64_t half = offer.percent / 2;
+  const std::string part = withCommas(100'000 * half) + " shares (" + std::to_string(half) + "% stake in Space Alpha)";
+  return {{"cover: badge", "Seed"},
+          {"text", std::string(companies[2].businessDescription)},
+          {"text",
+           "The round values Space Alpha at $45,000,000. Your money comes back when it is bought or goes public, "
+           "and that is after Series C."},
+          {"Your part of the round", whole + " • Fully Funded"},
+          {"Your part of the round", part},
+          {"Your part of the round: " + whole + " • Fully Funded: note",
+           currency(450'000.0 * static_cast<double>(offer.percent))},
+          {"Your part of the round: " + part + ": note", currency(450'000.0 * static_cast<double>(half))},
+          {"You would own", percent + ".0%"},
+          {"Worth at this price", abbreviatedDollars(450'000.0 * static_cast<double>(offer.percent))},
+          {"Pays above", "$45.0M"},
+          {"Invest: price", currency(450'000.0 * static_cast<double>(offer.percent))}};
+}
+
 std::vector<ScreenFigures> screens() {
   return {
       {.segue = "goToPropertyListing", .figures = marketFigures},
       {.segue = "goToPropertyPortfolio", .figures = portfolioFigures},
       {.segue = "goToTransportationOptions", .figures = motorsFigures},
+      {.segue = "goToVenturePortfolio", .figures = startupsFigures},
+      {.segue = "goToSellVentureShares", .argument = "83", .figures = stakeFigures},
+      {.segue = "goToVentureDeal", .figures = dealFigures, .before = pitchTheRockets},
       {.segue = "goToForbesDetail", .figures = richListFigures},
   };
 }

@@ -6,6 +6,7 @@
 #include "wealth/builders.h"
 #include "wealth/property_catalogue.h"
 #include "wealth/vehicle_catalogue.h"
+#include "wealth/ventures.h"
 
 namespace backbeat {
 namespace {
@@ -77,11 +78,50 @@ void fullGarage(GameState& state) {
   }
 }
 
+void addStake(GameState& state, int64_t businessId, int64_t round, int64_t hasExited = venture_exit::running) {
+  Venture venture = stakeIn(state, businessId, round);
+  venture.hasExited = hasExited;
+  if (hasExited != venture_exit::running) venture.timeUntilNextRaise = -1;
+  if (hasExited == venture_exit::listed) venture.publicSharePrice = 41.5;
+  state.saveAllVentureInvestments.append(venture);
+}
+
+/// A part of every startup that there is: each round, each way to end, and one that is about to go under.
+void tenStartups(GameState& state) {
+  prosper(state, 500, 30'000'000);
+  addStake(state, 1, 0);
+  addStake(state, 2, 1);
+  addStake(state, 3, 2);
+  addStake(state, 4, 3);
+  addStake(state, 5, 3);
+  addStake(state, 6, 0);
+  addStake(state, 7, 3, venture_exit::acquired);
+  addStake(state, 8, 3, venture_exit::listed);
+  addStake(state, 9, 1, venture_exit::bankrupt);
+  addStake(state, 10, 2, venture_exit::soldPrivately);
+  state.saveAllVentureInvestments.update(1, [](Venture& doomed) { doomed.lastValuation = 990'000; });
+  state.saveAllVentureInvestments.update(5, [](Venture& wanted) { wanted.timeUntilNextRaise = 0; });
+  state.saveAllVentureInvestments.update(4, [](Venture& soaring) {
+    soaring.lastValuation *= 4;
+    soaring.news.emplace_back("KLOWN is on a roll.  up from $13.5M 🔼🎉");
+  });
+  state.biggestExit = 2'400'000;
+}
+
+/// Whose only startup looks for money, and who has none.
+void poorInvestor(GameState& state) {
+  prosper(state, 200, 900);
+  addStake(state, 4, 0);
+  state.saveAllVentureInvestments.update(0, [](Venture& venture) { venture.timeUntilNextRaise = 0; });
+}
+
 const RoomWorlds worlds({{"landlord", landlord},
                          {"landlord in a slump", landlordInASlump},
                          {"house hunter", houseHunter},
                          {"weary owner", wearyOwner},
-                         {"full garage", fullGarage}});
+                         {"full garage", fullGarage},
+                         {"ten startups", tenStartups},
+                         {"poor investor", poorInvestor}});
 
 }  // namespace
 }  // namespace backbeat

@@ -5,6 +5,7 @@
 #include "career/studio.h"
 #include "music/chart.h"
 #include "wealth/net_assets.h"
+#include "wealth/ventures.h"
 
 namespace backbeat {
 
@@ -33,6 +34,17 @@ void countTheRest(const GameState& state, CareerYear& row) {
   for (const WeeklyTourSales& show : state.saveAllWeeklyTourSales) row.touring += show.tourRevenue;
   row.products = static_cast<int64_t>(state.saveAllMerchReleasedList.size());
   for (const Merch& product : state.saveAllMerchReleasedList) row.merch += product.totalRevenue - product.totalCost;
+}
+
+void countAssets(const GameState& state, CareerYear& row) {
+  row.homes = propertiesValue(state);
+  for (const InvestmentProperty& home : state.saveAllInvestmentPropertyList) row.homesPaid += home.pricePaid;
+  row.garage = transportationValue(state);
+  for (const Transportation& vehicle : state.saveAllTransportationOwnedList) row.garagePaid += vehicle.pricePaid;
+  for (const Venture& venture : state.saveAllVentureInvestments) {
+    if (venture.hasExited != venture_exit::bankrupt) row.ventures += estimateOf(venture);
+    row.venturesPaid += venture.investmentAmount;
+  }
 }
 
 }  // namespace
@@ -65,6 +77,7 @@ CareerYear careerYear(const GameState& state, int64_t year) {
   row.studio = studioRating(state);
   countMusic(state, row);
   countTheRest(state, row);
+  countAssets(state, row);
   return row;
 }
 

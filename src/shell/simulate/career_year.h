@@ -26,10 +26,16 @@ struct CareerYear {
   int64_t bestRank = 0;    ///< 0 when none did
   int64_t weeksAtOne = 0;  ///< of all own songs together
   int64_t videos = 0;
-  int64_t shows = 0;          ///< played on tours
-  int64_t products = 0;       ///< ever on the shelf
-  double touring = 0;         ///< dollars, after what labels took
-  double merch = 0;           ///< dollars of sales less orders and fees
+  int64_t shows = 0;     ///< played on tours
+  int64_t products = 0;  ///< ever on the shelf
+  double touring = 0;    ///< dollars, after what labels took
+  double merch = 0;      ///< dollars of sales less orders and fees
+  double homes = 0;      ///< dollars that those owned would bring, and what was paid for them
+  double homesPaid = 0;
+  double garage = 0;  ///< the same of vehicles
+  double garagePaid = 0;
+  double ventures = 0;  ///< the same of stakes in startups; what ended counts with what it brought
+  double venturesPaid = 0;
   int64_t underContract = 0;  ///< 1 while a label's contract runs
   int64_t energyCeiling = 0;
   int64_t songWriting = 0;
@@ -49,7 +55,7 @@ struct Column {
   std::string text(const CareerYear& row) const;  ///< dollars with cents
 };
 
-inline constexpr std::array<Column, 25> columns = {{
+inline constexpr std::array<Column, 31> columns = {{
     {"year", &CareerYear::year},
     {"cash", &CareerYear::cash},
     {"net_assets", &CareerYear::netAssets},
@@ -67,6 +73,12 @@ inline constexpr std::array<Column, 25> columns = {{
     {"products", &CareerYear::products},
     {"touring", &CareerYear::touring},
     {"merch", &CareerYear::merch},
+    {"homes", &CareerYear::homes},
+    {"homes_paid", &CareerYear::homesPaid},
+    {"garage", &CareerYear::garage},
+    {"garage_paid", &CareerYear::garagePaid},
+    {"ventures", &CareerYear::ventures},
+    {"ventures_paid", &CareerYear::venturesPaid},
     {"under_contract", &CareerYear::underContract},
     {"energy_ceiling", &CareerYear::energyCeiling},
     {"songwriting", &CareerYear::songWriting},

@@ -81,14 +81,36 @@ void Player::playFestival() {
   press("acceptFestival");
 }
 
+bool Player::isPitch(std::string_view chance) {
+  for (const Card& card : blocksOf<Card>(view())) {
+    for (const Button& button : card.buttons) {
+      if (button.id == chance && button.label == "Pitch Deck") return true;
+    }
+  }
+  return false;
+}
+
+void Player::answerFounders() {
+  if (seen().screen != "InvestmentOptionViewController") return;
+  const double budget = state().totalCashAvailable * shareForARound_;
+  for (const char* part : {"0", "1"}) {
+    tryPress("stake", part);
+    const auto price = view().mainAction->price;
+    if (price && price->dollars <= budget && tryPress("investButton")) return settle();
+  }
+  press("passButton");
+  settle();
+}
+
 void Player::endTheWeek(bool takesChances) {
   backToRoot();
   const int64_t week = state().weekNumberForTracking;
   act("nav", {"endTheWeekButton", ""});
   settle();
   for (const char* chance : {"eventButton1", "eventButton2", "eventButton3"}) {
-    if (!takesChances || !tryPress(chance)) continue;
+    if (!takesChances || (shareForARound_ <= 0 && isPitch(chance)) || !tryPress(chance)) continue;
     settle();
+    answerFounders();
     if (tryPress("acceptButton")) settle();  // of an offer that the chance led to
     playFestival();
   }

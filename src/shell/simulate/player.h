@@ -43,6 +43,9 @@ class Player {
   /// Ends the week from the root of the tab and reads the report; the chances it offers are taken when `takesChances`.
   void endTheWeek(bool takesChances = false);
 
+  /// From now on hears pitches among the chances, and joins rounds that cost at most that share of the cash.
+  void backStartups(double shareOfCash) { shareForARound_ = shareOfCash; }
+
   /// Has every turn tell `observer` of its steps.
   void observeTurns(StepObserver observer) { career_.session().observeTurns(std::move(observer)); }
 
@@ -50,6 +53,10 @@ class Player {
   void backToRoot();
   /// Accepts an invitation to a festival, when one is on the glass, with the best songs.
   void playFestival();
+  /// Whether that chance shows slides: who has no money for founders keeps the energy.
+  bool isPitch(std::string_view chance);
+  /// Takes the larger part of a round that there is money for, when one is on the glass, or none.
+  void answerFounders();
   void act(const std::string& screenKey, const Action& action);
 
   NullStore keepsNothing_;
@@ -58,6 +65,7 @@ class Player {
   std::vector<std::string> lines_;
   TraceRecorder career_;
   std::optional<Shown> seen_;
+  double shareForARound_ = 0;
   std::vector<std::string>& problems_;
 };
 

@@ -5,8 +5,10 @@
 #include "shell/simulate/casual.h"
 #include "shell/simulate/dynast.h"
 #include "shell/simulate/idle.h"
+#include "shell/simulate/investor.h"
 #include "shell/simulate/keen.h"
 #include "shell/simulate/mogul.h"
+#include "shell/simulate/owner.h"
 
 namespace backbeat {
 
@@ -23,6 +25,8 @@ constexpr StrategyEntry all[] = {
     {"keen", "a song every other week, albums, traits, studio, marketing, contracts, films, small tours, a shop",
      make<Keen>},
     {"dynast", "keen, with a family: an heir is raised and goes on", make<Dynast>},
+    {"owner", "keen, and homes and vehicles for what is left", make<Owner>},
+    {"investor", "keen, and a part in every startup that asks", make<Investor>},
     {"mogul", "keen, and everything that money buys", make<Mogul>},
 };
 

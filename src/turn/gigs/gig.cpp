@@ -16,7 +16,6 @@ Outcome takeGig(Game& game, WeeklyEvents& events, const Gig& gig) {
   const Price cost = gigCost(gig, game.state, events);
   if (!hasEnergy(game.state, cost)) return noEnergy<"Not Enough Energy">(gig.refusal);
   if (gig.dollars && !hasCash(game.state, cost)) return noCash<"Not Enough Cash">(gig.refusal);
-  if (gig.notOpenYet) return notOpenYet(gig.notOpenYet);
   pay(game, cost);
   Outcome outcome = gig.effect(game, events);
   stateChanged(game);

@@ -17,7 +17,6 @@ struct Gig {
   Price price = {};                                                    ///< of what asks for energy
   double (*dollars)(const GameState&, const WeeklyEvents&) = nullptr;  ///< of what asks for cash, as things stand
   const char* refusal = "";                                            ///< said when energy or cash does not reach
-  const char* notOpenYet = nullptr;                                    ///< the door behind it does not exist, and why
   void (*draw)(Game&, WeeklyEvents&) = nullptr;                        ///< what its button draws when it is offered
   Outcome (*guard)(Game&, WeeklyEvents&) = nullptr;                    ///< what is looked at before the price
   Outcome (*effect)(Game&, const WeeklyEvents&) = nullptr;             ///< what comes of it, once it is paid

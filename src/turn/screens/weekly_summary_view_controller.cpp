@@ -24,6 +24,7 @@
 #include "social/screens/chirp_post.h"
 #include "turn/screens/money_figures.h"
 #include "turn/week_story.h"
+#include "wealth/screens/venture_report.h"
 #include "wealth/weekly_ventures.h"
 
 namespace backbeat {
@@ -44,7 +45,8 @@ void addExpense(Figures& figures, std::string label, double amount) {
   if (amount != 0) figures.items.push_back(dollars(std::move(label), -amount, Tone::bad));
 }
 
-Figures incomeOf(const WeeklyReport& report) {
+/// `exits`: what startups paid when they were sold or listed, after the settlement.
+Figures incomeOf(const WeeklyReport& report, double exits) {
   Figures income{.title = "Income"};
   const std::string top = report.weeklySongListens.empty() ? "" : report.weeklySongListens.front().songTitle;
   addIncome(income, "Streams", report.streams, top);
@@ -57,6 +59,7 @@ Figures incomeOf(const WeeklyReport& report) {
   addIncome(income, "My label", report.label);
   addIncome(income, "Job", report.job);
   addIncome(income, "Standing income", report.standingIncome);
+  addIncome(income, "Startups", exits);
   income.total = totalOf("Total revenue", income.items);
   return income;
 }
@@ -214,7 +217,9 @@ Outcome WeeklySummaryViewController::open() {
   settleWeeklyCash(game_, report_);
   updateVentureValuations(game_);
   drawWeeklyEventCount(game_, events_);
+  const double cashBeforeExits = state().totalCashAvailable;
   resolveVentureExits(game_);
+  exits_ = state().totalCashAvailable - cashBeforeExits;
   updateEmployeesWeekly(game_);
   updateSignedArtistsWeekly(game_);
   awardShow_ = showAwardButton(state());
@@ -372,6 +377,10 @@ void WeeklySummaryViewController::describeMusic(View& view) const {
     view.add(Heading{"ON STAGE"});
     view.add(std::move(shows));
   }
+  if (Rows startups = startupsOfWeek(game_); !startups.items.empty()) {
+    view.add(Heading{"STARTUPS"});
+    view.add(std::move(startups));
+  }
 }
 
 View WeeklySummaryViewController::view() const {
@@ -386,10 +395,10 @@ View WeeklySummaryViewController::view() const {
   } else {
     view.add(Text{.text = story_, .style = Text::Style::lead});
   }
-  Figures income = incomeOf(report_);
+  Figures income = incomeOf(report_, exits_);
   Figures expenses = expensesOf(report_, settlement_);
   const double net = income.total->amount + expenses.total->amount;
-  const double cashAfter = cashBefore_ + report_.totalRevenue - costOf(report_) - settlement_;
+  const double cashAfter = cashBefore_ + report_.totalRevenue + exits_ - costOf(report_) - settlement_;
   const int64_t change = game_.launch.weeklyFanChange;
   const std::string ofNet =
       report_.weeklyTourSales.empty() ? "cash " + currency(cashAfter) : "show " + currency(report_.tour);

@@ -54,6 +54,7 @@ class WeeklySummaryViewController final : public Screen {
   WeeklyEvents events_;
   AwardShow awardShow_ = AwardShow::none;
   double cashBefore_ = 0;
+  double exits_ = 0;       // what startups paid in this report, in dollars
   double settlement_ = 0;  // what a divorce in this report took, in dollars
   bool hasAppeared_ = false;
 };

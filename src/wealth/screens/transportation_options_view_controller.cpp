@@ -1,7 +1,6 @@
 #include "wealth/screens/transportation_options_view_controller.h"
 
 #include "core/money.h"
-#include "core/short_money.h"
 #include "core/view_words.h"
 #include "wealth/garage.h"
 #include "wealth/net_assets.h"
@@ -46,8 +45,8 @@ Outcome TransportationOptionsViewController::act(const Action& action) {
 View TransportationOptionsViewController::view() const {
   View view{.title = "Motors", .theme = Theme::estate};
   if (const Transportation* vehicle = shown()) {
+    describeFloor(view, *vehicle);
     describeOwn(view, *vehicle);
-    describeOthers(view, *vehicle);
     view.mainAction =
         Button{.id = "sellButton", .label = "Sell the " + vehicle->title, .price = costOfSale(state(), *vehicle)};
   } else {
@@ -63,12 +62,7 @@ View TransportationOptionsViewController::view() const {
 }
 
 void TransportationOptionsViewController::describeOwn(View& view, const Transportation& vehicle) const {
-  const double value = estimateOf(state(), vehicle);
   const double lost = static_cast<double>(state().yearNumber - vehicle.yearPurchased) * 2.5;
-  view.add(Poster{.pictures = {vehiclePicture(vehicle.id, vehicle.title)},
-                  .title = vehicle.title,
-                  .text = "Bought " + std::to_string(vehicle.yearPurchased) + " for " + currency(vehicle.pricePaid),
-                  .figure = currency(value)});
   view.add(Tiles{{{.label = "Lost in value",
                    .value = (lost > 0 ? "-" : "") + withDecimals(lost, 1) + "%",
                    .note = "2.5% a year",
@@ -79,20 +73,18 @@ void TransportationOptionsViewController::describeOwn(View& view, const Transpor
                    .note = "in all: +" + std::to_string(garageEnergy(state()))}}});
 }
 
-void TransportationOptionsViewController::describeOthers(View& view, const Transportation& vehicle) const {
-  const auto& owned = state().saveAllTransportationOwnedList;
-  if (owned.size() < 2) return;
-  view.add(Heading{"GARAGE"});
-  Rows others{.style = Rows::Style::strip};
-  for (const Transportation& other : owned) {
-    if (&other == &vehicle) continue;
-    others.items.push_back({.picture = vehiclePicture(other.id, other.title),
-                            .title = other.title,
-                            .subtitle = "Bought " + std::to_string(other.yearPurchased),
-                            .value = abbreviatedDollars(estimateOf(state(), other)),
-                            .id = "own:" + std::to_string(other.id)});
+void TransportationOptionsViewController::describeFloor(View& view, const Transportation& vehicle) const {
+  Rows floor{.style = Rows::Style::floor};
+  for (const Transportation& own : state().saveAllTransportationOwnedList) {
+    floor.items.push_back(
+        {.picture = vehiclePicture(own.id, own.title),
+         .title = own.title,
+         .subtitle = "Bought " + std::to_string(own.yearPurchased) + " for " + currency(own.pricePaid),
+         .value = currency(estimateOf(state(), own)),
+         .selected = &own == &vehicle,
+         .id = "own:" + std::to_string(own.id)});
   }
-  view.add(std::move(others));
+  view.add(std::move(floor));
 }
 
 void TransportationOptionsViewController::describeShowroom(View& view) const {

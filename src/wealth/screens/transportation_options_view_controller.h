@@ -1,4 +1,4 @@
-// The garage: one of the artist's vehicles on the lit floor, the others beside it, and all that is for sale.
+// The garage: the artist's vehicles, one of them on the lit floor, and all that is for sale.
 #pragma once
 
 #include "core/screen.h"
@@ -13,8 +13,8 @@ class TransportationOptionsViewController final : public Screen {
 
  private:
   const Transportation* shown() const;
+  void describeFloor(View& view, const Transportation& vehicle) const;
   void describeOwn(View& view, const Transportation& vehicle) const;
-  void describeOthers(View& view, const Transportation& vehicle) const;
   void describeShowroom(View& view) const;
 
   int64_t id_ = 0;  ///< of the vehicle on the floor; unless it is owned, the one bought last stands there

@@ -112,7 +112,7 @@ export interface Rows {
   total?: number;
   from?: number;
   columns?: string[];
-  style?: "list" | "shelf" | "strip" | "route" | "films" | "wire";
+  style?: "list" | "shelf" | "strip" | "route" | "films" | "wire" | "floor";
 }
 
 export interface Table {

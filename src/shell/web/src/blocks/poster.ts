@@ -11,17 +11,16 @@ export function posterBlock(poster: Poster): TemplateResult {
   return poster.style === "torn" ? torn(poster) : scene(poster);
 }
 
-type Layout = "couple" | "staged" | "alone" | "place" | "floor" | "thing" | "words";
+type Layout = "couple" | "staged" | "alone" | "place" | "thing" | "words";
 
 const isPlace = ({ kind }: Picture): boolean => kind === "scene" || kind === "still";
 
-function layoutOf(back: Picture | undefined, front: Picture[], { mood, figure }: Poster): Layout {
+function layoutOf(back: Picture | undefined, front: Picture[], { mood }: Poster): Layout {
   const people = front.filter(({ kind }) => kind === "person").length;
   if (people === 2) return "couple";
   if (people === 1) return back ? "staged" : "alone";
   if (back) return front.length > 0 ? "staged" : "place";
-  if (mood === "celebrate") return "thing";
-  return figure && front.length > 0 ? "floor" : "words";
+  return mood === "celebrate" ? "thing" : "words";
 }
 
 function scene(poster: Poster): TemplateResult {
@@ -30,11 +29,11 @@ function scene(poster: Poster): TemplateResult {
   const place = shown.find(isPlace);
   const front = shown.filter((one) => one !== place);
   const layout = layoutOf(place, front, poster);
-  const beside = layout === "place" || layout === "floor";
+  const beside = layout === "place";
   // Two people of whom no place is told stand where their names lead them.
   const back =
     layout === "couple" ? { kind: "scene" as const, name: `sunset:${front.map(({ name }) => name)}` } : place;
-  return html`<section class="poster ${layout === "floor" ? "place floor" : layout} ${mood === "plain" ? "" : mood}">
+  return html`<section class="poster ${layout} ${mood === "plain" ? "" : mood}">
     <div class="poster-view">
       ${picture(back)} ${mood === "celebrate" ? html`<bb-confetti .seed=${title}></bb-confetti>` : nothing}
       ${beside ? nothing : bigFigure(figure)}

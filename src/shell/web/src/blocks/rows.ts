@@ -3,6 +3,7 @@ import { hasPicture, picture } from "../pictures/picture";
 import { glyph } from "../pictures/icons";
 import type { PictureGrid, Row, Rows } from "../protocol";
 import type { Scene } from "../scene";
+import "./floor";
 import { actionMenu, badge, bar, pricePill, reveal, toneClass } from "./parts";
 import { film, shelfItem, stop, stripItem, wireLine } from "./row-styles";
 import { spark } from "./spark";
@@ -49,6 +50,8 @@ function styled({ style = "list", items = [], columns = [] }: Rows, scene: Scene
       return html`<ul class="wire">
         ${items.map((row) => wireLine(row, scene))}
       </ul>`;
+    case "floor":
+      return html`<bb-floor .items=${items} .scene=${scene}></bb-floor>`;
     case "list":
       return grouped(items, columns.length > 0, scene);
   }
