@@ -33,6 +33,7 @@ std::span<const GoldenCareer> goldenCareers() {
       {"golden_year", 20230102, "", playGoldenYear},
       {"golden_decade", 77, "", playGoldenDecade},
       {"golden_hits", 5, "star", playGoldenHits},
+      {"golden_label", 12, "before the label", playGoldenLabel},
   };
   return all;
 }
