@@ -95,6 +95,7 @@ void closeLabel(Game& game) {
   game.save(&GameState::saveAllWeeklyLineItems);
   removeSignedArtistChartRows(game);
   letGoOfFormerArtists(game);
+  game.launch.label.songsTakenOff.clear();  // the next label numbers its albums anew
   stateChanged(game);
 }
 

@@ -60,6 +60,7 @@ TEST(LabelLaunch, ClosingLeavesNothingButTheShop) {
   state.merchEnergyCost = 4;
   state.totalCashAvailable = 77;
   world.game.launch.selectedFeaturedArtists = {4, 51};
+  world.game.launch.label.songsTakenOff[1] = 2;
   world.settle();
 
   closeLabel(world.game);
@@ -79,6 +80,7 @@ TEST(LabelLaunch, ClosingLeavesNothingButTheShop) {
   EXPECT_EQ(state.saveAllBillboardSongList[1].songId, featuredSongOffset + 8);
   EXPECT_EQ(world.game.launch.selectedFeaturedArtists, (std::vector<int64_t>{4}));
   EXPECT_EQ(addEmployee(state, department::sales, 40), 10'001) << "a new label counts anew";
+  EXPECT_TRUE(world.game.launch.label.songsTakenOff.empty()) << "its first album has all its songs";
   world.settle();
 }
 

@@ -105,6 +105,53 @@ TEST(SignedStreams, FallSilentForGoodAndSilenceIsFoundAgainAfterClearingUp) {
   EXPECT_EQ(world.streams().size(), 2u);
 }
 
+TEST(SignedStreams, WhoLeavesTheChartIsMarkedAndComesBackInAnotherState) {
+  Week world;
+  world.song(0, [](SignedArtistSong& song) { song.viralityScore = 40; });
+  world.stream();  // nine tenths of a million, by half
+  const BillboardSong& row = world.state.saveAllBillboardSongList[0];
+  EXPECT_EQ(row.weeksOnChart, 1);
+  world.game.turn.lastPlaceChartPosition = 1'000'000;
+  world.stream();
+  EXPECT_EQ(row.rankLastWeek, 55);
+  EXPECT_EQ(row.rankThisWeek, 1'001'001) << "off the chart";
+  EXPECT_FALSE(row.isOnCharts);
+  EXPECT_EQ(world.state.saveAllSignedArtistSongList[0].chartRanking, 0);
+  world.game.turn.lastPlaceChartPosition = 100'000;
+  world.game.turn.songsOnCharts.clear();
+  world.stream();
+  EXPECT_EQ(row.weeksOnChart, 2);
+  EXPECT_EQ(row.peakPosition, 55);
+  EXPECT_EQ(row.rankThisWeek, world.state.saveAllSignedArtistSongList[0].chartRanking);
+  EXPECT_FALSE(row.isOnCharts) << "it counts its weeks and is not shown";
+}
+
+TEST(SignedWeeks, TellWhoseTheyAreAndOfWhichWeek) {
+  Week world;
+  const int64_t other = addSignedArtist(world.state, "Lil Ember", 30);
+  addSignedAlbum(world.state, other, 2, 40);
+  world.settle();
+  world.random.doubleIs(0.2, 0.4, 0.4).doubleIs(0.2, 0.4, 0.4);
+  world.stream();
+  world.sell();
+  ASSERT_EQ(world.streams().size(), 3u);
+  EXPECT_EQ(world.streams()[2],
+            (SignedArtistWeeklySongListens{.songId = 3,
+                                           .artistId = 2,
+                                           .albumId = 2,
+                                           .songTitle = "Song 3",
+                                           .songListens = world.state.saveAllSignedArtistSongList[2].totalListen,
+                                           .weekNumber = 48,
+                                           .yearNumber = 2024,
+                                           .totalStreamRevenue = world.streams()[1].totalStreamRevenue}));
+  ASSERT_EQ(world.sales().size(), 2u);
+  EXPECT_EQ(world.sales()[1].albumTitle, "Album 2");
+  EXPECT_EQ(world.sales()[1].artistId, 2);
+  EXPECT_EQ(world.sales()[1].albumSales, world.state.saveAllSignedArtistAlbumList[1].albumsSold);
+  EXPECT_EQ(world.sales()[1].weekNumber, 48);
+  EXPECT_EQ(world.sales()[1].yearNumber, 2024);
+}
+
 TEST(SignedSales, LaunchByListenersReachAndAPriceThatJumpsAbout) {
   Week world(10, 40);
   for (size_t i = 0; i < 10; ++i) world.song(i, [](SignedArtistSong& song) { song.viralityScore = 0; });

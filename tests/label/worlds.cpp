@@ -5,6 +5,7 @@
 #include "label/builders.h"
 #include "label/departments.h"
 #include "label/office.h"
+#include "live/builders.h"
 #include "music/builders.h"
 #include "support/dates.h"
 
@@ -22,8 +23,11 @@ void furnishHead(GameState& state, int64_t week, int64_t studioPart) {
   state.totalEnergyAvailable = state.totalEnergyMax = 300;
 }
 
-/// Everything is ready for a label of one's own but the first day.
-void beforeTheLabel(GameState& state) { furnishHead(state, 80, 15); }
+/// Everything is ready for a label of one's own but the first day, and money for the hard years after it.
+void beforeTheLabel(GameState& state) {
+  furnishHead(state, 80, 15);
+  state.totalCashAvailable = 40'000'000;
+}
 
 /// The studio is there, the two million are not.
 void toDreamOf(GameState& state) {
@@ -45,7 +49,12 @@ void atWork(GameState& state) {
   for (const int64_t code : {0, 0, 1, 2, 3}) addEmployee(state, code, 88);
 }
 
-/// A campus of fifty, some of them worn out by their artists, with perks, booths of all kinds, and no room left.
+void change(GameState& state, int64_t artistId, const std::function<void(SignedArtist&)>& how) {
+  state.saveAllSignedArtistList.update(static_cast<size_t>(artistId - 1), how);
+}
+
+/// A campus of fifty, some of them worn out by their artists, with perks, booths of all kinds, and no room left. Three
+/// contracts are up, one of them for a year.
 void fullLabel(GameState& state) {
   furnishHead(state, 420, 20);
   foundLabel(state);
@@ -74,7 +83,13 @@ void fullLabel(GameState& state) {
                            "Otto Marsh", "Saga Berg", "Kid Velvet", "Ada Holloway", "Lev Moreau"}) {
     addSignedArtist(state, name, 45 + 4 * state.signedArtistId);
   }
-  state.saveAllSignedArtistList.update(1, [](SignedArtist& artist) { artist.underContract = false; });
+  change(state, 2, [](SignedArtist& artist) { artist.underContract = false; });
+  for (const int64_t up : {3, 4, 9}) {
+    change(state, up, [&](SignedArtist& artist) {
+      artist.weekSigned -= 208;
+      artist.weekEnd = state.weekNumberForTracking - 8 * (up - 3);
+    });
+  }
 }
 
 /// An artist waits for a demo, nobody is there any more to listen, and there is no money to pay anybody off.
@@ -90,10 +105,6 @@ void emptyScouts(GameState& state) {
   created.monthlyListeners = 15'000;
   created.demoRating = 28;
   state.saveAllCreatedArtists.append(created);
-}
-
-void change(GameState& state, int64_t artistId, const std::function<void(SignedArtist&)>& how) {
-  state.saveAllSignedArtistList.update(static_cast<size_t>(artistId - 1), how);
 }
 
 /// An album that came out so many weeks before.
@@ -112,6 +123,25 @@ void earnSince(GameState& state, int64_t streams) {
       if (album.releaseWeek <= now - ago) addSignedWeek(state, album.albumId, ago, streams / album.albumId);
     }
   }
+}
+
+/// Artists of three moods whose scouts have all gone: each week they like it less.
+void leftByScouts(GameState& state) {
+  furnishHead(state, 210, 16);
+  foundLabel(state);
+  for (const int64_t code : {1, 2, 3, 4}) addEmployee(state, code, 60);
+  for (const char* name : {"Juno Hale", "Lil Ember", "Saga Berg"}) {
+    const int64_t id = addSignedArtist(state, name, 30 + 25 * state.signedArtistId);
+    change(state, id, [&](SignedArtist& artist) { artist.happiness = 124 - 61 * static_cast<double>(id - 1); });
+    putOut(state, id, 8, 38, 12 * id);
+  }
+  earnSince(state, 4'000);
+}
+
+/// The doors were closed between two shows: a tour that nobody goes on with takes its energy every week.
+void closedOnTour(GameState& state) {
+  furnishHead(state, 150, 15);
+  putOnTour(state, {venueOnTour("Ryman Auditorium", 2, 2'100), venueOnTour("Tabernacle", 1, 2'600)}, 30);
 }
 
 /// Every artist wants something: a review, a new contract, an hour; one has left and still earns.
@@ -187,6 +217,8 @@ const RoomWorlds worlds({{"before the label", beforeTheLabel},
                          {"label at work", atWork},
                          {"full label", fullLabel},
                          {"label without scouts", emptyScouts},
+                         {"label left by its scouts", leftByScouts},
+                         {"label closed on tour", closedOnTour},
                          {"label that waits", waiting},
                          {"label of stars", stars}});
 

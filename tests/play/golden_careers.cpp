@@ -34,6 +34,7 @@ std::span<const GoldenCareer> goldenCareers() {
       {"golden_decade", 77, "", playGoldenDecade},
       {"golden_hits", 5, "star", playGoldenHits},
       {"golden_dynasty", 31, "family of five", playGoldenDynasty},
+      {"golden_label", 12, "before the label", playGoldenLabel},
   };
   return all;
 }

@@ -27,6 +27,8 @@ void playGoldenYear(Player& player);
 void playGoldenDecade(Player& player);
 /// A year and a half of a star: songs that enter the chart, climb, leave it and come back.
 void playGoldenHits(Player& player);
+/// Ten years of the head of a label: staff, scouts, offers, albums to review, contracts that end, and the awards.
+void playGoldenLabel(Player& player);
 
 /// A family of three generations: the first artist raises and retires, the second loves, marries, raises and retires,
 /// and the third begins.

@@ -103,6 +103,28 @@ TEST(GoldenDynasty, HandsAFamilyOnTwice) {
   EXPECT_EQ(std::count(completed.begin(), completed.end(), 307), 1);
 }
 
+TEST(GoldenLabel, HoldsALabelWithAllThatItsHeadDecides) {
+  const GameState& end = goldenCareer("golden_label").end;
+  const RecordList<SignedArtist>& artists = end.saveAllSignedArtistList;
+  const auto anArtist = [&](auto isSo) { return std::any_of(artists.begin(), artists.end(), isSo); };
+  EXPECT_GE(end.saveAllEmployeeList.size(), 8u);
+  EXPECT_TRUE(anArtist([](const SignedArtist& artist) { return artist.name == "Paper Anna"; }));
+  EXPECT_TRUE(anArtist([](const SignedArtist& artist) { return !artist.underContract; }));
+  EXPECT_TRUE(anArtist([](const SignedArtist& artist) {
+    return artist.totalLifetimeCost >= 2 * static_cast<double>(artist.signingBonus);
+  })) << "nobody's contract was renewed";
+  EXPECT_GT(end.saveAllSignedArtistAlbumList.size(), 20u);
+  EXPECT_GT(end.saveAllSignedArtistWeeklySongListens.size(), 5'000u);
+  EXPECT_TRUE(std::any_of(end.saveAllBillboardSongList.begin(), end.saveAllBillboardSongList.end(),
+                          [](const BillboardSong& row) { return row.songId > 1'000'000 && row.songId < 10'000'000; }));
+  const auto nominated = [&](bool own, int64_t least) {
+    return std::any_of(end.saveAllMusicAwards.begin(), end.saveAllMusicAwards.end(), [&](const Award& award) {
+      return (award.artistName == end.myArtistsName) == own && award.isWinner >= least;
+    });
+  };
+  EXPECT_TRUE(nominated(false, 0) && nominated(false, 1));
+}
+
 /// What became of a chart row from one week to the next.
 struct ChartLife {
   bool climbed = false;

@@ -42,7 +42,8 @@ Poster headOf(const GameState& state, const TourProgress& tour, size_t next) {
   Poster head{.pictures = {drawn(Picture::Kind::scene, "stage", tour.tourTitle), artistPicture(state)},
               .kicker = "Show " + std::to_string(done + 1) + " of " + std::to_string(tour.shows()),
               .title = tour.tourTitle,
-              .text = "On stage this week at " + state.saveAllMusicTourList[next].stadium};
+              .text = (mayTour(state) ? "On stage this week at " : "Without a label the tour stands still before ") +
+                      state.saveAllMusicTourList[next].stadium};
   head.meter = Meter{.label = "Shows played",
                      .value = std::to_string(done) + " of " + std::to_string(tour.shows()),
                      .share = shareOf(done, tour.shows()),

@@ -76,6 +76,30 @@ test("a candidate is answered by button, key and swipe alike, and the next one i
   await close();
 });
 
+test("what looks small has 44 pixels for a finger", async () => {
+  const kinds = ["Songs", "Albums"].map((label) => ({ label }));
+  const { page, close } = await open(
+    withBlocks(
+      screens.create,
+      { kind: "choice", id: "kind", style: "segments", options: kinds },
+      { kind: "field", id: "name", label: "Name", suggest: "dice" },
+    ),
+  );
+  const missed = await page.evaluate(() => {
+    const small = [...document.querySelectorAll(".round, .suggest, .segment")];
+    const reached = (each, x, y) => each.contains(document.elementFromPoint(x, y));
+    const narrow = small.filter((each) => {
+      const box = each.getBoundingClientRect();
+      const [x, y] = [box.x + box.width / 2, box.y + box.height / 2];
+      return ![-21.5, 0, 21.5].every((by) => reached(each, x, y + by) && reached(each, x + by, y));
+    });
+    return [small.length, narrow.map(({ className, textContent }) => `${className} ${textContent.trim()}`)];
+  });
+  assert.ok(missed[0] > 3);
+  assert.deepEqual(missed[1], []);
+  await close();
+});
+
 test("a slider presses once when let go, and says what only it can know meanwhile", async () => {
   const { page, presses, close } = await open(screens.create);
   const slider = page.getByRole("slider", { name: "Quantity" });
