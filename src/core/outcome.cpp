@@ -64,8 +64,6 @@ Outcome ask(AlertTitle title, std::string message, std::string no, AlertButton y
   return withAlert({std::move(title), std::move(message), std::move(answers)}, Feedback::none, Result::asked);
 }
 
-Outcome notOpenYet(const std::string& why) { return refuse<"🚪 Not Open Yet 🚪">("\n" + why + " Nothing was spent."); }
-
 Outcome goTo(std::string segue, std::string argument) {
   Outcome outcome;
   outcome.go = Go{std::move(segue), std::move(argument)};

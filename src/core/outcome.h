@@ -89,8 +89,6 @@ Outcome noEnergy(AlertTitle title, std::string message);
 Outcome noCash(AlertTitle title, std::string message);
 /// A question: `no` leaves everything as it is, `yes` sends its action to the screen that asks.
 Outcome ask(AlertTitle title, std::string message, std::string no, AlertButton yes);
-/// For what is offered already and leads to a door that does not exist yet. Refused, before anything is paid.
-Outcome notOpenYet(const std::string& why);
 
 Outcome goTo(std::string segue, std::string argument = {});
 Outcome closeScreen();

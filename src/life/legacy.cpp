@@ -85,7 +85,7 @@ void addTours(const GameState& state, Legacy& legacy) {
 /// Of the artist's own songs and verses; those of the label's artists are theirs.
 void addChart(const GameState& state, Legacy& legacy) {
   for (const BillboardSong& row : state.saveAllBillboardSongList) {
-    if (row.songId >= signedArtistSongOffset && row.songId < featuredSongOffset) continue;
+    if (isOfTheLabel(row)) continue;
     ++legacy.numberOfBillboardHits;
     if (row.weeksAtOne > 0) ++legacy.numberOfBillboardNumberOnes;
     if (row.weeksAtOne > legacy.longestBillboardNumberOne) {

@@ -141,8 +141,7 @@ void retireOldChartRows(Game& game) {
 
 void removeSignedArtistChartRows(Game& game) {
   if (!game.state.saveAllSignedArtistList.empty()) return;
-  const size_t gone = game.state.saveAllBillboardSongList.eraseIf(
-      [](const BillboardSong& row) { return row.songId >= signedArtistSongOffset && row.songId < featuredSongOffset; });
+  const size_t gone = game.state.saveAllBillboardSongList.eraseIf(isOfTheLabel);
   if (gone > 0) game.save(&GameState::saveAllBillboardSongList);
 }
 

@@ -15,6 +15,11 @@ namespace backbeat {
 inline constexpr int64_t signedArtistSongOffset = 1'000'000;
 inline constexpr int64_t featuredSongOffset = 10'000'000;
 
+/// Whether the row belongs to one of the label's artists: neither to a song of the player's nor to a verse of theirs.
+inline bool isOfTheLabel(const BillboardSong& row) {
+  return row.songId >= signedArtistSongOffset && row.songId < featuredSongOffset;
+}
+
 /// Draws this week's number-one figure and what follows from it.
 void openWeeklyChart(Game& game);
 

@@ -59,7 +59,7 @@ void addChartLines(const GameState& state, std::vector<RecordLine>& lines) {
   const BillboardSong* longestOne = nullptr;
   const BillboardSong* longest = nullptr;
   for (const BillboardSong& row : state.saveAllBillboardSongList) {
-    if (row.songId >= signedArtistSongOffset && row.songId < featuredSongOffset) continue;
+    if (isOfTheLabel(row)) continue;
     ++hits;
     if (row.weeksAtOne > 0) ++numberOnes;
     if (row.weeksAtOne > (longestOne ? longestOne->weeksAtOne : 0)) longestOne = &row;

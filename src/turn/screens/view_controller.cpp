@@ -28,8 +28,7 @@ std::string signedNumber(int64_t number) { return (number > 0 ? "+" : "") + with
 int64_t bestChart(const GameState& state) {
   int64_t best = 0;
   for (const BillboardSong& row : state.saveAllBillboardSongList) {
-    const bool isLabels = row.songId >= signedArtistSongOffset && row.songId < featuredSongOffset;
-    if (isLabels) continue;
+    if (isOfTheLabel(row)) continue;
     if (best == 0 || row.peakPosition < best) best = row.peakPosition;
   }
   return best;
