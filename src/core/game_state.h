@@ -210,6 +210,7 @@ struct GameState {
   int64_t highestGrossAlbumWeekly = 0;
   int64_t mostGramWins = 0;
   int64_t mostAchievementsCompleted = 0;
+  int64_t careerId = 0;               ///< tells this career from others of the device; 0 until it has a name
   std::string appearance = "system";  ///< the player's choice of look: "system", "dark" or "light"
 
   // Written at a restart and at a takeover, read nowhere.
@@ -436,6 +437,7 @@ inline constexpr auto scalars = std::to_array<Scalar>({
     {"highestGrossAlbumWeekly", &GameState::highestGrossAlbumWeekly, Lifetime::player},
     {"mostGramWins", &GameState::mostGramWins, Lifetime::player},
     {"mostAchievementsCompleted", &GameState::mostAchievementsCompleted, Lifetime::player},
+    {"careerId", &GameState::careerId, Lifetime::family},
     {"appearance", &GameState::appearance, Lifetime::player},
     {"weeklyExpenses", &GameState::weeklyExpenses, Lifetime::artist, Loading::writeOnly},
     {"musicality", &GameState::musicality, Lifetime::artist, Loading::writeOnly},

@@ -1,6 +1,7 @@
 #include "core/new_game.h"
 
 #include "core/calendar.h"
+#include "core/random.h"
 
 namespace backbeat {
 
@@ -17,6 +18,15 @@ void endLives(Game& game, Lifetime last) {
     (state.*list.member).clear();
     game.saveFile.writeList(list.key, state.*list.member);
   });
+}
+
+void numberCareer(Game& game) {
+  constexpr uint64_t mostCareers = 999'999'999'999;
+  GameState& state = game.state;
+  if (state.careerId != 0) return;
+  const std::string hour = std::to_string(game.clock.now().seconds);
+  state.careerId = static_cast<int64_t>(hashOf(hour + state.myArtistsName) % mostCareers) + 1;
+  game.save(&GameState::careerId);
 }
 
 void restartGame(Game& game) {

@@ -13,4 +13,7 @@ void endLives(Game& game, Lifetime last);
 /// the changed names of guests and cameos, high scores.
 void restartGame(Game& game);
 
+/// Gives a career its number, unless it has one. It follows from the hour and the name, so that no draw is spent.
+void numberCareer(Game& game);
+
 }  // namespace backbeat

@@ -68,7 +68,7 @@ TEST(NewGame, AnHeirGoesOnInTheSameYearAndHasAName) {
   world.settle();
   endLives(world.game, Lifetime::artist);
   EXPECT_EQ(keysThatDiffer(world.state, GameState()),
-            with(outlives, {"weekNumber", "yearNumber", "weekNumberForTracking", "promptToEnterName"}));
+            with(outlives, {"weekNumber", "yearNumber", "weekNumberForTracking", "promptToEnterName", "careerId"}));
   world.expectSaved();
 }
 
