@@ -16,6 +16,15 @@ const RoomErrands errands({
     {"go to the awards from home",
      {"awards night"},
      {{"Home"}, {"goToGrammyAwardAnnouncement"}, {"nextEnvelope"}, {"allEnvelopes"}, {"doneButton"}}},
+    {"be told of an achievement",
+     {"year's end"},
+     {{"Life"}, {"goToFXYDating"}, {"goToFxyMatchList"}, {"Theo"}, {"askOutButton"}, {"🏆 Achievement 🏆"}}},
+    {"compare lives", {"year's end"}, {{"Home"}, {"goToRecords"}, {"compare", "1"}}},
+    {"look back when the year is over", {"year's end"}, {{"yearInReview"}, {"doneButton"}}, 1},
+    {"look back on the year before",
+     {"year's end"},
+     {{"Home"}, {"goToYearlyMusicStats"}, {"year", "-1"}, {"kind", "2"}, {"yearInReview"}, {"doneButton"}}},
+    {"leaf through the songs of a year", {"year's end"}, {{"Home"}, {"goToYearlyMusicStats"}, {"works", "60"}}},
     {"leaf through old nominations", {"awards decided"}, {{"Music"}, {"goToGramAwardDetail"}, {"awards", "60"}}},
 });
 
