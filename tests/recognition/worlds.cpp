@@ -129,7 +129,7 @@ void yearsEnd(GameState& state) {
   addMatch(state, perfect);
 }
 
-const RoomWorlds worlds({{"year's end", yearsEnd, true},
+const RoomWorlds worlds({{"end of a year", yearsEnd, true},
                          {"awards open", awardsOpen},
                          {"awards passed by", awardsPassedBy},
                          {"awards never opened", awardsNeverOpened},
