@@ -122,7 +122,8 @@ struct Launch {
   LabelMemory label;  ///< what of its history is summed already
   Dating dating;
   VentureMemory ventures;
-  int64_t weddingWeek = 0;  ///< the absolute week of the last wedding
+  int64_t weddingWeek = 0;                  ///< the absolute week of the last wedding
+  std::vector<int64_t> achievementsToTell;  ///< granted by this press and not told yet
 };
 
 struct Room;

@@ -210,6 +210,7 @@ struct GameState {
   int64_t highestGrossAlbumWeekly = 0;
   int64_t mostGramWins = 0;
   int64_t mostAchievementsCompleted = 0;
+  int64_t careerId = 0;               ///< tells this career from others of the device; 0 until it has a name
   std::string appearance = "system";  ///< the player's choice of look: "system", "dark" or "light"
 
   std::string heirParentNames;  ///< of an artist who took over: the parents, one a line
@@ -438,6 +439,7 @@ inline constexpr auto scalars = std::to_array<Scalar>({
     {"highestGrossAlbumWeekly", &GameState::highestGrossAlbumWeekly, Lifetime::player},
     {"mostGramWins", &GameState::mostGramWins, Lifetime::player},
     {"mostAchievementsCompleted", &GameState::mostAchievementsCompleted, Lifetime::player},
+    {"careerId", &GameState::careerId, Lifetime::family},
     {"appearance", &GameState::appearance, Lifetime::player},
     {"heirParentNames", &GameState::heirParentNames, Lifetime::family},
     {"weeklyExpenses", &GameState::weeklyExpenses, Lifetime::artist, Loading::writeOnly},

@@ -1,6 +1,7 @@
 #include "core/new_game.h"
 
 #include "core/calendar.h"
+#include "core/random.h"
 
 namespace backbeat {
 
@@ -25,6 +26,16 @@ void forgetLaunch(Game& game) {
   game.launch.leaderboardPassDone = before.leaderboardPassDone;
   game.launch.musicScreenLoaded = before.musicScreenLoaded;
   game.launch.venueDemand = before.venueDemand;
+  game.launch.achievementsToTell = before.achievementsToTell;
+}
+
+void numberCareer(Game& game) {
+  constexpr uint64_t mostCareers = 999'999'999'999;
+  GameState& state = game.state;
+  if (state.careerId != 0) return;
+  const std::string hour = std::to_string(game.clock.now().seconds);
+  state.careerId = static_cast<int64_t>(hashOf(hour + state.myArtistsName) % mostCareers) + 1;
+  game.save(&GameState::careerId);
 }
 
 void restartGame(Game& game) {

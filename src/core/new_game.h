@@ -16,4 +16,7 @@ void forgetLaunch(Game& game);
 /// the changed names of guests and cameos, high scores.
 void restartGame(Game& game);
 
+/// Gives a career its number, unless it has one. It follows from the hour and the name, so that no draw is spent.
+void numberCareer(Game& game);
+
 }  // namespace backbeat

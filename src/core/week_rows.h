@@ -1,6 +1,7 @@
 // The rows of one week in a list that grows week by week.
 #pragma once
 
+#include <algorithm>
 #include <span>
 
 #include "core/record_list.h"
@@ -27,6 +28,26 @@ std::span<const T> rowsOfWeek(const RecordList<T>& list, CalendarWeek week) {
   size_t begin = end;
   while (begin > 0 && weekOf(list[begin - 1]) == week) --begin;
   return list.stretch(begin, end);
+}
+
+/// The rows of `list` that carry the year, oldest first; found by halving, since they stand in the order of the
+/// calendar.
+template <class T>
+std::span<const T> rowsOfYear(const RecordList<T>& list, int64_t year) {
+  const auto firstFrom = [&](int64_t wanted) {
+    size_t low = 0;
+    for (size_t high = list.size(); low < high;) {
+      const size_t middle = low + (high - low) / 2;
+      if (list[middle].yearNumber < wanted) {
+        low = middle + 1;
+      } else {
+        high = middle;
+      }
+    }
+    return low;
+  };
+  const size_t begin = firstFrom(year);
+  return list.stretch(begin, std::max(begin, firstFrom(year + 1)));
 }
 
 /// What the rows of a list tell when they are taken one by one from the first on. Kept from one time to the next: while

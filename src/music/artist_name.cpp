@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "core/calendar.h"
+#include "core/new_game.h"
 #include "core/random.h"
 
 namespace backbeat {
@@ -41,6 +42,7 @@ void nameArtist(Game& game, const std::string& name) {
   game.state.myArtistsName = name;
   game.state.promptToEnterName = 1;
   game.save(&GameState::myArtistsName, &GameState::promptToEnterName);
+  numberCareer(game);
   stateChanged(game);
 }
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/game.h"
+#include "core/outcome.h"
 
 namespace backbeat {
 
@@ -17,7 +18,13 @@ inline constexpr int64_t openHeart = 211;
 inline constexpr int64_t takeover = 307;
 }  // namespace achievement
 
-/// Completes it and saves that; does nothing when it is completed already.
+/// Completes it and saves that. False, and nothing changes, when it is completed already.
+bool completeAchievement(Game& game, int64_t id);
+
+/// The same in the middle of a press; whoever pressed is told of it when the press is over.
 void grantAchievement(Game& game, int64_t id);
+
+/// Tells, once, what the press has brought.
+Outcome tellGrantedAchievements(Game& game);
 
 }  // namespace backbeat

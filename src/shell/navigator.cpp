@@ -5,6 +5,7 @@
 #include "core/money.h"
 #include "core/purse.h"
 #include "core/text.h"
+#include "recognition/achievement_grant.h"
 
 namespace backbeat {
 
@@ -54,6 +55,7 @@ void Navigator::press(std::string_view screenKey, const Action& action) {
   request_ = {};
   const int64_t year = game_.state.yearNumber;
   dispatch(screenKey, action);
+  follow(top().screen, tellGrantedAchievements(game_));
   game_.saveFile.commit();
   if (game_.state.yearNumber > year) keepNewYear();
   game_.saveFile.rest();

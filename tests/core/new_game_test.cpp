@@ -67,9 +67,9 @@ TEST(NewGame, AnHeirGoesOnInTheSameYearAndHasAName) {
   enrich(world.state);
   world.settle();
   endLives(world.game, Lifetime::artist);
-  EXPECT_EQ(
-      keysThatDiffer(world.state, GameState()),
-      with(outlives, {"weekNumber", "yearNumber", "weekNumberForTracking", "promptToEnterName", "heirParentNames"}));
+  EXPECT_EQ(keysThatDiffer(world.state, GameState()),
+            with(outlives, {"weekNumber", "yearNumber", "weekNumberForTracking", "promptToEnterName", "heirParentNames",
+                            "careerId"}));
   world.expectSaved();
 }
 

@@ -70,6 +70,11 @@ std::string weekRowsFault(std::string_view key, const RecordList<T>& list, Calen
     if (static_cast<size_t>(plain) != rowsOfWeek(list, week).size()) {
       return "the rows of week " + std::to_string(week.week) + " in " + std::string(key) + " do not stand together";
     }
+    const auto ofYear =
+        std::count_if(list.begin(), list.end(), [&](const T& row) { return row.yearNumber == week.year; });
+    if (static_cast<size_t>(ofYear) != rowsOfYear(list, week.year).size()) {
+      return "the rows of " + std::to_string(week.year) + " in " + std::string(key) + " do not stand together";
+    }
   }
   return {};
 }

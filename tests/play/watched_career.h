@@ -14,6 +14,7 @@
 #include "play/coverage.h"
 #include "play/press_oracle.h"
 #include "play/worlds.h"
+#include "shell/score_keeper.h"
 #include "shell/trace.h"
 
 namespace backbeat {
@@ -61,7 +62,7 @@ class WatchedCareer {
   const NamedWorld& world_;
   std::function<void(const std::string&)> onStep_;
   MemoryStore store_;
-  QuietPlatform platform_;
+  ScoreKeeper platform_;
   TraceRecorder career_;
   int64_t now_;  ///< unix milliseconds
   bool justLaunched_ = false;

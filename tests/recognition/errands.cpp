@@ -16,6 +16,15 @@ const RoomErrands errands({
     {"go to the awards from home",
      {"awards night"},
      {{"Home"}, {"goToGrammyAwardAnnouncement"}, {"nextEnvelope"}, {"allEnvelopes"}, {"doneButton"}}},
+    {"be told of an achievement",
+     {"end of a year"},
+     {{"Life"}, {"goToFXYDating"}, {"goToFxyMatchList"}, {"Theo"}, {"askOutButton"}, {"🏆 Achievement 🏆"}}},
+    {"compare lives", {"end of a year"}, {{"Home"}, {"goToRecords"}, {"compare", "1"}}},
+    {"look back when the year is over", {"end of a year"}, {{"yearInReview"}, {"doneButton"}}, 1},
+    {"look back on the year before",
+     {"end of a year"},
+     {{"Home"}, {"goToYearlyMusicStats"}, {"year", "-1"}, {"kind", "2"}, {"yearInReview"}, {"doneButton"}}},
+    {"leaf through the songs of a year", {"end of a year"}, {{"Home"}, {"goToYearlyMusicStats"}, {"works", "60"}}},
     {"leaf through old nominations", {"awards decided"}, {{"Music"}, {"goToGramAwardDetail"}, {"awards", "60"}}},
 });
 

@@ -1,10 +1,14 @@
 #include "play/worlds.h"
 
 #include "label/builders.h"
+#include "life/builders.h"
+#include "live/builders.h"
+#include "merch/builders.h"
 #include "music/builders.h"
 #include "recognition/award_fields.h"
 #include "recognition/builders.h"
 #include "support/dates.h"
+#include "video/builders.h"
 
 namespace backbeat {
 namespace {
@@ -80,7 +84,53 @@ void awardsDecided(GameState& state) {
   state.awardYear.update(0, [](AwardYear& year) { year.stage = award_stage::decided; });
 }
 
-const RoomWorlds worlds({{"awards open", awardsOpen},
+/// The last week of 2031, after two years that have something to tell of everything, with more songs than one page
+/// holds; goals wait to be looked for, and so does the perfect partner.
+void yearsEnd(GameState& state) {
+  setDate(state, 9 * 52);
+  furnishCareer(state, 70, 60);
+  state.totalFans = 2'400'000;
+  state.totalCashAvailable = 4'200'000;
+  state.totalEnergyMax = 90;
+  state.totalEnergyAvailable = 400;
+  state.rejectionCount = 29;
+  state.followerCount = 900'000;
+  state.mostPopularSongHighScore = 90'000'000;
+  state.totalFanHighScore = 2'400'000;
+  state.careerId = 7;
+  putOnChart(state, firstWorldSong, 3, 2'400'000);
+  putOnTour(state, {venueOnTour("Harbour Bowl", 1, 2'500)}, 0);
+  state.onTour = 0;
+  for (const int64_t week : {20, 21, 22, 40}) {
+    WeeklyTourSales show;
+    show.tourId = state.tourId;
+    show.tourStadium = "Harbour Bowl";
+    show.seatsSold = 2'000 + week;
+    show.soldOut = week == 40 ? 0 : 1;
+    show.tourRevenue = 300'000;
+    show.weekNumber = week;
+    show.yearNumber = 2031;
+    state.saveAllWeeklyTourSales.append(show);
+  }
+  const int64_t merchId = stock(state, tShirt("Lantern Tee"));
+  for (const int64_t week : {8 * 52 - 20, 8 * 52 + 10, 8 * 52 + 30}) addSale(state, merchId, week, 700);
+  addVideo(state, videoOf(state, firstWorldSong), 30);
+  for (int64_t ago = 90; ago > 0; ago -= 10) addVideoViews(state, state.saveAllMusicVideoList[0], ago, 40'000 + ago);
+  Festival festival = festivalIn(state, -20, "Meadow Days");
+  festival.isHeadliner = 1;
+  book(state, festival);
+  for (const int64_t won : {0, 1}) {
+    Award award = nominationFor(state, award_type::song, won == 1 ? "Song No. 1" : "Song No. 2");
+    award.isWinner = won;
+    addNomination(state, award);
+  }
+  Matches perfect = somebody(state, "Theo");
+  perfect.beauty = perfect.intelligence = perfect.personality = 100;
+  addMatch(state, perfect);
+}
+
+const RoomWorlds worlds({{"end of a year", yearsEnd, true},
+                         {"awards open", awardsOpen},
                          {"awards passed by", awardsPassedBy},
                          {"awards never opened", awardsNeverOpened},
                          {"awards nominated", awardsNominated},

@@ -17,12 +17,15 @@ namespace backbeat {
 /// A platform that remembers what it was asked for.
 class RecordingPlatform final : public Platform {
  public:
-  void submitScore(std::string_view leaderboard, int64_t score) override {
-    scores.emplace_back(std::string(leaderboard), score);
+  void submitScore(const Life& life, const Score& score) override {
+    scores.emplace_back(std::string(score.leaderboard), score.best);
+    table.take(life, score);
   }
+  std::span<const LifeScores> scoredLives() const override { return table.lives(); }
   void requestReview() override { ++reviews; }
 
-  std::vector<std::pair<std::string, int64_t>> scores;
+  std::vector<std::pair<std::string, int64_t>> scores;  ///< as the leaderboards are told
+  ScoreTable table;
   int reviews = 0;
 };
 

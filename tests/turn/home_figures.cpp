@@ -38,6 +38,10 @@ Standings homeFigures(Game& twin) {
              {"Artist profile", "", "goToArtistProfile"},
              {"Label contract", "", "goToSignedContract"},
              {"Label contract: subtitle", "6 EPs, 8 LPs and 41 songs in 37 weeks"},
+             {"Achievements", "", "goToAchievements"},
+             {"Achievements: subtitle", "Achieved 0 of 82"},
+             {"Records", "", "goToRecords"},
+             {"Yearly Statistics", "", "goToYearlyMusicStats"},
              {"Settings", "", "goToSettings"}} +
          songFigures(state, "Paper Boats") + songFigures(state, "Glass Harbour") + songFigures(state, "Fever Line");
 }

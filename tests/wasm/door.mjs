@@ -48,12 +48,13 @@ export class Launch {
   /** Milliseconds that the engine's own work took so far. */
   engineMs = 0;
 
-  constructor({ seed = '20230102', rows = new Map(), now } = {}) {
+  constructor({ seed = '20230102', rows = new Map(), now, scores = '' } = {}) {
     this.rows = rows;
     this.now = now ?? this.now;
     this.door = new WebAssembly.Instance(module, {}).exports;
     this.door._initialize();
     for (const row of rows.values()) this.#pass(encodeRow(row), this.door.bb_row);
+    if (scores) this.#pass(encoder.encode(scores), this.door.bb_hold_scores);
     this.#call(this.door.bb_start, `${seed}\0${this.now}`);
   }
 
@@ -65,6 +66,12 @@ export class Launch {
   pressAt(now, screenKey, id, value) {
     this.now = now;
     return this.#call(this.door.bb_act, `${now}\0${screenKey}\0${id}\0${value}`);
+  }
+
+  /** The scores of all lives, where one changed since the last call. */
+  changedScores() {
+    this.door.bb_scores();
+    return decoder.decode(this.#bytes(this.door.bb_out(), this.door.bb_out_size()));
   }
 
   /** The fingerprint of the whole state. */

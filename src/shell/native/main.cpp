@@ -18,6 +18,7 @@
 #include "shell/native/line_input.h"
 #include "shell/native/rescue_menu.h"
 #include "shell/native/save_info.h"
+#include "shell/native/score_file.h"
 #include "shell/native/sqlite_store.h"
 #include "shell/trace.h"
 
@@ -84,7 +85,7 @@ int play(const CommandLine& line) {
   // A launch takes its time in the hundredth year, so only one that has stopped before is tried on the side first.
   const std::string problem = opened.store->launchStopped() ? launchProblem(*opened.store, now()) : "";
   if (!rescue(*opened.store, problem, std::cin, std::cout, now)) return failed;
-  QuietPlatform platform;
+  ScoreFile platform(line.save);
   TraceRecorder career(*opened.store, platform, record);
   if (!line.trace.empty() && holdsCareer(*opened.store)) {
     career.noteForeignCareer();

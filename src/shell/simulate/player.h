@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/store.h"
+#include "shell/score_keeper.h"
 #include "shell/trace.h"
 
 namespace backbeat {
@@ -61,7 +62,7 @@ class Player {
 
   NullStore keepsNothing_;
   int64_t now_;
-  QuietPlatform platform_;
+  ScoreKeeper platform_;
   std::vector<std::string> lines_;
   TraceRecorder career_;
   std::optional<Shown> seen_;

@@ -7,8 +7,8 @@
 
 #include "core/career_file.h"
 #include "core/json.h"
-#include "core/platform.h"
 #include "shell/page_store.h"
+#include "shell/score_keeper.h"
 #include "shell/session.h"
 #include "shell/shown_json.h"
 #include "shell/trace.h"
@@ -18,7 +18,7 @@ namespace {
 
 /// Everything that lives between two calls. One for the instance; the page makes a new instance to begin anew.
 struct Door {
-  QuietPlatform platform;
+  ScoreKeeper platform;
   PageStore store;
   std::unique_ptr<Session> session;
   std::unique_ptr<GameState> stored;  // what the rows hold, once asked for without a session
@@ -91,6 +91,12 @@ extern "C" {
 [[clang::export_name("bb_row")]] uint32_t bb_row(const char* bytes, uint32_t size) {
   return door().store.addRow({bytes, size}) ? 1 : 0;
 }
+
+[[clang::export_name("bb_hold_scores")]] void bb_hold_scores(const char* bytes, uint32_t size) {
+  door().platform.hold({bytes, size});
+}
+
+[[clang::export_name("bb_scores")]] void bb_scores() { door().answer = door().platform.takeChanges(); }
 
 [[clang::export_name("bb_start")]] void bb_start(const char* bytes, uint32_t size) {
   std::string_view text(bytes, size);

@@ -21,6 +21,7 @@
 #include "life/relationship_events.h"
 #include "live/festivals.h"
 #include "music/covers.h"
+#include "recognition/year_in_review.h"
 #include "social/screens/chirp_post.h"
 #include "turn/screens/money_figures.h"
 #include "turn/week_story.h"
@@ -249,6 +250,9 @@ Outcome WeeklySummaryViewController::act(const Action& action) {
   if (action.id == "eventButton2") return eventButton2();
   if (action.id == "eventButton3") return eventButton3();
   if (action.id == "awardButton") return awardButton();
+  if (action.id == "yearInReview" && isReviewDue(state())) {
+    return goTo("goToYearInReview", std::to_string(state().yearNumber - 1));
+  }
   if (action.verb() == "ratingAnswer") {
     if (const auto answer = optionNumber(action.argument(), 4)) return answerRatingOffer(static_cast<int64_t>(*answer));
   }
@@ -305,6 +309,12 @@ void WeeklySummaryViewController::describeAwards(View& view) const {
                                       : "The envelopes of the year are opened",
                 .buttons = {{.id = "awardButton",
                              .label = year + (isNominations ? " Annual GRAM Nominations" : " Annual GRAM Winners")}}});
+}
+
+void WeeklySummaryViewController::describeYear(View& view) const {
+  if (!isReviewDue(state())) return;
+  view.add(Rows{{wayTo("yearInReview", "star", "Your year " + std::to_string(state().yearNumber - 1),
+                       "Told in pictures, to keep and to share")}});
 }
 
 void WeeklySummaryViewController::describeEvents(View& view) const {
@@ -410,6 +420,7 @@ View WeeklySummaryViewController::view() const {
                               .note = "now " + withCommas(state().totalFans)}},
                    .style = Figures::Style::pair});
   describeAwards(view);
+  describeYear(view);
   describeShowChirp(view);
   describeMusic(view);
   describeNews(view);

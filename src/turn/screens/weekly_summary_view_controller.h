@@ -42,6 +42,7 @@ class WeeklySummaryViewController final : public Screen {
  private:
   bool ratingOfferStands() const;
   void describeAwards(View& view) const;
+  void describeYear(View& view) const;
   void describeShowChirp(View& view) const;
   void describeMusic(View& view) const;
   void describeNews(View& view) const;

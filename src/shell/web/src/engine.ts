@@ -10,6 +10,8 @@ interface Exports {
   bb_snapshot(address: number, size: number): void;
   bb_spare(address: number, size: number): void;
   bb_give_up(address: number, size: number): void;
+  bb_hold_scores(address: number, size: number): void;
+  bb_scores(): void;
   bb_export(): void;
   bb_export_name(): void;
   bb_import(address: number, size: number): void;
@@ -101,6 +103,19 @@ export class Engine {
   /** Forgets a kept copy; whoever keeps it has to be told as well. */
   giveUpCopy(name: string): void {
     this.guard(() => this.pass(encoder.encode(name), this.door.bb_give_up));
+  }
+
+  /** Before `start`: takes the scores of all lives played on this device. */
+  holdScores(table: string): void {
+    this.guard(() => this.pass(encoder.encode(table), this.door.bb_hold_scores));
+  }
+
+  /** All of them as they are to be kept, where one changed since the last call; else "". */
+  changedScores(): string {
+    return this.guard(() => {
+      this.door.bb_scores();
+      return decoder.decode(this.out());
+    });
   }
 
   /** Begins the launch. `seed` is a 64-bit number as decimal text. */

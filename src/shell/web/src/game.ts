@@ -8,6 +8,7 @@ import { readInWorker } from "./reading";
 import { makeRoomForCopies } from "./room";
 import { asidesOf, isAside, type Row, type StoredRow } from "./rows";
 import { Save, type Trouble } from "./save";
+import { keepScores, keptScores } from "./scores";
 import { forgetStops, noteStop, stopsTooOften } from "./stops";
 
 /** What the shell plays: the latest answer of the engine, and the way to press something. */
@@ -80,6 +81,7 @@ export class Game implements Player {
     while (!stopsTooOften()) {
       try {
         const engine = await this.engineOnShelf();
+        engine.holdScores(keptScores());
         this.take(engine.start(this.seed(), Date.now()));
         this.engine = engine;
         this.launches += 1;
@@ -96,6 +98,7 @@ export class Game implements Player {
     const before = this.answer;
     try {
       this.take(this.engine.act(Date.now(), screen, id, value));
+      keepScores(this.engine.changedScores());
     } catch (fault) {
       return this.recover(fault);
     }

@@ -5,16 +5,18 @@ const width = 1080;
 const height = 1920;
 const side = 88;
 
-/** Draws a story as a picture of its own; the sleeve on it is taken from the page, where it is drawn already. */
+/** Draws a story as a picture of its own; the sleeve on it, or the photo, is taken from the page, where it stands already. */
 export async function storyPicture(story: Story, sleeve: Element | null): Promise<Blob | null> {
   const canvas = Object.assign(document.createElement("canvas"), { width, height });
   const brush = canvas.getContext("2d")!;
   paintSky(brush, story);
   const { kicker = "", figure = "", title = "", text = "" } = story;
   const write = writer(brush);
-  write(kicker, side, 150, { size: 44, weight: 650 });
+  const [about, ...whose] = kicker.split(" · ").reverse();
+  write(whose.reverse().join(" · "), side, 150, { size: 44, weight: 650, room: 640 });
+  write(about ?? "", width - side, 150, { size: 44, weight: 650, align: "right", room: 250 });
   write(figure, side - 30, 500, { size: 420, weight: 880, tracking: -0.08, room: width - side });
-  if (sleeve) await paintSleeve(brush, sleeve);
+  if (sleeve) await paintSleeve(brush, sleeve, story);
   if (title) paintTag(brush, write, title, text);
   const { told, listed } = factsOf(story);
   told.forEach(({ value = "", label = "" }, i) => {
@@ -58,11 +60,14 @@ interface Lettering {
   alpha?: number;
   align?: CanvasTextAlign;
   ink?: string;
-  /** What it may take in width; a longer text grows smaller. */
+  /** What it may take in width; a longer text grows smaller, and is cut where it would grow too small to read. */
   room?: number;
 }
 
 type Write = (text: string, x: number, y: number, lettering: Lettering) => number;
+
+/** How much smaller a long text may grow before it is cut. */
+const smallest = 0.6;
 
 function writer(brush: CanvasRenderingContext2D): Write {
   const family = getComputedStyle(document.body).fontFamily;
@@ -72,25 +77,32 @@ function writer(brush: CanvasRenderingContext2D): Write {
     y,
     { size, weight, tracking = -0.02, alpha = 1, align = "left", ink = "#fff", room = width - 2 * side },
   ) => {
-    const set = (pixels: number): number => {
+    const wide = (text: string): number => brush.measureText(text).width;
+    const set = (pixels: number): void => {
       brush.font = `${weight} ${pixels}px ${family}`;
       brush.letterSpacing = `${pixels * tracking}px`;
-      return brush.measureText(text).width;
     };
-    const wide = set(size);
-    if (wide > room) set((size * room) / wide);
+    set(size);
+    set(size * Math.min(1, Math.max(smallest, room / wide(text))));
+    const written = cutTo(text, (part) => wide(part) <= room + 1);
     Object.assign(brush, { textAlign: align, fillStyle: ink, globalAlpha: alpha });
-    brush.fillText(text, x, y);
+    brush.fillText(written, x, y);
     brush.globalAlpha = 1;
-    return Math.min(wide, room);
+    return wide(written);
   };
 }
 
-async function paintSleeve(brush: CanvasRenderingContext2D, sleeve: Element): Promise<void> {
+/** As much of a text as fits, whole characters as eyes count them. */
+function cutTo(text: string, fits: (text: string) => boolean): string {
+  if (fits(text)) return text;
+  const characters = [...new Intl.Segmenter().segment(text)].map(({ segment }) => segment);
+  while (characters.length > 0 && !fits(`${characters.join("")}…`)) characters.pop();
+  return `${characters.join("")}…`;
+}
+
+async function paintSleeve(brush: CanvasRenderingContext2D, sleeve: Element, story: Story): Promise<void> {
   const drawing = sleeve.querySelector("svg");
-  const sky = /linear-gradient\((\d+)deg,\s*(.+?\)|#\w+),\s*(.+?\)|#\w+)\)/.exec(
-    (sleeve as HTMLElement).style.background,
-  );
+  const [above, below] = skyOf(story);
   const edge = 560;
   brush.save();
   brush.translate(width - side - edge / 2, 900);
@@ -101,14 +113,24 @@ async function paintSleeve(brush: CanvasRenderingContext2D, sleeve: Element): Pr
   brush.beginPath();
   brush.roundRect(-edge / 2, -edge / 2, edge, edge, 62);
   const fill = brush.createLinearGradient(-edge / 2, -edge / 2, edge / 4, edge / 2);
-  fill.addColorStop(0, sky?.[2] ?? "#63dbc9");
-  fill.addColorStop(1, sky?.[3] ?? "#2447e0");
+  fill.addColorStop(0, above);
+  fill.addColorStop(1, below);
   brush.fillStyle = fill;
   brush.fill();
   brush.shadowColor = "transparent";
   brush.clip();
+  const photo = sleeve.querySelector("img");
   if (drawing) brush.drawImage(await imageOf(drawing, edge), -edge / 2, -edge / 2, edge, edge);
+  else if (photo) paintPhoto(brush, photo, edge);
   brush.restore();
+}
+
+/** The middle of it, as wide as it is high. */
+function paintPhoto(brush: CanvasRenderingContext2D, photo: HTMLImageElement, edge: number): void {
+  const { naturalWidth: wide, naturalHeight: high } = photo;
+  const whole = Math.min(wide, high);
+  if (whole === 0) return; // one that no browser can read
+  brush.drawImage(photo, (wide - whole) / 2, (high - whole) / 2, whole, whole, -edge / 2, -edge / 2, edge, edge);
 }
 
 async function imageOf(drawing: SVGElement, edge: number): Promise<HTMLImageElement> {

@@ -1,14 +1,13 @@
 import { html, nothing, type TemplateResult } from "lit";
 import { picture } from "../pictures/picture";
-import { sleeve } from "../pictures/sleeves";
+import { sleeveColours } from "../pictures/sleeves";
 import type { Fact, Story } from "../protocol";
 
 const large = 4;
 
 /** The colours of the sky above a story: those of the sleeve it follows from. */
 export function skyOf({ sky, title = "" }: Story): [string, string] {
-  const [, above, below] = /linear-gradient\(\d+deg,(#\w+),(#\w+)\)/.exec(sleeve(sky?.name ?? title)) ?? [];
-  return [above ?? "#23c7bb", below ?? "#5a1fb0"];
+  return sleeveColours(sky?.name ?? title);
 }
 
 /** The facts that stand large, and those that are a list with its places before them. */

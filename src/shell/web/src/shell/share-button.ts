@@ -28,7 +28,7 @@ class ShareButtonElement extends LitElement {
     this.busy = true;
     try {
       const { storyPicture } = await import("../blocks/story-picture");
-      const sleeve = this.closest(".layer")?.querySelector(".story .picture.cover") ?? null;
+      const sleeve = this.closest(".layer")?.querySelector(".story-picture > .picture") ?? null;
       const picture = await storyPicture(this.story, sleeve);
       if (!picture) return;
       const name = this.story.share.endsWith(".png") ? this.story.share : `${this.story.share}.png`;
