@@ -18,6 +18,7 @@
 #include "play/worlds.h"
 #include "shell/session.h"
 #include "video/builders.h"
+#include "wealth/builders.h"
 
 namespace backbeat {
 namespace {
@@ -41,6 +42,11 @@ const GameState& careerOfEverything() {
       video.marketingScore = marketing;
       video.totalViews = 9'000'000;
       addVideo(state, video, 5);
+    }
+    for (const int64_t round : {0, 3}) {  // long since looked at
+      Venture venture = stakeIn(state, round + 1, round);
+      venture.weekSinceUpdate -= 40;
+      state.saveAllVentureInvestments.append(venture);
     }
     return state;
   }();
