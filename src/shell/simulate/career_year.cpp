@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "career/studio.h"
+#include "label/departments.h"
 #include "music/chart.h"
 #include "wealth/net_assets.h"
 
@@ -35,6 +36,14 @@ void countTheRest(const GameState& state, CareerYear& row) {
   for (const Merch& product : state.saveAllMerchReleasedList) row.merch += product.totalRevenue - product.totalCost;
 }
 
+void countLabel(const GameState& state, CareerYear& row) {
+  row.ownLabel = state.isLabelLaunched;
+  row.artists = activeArtists(state);
+  for (const auto& week : state.saveAllSignedArtistWeeklySongListens) row.labelNet += week.totalStreamRevenue;
+  for (const auto& week : state.saveAllSignedArtistWeeklyAlbumSales) row.labelNet += week.albumRevenue;
+  row.labelNet -= state.totalRecordLabelCost;
+}
+
 }  // namespace
 
 double Column::of(const CareerYear& row) const {
@@ -65,6 +74,7 @@ CareerYear careerYear(const GameState& state, int64_t year) {
   row.studio = studioRating(state);
   countMusic(state, row);
   countTheRest(state, row);
+  countLabel(state, row);
   return row;
 }
 

@@ -31,6 +31,9 @@ struct CareerYear {
   double touring = 0;         ///< dollars, after what labels took
   double merch = 0;           ///< dollars of sales less orders and fees
   int64_t underContract = 0;  ///< 1 while a label's contract runs
+  int64_t ownLabel = 0;       ///< 1 while the own one stands
+  int64_t artists = 0;        ///< under contract with it
+  double labelNet = 0;        ///< dollars that it brought less all that it cost but its launch; 0 once it is closed
   int64_t energyCeiling = 0;
   int64_t songWriting = 0;
   int64_t vocalRange = 0;
@@ -49,7 +52,7 @@ struct Column {
   std::string text(const CareerYear& row) const;  ///< dollars with cents
 };
 
-inline constexpr std::array<Column, 25> columns = {{
+inline constexpr std::array<Column, 28> columns = {{
     {"year", &CareerYear::year},
     {"cash", &CareerYear::cash},
     {"net_assets", &CareerYear::netAssets},
@@ -68,6 +71,9 @@ inline constexpr std::array<Column, 25> columns = {{
     {"touring", &CareerYear::touring},
     {"merch", &CareerYear::merch},
     {"under_contract", &CareerYear::underContract},
+    {"own_label", &CareerYear::ownLabel},
+    {"artists", &CareerYear::artists},
+    {"label_net", &CareerYear::labelNet},
     {"energy_ceiling", &CareerYear::energyCeiling},
     {"songwriting", &CareerYear::songWriting},
     {"vocals", &CareerYear::vocalRange},

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "shell/simulate/casual.h"
+#include "shell/simulate/founder.h"
 #include "shell/simulate/idle.h"
 #include "shell/simulate/keen.h"
 #include "shell/simulate/mogul.h"
@@ -22,6 +23,7 @@ constexpr StrategyEntry all[] = {
     {"keen", "a song every other week, albums, traits, studio, marketing, contracts, films, small tours, a shop",
      make<Keen>},
     {"mogul", "keen, and everything that money buys", make<Mogul>},
+    {"founder", "keen, and a label as soon as there is money for one", make<Founder>},
 };
 
 }  // namespace
