@@ -147,13 +147,13 @@ void playWeek(Game& game) {
   game.saveFile.commit();
 }
 
-GameState heavyCareer(int64_t weeks) {
+GameState heavyCareer(int64_t weeks, LiveWeek live) {
   NullStore nowhere;
   LoneGame past(nowhere);
   past.game.state.myArtistsName = "Mara Quill";
   past.game.state.promptToEnterName = 1;
   for (int64_t week = 0; week < weeks; ++week) {
-    liveWeek(past.game);
+    live(past.game);
     playWeek(past.game);
   }
   return std::move(past.game.state);

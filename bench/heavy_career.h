@@ -19,14 +19,17 @@ struct LoneGame {
   Game game;
 };
 
-/// What the artist does between two weeks.
+/// What somebody does between two weeks.
+using LiveWeek = void (*)(Game& game);
+
+/// The artist of this career.
 void liveWeek(Game& game);
 
 /// END THE WEEK until the report is closed, views not built.
 void playWeek(Game& game);
 
 /// The state after so many weeks of both.
-GameState heavyCareer(int64_t weeks);
+GameState heavyCareer(int64_t weeks, LiveWeek live);
 
 /// The number of records in all lists, and of songs that still stream.
 size_t recordsIn(const GameState& state);

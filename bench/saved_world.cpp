@@ -7,15 +7,16 @@
 
 namespace backbeat {
 
-SavedWorld::SavedWorld(const std::filesystem::path& folder, int64_t weeks)
-    : path_(folder / std::to_string(weeks)),
+SavedWorld::SavedWorld(const std::filesystem::path& folder, const std::string& name, int64_t weeks, LiveWeek live)
+    : path_(folder / name),
+      live_(live),
       store_(SqliteStore::open(path_.string() + ".played").store),
       rowStore_(SqliteStore::open(path_.string() + ".rows").store),
       wholeStore_(SqliteStore::open(path_.string() + ".whole").store),
       played_(*store_),
       recorded_(recorder_),
       memory_(nowhere_) {
-  played_.game.state = heavyCareer(weeks);
+  played_.game.state = heavyCareer(weeks, live);
   const std::vector<Write> rows = rowsOf(played_.game.state);
   memory_.game.state = played_.game.state;
   recorded_.game.state = played_.game.state;
@@ -27,7 +28,7 @@ SavedWorld::SavedWorld(const std::filesystem::path& folder, int64_t weeks)
 
 void SavedWorld::recordWeek() {
   recorder_.transactions.clear();
-  liveWeek(recorded_.game);
+  live_(recorded_.game);
   commitRows();
   recorder_.transactions.clear();
   playWeek(recorded_.game);

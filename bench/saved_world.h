@@ -27,13 +27,14 @@ class Recorder final : public Store {
 
 class SavedWorld {
  public:
-  SavedWorld(const std::filesystem::path& folder, int64_t weeks);
+  /// `name` is that of its saves in the folder.
+  SavedWorld(const std::filesystem::path& folder, const std::string& name, int64_t weeks, LiveWeek live);
 
-  void liveDurably() { liveWeek(played_.game); }
+  void liveDurably() { live_(played_.game); }
   void playWeekDurably() { playWeek(played_.game); }
   void restAfterWeek() { store_->rest(); }
 
-  void liveInMemory() { liveWeek(memory_.game); }
+  void liveInMemory() { live_(memory_.game); }
   void playWeekInMemory() { playWeek(memory_.game); }
 
   /// A week is lived and played to know its rows; what is done before it is committed to the reference too.
@@ -54,6 +55,7 @@ class SavedWorld {
 
  private:
   std::filesystem::path path_;
+  LiveWeek live_;
   std::unique_ptr<SqliteStore> store_;
   std::unique_ptr<SqliteStore> rowStore_;
   std::unique_ptr<SqliteStore> wholeStore_;

@@ -1,5 +1,8 @@
 #include "screens.h"
 
+#include <algorithm>
+
+#include "shell/registry.h"
 #include "shell/shown_json.h"
 
 namespace backbeat {
@@ -29,6 +32,18 @@ const std::vector<HeavyScreen>& heavyScreens() {
   return screens;
 }
 
+const std::vector<HeavyScreen>& labelScreens() {
+  static const std::vector<HeavyScreen> screens = {
+      {"label home", {"3", "goToLabelDetail"}},
+      {"roster", {"3", "goToLabelDetail", "goToSignedArtists"}},
+      {"artist of the label", {"3", "goToLabelDetail", "artist:1"}},
+      {"songs of an album", {"3", "goToLabelDetail", "artist:1", "album:1"}},
+      {"return on the label", {"3", "goToLabelDetail", "goToArtistRoi"}},
+      {"chart history", {"1", "goToBillboard", "historyButton"}},
+  };
+  return screens;
+}
+
 void goToScreen(Session& session, const HeavyScreen& screen) {
   if (screen.presses.empty()) return pressOnce(session, "nav", "endTheWeekButton", "");
   pressOnce(session, "tabs", "tab", screen.presses.front());
@@ -42,6 +57,36 @@ void goToScreen(Session& session, const HeavyScreen& screen) {
 }
 
 std::string describedScreen(const Session& session) { return shownAsJson(session.navigator(), session.shown()); }
+
+std::vector<LooseScreen> everyScreen(Session& session) {
+  const GameState& state = session.game().state;
+  std::vector<std::string> arguments = {"", "0"};
+  for (const int64_t last : {int64_t{1}, state.songId, state.albumId, state.merchId, state.tourId,
+                             state.featuredOnSongId, state.signedArtistId, state.signedArtistAlbumId}) {
+    arguments.push_back(std::to_string(last));
+  }
+  Shown glass = session.shown();
+  std::vector<LooseScreen> all;
+  for (const Segue& segue : segues()) {
+    LooseScreen best;
+    size_t most = 0;
+    for (const std::string& argument : arguments) {
+      LooseScreen loose{std::string(segue.name), segue.make(session.game(), argument)};
+      loose.screen->open();
+      loose.screen->appear();
+      const size_t told = describedScreen(session, glass, *loose.screen).size();
+      if (told > most) best = std::move(loose);
+      most = std::max(most, told);
+    }
+    all.push_back(std::move(best));
+  }
+  return all;
+}
+
+std::string describedScreen(const Session& session, Shown& glass, const Screen& screen) {
+  glass.view = screen.view();
+  return shownAsJson(session.navigator(), glass);
+}
 
 void endTheWeek(Session& session, const Press& press) {
   press("nav", "endTheWeekButton", "");

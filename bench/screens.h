@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -14,12 +15,24 @@ struct HeavyScreen {
   std::vector<std::string> presses;  ///< the way there from anywhere: a tab's number, then ids; empty for the report
 };
 const std::vector<HeavyScreen>& heavyScreens();
+/// Those of a label, besides.
+const std::vector<HeavyScreen>& labelScreens();
 
 /// Goes to the screen. After the report the week is over.
 void goToScreen(Session& session, const HeavyScreen& screen);
 
 /// What the page gets after a press: the whole glass, as JSON.
 std::string describedScreen(const Session& session);
+
+/// A screen that is opened without a way to it.
+struct LooseScreen {
+  std::string name;
+  std::unique_ptr<Screen> screen;
+};
+/// Every screen of the game, each about that of which it has most to say.
+std::vector<LooseScreen> everyScreen(Session& session);
+/// What the page would get if it were on the glass.
+std::string describedScreen(const Session& session, Shown& glass, const Screen& screen);
 
 /// A press of `id` on the screen of that key.
 using Press = std::function<void(const std::string& screenKey, const std::string& id, const std::string& value)>;

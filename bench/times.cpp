@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <utility>
 
 namespace backbeat {
@@ -12,6 +13,17 @@ namespace backbeat {
 namespace {
 
 constexpr const char* quartile = "quartile";
+bool countsProcessorTime = false;
+
+/// Seconds since some moment.
+double now() {
+  if (!countsProcessorTime) {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
+  }
+  timespec spent{};
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &spent);
+  return static_cast<double>(spent.tv_sec) + static_cast<double>(spent.tv_nsec) / 1e9;
+}
 
 class Keeper final : public benchmark::BenchmarkReporter {
  public:
@@ -31,15 +43,17 @@ class Keeper final : public benchmark::BenchmarkReporter {
 
 }  // namespace
 
+void countProcessorTime() { countsProcessorTime = true; }
+
 void measure(const std::string& name, int repetitions, Step before, Step step, Step after) {
   const auto run = [=](benchmark::State& state) {
     for (auto _ : state) {
       before();
-      const auto start = std::chrono::steady_clock::now();
+      const double start = now();
       step();
-      const std::chrono::duration<double> took = std::chrono::steady_clock::now() - start;
+      const double took = now() - start;
       after();
-      state.SetIterationTime(took.count());
+      state.SetIterationTime(took);
     }
   };
   benchmark::RegisterBenchmark(name.c_str(), run)

@@ -326,8 +326,8 @@ Standings rosterFigures(Game& twin) {
   return {{"under contract", "1/" + std::to_string(state.studioCapacity)},
           {"Nova Reed", std::to_string(artistRating(nova)), "goToSignedArtistDetail 7"},
           {"Nova Reed: subtitle", "IN PRODUCTION (" + std::to_string(nova.weeksToCompleteAlbum) + ")\n" +
-                                      toGo(state, nova) + " WEEKS LEFT • " + withCommas(nova.monthlyListeners) +
-                                      " MONTHLY LISTENERS"}};
+                                      toGo(state, nova) + " WEEKS LEFT • " +
+                                      abbreviated(static_cast<double>(nova.monthlyListeners)) + " LISTENERS"}};
 }
 
 Standings levelFigures(const std::string& name, int64_t value, int64_t original) {

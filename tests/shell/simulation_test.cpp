@@ -5,6 +5,8 @@
 #include <algorithm>
 
 #include "core/memory_store.h"
+#include "label/departments.h"
+#include "play/worlds.h"
 #include "shell/simulate/simulation_summary.h"
 #include "support/program.h"
 
@@ -51,6 +53,20 @@ TEST(Simulation, NoStrategyIsEverStuckAndItsTraceEndsWhereItEnded) {
     EXPECT_EQ(replayed.session().game().state.weekNumberForTracking, 8 * 52 + 1);
     EXPECT_FALSE(replayed.session().shown().alert);
   }
+}
+
+TEST(Simulation, AFounderRunsTheLabelThatItCanPay) {
+  MemoryStore store;
+  settleInto(store, namedWorld("before the label"));
+  std::vector<std::string> problems;
+  Player player(store, timeIn(store), 3, problems);
+  const std::unique_ptr<Strategy> founder = strategyNamed("founder")->make();
+  for (int64_t week = 1; week <= 5 * 52; ++week) founder->playWeek(player, week);
+  EXPECT_THAT(problems, IsEmpty());
+  EXPECT_EQ(player.state().isLabelLaunched, 1);
+  EXPECT_GE(player.state().saveAllEmployeeList.size(), 7u);
+  EXPECT_GT(activeArtists(player.state()), 3);
+  EXPECT_GT(player.state().saveAllSignedArtistAlbumList.size(), 3u);
 }
 
 TEST(Simulation, HarderWorkFindsMoreListeners) {

@@ -64,7 +64,8 @@ void addDue(Rows& rows, const DueArtists& due, const std::string& one, const std
   if (due.count == 0) return;
   const bool isOne = due.count == 1;
   rows.items.push_back({.picture = person(due.first->name),
-                        .title = isOne ? due.first->name + one : std::to_string(due.count) + several,
+                        .title = isOne ? due.first->name : std::to_string(due.count) + several,
+                        .subtitle = isOne ? one : "",
                         .badge = "!",
                         .opens = true,
                         .id = isOne ? "artist:" + std::to_string(due.first->artistId) : "goToSignedArtists"});
@@ -167,8 +168,8 @@ void LabelDetailViewController::describe(View& view) const {
 
 void LabelDetailViewController::describeDue(View& view) const {
   Rows due;
-  addDue(due, dueArtists(state(), contractIsUp), "'s contract is up", " contracts are up");
-  addDue(due, dueArtists(state(), albumWaits), "'s album is complete", " albums are complete");
+  addDue(due, dueArtists(state(), contractIsUp), "The contract is up", " contracts are up");
+  addDue(due, dueArtists(state(), albumWaits), "The album is complete", " albums are complete");
   if (!due.items.empty()) view.add(std::move(due));
 }
 

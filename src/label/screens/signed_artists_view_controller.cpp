@@ -18,12 +18,13 @@ int64_t urgency(const GameState& state, const SignedArtist& artist) {
 }
 
 std::string standingOf(const GameState& state, const SignedArtist& artist) {
-  const std::string listeners = withCommas(artist.monthlyListeners) + " MONTHLY LISTENERS";
-  if (!artist.underContract) return "DROPPED • " + listeners;
-  if (contractIsUp(state, artist)) return "PENDING\nCONTRACT IS UP • " + listeners;
+  // Short, since a row on a narrow phone has room for four lines of it.
+  const std::string listeners = abbreviated(static_cast<double>(artist.monthlyListeners));
+  if (!artist.underContract) return "DROPPED • " + listeners + " MONTHLY LISTENERS";
+  if (contractIsUp(state, artist)) return "PENDING\nCONTRACT IS UP • " + listeners + " MONTHLY LISTENERS";
   const std::string album =
       albumWaits(state, artist) ? "COMPLETE" : "IN PRODUCTION (" + std::to_string(artist.weeksToCompleteAlbum) + ")";
-  return album + "\n" + std::to_string(weeksLeft(state, artist)) + " WEEKS LEFT • " + listeners;
+  return album + "\n" + std::to_string(weeksLeft(state, artist)) + " WEEKS LEFT • " + listeners + " LISTENERS";
 }
 
 Row rowOf(const GameState& state, const SignedArtist& artist) {

@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "career/studio.h"
+#include "label/departments.h"
 #include "music/chart.h"
 #include "wealth/net_assets.h"
 #include "wealth/ventures.h"
@@ -47,6 +48,14 @@ void countAssets(const GameState& state, CareerYear& row) {
   }
 }
 
+void countLabel(const GameState& state, CareerYear& row) {
+  row.ownLabel = state.isLabelLaunched;
+  row.artists = activeArtists(state);
+  for (const auto& week : state.saveAllSignedArtistWeeklySongListens) row.labelNet += week.totalStreamRevenue;
+  for (const auto& week : state.saveAllSignedArtistWeeklyAlbumSales) row.labelNet += week.albumRevenue;
+  row.labelNet -= state.totalRecordLabelCost;
+}
+
 }  // namespace
 
 double Column::of(const CareerYear& row) const {
@@ -78,6 +87,7 @@ CareerYear careerYear(const GameState& state, int64_t year) {
   countMusic(state, row);
   countTheRest(state, row);
   countAssets(state, row);
+  countLabel(state, row);
   return row;
 }
 

@@ -37,6 +37,9 @@ struct CareerYear {
   double ventures = 0;  ///< the same of stakes in startups; what ended counts with what it brought
   double venturesPaid = 0;
   int64_t underContract = 0;  ///< 1 while a label's contract runs
+  int64_t ownLabel = 0;       ///< 1 while the own one stands
+  int64_t artists = 0;        ///< under contract with it
+  double labelNet = 0;        ///< dollars that it brought less all that it cost but its launch; 0 once it is closed
   int64_t energyCeiling = 0;
   int64_t songWriting = 0;
   int64_t vocalRange = 0;
@@ -55,7 +58,7 @@ struct Column {
   std::string text(const CareerYear& row) const;  ///< dollars with cents
 };
 
-inline constexpr std::array<Column, 31> columns = {{
+inline constexpr std::array<Column, 34> columns = {{
     {"year", &CareerYear::year},
     {"cash", &CareerYear::cash},
     {"net_assets", &CareerYear::netAssets},
@@ -80,6 +83,9 @@ inline constexpr std::array<Column, 31> columns = {{
     {"ventures", &CareerYear::ventures},
     {"ventures_paid", &CareerYear::venturesPaid},
     {"under_contract", &CareerYear::underContract},
+    {"own_label", &CareerYear::ownLabel},
+    {"artists", &CareerYear::artists},
+    {"label_net", &CareerYear::labelNet},
     {"energy_ceiling", &CareerYear::energyCeiling},
     {"songwriting", &CareerYear::songWriting},
     {"vocals", &CareerYear::vocalRange},

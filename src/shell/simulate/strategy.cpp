@@ -4,6 +4,7 @@
 
 #include "shell/simulate/casual.h"
 #include "shell/simulate/dynast.h"
+#include "shell/simulate/founder.h"
 #include "shell/simulate/idle.h"
 #include "shell/simulate/investor.h"
 #include "shell/simulate/keen.h"
@@ -28,6 +29,7 @@ constexpr StrategyEntry all[] = {
     {"owner", "keen, and homes and vehicles for what is left", make<Owner>},
     {"investor", "keen, and a part in every startup that asks", make<Investor>},
     {"mogul", "keen, and everything that money buys", make<Mogul>},
+    {"founder", "keen, and a label as soon as there is money for one", make<Founder>},
 };
 
 }  // namespace
