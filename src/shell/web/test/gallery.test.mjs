@@ -152,7 +152,8 @@ test("brothers and sisters take after the same kin, and each stays who it is", a
   const { page, context, faults } = await stage.open();
   const drawn = await page.evaluate(() => {
     const { portrait } = window.stage;
-    const skinOf = (named) => /fill="(#\w+)"/.exec(portrait(named))[1];
+    const skins = ["ffdbb4", "edb98a", "d08b5b", "ae5d29", "694d3d"];
+    const skinOf = (named) => skins.filter((skin) => portrait(named).includes(skin)).join();
     const colours = (kin, family) =>
       ["baby:1 0 80", "girl:2 1 71", "teenBoy:3 0 66", "woman:4 1 90", "oldMan:5 0 88"].map((own) =>
         skinOf(`${own}\n${kin}\n${family}`),
@@ -161,13 +162,16 @@ test("brothers and sisters take after the same kin, and each stays who it is", a
     return {
       light: kins.map((kin) => colours(kin, "light")),
       dark: kins.map((kin) => colours(kin, "dark")),
+      hair: ["girl", "teenGirl", "woman"].map((age) => portrait(`${age}:2 1 71\nNova Theo\nlight`).length),
       faces: new Set(["1 0 80", "2 0 71", "3 0 66"].map((own) => portrait(`boy:${own}\nNova Theo\nlight`))).size,
     };
   });
   for (const family of [...drawn.light, ...drawn.dark]) assert.equal(new Set(family).size, 1, String(family));
   const shared = drawn.light.flat().filter((skin) => drawn.dark.flat().includes(skin));
   assert.deepEqual(shared, []);
+  assert.ok(drawn.light.flat().every((skin) => skin.length === 6));
   assert.equal(drawn.faces, 3);
+  assert.ok(Math.max(...drawn.hair) - Math.min(...drawn.hair) < 400, `another head: ${drawn.hair}`);
   assert.deepEqual(faults, []);
   await context.close();
 });

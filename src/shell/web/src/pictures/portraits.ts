@@ -87,15 +87,34 @@ const skins: Record<string, string[]> = { light: ["ffdbb4", "edb98a", "d08b5b"],
 const hair = ["2c1b18", "4a312c", "724133", "a55728", "b58143", "d6b370", "c93305"];
 const darkHair = ["2c1b18", "4a312c"];
 
-/** Who takes after kin says so in three lines, as in "girl:Ada\nNova Theo\nlight": brothers and sisters share skin and hair. */
-function inherited(name: string): Look {
-  const [, kin = "", family = ""] = name.split("\n");
-  const tone = family.split(" ", 1)[0]!;
+const keptFaces = "calm cheeky cute smile smileBig smileLOL smileTeethGap";
+const grownAlike: Record<string, Presentation> = {
+  girl: "woman",
+  boy: "man",
+  teenGirl: "woman",
+  teenBoy: "man",
+  woman: "woman",
+  man: "man",
+};
+
+/**
+ * Who takes after kin says so in three lines, as in "girl:Ada\nNova Theo\nlight": brothers and sisters share skin and
+ * hair, and a teen has the head of the child.
+ */
+function inherited(form: string, name: string): Look {
+  const [own = "", kin = "", family = ""] = name.split("\n");
+  const [tone = "", another = ""] = family.split(" ", 2);
   if (!Object.hasOwn(skins, tone)) return {};
-  const draw = drawsOf(`kin of ${kin}`);
+  const ofKin = drawsOf(`kin of ${kin}`);
+  const ofOwn = drawsOf(`${own} ${kin} ${another}`);
+  const skinColor = [pick(skins[tone]!, ofKin)];
+  const presentation = grownAlike[form];
+  if (!presentation) return { skinColor };
   return {
-    skinColor: [pick(skins[tone]!, draw)],
-    headContrastColor: [pick(tone === "dark" ? darkHair : hair, draw)],
+    skinColor,
+    headContrastColor: [pick(tone === "dark" ? darkHair : hair, ofKin)],
+    head: [pick(list(young[presentation]), ofOwn)],
+    face: [pick(list(keptFaces), ofOwn)],
   };
 }
 
@@ -106,6 +125,6 @@ export function portrait(named: string): string {
   const asked = Object.hasOwn(looks, form);
   const name = asked ? named.slice(colon + 1) : named;
   const look = asked ? looks[form]!(name) : adult(presentationOf(name));
-  const kin = inherited(name);
-  return createAvatar(peeps, { seed: name, maskProbability: 0, scale: 92, translateY: 4, ...kin, ...look }).toString();
+  const kin = inherited(form, name);
+  return createAvatar(peeps, { seed: name, maskProbability: 0, scale: 92, translateY: 4, ...look, ...kin }).toString();
 }
