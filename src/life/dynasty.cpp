@@ -42,7 +42,7 @@ class Growing {
   Tree grow() {
     const RecordList<Legacy>& book = state_.saveAllLegacyList;
     const size_t shown = std::min(generationsShown, book.size());
-    for (size_t i = book.size() - shown; i < book.size(); ++i) addElder(i, i > book.size() - shown);
+    for (size_t i = book.size() - shown; i < book.size(); ++i) addElder(i);
     addPlayer();
     addChildren();
     return std::move(tree_);
@@ -54,7 +54,7 @@ class Growing {
     return static_cast<int64_t>(tree_.people.size()) - 1;
   }
 
-  /// Whoever has parents is a child of the one before; the other parent stands beside that one.
+  /// Whoever has parents is a child of the one before, if that one is shown; the other parent stands beside that one.
   void follow(Person person, const std::vector<std::string>& parents) {
     const bool isChild = last_ >= 0 && !parents.empty();
     if (isChild) person.parent = last_;
@@ -70,14 +70,14 @@ class Growing {
     last_ = add(std::move(person));
   }
 
-  void addElder(size_t i, bool hasElder) {
+  void addElder(size_t i) {
     const Legacy& legacy = state_.saveAllLegacyList[i];
     follow({.picture = portraitOf(legacy.imageString, legacy.name),
             .title = legacy.name,
             .subtitle = lifeYears(legacy),
             .standing = Person::Standing::elder,
             .id = "legacy:" + std::to_string(i)},
-           hasElder ? legacy.parentsNames : std::vector<std::string>());
+           legacy.parentsNames);
   }
 
   void addPlayer() {

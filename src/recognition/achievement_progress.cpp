@@ -141,7 +141,7 @@ Progress topTenAtOnce(const GameState& state, int64_t) {
   constexpr int64_t places = 10;
   std::set<int64_t> held;
   for (const BillboardSong& row : state.saveAllBillboardSongList) {
-    const bool isPlace = row.rankThisWeek >= 1 && row.rankThisWeek <= places;
+    const bool isPlace = row.isOnCharts && row.rankThisWeek >= 1 && row.rankThisWeek <= places;
     if (isPlace && isOwnRow(row) && row.weeksOnChart == 1) held.insert(row.rankThisWeek);
   }
   return towards(static_cast<int64_t>(held.size()), places);

@@ -24,6 +24,7 @@ const RoomErrands errands({
      {"poor investor"},
      {{"Venture Raise"}, {"investButton"}, {"💰 Not Enough Cash 💰"}, {"passButton"}, {"🚪 Round Closed 🚪"}},
      wait},
+    {"help the family", {"ten startups"}, {{"Family Request"}, {"♥️ Family Needs ♥️"}}, wait},
     {"have seen every deck", {"ten startups"}, {{"Pitch Deck"}, {"Nothing of Interest"}}, wait},
     {"follow on", {"ten startups"}, {{"Venture Raise"}, {"investButton"}, {"🚀 You're In 🚀"}}, wait},
     {"sell a part of a startup",

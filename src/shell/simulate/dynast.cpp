@@ -1,6 +1,7 @@
 #include "shell/simulate/dynast.h"
 
 #include "shell/simulate/family_habits.h"
+#include "shell/simulate/habits.h"
 
 namespace backbeat {
 
@@ -8,7 +9,9 @@ namespace {
 
 constexpr FamilyPlan family = {.swipes = 6, .dates = 2, .children = 1, .energyKept = 30};
 constexpr int64_t charming = 15;  ///< before that nearly nobody likes back
-constexpr int64_t ageOfHeir = 20;
+constexpr int64_t ageOfHeir = 18;
+constexpr int64_t weeksOfALifestyle = 13;
+constexpr double shareForAWeekOfLife = 0.01;  ///< who does not live well has no energy left for handing over
 constexpr int64_t weeksBetweenLessons = 3;
 
 }  // namespace
@@ -18,6 +21,9 @@ void Dynast::playWeek(Player& player, int64_t week) {
   if (player.state().charisma >= charming) lookForLove(player, family);
   lookAfterPartner(player, family);
   if (week % weeksBetweenLessons == 0) raiseChildren(player);
+  if (week % weeksOfALifestyle == 0) {
+    chooseLifestyles(player, player.state().totalCashAvailable * shareForAWeekOfLife);
+  }
   work_.playWeek(player, week - firstWeek_ + 1);
 }
 
