@@ -33,15 +33,16 @@ Chapter songChapter(const GameState& state, const YearOfKind& songs) {
   if (songs.amount == 0) return {cardOf(icon("note"), "The song", "Nobody has heard you yet. That can change."), false};
   const YearWork& song = songs.works.front();
   return {cardOf(pictureOfWork(state, YearKind::songs, song), "The song",
-                 "“" + song.title + "” was the one they played the most.", many(song.amount, "plays"))};
+                 "“" + song.title + "” was the one they played the most: " + many(song.amount, "plays") + ".")};
 }
 
 Chapter albumChapter(const GameState& state, int64_t year) {
   const YearOfKind albums = yearOfKind(state, YearKind::albums, year);
   if (albums.amount == 0) return {cardOf(icon("album"), "The album", "No album was sold this year."), false};
   const YearWork& album = albums.works.front();
-  return {cardOf(pictureOfWork(state, YearKind::albums, album), "The album",
-                 "“" + album.title + "” stood in the shops and did not stay there.", many(album.amount, "sold"))};
+  return {
+      cardOf(pictureOfWork(state, YearKind::albums, album), "The album",
+             "“" + album.title + "” stood in the shops and did not stay there: " + many(album.amount, "sold") + ".")};
 }
 
 Chapter weekChapter(const YearOfKind& songs) {
@@ -49,8 +50,7 @@ Chapter weekChapter(const YearOfKind& songs) {
   if (*best == 0) return {cardOf(icon("calendar"), "The biggest week", "Every week was a quiet one."), false};
   return {cardOf(icon("calendar"), "The biggest week",
                  "In week " + std::to_string(std::distance(songs.weeks.begin(), best) + 1) +
-                     " more of you was heard than in any other.",
-                 many(*best, "streams"))};
+                     " more of you was heard than in any other: " + many(*best, "streams") + ".")};
 }
 
 int64_t festivalsPlayed(const GameState& state, int64_t year) {
@@ -68,9 +68,9 @@ Chapter roadChapter(const GameState& state, const YearOfKind& tours, int64_t yea
   std::string played;
   if (tours.shows > 0) played = counted(tours.shows, "show");
   if (tours.soldOut > 0) played += ", " + withCommas(tours.soldOut) + " sold out";
+  if (tours.amount > 0) played += ", for " + many(tours.amount, "people");
   if (festivals > 0) played += (played.empty() ? "" : ", and ") + counted(festivals, "festival");
-  return {cardOf(drawn(Picture::Kind::scene, "stage", std::to_string(year)), "The road", played + ".",
-                 tours.amount > 0 ? many(tours.amount, "seats") : "")};
+  return {cardOf(drawn(Picture::Kind::scene, "stage", std::to_string(year)), "The road", played + ".")};
 }
 
 /// Whose heart it was about: a birth before a beginning, a beginning before an end.
@@ -130,8 +130,7 @@ double earnedIn(const GameState& state, int64_t year) {
 
 Chapter moneyChapter(double dollars) {
   if (dollars <= 0) return {cardOf(icon("cash"), "The money", "Music has not paid a bill so far."), false};
-  return {
-      cardOf(icon("cash"), "The money", "That is what music and its stages brought in.", abbreviatedDollars(dollars))};
+  return {cardOf(icon("cash"), "The money", "Music and its stages brought in " + abbreviatedDollars(dollars) + ".")};
 }
 
 Chapter honoursChapter(const GameState& state, int64_t year) {
@@ -148,11 +147,11 @@ Chapter honoursChapter(const GameState& state, int64_t year) {
   if (nominated == 0) return {cardOf(icon("trophy"), "The honours", "The trophies went to other people."), false};
   const Picture fork = drawn(Picture::Kind::object, "fork", std::to_string(year));
   if (!won) {
-    return {
-        cardOf(fork, "The honours", "Nominated, and applauded from a good seat.", counted(nominated, "nomination"))};
+    return {cardOf(fork, "The honours", counted(nominated, "nomination") + ", and applause from a good seat.")};
   }
-  return {cardOf(fork, "The honours", "“" + won->songOrAlbumName + "” is " + won->nameOfAward + ".",
-                 counted(wins, "GRAM"))};
+  return {cardOf(fork, "The honours",
+                 "“" + won->songOrAlbumName + "” is " + won->nameOfAward +
+                     (wins > 1 ? ", one of " + counted(wins, "GRAM") : "") + ".")};
 }
 
 }  // namespace

@@ -26,11 +26,15 @@ Standings goalFigures(const GameState& state, const Achievement& goal) {
 }
 
 Standings achievementFigures(Game& twin) {
-  completeReached(twin);
+  const size_t found = completeReached(twin).size();
   const GameState& state = twin.state;
   const std::string count = std::to_string(completedCount(state)) + " of 82";
-  Standings standings = {{"subtitle", "Achieved " + count}, {"gauges", count}, {"gauges: note", "8 categories"}};
-  for (const int64_t nearest : {102, 151, 128, 122, 117}) standings = standings + goalFigures(state, *achievementWithId(nearest));
+  Standings standings = {{"subtitle", "Achieved " + count},
+                         {"gauges", count},
+                         {"gauges: note", "8 categories"},
+                         {"text", "and " + std::to_string(found - 3) + " more"}};
+  for (const int64_t nearest : {102, 151, 128, 122, 117})
+    standings = standings + goalFigures(state, *achievementWithId(nearest));
   for (const Achievement& goal : achievements()) standings = standings + goalFigures(state, goal);
   for (size_t kind = 0; kind < goalKinds.size(); ++kind) {
     int64_t all = 0;

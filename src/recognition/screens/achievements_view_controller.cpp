@@ -10,15 +10,15 @@ namespace backbeat {
 namespace {
 
 constexpr size_t mostNearest = 5;
+constexpr size_t mostCelebrated = 3;
 
 Picture medalOf(const Achievement& goal) { return drawn(Picture::Kind::object, "medal", goal.icon); }
 
-Card cardOf(const Achievement& goal, std::string badge, Tone tone) {
+Card cardOf(const Achievement& goal, bool isNew) {
   return {.picture = medalOf(goal),
           .title = std::string(goal.title),
-          .text = goal.task(),
-          .badge = std::move(badge),
-          .tone = tone};
+          .text = goal.task() + (isNew ? " · New" : ""),
+          .tone = isNew ? Tone::good : Tone::plain};
 }
 
 double shareOf(const Progress& progress) { return backbeat::shareOf(progress.now, progress.needed); }
@@ -78,10 +78,14 @@ void AchievementsViewController::describeStacks(View& view) const {
 
 /// What was reached just now, else the latest of all.
 void AchievementsViewController::describeReached(View& view) const {
-  for (const Achievement* goal : reached_) view.add(cardOf(*goal, "New", Tone::good));
+  const size_t celebrated = std::min(mostCelebrated, reached_.size());
+  for (size_t i = 0; i < celebrated; ++i) view.add(cardOf(*reached_[i], true));
+  if (reached_.size() > celebrated) {
+    view.add(caption("and " + std::to_string(reached_.size() - celebrated) + " more"));
+  }
   if (!reached_.empty() || state().AllCompletedAchievements.empty()) return;
   if (const Achievement* latest = achievementWithId(state().AllCompletedAchievements.back())) {
-    view.add(cardOf(*latest, "", Tone::plain));
+    view.add(cardOf(*latest, false));
   }
 }
 

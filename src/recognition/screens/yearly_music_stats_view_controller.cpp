@@ -40,6 +40,14 @@ std::string changeOn(int64_t year, double now, double before) {
   return (percent < 0 ? "" : "+") + withDecimals(percent, 0) + "% on " + std::to_string(year);
 }
 
+/// The first week of each quarter has its number below it.
+std::vector<std::string> quarters() {
+  constexpr size_t quarter = weeksOfYear / 4;
+  std::vector<std::string> labels(weeksOfYear);
+  for (size_t week = 0; week < weeksOfYear; week += quarter) labels[week] = "W" + std::to_string(week + 1);
+  return labels;
+}
+
 }  // namespace
 
 Outcome YearlyMusicStatsViewController::open() {
@@ -106,7 +114,7 @@ void YearlyMusicStatsViewController::describeSums(View& view) const {
                  .tone = before_.amount > 0 ? toneOfChange(now_.amount - before_.amount) : Tone::plain,
                  .style = Chart::Style::bars,
                  .points = {now_.weeks.begin(), now_.weeks.end()},
-                 .labels = {"Week 1", "Week 52"}});
+                 .labels = quarters()});
   const auto best = std::max_element(now_.weeks.begin(), now_.weeks.end());
   Tiles tiles{{{.icon = "cash",
                 .label = "Earned",
