@@ -8,7 +8,7 @@
 namespace backbeat {
 
 SavedWorld::SavedWorld(const std::filesystem::path& folder, const std::string& name, int64_t weeks, LiveWeek live)
-    : path_(folder / name),
+    : path_(folder / ("career" + name)),
       live_(live),
       store_(SqliteStore::open(path_.string() + ".played").store),
       rowStore_(SqliteStore::open(path_.string() + ".rows").store),
