@@ -119,7 +119,8 @@ struct Launch {
   RunningTally<StreamWeeks> streamWeeks;
   LabelMemory label;  ///< what of its history is summed already
   Dating dating;
-  int64_t weddingWeek = 0;  ///< the absolute week of the last wedding
+  int64_t weddingWeek = 0;                ///< the absolute week of the last wedding
+  std::vector<std::string> awaitedPacks;  ///< products asked for, whose answer is still to come
 };
 
 struct Room;

@@ -21,16 +21,19 @@ void endLives(Game& game, Lifetime last) {
 
 void restartGame(Game& game) {
   GameState& state = game.state;
+  const int64_t assisted = state.permanentEnergyUpgrade > 0 ? state.assisted : 0;
   endLives(game, Lifetime::family);
+  state.assisted = assisted;
   state.totalEnergyMax += state.permanentEnergyUpgrade;
   state.totalEnergyAvailable = state.totalEnergyMax;
-  game.save(&GameState::totalEnergyAvailable, &GameState::totalEnergyMax);
+  game.save(&GameState::assisted, &GameState::totalEnergyAvailable, &GameState::totalEnergyMax);
   // What only this launch knows of the old life goes with it; what it does once stays done.
   const Launch before = game.launch;
   game.launch = Launch();
   game.launch.leaderboardPassDone = before.leaderboardPassDone;
   game.launch.musicScreenLoaded = before.musicScreenLoaded;
   game.launch.venueDemand = before.venueDemand;
+  game.launch.awaitedPacks = before.awaitedPacks;
   stateChanged(game);
 }
 

@@ -10,7 +10,7 @@ namespace backbeat {
 void endLives(Game& game, Lifetime last);
 
 /// Begins anew. What outlives every artist stays: bought energy, achievements, the family's legacy, first-use memory,
-/// the changed names of guests and cameos, high scores.
+/// the changed names of guests and cameos, high scores. While energy is there for good, so does the mark of packs.
 void restartGame(Game& game);
 
 }  // namespace backbeat

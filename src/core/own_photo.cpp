@@ -34,6 +34,15 @@ std::optional<size_t> dataOf(std::string_view address) {
   return std::nullopt;
 }
 
+Outcome takeInto(Game& game, std::string GameState::*member, const std::string& address) {
+  if (!address.empty()) {
+    if (auto refusal = photoRefusal(address)) return *refusal;
+  }
+  game.state.*member = address;
+  game.save(member);
+  return success();
+}
+
 /// 1 is the one that a name has by itself.
 int64_t chosenPortrait(const GameState& state) {
   const std::string_view kept = state.twitterProfileImage;
@@ -54,9 +63,35 @@ std::optional<Outcome> photoRefusal(std::string_view address) {
   return std::nullopt;
 }
 
-PhotoField photoField(bool taken) { return {.id = "photo", .label = "Your own photo", .taken = taken}; }
+PhotoField photoField(bool taken) {
+  return {.id = "photo", .label = "Your own photo", .note = photoLimit, .taken = taken};
+}
+
+std::string removalOf(const PhotoField& field) {
+  std::string id = "remove" + field.id;
+  id[6] = static_cast<char>(id[6] - 'a' + 'A');
+  return id;
+}
+
+void addPhotoField(View& view, const PhotoField& field) {
+  view.add(field);
+  if (!field.taken) return;
+  const bool isHeader = field.shape == PhotoField::Shape::wide;
+  view.add(Button{.id = removalOf(field),
+                  .label = isHeader ? "Remove header" : "Remove photo",
+                  .style = Button::Style::destructive});
+}
 
 bool hasOwnPhoto(const GameState& state) { return dataOf(state.twitterProfileImage).has_value(); }
+bool hasOwnHeader(const GameState& state) { return dataOf(state.twitterHeaderImage).has_value(); }
+
+Outcome takeProfilePhoto(Game& game, const std::string& address) {
+  return takeInto(game, &GameState::twitterProfileImage, address);
+}
+
+Outcome takeHeader(Game& game, const std::string& address) {
+  return takeInto(game, &GameState::twitterHeaderImage, address);
+}
 
 void chooseNextPortrait(Game& game) {
   const int64_t next = chosenPortrait(game.state) % portraitsOfName + 1;
@@ -70,6 +105,11 @@ Picture artistPicture(const GameState& state, const std::string& name) {
   if (hasOwnPhoto(state)) return {Picture::Kind::photo, state.twitterProfileImage};
   const int64_t portrait = chosenPortrait(state);
   return person(portrait == 1 ? name : name + " #" + std::to_string(portrait));
+}
+
+Picture headerPicture(const GameState& state) {
+  if (hasOwnHeader(state)) return {Picture::Kind::photo, state.twitterHeaderImage};
+  return drawn(Picture::Kind::scene, "stage", state.myArtistsName);
 }
 
 }  // namespace backbeat

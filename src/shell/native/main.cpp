@@ -84,8 +84,8 @@ int play(const CommandLine& line) {
   // A launch takes its time in the hundredth year, so only one that has stopped before is tried on the side first.
   const std::string problem = opened.store->launchStopped() ? launchProblem(*opened.store, now()) : "";
   if (!rescue(*opened.store, problem, std::cin, std::cout, now)) return failed;
-  QuietPlatform platform;
-  TraceRecorder career(*opened.store, platform, record);
+  FreeShop shop;
+  TraceRecorder career(*opened.store, shop, record);
   if (!line.trace.empty() && holdsCareer(*opened.store)) {
     career.noteForeignCareer();
     std::cerr << "backbeat: this trace goes on with a career that is there already; it cannot be replayed.\n";
@@ -96,7 +96,7 @@ int play(const CommandLine& line) {
   const bool colour = isTerminal(STDOUT_FILENO) && environment("NO_COLOR").empty();
   const bool atTerminal = isTerminal(STDIN_FILENO) && isTerminal(STDOUT_FILENO);
   LineInput input = atTerminal ? linesFromTerminal() : linesFrom(std::cin);
-  ConsolePlayer(career, *opened.store, std::move(input), std::cout, colour, unixMilliseconds).run();
+  ConsolePlayer(career, *opened.store, shop, std::move(input), std::cout, colour, unixMilliseconds).run();
   if (!line.trace.empty() && !trace) return fail("the trace " + line.trace + " is not complete.");
   if (career.session().game().saveFile.failing()) return fail("the last steps could not be saved.");
   return done;
