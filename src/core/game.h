@@ -124,6 +124,7 @@ struct Launch {
   VentureMemory ventures;
   int64_t weddingWeek = 0;                  ///< the absolute week of the last wedding
   std::vector<int64_t> achievementsToTell;  ///< granted by this press and not told yet
+  std::vector<std::string> awaitedPacks;    ///< products asked for, whose answer is still to come
 };
 
 struct Room;

@@ -17,9 +17,11 @@
 #include "core/records/live.h"
 #include "core/records/merch.h"
 #include "core/records/music.h"
+#include "core/records/packs.h"
 #include "core/records/recognition.h"
 #include "core/records/social.h"
 #include "core/records/wealth.h"
+#include "core/store.h"
 
 namespace backbeat {
 
@@ -212,6 +214,7 @@ struct GameState {
   int64_t mostAchievementsCompleted = 0;
   int64_t careerId = 0;               ///< tells this career from others of the device; 0 until it has a name
   std::string appearance = "system";  ///< the player's choice of look: "system", "dark" or "light"
+  int64_t assisted = 0;               ///< 1 once this family has taken a pack
 
   std::string heirParentNames;  ///< of an artist who took over: the parents, one a line
 
@@ -256,6 +259,8 @@ struct GameState {
   RecordList<FeaturedArtist> AllFeaturedArtists{edited};
   RecordList<CelebrityCameo> AllCelebrityCameos{edited};
   RecordList<AwardYear> awardYear{edited};  ///< one, or none before the first nominations
+  RecordList<PackWeek> packWeeks{edited};   ///< one of each free pack that was taken
+  RecordList<CreditedPurchase> creditedPurchases{growing};
 
   friend bool operator==(const GameState&, const GameState&) = default;
 };
@@ -265,6 +270,7 @@ enum class Lifetime {
   artist,  ///< ends with the artist: at a restart, and when an heir takes over
   family,  ///< an heir goes on with it; ends at a restart
   player,  ///< outlives every artist
+  device,  ///< outlives every career that is played here, see `deviceKey`
 };
 
 /// When a scalar is read at launch.
@@ -442,6 +448,7 @@ inline constexpr auto scalars = std::to_array<Scalar>({
     {"careerId", &GameState::careerId, Lifetime::family},
     {"appearance", &GameState::appearance, Lifetime::player},
     {"heirParentNames", &GameState::heirParentNames, Lifetime::family},
+    {"assisted", &GameState::assisted, Lifetime::family},
     {"weeklyExpenses", &GameState::weeklyExpenses, Lifetime::artist, Loading::writeOnly},
     {"musicality", &GameState::musicality, Lifetime::artist, Loading::writeOnly},
 });
@@ -457,42 +464,43 @@ struct SavedList {
 /// Every list, in loading order.
 template <>
 inline constexpr auto fieldsOf<GameState> = [](auto&& take) {
-  return take(SavedList{"saveAllSongList", &GameState::saveAllSongList},
-              SavedList{"saveAllAlbumList", &GameState::saveAllAlbumList},
-              SavedList{"saveAllWeeklyAlbumSales", &GameState::saveAllWeeklyAlbumSales},
-              SavedList{"saveAllWeeklyLineItems", &GameState::saveAllWeeklyLineItems},
-              SavedList{"saveAllWeeklySongListens", &GameState::saveAllWeeklySongListens},
-              SavedList{"saveAllWeeklyTourSales", &GameState::saveAllWeeklyTourSales},
-              SavedList{"saveAllBillboardSongList", &GameState::saveAllBillboardSongList},
-              SavedList{"saveAllContractLabelList", &GameState::saveAllContractLabelList},
-              SavedList{"saveAllMusicTourList", &GameState::saveAllMusicTourList},
-              SavedList{"saveAllInvestmentPropertyList", &GameState::saveAllInvestmentPropertyList},
-              SavedList{"saveAllVentureInvestments", &GameState::saveAllVentureInvestments},
-              SavedList{"saveAllEmployeeList", &GameState::saveAllEmployeeList},
-              SavedList{"saveAllSignedArtistList", &GameState::saveAllSignedArtistList},
-              SavedList{"saveAllSignedArtistSongList", &GameState::saveAllSignedArtistSongList},
-              SavedList{"saveAllSignedArtistAlbumList", &GameState::saveAllSignedArtistAlbumList},
-              SavedList{"saveAllSignedArtistWeeklyAlbumSales", &GameState::saveAllSignedArtistWeeklyAlbumSales},
-              SavedList{"saveAllSignedArtistWeeklySongListens", &GameState::saveAllSignedArtistWeeklySongListens},
-              SavedList{"saveAllFeaturedOnList", &GameState::saveAllFeaturedOnList},
-              SavedList{"saveAllFeaturedOnWeeklySongListens", &GameState::saveAllFeaturedOnWeeklySongListens},
-              SavedList{"saveAllMatchesList", &GameState::saveAllMatchesList},
-              SavedList{"saveAllCreatedArtists", &GameState::saveAllCreatedArtists},
-              SavedList{"saveAllMerchReleasedList", &GameState::saveAllMerchReleasedList},
-              SavedList{"saveAllMerchWeeklySales", &GameState::saveAllMerchWeeklySales},
-              SavedList{"saveAllChirpList", &GameState::saveAllChirpList},
-              SavedList{"saveAllChildList", &GameState::saveAllChildList},
-              SavedList{"saveAllLegacyList", &GameState::saveAllLegacyList, Lifetime::player},
-              SavedList{"saveAllTransportationOwnedList", &GameState::saveAllTransportationOwnedList},
-              SavedList{"saveAllMusicAwards", &GameState::saveAllMusicAwards},
-              SavedList{"saveAllMusicVideoList", &GameState::saveAllMusicVideoList},
-              SavedList{"saveAllWeeklyVideoViews", &GameState::saveAllWeeklyVideoViews},
-              SavedList{"saveAllFestivalList", &GameState::saveAllFestivalList},
-              SavedList{"saveAllAlbumCovers", &GameState::saveAllAlbumCovers},
-              SavedList{"songGenres", &GameState::songGenres},
-              SavedList{"AllFeaturedArtists", &GameState::AllFeaturedArtists, Lifetime::player},
-              SavedList{"AllCelebrityCameos", &GameState::AllCelebrityCameos, Lifetime::player},
-              SavedList{"awardYear", &GameState::awardYear});
+  return take(
+      SavedList{"saveAllSongList", &GameState::saveAllSongList},
+      SavedList{"saveAllAlbumList", &GameState::saveAllAlbumList},
+      SavedList{"saveAllWeeklyAlbumSales", &GameState::saveAllWeeklyAlbumSales},
+      SavedList{"saveAllWeeklyLineItems", &GameState::saveAllWeeklyLineItems},
+      SavedList{"saveAllWeeklySongListens", &GameState::saveAllWeeklySongListens},
+      SavedList{"saveAllWeeklyTourSales", &GameState::saveAllWeeklyTourSales},
+      SavedList{"saveAllBillboardSongList", &GameState::saveAllBillboardSongList},
+      SavedList{"saveAllContractLabelList", &GameState::saveAllContractLabelList},
+      SavedList{"saveAllMusicTourList", &GameState::saveAllMusicTourList},
+      SavedList{"saveAllInvestmentPropertyList", &GameState::saveAllInvestmentPropertyList},
+      SavedList{"saveAllVentureInvestments", &GameState::saveAllVentureInvestments},
+      SavedList{"saveAllEmployeeList", &GameState::saveAllEmployeeList},
+      SavedList{"saveAllSignedArtistList", &GameState::saveAllSignedArtistList},
+      SavedList{"saveAllSignedArtistSongList", &GameState::saveAllSignedArtistSongList},
+      SavedList{"saveAllSignedArtistAlbumList", &GameState::saveAllSignedArtistAlbumList},
+      SavedList{"saveAllSignedArtistWeeklyAlbumSales", &GameState::saveAllSignedArtistWeeklyAlbumSales},
+      SavedList{"saveAllSignedArtistWeeklySongListens", &GameState::saveAllSignedArtistWeeklySongListens},
+      SavedList{"saveAllFeaturedOnList", &GameState::saveAllFeaturedOnList},
+      SavedList{"saveAllFeaturedOnWeeklySongListens", &GameState::saveAllFeaturedOnWeeklySongListens},
+      SavedList{"saveAllMatchesList", &GameState::saveAllMatchesList},
+      SavedList{"saveAllCreatedArtists", &GameState::saveAllCreatedArtists},
+      SavedList{"saveAllMerchReleasedList", &GameState::saveAllMerchReleasedList},
+      SavedList{"saveAllMerchWeeklySales", &GameState::saveAllMerchWeeklySales},
+      SavedList{"saveAllChirpList", &GameState::saveAllChirpList},
+      SavedList{"saveAllChildList", &GameState::saveAllChildList},
+      SavedList{"saveAllLegacyList", &GameState::saveAllLegacyList, Lifetime::player},
+      SavedList{"saveAllTransportationOwnedList", &GameState::saveAllTransportationOwnedList},
+      SavedList{"saveAllMusicAwards", &GameState::saveAllMusicAwards},
+      SavedList{"saveAllMusicVideoList", &GameState::saveAllMusicVideoList},
+      SavedList{"saveAllWeeklyVideoViews", &GameState::saveAllWeeklyVideoViews},
+      SavedList{"saveAllFestivalList", &GameState::saveAllFestivalList},
+      SavedList{"saveAllAlbumCovers", &GameState::saveAllAlbumCovers}, SavedList{"songGenres", &GameState::songGenres},
+      SavedList{"AllFeaturedArtists", &GameState::AllFeaturedArtists, Lifetime::player},
+      SavedList{"AllCelebrityCameos", &GameState::AllCelebrityCameos, Lifetime::player},
+      SavedList{"awardYear", &GameState::awardYear}, SavedList{"packWeeks", &GameState::packWeeks, Lifetime::family},
+      SavedList{deviceKey, &GameState::creditedPurchases, Lifetime::device});
 };
 
 /// A list of a state, whatever it holds, and the key under which it is stored.

@@ -1,5 +1,7 @@
 #include "core/memory_store.h"
 
+#include <algorithm>
+#include <iterator>
 #include <limits>
 
 namespace backbeat {
@@ -59,15 +61,25 @@ std::vector<KeptCopy> MemoryStore::snapshots() {
 bool MemoryStore::restoreSnapshot(std::string_view name) {
   const auto found = snapshots_.find(name);
   if (found == snapshots_.end() || failures_ > 0) return false;
-  rows = found->second;
+  rows = exchanged(rows, found->second);
   return true;
+}
+
+/// What is there once `after` has taken the place of `before`.
+MemoryStore::Rows MemoryStore::exchanged(const Rows& before, const Rows& after) {
+  const auto isDevices = [](const Rows::value_type& row) { return row.first.first == deviceKey; };
+  if (std::none_of(before.begin(), before.end(), isDevices)) return after;
+  Rows result;
+  std::copy_if(before.begin(), before.end(), std::inserter(result, result.end()), isDevices);
+  std::remove_copy_if(after.begin(), after.end(), std::inserter(result, result.end()), isDevices);
+  return result;
 }
 
 bool MemoryStore::replaceAll(std::span<const Write> replacement) {
   const Rows before = std::exchange(rows, {});
-  if (commit(replacement)) return true;
-  rows = before;
-  return false;
+  const bool committed = commit(replacement);
+  rows = committed ? exchanged(before, rows) : before;
+  return committed;
 }
 
 }  // namespace backbeat

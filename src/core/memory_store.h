@@ -32,6 +32,8 @@ class MemoryStore : public CareerStore {
   int64_t rowWrites = 0;  ///< rows written or removed
 
  private:
+  static Rows exchanged(const Rows& before, const Rows& after);
+
   int64_t failures_ = 0;
   std::map<std::string, Rows, std::less<>> snapshots_;
 };

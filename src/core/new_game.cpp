@@ -27,6 +27,7 @@ void forgetLaunch(Game& game) {
   game.launch.musicScreenLoaded = before.musicScreenLoaded;
   game.launch.venueDemand = before.venueDemand;
   game.launch.achievementsToTell = before.achievementsToTell;
+  game.launch.awaitedPacks = before.awaitedPacks;
 }
 
 void numberCareer(Game& game) {
@@ -40,10 +41,12 @@ void numberCareer(Game& game) {
 
 void restartGame(Game& game) {
   GameState& state = game.state;
+  const int64_t assisted = state.permanentEnergyUpgrade > 0 ? state.assisted : 0;
   endLives(game, Lifetime::family);
+  state.assisted = assisted;
   state.totalEnergyMax += state.permanentEnergyUpgrade;
   state.totalEnergyAvailable = state.totalEnergyMax;
-  game.save(&GameState::totalEnergyAvailable, &GameState::totalEnergyMax);
+  game.save(&GameState::assisted, &GameState::totalEnergyAvailable, &GameState::totalEnergyMax);
   forgetLaunch(game);
   stateChanged(game);
 }

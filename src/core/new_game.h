@@ -13,7 +13,7 @@ void endLives(Game& game, Lifetime last);
 void forgetLaunch(Game& game);
 
 /// Begins anew. What outlives every artist stays: bought energy, achievements, the family's legacy, first-use memory,
-/// the changed names of guests and cameos, high scores.
+/// the changed names of guests and cameos, high scores. While energy is there for good, so does the mark of packs.
 void restartGame(Game& game);
 
 /// Gives a career its number, unless it has one. It follows from the hour and the name, so that no draw is spent.

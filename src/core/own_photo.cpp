@@ -34,6 +34,15 @@ std::optional<size_t> dataOf(std::string_view address) {
   return std::nullopt;
 }
 
+Outcome takeInto(Game& game, std::string GameState::*member, const std::string& address) {
+  if (!address.empty()) {
+    if (auto refusal = photoRefusal(address)) return *refusal;
+  }
+  game.state.*member = address;
+  game.save(member);
+  return success();
+}
+
 /// Which of the portraits of a name: 1 is the one that it has by itself. The name is the artist's, or one that an heir
 /// brought along.
 struct ChosenPortrait {
@@ -68,9 +77,35 @@ std::optional<Outcome> photoRefusal(std::string_view address) {
   return std::nullopt;
 }
 
-PhotoField photoField(bool taken) { return {.id = "photo", .label = "Your own photo", .taken = taken}; }
+PhotoField photoField(bool taken) {
+  return {.id = "photo", .label = "Your own photo", .note = photoLimit, .taken = taken};
+}
+
+std::string removalOf(const PhotoField& field) {
+  std::string id = "remove" + field.id;
+  id[6] = static_cast<char>(id[6] - 'a' + 'A');
+  return id;
+}
+
+void addPhotoField(View& view, const PhotoField& field) {
+  view.add(field);
+  if (!field.taken) return;
+  const bool isHeader = field.shape == PhotoField::Shape::wide;
+  view.add(Button{.id = removalOf(field),
+                  .label = isHeader ? "Remove header" : "Remove photo",
+                  .style = Button::Style::destructive});
+}
 
 bool hasOwnPhoto(const GameState& state) { return dataOf(state.twitterProfileImage).has_value(); }
+bool hasOwnHeader(const GameState& state) { return dataOf(state.twitterHeaderImage).has_value(); }
+
+Outcome takeProfilePhoto(Game& game, const std::string& address) {
+  return takeInto(game, &GameState::twitterProfileImage, address);
+}
+
+Outcome takeHeader(Game& game, const std::string& address) {
+  return takeInto(game, &GameState::twitterHeaderImage, address);
+}
 
 void chooseNextPortrait(Game& game) {
   const ChosenPortrait now = chosenPortrait(game.state.twitterProfileImage);
@@ -94,6 +129,11 @@ Picture portraitOf(const std::string& kept, const std::string& name) {
   const auto [number, ofName] = chosenPortrait(kept);
   const std::string drawn = ofName.empty() ? name : std::string(ofName);
   return person(number == 1 ? drawn : drawn + " #" + std::to_string(number));
+}
+
+Picture headerPicture(const GameState& state) {
+  if (hasOwnHeader(state)) return {Picture::Kind::photo, state.twitterHeaderImage};
+  return drawn(Picture::Kind::scene, "stage", state.myArtistsName);
 }
 
 }  // namespace backbeat

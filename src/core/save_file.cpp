@@ -12,8 +12,9 @@
 namespace backbeat {
 namespace {
 
-// How many rows there are besides this one, since a row that is gone tells nothing itself. The first of all keys: when
-// a part of the rows cannot be found any more, it is seldom the first.
+// How many rows there are besides this one and the device's, since a row that is gone tells nothing itself. The first
+// of all keys: when a part of the rows cannot be found any more, it is seldom the first. The device's stay while the
+// others come and go with their careers.
 constexpr std::string_view countKey = "#rows";
 
 uint64_t placeOf(std::string_view key, int32_t chunk) { return rowCheck(key, chunk, 0, ""); }
@@ -154,13 +155,13 @@ class Loader {
       counted_ = std::get<int64_t>(value);
       return;
     }
-    ++visited_;
+    if (key != deviceKey) ++visited_;
     const auto list = lists_.find(key);
     if (list == lists_.end() && std::holds_alternative<DamagedValue>(value)) {
       damagedWholes_.emplace(key);
       return;
     }
-    rows.insert(placeOf(key, chunk));
+    if (key != deviceKey) rows.insert(placeOf(key, chunk));
     if (list != lists_.end()) {
       list->second.take(chunk, value);
     } else if (chunk == wholeRow) {
@@ -220,9 +221,11 @@ LoadReport SaveFile::load(GameState& state) {
 }
 
 void SaveFile::put(std::string_view key, int32_t chunk, std::optional<Value> value) {
-  const uint64_t place = placeOf(key, chunk);
-  const bool changes = value ? rows_.insert(place).second : rows_.erase(place) > 0;
-  if (changes) counted_ = false;
+  if (key != deviceKey) {
+    const uint64_t place = placeOf(key, chunk);
+    const bool changes = value ? rows_.insert(place).second : rows_.erase(place) > 0;
+    if (changes) counted_ = false;
+  }
   addPending(key, chunk, std::move(value));
 }
 

@@ -30,6 +30,10 @@ inline constexpr int32_t wholeRow = -1;
 /// The chunk number of the row that holds the order of a list whose records keep their slots.
 inline constexpr int32_t orderRow = -2;
 
+/// The key of what belongs to the device and not to the career on it. Where the store holds rows of it, they stay when
+/// another career takes the place of this one, and those that would come with it are passed over.
+inline constexpr std::string_view deviceKey = "creditedPurchases";
+
 /// One change: the row (key, chunk) takes the value, or goes when there is none.
 struct Write {
   std::string key;
@@ -80,12 +84,12 @@ class Store {
 /// anew afterwards.
 class CareerStore : public Store {
  public:
-  /// These rows, each under a key and chunk of its own, take the place of all rows. False when that failed; nothing has
-  /// changed then.
+  /// These rows, each under a key and chunk of its own, take the place of all rows but the device's. False when that
+  /// failed; nothing has changed then.
   virtual bool replaceAll(std::span<const Write> rows) = 0;
 
-  /// The rows of a kept copy take the place of all rows. False when there is no such copy or it failed; nothing has
-  /// changed then.
+  /// The rows of a kept copy take the place of all rows but the device's. False when there is no such copy or it
+  /// failed; nothing has changed then.
   virtual bool restoreSnapshot(std::string_view name) = 0;
 
   /// Puts the whole save out of the way as it stands, unread, its copies with it, and begins an empty one. Where it is

@@ -179,7 +179,9 @@ struct TextField {
 struct PhotoField {
   std::string id = {};
   std::string label = {};
-  bool taken = false;  ///< one stands already and can be replaced
+  std::string note = {};                                    ///< what may be given
+  bool taken = false;                                       ///< one stands already and can be replaced
+  enum class Shape { square, wide } shape = Shape::square;  ///< what is cut out of it; wide is three times its height
 };
 
 /// A value among `count` positions from low to high; a press carries the position, from 0.
@@ -277,7 +279,8 @@ struct Cover {
   std::string text = {};
   std::string badge = {};
   std::string hook =
-      {};  ///< what a few seconds of this song follow from, for whoever can make them heard; "" for no song
+      {};             ///< what a few seconds of this song follow from, for whoever can make them heard; "" for no song
+  Picture back = {};  ///< a wide view over which the head stands
 };
 
 /// A figure that counts up to `value`; `amount` is the same figure as a number.
@@ -440,7 +443,8 @@ struct Total {
 struct View {
   std::string title = {};
   std::string subtitle = {};
-  Picture picture = {};  ///< portrait beside the title
+  Picture picture = {};        ///< portrait beside the title
+  std::string pictureId = {};  ///< of a press on the portrait; "" when it leads nowhere
   Theme theme = Theme::plain;
   std::vector<Block> blocks = {};
   std::vector<Total> totals = {};         ///< pinned above the main action

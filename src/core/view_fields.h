@@ -28,6 +28,8 @@ template <>
 inline constexpr auto viewNames<Choice::Style> = std::to_array<std::string_view>({"segments", "list", "cards",
                                                                                   "pictures"});
 template <>
+inline constexpr auto viewNames<PhotoField::Shape> = std::to_array<std::string_view>({"square", "wide"});
+template <>
 inline constexpr auto viewNames<Chart::Style> = std::to_array<std::string_view>({"line", "bars"});
 template <>
 inline constexpr auto viewNames<Figures::Style> = std::to_array<std::string_view>({"large", "ledger", "pair"});
@@ -114,9 +116,9 @@ inline constexpr auto viewFields<TextField> = std::to_array(
      viewField("placeholder", &TextField::placeholder), viewField("maxLength", &TextField::maxLength),
      viewField("multiline", &TextField::multiline), viewField("suggest", &TextField::suggest)});
 template <>
-inline constexpr auto viewFields<PhotoField> = std::to_array({viewField("id", &PhotoField::id),
-                                                              viewField("label", &PhotoField::label),
-                                                              viewField("taken", &PhotoField::taken)});
+inline constexpr auto viewFields<PhotoField> = std::to_array(
+    {viewField("id", &PhotoField::id), viewField("label", &PhotoField::label), viewField("note", &PhotoField::note),
+     viewField("taken", &PhotoField::taken), viewField("shape", &PhotoField::shape)});
 template <>
 inline constexpr auto viewFields<Slider> =
     std::to_array({viewField("id", &Slider::id), viewField("label", &Slider::label), viewField("value", &Slider::value),
@@ -160,7 +162,7 @@ inline constexpr auto viewFields<Card> = std::to_array(
 template <>
 inline constexpr auto viewFields<Cover> = std::to_array(
     {viewField("picture", &Cover::picture), viewField("title", &Cover::title), viewField("text", &Cover::text),
-     viewField("badge", &Cover::badge), viewField("hook", &Cover::hook)});
+     viewField("badge", &Cover::badge), viewField("hook", &Cover::hook), viewField("back", &Cover::back)});
 template <>
 inline constexpr auto viewFields<Figure> = std::to_array(
     {viewField("label", &Figure::label), viewField("value", &Figure::value), viewField("amount", &Figure::amount),
@@ -289,8 +291,9 @@ inline constexpr ViewType viewType<Block> = {.kind = ViewType::Kind::block, .siz
 template <>
 inline constexpr auto viewFields<View> = std::to_array(
     {viewField("title", &View::title), viewField("subtitle", &View::subtitle), viewField("picture", &View::picture),
-     viewField("theme", &View::theme), viewField("blocks", &View::blocks), viewField("totals", &View::totals),
-     viewField("mainAction", &View::mainAction), viewField("aside", &View::aside), viewField("help", &View::help)});
+     viewField("pictureId", &View::pictureId), viewField("theme", &View::theme), viewField("blocks", &View::blocks),
+     viewField("totals", &View::totals), viewField("mainAction", &View::mainAction), viewField("aside", &View::aside),
+     viewField("help", &View::help)});
 
 /// The name of an enumeration's value.
 std::string_view nameOf(const ViewType& type, const void* value);

@@ -102,7 +102,7 @@ const std::string* textOf(const ViewType& type, const void* record, std::string_
 std::vector<std::string> pressableIds(const View& view) {
   std::vector<std::string> ids;
   forEachRecord(view, [&](const ViewType& type, const void* record) {
-    for (const char* member : {"id", "suggest"}) {
+    for (const char* member : {"id", "suggest", "pictureId"}) {
       const std::string* id = textOf(type, record, member);
       if (id && !id->empty() && std::find(ids.begin(), ids.end(), *id) == ids.end()) ids.push_back(*id);
     }

@@ -197,6 +197,7 @@ void addLifeNeeds(const Game& game, std::vector<Need>& needs) {
                    .picture = faceNow(game.state, partner),
                    .title = partner.name + " feels forgotten",
                    .subtitle = "Spend some time together",
+                   .badge = "!",
                    .segue = "goToRelationshipHome"});
 }
 

@@ -39,6 +39,7 @@ void addTourNeed(const GameState& state, std::vector<Need>& needs) {
                    .picture = icon("ticket"),
                    .title = isFirst ? "You could go on tour" : "Your break is over",
                    .subtitle = "About " + withCommas(seats) + " would come to " + std::string(house.name),
+                   .badge = "!",
                    .segue = "goToTourLocations"});
 }
 
@@ -51,6 +52,7 @@ void addFestivalNeed(const GameState& state, std::vector<Need>& needs) {
        .picture = drawn(Picture::Kind::scene, "festival", festival.festivalName),
        .title = festival.festivalName + " is this week",
        .subtitle = withCommas(festival.audience) + " people, and " + currency(festival.payment) + " for you",
+       .badge = "!",
        .segue = "goToFestivalArchive"});
 }
 

@@ -7,6 +7,7 @@
 #include "live/screens/festival_archive_view_controller.h"
 #include "live/screens/festival_invite_view_controller.h"
 #include "live/screens/on_tour_view_controller.h"
+#include "live/screens/tour_stops.h"
 #include "live/screens/tour_view_controller.h"
 #include "live/tour_plan.h"
 #include "live/tours.h"
@@ -91,8 +92,11 @@ constexpr MenuLine menu[] = {
     planning(musicTab), underWay(musicTab), archive(musicTab), planning(businessTab), underWay(businessTab),
 };
 
+void addToProfile(const Game& game, View& view) { addTourDates(view, game.state); }
+
 }  // namespace
 
-const Room liveRoom = {.segues = segues, .menu = menu, .addNeeds = addLiveNeeds, .addNews = addLiveNews};
+const Room liveRoom = {
+    .segues = segues, .menu = menu, .addNeeds = addLiveNeeds, .addNews = addLiveNews, .addToProfile = addToProfile};
 
 }  // namespace backbeat

@@ -93,6 +93,7 @@ void addMerchNeeds(const Game& game, std::vector<Need>& needs) {
                                                  currency(restockCost(*waiting).dollars)
                                            : "It costs " + std::to_string(waiting->energyCost) +
                                                  " energy a week until it is retired",
+                   .badge = "!",
                    .segue = "goToAdminMerch",
                    .argument = std::to_string(waiting->merchId)});
 }

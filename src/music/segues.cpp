@@ -6,7 +6,6 @@
 #include "music/screens/add_to_album_view_controller.h"
 #include "music/screens/album_chart_detail_view_controller.h"
 #include "music/screens/album_detail_view_controller.h"
-#include "music/screens/artist_profile_view_controller.h"
 #include "music/screens/billboard_view_controller.h"
 #include "music/screens/certification_view_controller.h"
 #include "music/screens/change_names_view_controllers.h"
@@ -38,7 +37,6 @@ constexpr Segue segues[] = {
     {"goToAddToAlbum", "AddToAlbumViewController", push, makeScreenWithId<AddToAlbumViewController>},
     {"goToAlbumChartDetail", "AlbumChartDetailViewController", push, makeScreenWithId<AlbumChartDetailViewController>},
     {"goToAlbumDetail", "AlbumDetailViewController", push, makeScreenWithId<AlbumDetailViewController>},
-    {"goToArtistProfile", "ArtistProfileViewController", push, makeScreen<ArtistProfileViewController>},
     {"goToCertification", "CertificationViewController", push, makeScreen<CertificationViewController>},
     {"goToCreateAnAlbum", "CreateAnAlbumViewController", push, makeScreen<CreateAnAlbumViewController>},
     {"goToSetAlbumMarketing", "SetAlbumMarketingViewController", push, makeMarketing<MarketingTarget::Kind::album>},
@@ -58,13 +56,6 @@ constexpr Segue segues[] = {
 void describeListeners(const Game& game, Row& row) { row.value = withCommas(game.state.totalFans); }
 
 constexpr MenuLine menu[] = {
-    {.tab = homeTab,
-     .section = "More",
-     .order = 110,
-     .icon = "person",
-     .title = "Artist profile",
-     .subtitle = "What your listeners see",
-     .segue = "goToArtistProfile"},
     {.tab = musicTab,
      .section = "Reach",
      .order = 110,
@@ -86,13 +77,6 @@ constexpr MenuLine menu[] = {
      .title = "Certifications",
      .subtitle = "From bronze to diamond",
      .segue = "goToCertification"},
-    {.tab = musicTab,
-     .section = "Reach",
-     .order = 140,
-     .icon = "person",
-     .title = "Artist Profile",
-     .subtitle = "What your listeners see",
-     .segue = "goToArtistProfile"},
 };
 
 void addNeeds(const Game& game, std::vector<Need>& needs) {

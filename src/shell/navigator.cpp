@@ -6,6 +6,8 @@
 #include "core/purse.h"
 #include "core/text.h"
 #include "recognition/achievement_grant.h"
+#include "shell/feedback.h"
+#include "shell/packs.h"
 
 namespace backbeat {
 
@@ -59,6 +61,15 @@ void Navigator::press(std::string_view screenKey, const Action& action) {
   game_.saveFile.commit();
   if (game_.state.yearNumber > year) keepNewYear();
   game_.saveFile.rest();
+}
+
+void Navigator::takePurchase(const PurchaseAnswer& answer) {
+  feedback_ = Feedback::none;
+  result_ = Result::done;
+  request_ = {};
+  follow(top().screen, backbeat::takePurchase(game_, answer));
+  const bool stored = game_.saveFile.commit() && game_.saveFile.keeping();
+  if (stored && isCredited(game_.state, answer.transaction)) game_.platform.finishPurchase(answer.transaction);
 }
 
 void Navigator::keepNewYear() {
@@ -185,13 +196,19 @@ bool Navigator::admitted(const Segue& segue, const std::shared_ptr<Screen>& from
 
 /// The ways that lead to no screen.
 bool Navigator::followReserved(const Go& go) {
-  if (go.segue == exportCareerSegue) {
-    request_ = {Request::Kind::exportCareer, ""};
+  if (go.segue == startOverSegue) {
+    startOver();
+  } else if (go.segue == exportCareerSegue) {
+    request_.kind = Request::Kind::exportCareer;
     game_.launch.exportedInYear = game_.state.yearNumber;
   } else if (go.segue == importCareerSegue) {
-    request_ = {Request::Kind::importCareer, ""};
+    request_.kind = Request::Kind::importCareer;
   } else if (go.segue == restoreSegue) {
-    request_ = {Request::Kind::restore, go.argument};
+    request_ = {.kind = Request::Kind::restore, .snapshot = go.argument};
+  } else if (go.segue == feedbackSegue) {
+    request_ = {.kind = Request::Kind::feedback, .text = feedbackFacts(game_.state)};
+  } else if (go.segue == replaySegue) {
+    request_.kind = Request::Kind::replay;
   } else {
     return false;
   }

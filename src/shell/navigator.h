@@ -32,8 +32,14 @@ struct Request {
     exportCareer,  ///< hand the player the career as a file
     importCareer,  ///< ask for a file and put the career in it in the place of this one
     restore,       ///< go back to the kept copy `snapshot`: put it in the place of the save and launch anew
+    purchase,      ///< ask the shop for `product`
+    review,        ///< the game would like a rating
+    feedback,      ///< let the player write to the makers
+    replay,        ///< hand the player the trace of this launch
   } kind = Kind::none;
-  std::string snapshot;
+  std::string snapshot = {};
+  std::string product = {};
+  std::string text = {};  ///< of feedback: what helps whoever reads it
 };
 
 /// Everything that is on the glass: what the page draws and the console prints.
@@ -71,6 +77,8 @@ struct Shown {
 inline constexpr std::string_view exportCareerSegue = "exportCareer";
 inline constexpr std::string_view importCareerSegue = "importCareer";
 inline constexpr std::string_view restoreSegue = "restoreSnapshot";
+inline constexpr std::string_view feedbackSegue = "writeFeedback";
+inline constexpr std::string_view replaySegue = "handOverReplay";
 
 class Navigator {
  public:
@@ -85,6 +93,10 @@ class Navigator {
   /// a press for a screen that is not shown, or anything but the answer while an alert stands, is ignored. "desk" on
   /// "nav" says whether two screens find room side by side, which holds for the rest of the launch.
   void press(std::string_view screenKey, const Action& action);
+
+  /// What the shop answers, one transaction like a press. What came of it is shown on whatever screen is open, and the
+  /// shop is told once it is stored.
+  void takePurchase(const PurchaseAnswer& answer);
 
   Shown shown() const;
 

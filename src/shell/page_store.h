@@ -17,6 +17,9 @@ class PageStore final : public Store {
   /// does not fit is taken as damaged.
   bool addRow(std::string_view row);
 
+  /// Whether any row was handed in.
+  bool holdsRows() const { return !rows_.empty(); }
+
   /// Writes the rows that older versions left without a check once more.
   void giveChecks();
 

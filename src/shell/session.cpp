@@ -35,4 +35,11 @@ void Session::press(Date now, std::string_view screenKey, Action action) {
   navigator_.press(screenKey, action);
 }
 
+void Session::takePurchase(Date now, PurchaseAnswer answer) {
+  clock_.set(now);
+  answer.product = storable(answer.product);
+  answer.transaction = storable(answer.transaction);
+  navigator_.takePurchase(answer);
+}
+
 }  // namespace backbeat

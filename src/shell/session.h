@@ -1,5 +1,5 @@
-// One launch of the game: the state, its chance and clock, and the navigator, driven by presses. The page's door, the
-// console, the simulator, replays and tests all play through this.
+// One launch of the game: the state, its chance and clock, and the navigator, driven by presses and by what the shop
+// answers. The page's door, the console, the simulator, replays and tests all play through this.
 #pragma once
 
 #include <cstdint>
@@ -22,6 +22,9 @@ class Session {
   /// One press at a time `now`. Text of a press that is no UTF-8, or holds a NUL, is mended before anything
   /// sees it.
   void press(Date now, std::string_view screenKey, Action action);
+
+  /// What the shop answers at a time `now`, asked for or not: it may have been asked by another launch.
+  void takePurchase(Date now, PurchaseAnswer answer);
 
   Shown shown() const { return navigator_.shown(); }
   const Navigator& navigator() const { return navigator_; }

@@ -10,7 +10,8 @@ template <>
 inline constexpr auto viewNames<Feedback> = std::to_array<std::string_view>({"none", "energyBounce", "success",
                                                                              "warning"});
 template <>
-inline constexpr auto viewNames<Request::Kind> = std::to_array<std::string_view>({"", "export", "import", "restore"});
+inline constexpr auto viewNames<Request::Kind> =
+    std::to_array<std::string_view>({"", "export", "import", "restore", "purchase", "review", "feedback", "replay"});
 template <>
 inline constexpr auto viewNames<AlertButton::Style> = std::to_array<std::string_view>({"normal", "cancel",
                                                                                        "destructive"});

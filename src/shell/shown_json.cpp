@@ -150,6 +150,8 @@ std::string shownAsJson(const Navigator& navigator, const Shown& shown) {
   json.key("notice").text(shown.notice);
   json.key("request").text(nameOf(shown.request.kind));
   if (!shown.request.snapshot.empty()) json.key("snapshot").text(shown.request.snapshot);
+  if (!shown.request.product.empty()) json.key("product").text(shown.request.product);
+  if (!shown.request.text.empty()) json.key("text").text(shown.request.text);
   writeView(writer, "view", shown.screen, shown.key, shown.view);
   if (const auto& beside = shown.beside) writeView(writer, "beside", beside->screen, beside->key, beside->view);
   json.endObject();

@@ -1,6 +1,7 @@
 #include "shell/trace.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <optional>
 #include <utility>
@@ -63,6 +64,18 @@ std::vector<std::string_view> words(std::string_view line) {
   return result;
 }
 
+constexpr std::array<std::string_view, 3> resultWords = {"done", "refused", "failed"};
+
+std::optional<TraceEvent> purchaseFrom(const std::vector<std::string_view>& parts) {
+  const auto time = numberFrom<int64_t>(parts[1]);
+  const auto result = purchaseResultFrom(parts[2]);
+  auto product = unescaped(parts[3]);
+  auto transaction = unescaped(parts[4]);
+  const bool free = parts[5] == "free";
+  if (!time || !result || !product || !transaction || (!free && parts[5] != "paid")) return std::nullopt;
+  return purchaseEvent(*time, {*result, std::move(*product), std::move(*transaction), free});
+}
+
 std::optional<TraceEvent> eventFrom(std::string_view line) {
   const std::vector<std::string_view> parts = words(line);
   if (parts[0] == "launch" && parts.size() == 3) {
@@ -70,6 +83,7 @@ std::optional<TraceEvent> eventFrom(std::string_view line) {
     const auto time = numberFrom<int64_t>(parts[2]);
     if (seed && time) return launchEvent(*time, *seed);
   }
+  if (parts[0] == "purchase" && parts.size() == 6) return purchaseFrom(parts);
   if (parts[0] == "act" && parts.size() == 5) {
     const auto time = numberFrom<int64_t>(parts[1]);
     auto screenKey = unescaped(parts[2]);
@@ -100,9 +114,30 @@ TraceEvent actEvent(int64_t unixMilliseconds, std::string screenKey, Action acti
   return event;
 }
 
+TraceEvent purchaseEvent(int64_t unixMilliseconds, PurchaseAnswer answer) {
+  TraceEvent event;
+  event.kind = TraceEvent::Kind::purchase;
+  event.unixMilliseconds = unixMilliseconds;
+  event.purchase = std::move(answer);
+  return event;
+}
+
+std::string_view wordOf(PurchaseAnswer::Result result) { return resultWords[static_cast<size_t>(result)]; }
+
+std::optional<PurchaseAnswer::Result> purchaseResultFrom(std::string_view word) {
+  const auto found = std::find(resultWords.begin(), resultWords.end(), word);
+  if (found == resultWords.end()) return std::nullopt;
+  return static_cast<PurchaseAnswer::Result>(found - resultWords.begin());
+}
+
 std::string traceLine(const TraceEvent& event) {
   const std::string time = std::to_string(event.unixMilliseconds);
   if (event.kind == TraceEvent::Kind::launch) return "launch " + std::to_string(event.seed) + " " + time;
+  if (event.kind == TraceEvent::Kind::purchase) {
+    const PurchaseAnswer& answer = event.purchase;
+    return "purchase " + time + " " + std::string(wordOf(answer.result)) + " " + escaped(answer.product) + " " +
+           escaped(answer.transaction) + (answer.free ? " free" : " paid");
+  }
   return "act " + time + " " + escaped(event.screenKey) + " " + escaped(event.action.id) + " " +
          escaped(event.action.value);
 }
@@ -119,9 +154,9 @@ Trace readTrace(std::string_view text) {
     if (line.empty()) continue;
     if (line == foreignCareerLine) return refuse(number, "it goes on with a career that the trace does not hold");
     auto event = eventFrom(line);
-    if (!event) return refuse(number, "this is neither a launch nor a press");
+    if (!event) return refuse(number, "this is neither a launch nor a press nor a shop's answer");
     if (trace.events.empty() && event->kind != TraceEvent::Kind::launch) {
-      return refuse(number, "a press before the first launch");
+      return refuse(number, "something happens before the first launch");
     }
     trace.events.push_back(std::move(*event));
   }
@@ -151,6 +186,8 @@ void TraceRecorder::play(const TraceEvent& event) {
   if (event.kind == TraceEvent::Kind::launch) {
     session_.reset();
     session_ = std::make_unique<Session>(store_, platform_, event.seed, time);
+  } else if (session_ && event.kind == TraceEvent::Kind::purchase) {
+    session_->takePurchase(time, event.purchase);
   } else if (session_) {
     session_->press(time, event.screenKey, event.action);
   }

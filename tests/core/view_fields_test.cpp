@@ -41,6 +41,7 @@ TEST(ViewFields, EnumerationsAreToldByTheirOwnNames) {
   expectEveryName<Rows::Style>();
   expectEveryName<Button::Style>();
   expectEveryName<Choice::Style>();
+  expectEveryName<PhotoField::Shape>();
   expectEveryName<Chart::Style>();
   expectEveryName<Figures::Style>();
   expectEveryName<Poster::Style>();
@@ -51,7 +52,7 @@ TEST(ViewFields, EnumerationsAreToldByTheirOwnNames) {
   expectEveryName<Theme>();
   expectEveryName<Feedback>();
   expectEveryName<AlertButton::Style>();
-  EXPECT_EQ(enumeratorName<static_cast<Request::Kind>(viewNames<Request::Kind>.size() - 1)>(), "restore");
+  EXPECT_EQ(enumeratorName<static_cast<Request::Kind>(viewNames<Request::Kind>.size() - 1)>(), "replay");
 }
 
 /// What a view says: the members that are told, and every value of its enumerations.

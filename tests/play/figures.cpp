@@ -16,6 +16,7 @@ class Reader {
   Standings read(const View& view) {
     stands("title", view.title);
     stands("subtitle", view.subtitle);
+    stands("portrait", "", view.pictureId);
     for (const Block& block : view.blocks) std::visit([this](const auto& b) { read(b); }, block);
     for (const Total& total : view.totals) {
       stands(total.label, total.value);

@@ -50,7 +50,7 @@ struct FiguresOf {
 /// Everything that stands on a screen, in reading order; `leadsTo` holds the action of a press instead of its way. A
 /// row stands under its title with its value, a tile, a figure, a meter under its label, and what else they say under
 /// ": note", ": subtitle", ": badge", ": price", ": share", ": points". What has no name stands under its kind:
-/// "subtitle", "text", "cover", "card: text". Places are numbered.
+/// "subtitle", "portrait", "text", "cover", "card: text". Places are numbered.
 Standings standingsOn(const View& view);
 
 /// "7 energy", "$1,200", "5 energy $300".

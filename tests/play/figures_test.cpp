@@ -11,6 +11,7 @@
 #include "core/memory_store.h"
 #include "core/money.h"
 #include "play/worlds.h"
+#include "shell/free_shop.h"
 #include "shell/native/view_printer.h"
 #include "shell/session.h"
 
@@ -42,7 +43,7 @@ struct Launched {
   explicit Launched(const MemoryStore& world) : store(world) {}
 
   MemoryStore store;
-  QuietPlatform platform;
+  FreeShop platform;
   Session session{store, platform, 11, Date{1'940'000'000}};
   Game& game = session.game();
 };
@@ -142,7 +143,7 @@ TEST(Figures, TheHeaderTellsCashEnergyAndDate) {
   Launched launched(world);
   const GameState& state = launched.game.state;
   const Header header = launched.session.shown().header;
-  EXPECT_EQ(launched.session.shown().badges[homeTab], "");
+  EXPECT_EQ(launched.session.shown().badges[homeTab], "!");
   launched.game.launch.contractOfferState = 1;
   EXPECT_EQ(launched.session.shown().badges[homeTab], "!");
   EXPECT_EQ(header.cash, currency(state.totalCashAvailable));

@@ -53,12 +53,12 @@ TEST(GoldenYear, EndsTheSameWhenTypedIntoTheConsole) {
   std::istringstream typed(typedFor(golden));
   std::ostringstream printed;
   MemoryStore store;
-  QuietPlatform platform;
-  TraceRecorder career(store, platform);
+  FreeShop shop;
+  TraceRecorder career(store, shop);
   career.play(golden.events.at(0));
   size_t next = 1;
   const auto clock = [&] { return golden.events[std::min(next++, golden.events.size() - 1)].unixMilliseconds; };
-  ConsolePlayer(career, store, linesFrom(typed), printed, false, clock).run();
+  ConsolePlayer(career, store, shop, linesFrom(typed), printed, false, clock).run();
   EXPECT_EQ(differenceOf(summaryOf(golden.end), summaryOf(career.session().game().state)), "");
   EXPECT_EQ(printed.str().find('\x1b'), std::string::npos) << "no colours over a pipe";
 }

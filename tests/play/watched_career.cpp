@@ -7,6 +7,7 @@
 #include "core/career_file.h"
 #include "core/snapshots.h"
 #include "play/glass.h"
+#include "shell/packs.h"
 
 namespace backbeat {
 
@@ -34,13 +35,31 @@ WatchedCareer::WatchedCareer(const NamedWorld& world, std::function<void(const s
     : world_(world),
       onStep_(std::move(onStep)),
       store_(settled(world).store),
-      career_(store_, platform_, onStep_),
+      career_(store_, shop_, onStep_),
       now_(settled(world).time) {}
 
 void WatchedCareer::launch(uint64_t seed) {
   career_.play(launchEvent(now_, seed));
+  segueOf_.clear();
+  coverage.noteWay(shown(), segueOf_);
   justLaunched_ = true;
   endingWeek_ = false;
+  hear(std::vector(shop_.unfinished()));
+}
+
+/// A purchase brings its pack once, and nothing else the shop says changes the purse.
+void WatchedCareer::hear(const std::vector<PurchaseAnswer>& answers) {
+  for (const PurchaseAnswer& answer : answers) {
+    const bool counts = answer.result == PurchaseAnswer::Result::done && !isCredited(state(), answer.transaction) &&
+                        !(answer.free && takenThisWeek(state(), answer.product));
+    const Charge gift = counts ? packNamed(answer.product)->gift : Charge{};
+    const int64_t energy = state().totalEnergyAvailable + gift.energy;
+    const double cash = state().totalCashAvailable + gift.dollars;
+    career_.play(purchaseEvent(now_, answer));
+    if (state().totalEnergyAvailable != energy || state().totalCashAvailable != cash) {
+      pressFault_ = "the shop's answer about " + answer.product + " did not bring what it holds";
+    }
+  }
 }
 
 void WatchedCareer::play(const TraceEvent& event) {
@@ -48,7 +67,9 @@ void WatchedCareer::play(const TraceEvent& event) {
   endingWeek_ = event.action.id == "endTheWeekButton";
   oracle_.before(shown(), state());
   career_.play(event);
-  pressFault_ = oracle_.after(event.screenKey, event.action, shown(), state());
+  const Shown now = shown();
+  pressFault_ = oracle_.after(event.screenKey, event.action, now, state());
+  coverage.noteWay(now, segueOf_);
   const auto& unknown = session().navigator().unknownSegues();
   coverage.unknownSegues.insert(unknown.begin(), unknown.end());
 }
@@ -66,11 +87,16 @@ std::vector<Pressable> WatchedCareer::offered() {
 }
 
 std::string WatchedCareer::obeyRequest(uint64_t seed) {
+  hear(shop_.takeAnswers());
   const Request request = shown().request;
   switch (request.kind) {
     case Request::Kind::exportCareer:
     case Request::Kind::importCareer: return carryOver(seed);
     case Request::Kind::restore: return goBackTo(request.snapshot, seed);
+    case Request::Kind::purchase:
+    case Request::Kind::review:
+    case Request::Kind::feedback:
+    case Request::Kind::replay:
     case Request::Kind::none: break;
   }
   return {};

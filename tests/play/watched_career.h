@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <set>
 #include <string>
 #include <string_view>
@@ -14,8 +15,8 @@
 #include "play/coverage.h"
 #include "play/press_oracle.h"
 #include "play/worlds.h"
-#include "shell/score_keeper.h"
 #include "shell/trace.h"
+#include "support/moody_shop.h"
 
 namespace backbeat {
 
@@ -35,8 +36,8 @@ class WatchedCareer {
   void press(const Pressable& pressable, const std::string& value);
   void pass(int64_t milliseconds) { now_ += milliseconds; }
 
-  /// Does what the program around the game does after a press that asks for it, each with a launch of its own. What was
-  /// wrong with it, or "".
+  /// Does what the program around the game does after a press that asks for it, each with a launch of its own, and
+  /// hears the shop. What was wrong with it, or "".
   std::string obeyRequest(uint64_t seed);
   /// The career leaves as a file and comes back from it, as on another device.
   std::string carryOver(uint64_t seed);
@@ -59,10 +60,12 @@ class WatchedCareer {
   Coverage coverage;
 
  private:
+  void hear(const std::vector<PurchaseAnswer>& answers);
+
   const NamedWorld& world_;
   std::function<void(const std::string&)> onStep_;
   MemoryStore store_;
-  ScoreKeeper platform_;
+  MoodyShop shop_;
   TraceRecorder career_;
   int64_t now_;  ///< unix milliseconds
   bool justLaunched_ = false;
@@ -70,7 +73,8 @@ class WatchedCareer {
   PressOracle oracle_;
   std::string pressFault_;  ///< of the last press
   WeekBefore week_;
-  std::set<std::string_view> seen_;  ///< segues
+  std::set<std::string_view> seen_;         ///< segues
+  std::map<int64_t, std::string> segueOf_;  ///< by the keys of this launch
 };
 
 }  // namespace backbeat

@@ -19,8 +19,8 @@ using ::testing::Not;
 /// What the console says to a script of inputs, in a career that begins new.
 struct ConsoleRun {
   MemoryStore store;
-  QuietPlatform platform;
-  TraceRecorder career{store, platform};
+  FreeShop shop;
+  TraceRecorder career{store, shop};
   std::string said;
 
   void type(const std::string& script, bool colour = false) {
@@ -28,7 +28,7 @@ struct ConsoleRun {
     launched_ = true;
     std::istringstream in(script);
     std::ostringstream out;
-    ConsolePlayer(career, store, linesFrom(in), out, colour, [] { return int64_t{1'672'660'800'000}; }).run();
+    ConsolePlayer(career, store, shop, linesFrom(in), out, colour, [] { return int64_t{1'672'660'800'000}; }).run();
     said = out.str();
   }
   const GameState& state() { return career.session().game().state; }

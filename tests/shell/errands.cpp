@@ -3,6 +3,8 @@
 namespace backbeat {
 namespace {
 
+constexpr const char* photo = "data:image/png;base64,iVBORw0KGgo=";
+
 const RoomErrands errands({
     {"restart and go back",
      {"rich", "mid-career", "in debt"},
@@ -29,6 +31,36 @@ const RoomErrands errands({
       {"Delete"}}},
     {"carry the career over", {"new", "talkative"}, {{"Home"}, {"goToSettings"}, {"exportCareer"}}},
     {"keep a copy of a new year", {"rich"}, {{"Home"}, {"Another year!"}}, 60},
+    {"show pictures of one's own",
+     {"new", "rich"},
+     {{"Home"}, {"goToArtistProfile"}, {"photo", photo}, {"header", photo}, {"removePhoto"}, {"removeHeader"}}},
+    {"show a photo that is too large",
+     {"new", "rich"},
+     {{"Home"},
+      {"goToArtistProfile"},
+      {"header", "data:image/png;base64," + std::string(300'000, 'A')},
+      {"📷 Photo Too Large 📷"}}},
+    {"show what is no photo",
+     {"new", "rich"},
+     {{"Home"}, {"goToArtistProfile"}, {"photo", "hello"}, {"📷 Not a Photo 📷"}}},
+    {"take packs from a shop of many moods",
+     {"new", "rich"},
+     {{"Home"},
+      {"goToPacks"},
+      {"pack:energy25"},
+      {"Take It"},
+      {"🎁 Yours 🎁"},
+      {"pack:energy25"},
+      {"🎁 Once a Week 🎁"},
+      {"pack:permanentEnergy5"},
+      {"🎁 Yours 🎁"},
+      {"pack:cash5000"},
+      {"🛍 Nothing Bought 🛍"},
+      {"pack:cash50000"},
+      {"pack:cash50000"},
+      {"🛍 On Its Way 🛍"}}},
+    {"write to the makers", {"new", "rich"}, {{"Home"}, {"goToSettings"}, {"writeFeedback"}, {"rateButton"}}},
+    {"hand over a replay", {"new", "rich"}, {{"Home"}, {"goToSettings"}, {"handOverReplay"}}},
     {"bring a career in", {"new", "signed"}, {{"Home"}, {"goToSettings"}, {"importCareer"}}},
 });
 

@@ -14,6 +14,8 @@ std::vector<ScreenFigures> screens() {
                                   {"Export", "", "exportCareer"},
                                   {"Import", "", "importCareer"},
                                   {"Restore", "", "goToRestore"},
+                                  {"Write to us", "", "writeFeedback"},
+                                  {"Replay file", "", "handOverReplay"},
                                   {"Data", "", "goToData"},
                                   {"About", "", "goToAbout"}};
                }},
@@ -26,9 +28,15 @@ std::vector<ScreenFigures> screens() {
                },
            .before =
                [](Game& game) { game.saveFile.keepSnapshot(SnapshotKind::restart, game.state, Date{1'764'000'000}); }},
+          {.segue = "goToPacks",
+           .figures =
+               [](Game&) {
+                 return Standings{{"25 Energy", "Free"}, {"$500,000", "Free"}};
+               }},
           {.segue = "goToAbout",
            .figures = [](Game&) { return Standings(); },
-           .noFigures = {"subtitle", "Open Peeps", "Inter", "@dicebear/core", "lit", "ionicons"}}};
+           .noFigures = {"subtitle", "Open Peeps", "Inter", "@dicebear/core", "lit", "ionicons", "libc*", "wasi*",
+                         "musl", "xxHash", "CLI11", "libedit", "utf8proc"}}};
 }
 
 const FiguresOf shell{.screens = screens};

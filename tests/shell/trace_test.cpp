@@ -13,9 +13,14 @@ TEST(Trace, WhatWasPlayedReadsBackAsItWas) {
   QuietPlatform platform;
   std::string text;
   TraceRecorder career(store, platform, [&](const std::string& line) { text += line + "\n"; });
-  const std::vector<TraceEvent> events = {launchEvent(-5, UINT64_MAX), actEvent(1, "3", {"name", "Zoë  Falk\n50%\0 "s}),
-                                          actEvent(2, "", {"", ""}), launchEvent(3, 0),
-                                          actEvent(4, "nav", {"endTheWeekButton", "%"})};
+  const std::vector<TraceEvent> events = {
+      launchEvent(-5, UINT64_MAX),
+      actEvent(1, "3", {"name", "Zoë  Falk\n50%\0 "s}),
+      actEvent(2, "", {"", ""}),
+      launchEvent(3, 0),
+      actEvent(4, "nav", {"endTheWeekButton", "%"}),
+      purchaseEvent(5, {.product = "energy25", .transaction = "a b%", .free = true}),
+      purchaseEvent(6, {PurchaseAnswer::Result::failed, "?", ""})};
   for (const TraceEvent& event : events) career.play(event);
 
   const Trace trace = readTrace(text + "\n");
@@ -25,12 +30,14 @@ TEST(Trace, WhatWasPlayedReadsBackAsItWas) {
   EXPECT_EQ(trace.events[1].action.value, "Zoë  Falk\n50%\0 "s);
   EXPECT_EQ(trace.events[2].screenKey, "");
   EXPECT_EQ(trace.events[0].seed, UINT64_MAX);
+  EXPECT_EQ(trace.events[5].purchase.transaction, "a b%");
 }
 
 TEST(Trace, TellsTheLineThatIsNone) {
   const std::string launch = "launch 5 0\n";
   for (const char* line : {"act 1 2 3", "act x 2 3 4", "act 1 2 3 4 5", "act 1 2 %4 %", "act 1 2 %GG %", "dance",
-                           "launch -1 0", "launch 99999999999999999999 0"}) {
+                           "purchase 1 lost energy25 a free", "purchase 1 done energy25 a given",
+                           "purchase 1 done energy25 a", "launch -1 0", "launch 99999999999999999999 0"}) {
     EXPECT_EQ(readTrace(launch + "\n" + line).problem.substr(0, 7), "line 3:") << line;
     EXPECT_TRUE(readTrace(launch + line).events.empty());
   }

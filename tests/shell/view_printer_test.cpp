@@ -39,7 +39,8 @@ std::vector<std::string> linesOf(const std::string& text) {
 View longWinded(View view) {
   forEachRecord(view, [](const ViewType& type, const void* record) {
     for (const ViewField& field : type.fields) {
-      if (field.type->kind != ViewType::Kind::text || field.name == "id" || field.name == "suggest") continue;
+      const bool isId = field.name == "id" || field.name == "suggest" || field.name == "pictureId";
+      if (field.type->kind != ViewType::Kind::text || isId) continue;
       // The view is this function's own.
       std::string& text = *static_cast<std::string*>(const_cast<void*>(type.valueOf(field, record)));
       for (int i = 0; i < 3; ++i) text += " 日本語 and on and on " + text;
@@ -113,7 +114,7 @@ TEST(ViewPrinter, ControlsPressWhatTheySay) {
       EXPECT_EQ(pressable.options, 2);
     }
   }
-  EXPECT_EQ(photos, std::vector<std::string>{"photo"});
+  EXPECT_EQ(photos, (std::vector<std::string>{"photo", "header"}));
   EXPECT_EQ(steps, (std::vector<std::string>{"-1", "1"}));
   EXPECT_THAT(printed.print(everyBlock()).text, HasSubstr("10⚡ $1,125,000 ✗"));
 }

@@ -29,7 +29,8 @@ void addPlain(View& view) {
                  .title = "Glass Rivers",
                  .text = "Indie pop · 3:24 · released in week 9",
                  .badge = "GOLD",
-                 .hook = "Glass Rivers|Indie Pop"});
+                 .hook = "Glass Rivers|Indie Pop",
+                 .back = drawn(Kind::scene, "stage", "Glass Rivers")});
   view.add(
       Post{.picture = person("Ada Brandt"),
            .name = "Ada Brandt",
@@ -130,7 +131,8 @@ void addControls(View& view) {
                      .suggest = "dice"});
   view.add(TextField{
       .id = "about", .label = "Message", .placeholder = "What is it about?", .maxLength = 280, .multiline = true});
-  view.add(PhotoField{.id = "photo", .label = "Your own photo", .taken = true});
+  view.add(PhotoField{.id = "photo", .label = "Your own photo", .note = "200 KB at most", .taken = true});
+  view.add(PhotoField{.id = "header", .label = "Your own header", .shape = PhotoField::Shape::wide});
   view.add(Choice{.id = "genre",
                   .label = "Genre",
                   .options = {{.label = "Pop"},
@@ -294,6 +296,7 @@ View everyBlock() {
       .title = "Every block there is",
       .subtitle = "One after the other",
       .picture = person("Mara Quill"),
+      .pictureId = "portrait",
       .theme = Theme::live,
       .totals = {{.label = "Costs", .value = "$4,800", .tone = Tone::warning},
                  {.label = "Energy", .value = "10", .energy = true},

@@ -26,6 +26,7 @@ Standings homeFigures(Game& twin) {
              {"Best chart: note", "now " + rank(songTitled(state, "Glass Harbour").chartRanking)},
              {"“Night Bus” is finished", "", "goToSongDetail " + std::to_string(songTitled(state, "Night Bus").songId)},
              {"“Static Tee” is sold out", "", "goToAdminMerch 43"},
+             {"“Static Tee” is sold out: badge", "!"},
              {"“Static Tee” is sold out: subtitle",
               withCommas(soldOut.startingInventory) + " more cost " + currency(order)},
              {"100,000,000 listeners", withCommas(state.totalFans)},
@@ -35,7 +36,8 @@ Standings homeFigures(Game& twin) {
              {chirp.artistName + ": age", "5h"},
              {chirp.artistName + ": message", chirp.message},
              {chirp.artistName + ": likes", abbreviated(static_cast<double>(chirp.likeCount))},
-             {"Artist profile", "", "goToArtistProfile"},
+             {"portrait", "", "goToArtistProfile"},
+             {"Packs", "", "goToPacks"},
              {"Label contract", "", "goToSignedContract"},
              {"Label contract: subtitle", "6 EPs, 8 LPs and 41 songs in 37 weeks"},
              {"Achievements", "", "goToAchievements"},
@@ -58,6 +60,7 @@ Standings festivalHomeFigures(Game& twin) {
   const Festival& festival = twin.state.saveAllFestivalList[1];
   return homeFigures(twin) +
          Standings{{"Meadow Days is this week", "", "goToFestivalArchive"},
+                   {"Meadow Days is this week: badge", "!"},
                    {"Meadow Days is this week: subtitle",
                     withCommas(festival.audience) + " people, and " + currency(festival.payment) + " for you"}};
 }

@@ -74,6 +74,18 @@ export class Launch {
     return decoder.decode(this.#bytes(this.door.bb_out(), this.door.bb_out_size()));
   }
 
+  /** What the shop answers; answers with the new state of the glass. */
+  purchase(result, product, transaction, free) {
+    this.now += 1000;
+    return this.#call(this.door.bb_purchase, [this.now, result, product, transaction, free].join('\0'));
+  }
+
+  /** What happened in this launch, a line each. */
+  trace() {
+    this.door.bb_trace();
+    return decoder.decode(this.#bytes(this.door.bb_out(), this.door.bb_out_size()));
+  }
+
   /** The fingerprint of the whole state. */
   stateHash() {
     this.door.bb_state_hash();

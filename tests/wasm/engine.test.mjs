@@ -11,7 +11,7 @@ function glass({ header, tabs, tab, view }) {
 test('the module asks nobody for anything and has the whole door', () => {
   assert.deepEqual(WebAssembly.Module.imports(module), []);
   const names = WebAssembly.Module.exports(module).map(({ name }) => name);
-  const door = ['_initialize', 'bb_act', 'bb_alloc', 'bb_batch', 'bb_batch_size', 'bb_export', 'bb_export_name', 'bb_give_up', 'bb_hold_scores', 'bb_import', 'bb_out', 'bb_out_size', 'bb_row', 'bb_scores', 'bb_snapshot', 'bb_spare', 'bb_start', 'bb_state_hash', 'memory'];
+  const door = ['_initialize', 'bb_act', 'bb_alloc', 'bb_batch', 'bb_batch_size', 'bb_export', 'bb_export_name', 'bb_give_up', 'bb_hold_scores', 'bb_import', 'bb_out', 'bb_out_size', 'bb_purchase', 'bb_row', 'bb_scores', 'bb_snapshot', 'bb_spare', 'bb_start', 'bb_state_hash', 'bb_trace', 'memory'];
   assert.deepEqual(names.sort(), door);
 });
 
@@ -24,6 +24,27 @@ test('a new career begins with a name and goes on from week to week', () => {
   const dates = [launch.answer.header.date];
   for (let week = 0; week < 5; ++week) dates.push(endTheWeek(launch).header.date);
   assert.equal(new Set(dates).size, dates.length, dates.join(', '));
+});
+
+test('what the shop answers is credited once, also by a later launch, and only what it says is done', () => {
+  const launch = new Launch();
+  beginCareer(launch, 'Ada');
+  const energy = () => Number(launch.answer.header.energy.split(' ')[0]);
+  const before = energy();
+  launch.purchase('failed', 'energy60', 'one', 'paid');
+  launch.purchase('perhaps', 'energy60', 'one', 'paid');
+  assert.equal(energy(), before);
+  launch.purchase('done', 'energy60', 'one', 'paid');
+  launch.purchase('done', 'energy60', 'one', 'paid');
+  assert.equal(energy(), before + 60);
+  const again = new Launch({ rows: new Map(launch.rows) });
+  const stored = again.batches.length;
+  again.purchase('done', 'energy60', 'one', 'paid');
+  assert.deepEqual(again.batches.slice(stored).flat(), []);
+  const lines = launch.trace().trim().split('\n');
+  assert.match(lines[0], /^launch 20230102 /);
+  assert.match(lines.at(-1), /^purchase \d+ done energy60 one paid$/);
+  assert.equal(again.trace().split('\n')[0], 'another career');
 });
 
 test('what was stored gives the same screens after a restart', () => {

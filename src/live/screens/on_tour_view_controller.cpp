@@ -7,7 +7,7 @@
 #include "core/money.h"
 #include "core/own_photo.h"
 #include "core/view_words.h"
-#include "live/tour_dates.h"
+#include "live/screens/tour_stops.h"
 #include "live/tours.h"
 
 namespace backbeat {
@@ -16,26 +16,6 @@ namespace {
 
 constexpr int64_t mostLamps = 20;
 constexpr int64_t stopsBefore = 3;  ///< that a long route shows of what is behind
-
-Row playedStop(const WeeklyTourSales& show) {
-  return {.title = show.tourStadium,
-          .subtitle = showDate(show.weekNumber) + "\n" + show.tourLocation,
-          .value = withCommas(show.seatsSold),
-          .note = "sold",
-          .tone = Tone::good,
-          .badge = show.soldOut == 1 ? "SOLD OUT" : ""};
-}
-
-/// `week` is the week of the year in which its shows begin.
-Row comingStop(const MusicTour& venue, int64_t week, bool isNext) {
-  Row row{.title = venue.stadium,
-          .subtitle = (isNext ? "This week" : showDate(week)) + "\n" + venue.location,
-          .value = withCommas(std::clamp(venue.seatsSold, int64_t{0}, venue.seatCapacity)),
-          .note = "of " + withCommas(venue.seatCapacity) + " Seats",
-          .selected = isNext};
-  if (venue.numberOfShows > 1) row.subtitle += " · " + counted(venue.numberOfShows, "show");
-  return row;
-}
 
 Poster headOf(const GameState& state, const TourProgress& tour, size_t next) {
   const auto done = static_cast<int64_t>(tour.played.size());
@@ -90,8 +70,7 @@ Rows OnTourViewController::routeOf(const TourProgress& tour) const {
   const RecordList<MusicTour>& venues = state().saveAllMusicTourList;
   const size_t next = firstVenueToCome(state());
   const size_t done = tour.played.size();
-  std::vector<int64_t> weeks = {state().weekNumber};  // in which each venue to come begins
-  for (size_t i = next; i < venues.size(); ++i) weeks.push_back(weeks.back() + venues[i].numberOfShows);
+  const std::vector<int64_t> weeks = weeksToCome(state());
   Rows rows = windowedRows("route", route_, static_cast<int64_t>(done + venues.size() - next), [&](size_t stop) {
     if (stop < done) return playedStop(tour.played[stop]);
     return comingStop(venues[next + stop - done], weeks[stop - done], stop == done);

@@ -20,6 +20,7 @@ Outcome CreateAnAlbumViewController::act(const Action& action) {
   if (action.id == "title") title_ = action.value;
   if (action.id == "dice") title_ = suggestedTitle(state().albumId, ++diceThrows_);
   if (action.id == "photo") return takePhoto(action.value);
+  if (action.id == "removePhoto") return takePhoto("");
   if (action.verb() == "cover") {
     if (const auto number = optionNumber(action.argument(), albumCoverNames.size())) {
       cover_ = *number;
@@ -61,7 +62,7 @@ View CreateAnAlbumViewController::view() const {
                           .id = "cover:" + std::to_string(i)});
   }
   view.add(std::move(grid));
-  view.add(photoField(!photo_.empty()));
+  addPhotoField(view, photoField(!photo_.empty()));
   view.mainAction = Button{.id = "createAlbumButton", .label = "Create album", .style = Button::Style::primary};
   view.help =
       Help{.title = "How an album grows",

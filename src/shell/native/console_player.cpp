@@ -38,9 +38,15 @@ std::pair<std::string_view, std::string_view> firstWord(std::string_view input) 
 
 }  // namespace
 
-ConsolePlayer::ConsolePlayer(TraceRecorder& career, CareerStore& store, LineInput input, std::ostream& out, bool colour,
-                             std::function<int64_t()> now)
-    : career_(career), store_(store), input_(std::move(input)), out_(out), colour_(colour), now_(std::move(now)) {}
+ConsolePlayer::ConsolePlayer(TraceRecorder& career, CareerStore& store, FreeShop& shop, LineInput input,
+                             std::ostream& out, bool colour, std::function<int64_t()> now)
+    : career_(career),
+      store_(store),
+      shop_(shop),
+      input_(std::move(input)),
+      out_(out),
+      colour_(colour),
+      now_(std::move(now)) {}
 
 void ConsolePlayer::run() {
   for (std::optional<std::string> line = "again"; line && obey(*line); line = input_("> ")) out_.flush();
@@ -186,8 +192,17 @@ void ConsolePlayer::pressWindow(bool earlier) {
 
 void ConsolePlayer::press(const std::string& screenKey, const Action& action) {
   career_.play(actEvent(now_(), screenKey, action));
+  answerShop();
   obeyRequest();
   show();
+}
+
+void ConsolePlayer::answerShop() {
+  if (std::string product = shop_.takeAsked(); !product.empty()) {
+    const std::string transaction = "free-" + std::to_string(now_()) + "-" + std::to_string(++purchases_);
+    career_.play(purchaseEvent(now_(), freeAnswer(std::move(product), transaction)));
+  }
+  if (shop_.takeReview()) say("\nThank you. That you play it is what we hoped for.");
 }
 
 void ConsolePlayer::obeyRequest() {
@@ -199,6 +214,12 @@ void ConsolePlayer::obeyRequest() {
       if (!store_.restoreSnapshot(request.snapshot))
         return say("\nThat copy could not be restored. Nothing has changed.");
       return relaunch();
+    case Request::Kind::feedback:
+      return say("\nWrite to whoever gave you the game, and put this below your words:\n" + request.text);
+    case Request::Kind::replay:
+      return say("\nbackbeat play --trace FILE writes down all you press, from the start of the game on.");
+    case Request::Kind::purchase:
+    case Request::Kind::review:
     case Request::Kind::none: break;
   }
 }

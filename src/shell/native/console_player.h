@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "shell/free_shop.h"
 #include "shell/native/line_input.h"
 #include "shell/native/view_printer.h"
 #include "shell/trace.h"
@@ -14,10 +15,10 @@ namespace backbeat {
 
 class ConsolePlayer {
  public:
-  /// `career` plays on `store` and has been launched. `colour` adds the terminal's colours to what is printed. `now`
-  /// gives the time of each press, in milliseconds since 1970.
-  ConsolePlayer(TraceRecorder& career, CareerStore& store, LineInput input, std::ostream& out, bool colour,
-                std::function<int64_t()> now);
+  /// `career` plays on `store` with `shop`, and has been launched. `colour` adds the terminal's colours to what is
+  /// printed. `now` gives the time of each press, in milliseconds since 1970.
+  ConsolePlayer(TraceRecorder& career, CareerStore& store, FreeShop& shop, LineInput input, std::ostream& out,
+                bool colour, std::function<int64_t()> now);
 
   /// Plays until the player quits or the input ends.
   void run();
@@ -31,6 +32,7 @@ class ConsolePlayer {
   void importFrom(std::string_view words);
   void relaunch();
   void obeyRequest();
+  void answerShop();
   void pressNumber(size_t number, std::string_view value);
   /// The text for a field that was named by its number alone. Nothing once the input has ended.
   std::optional<std::string> askForText(const Pressable& field);
@@ -43,6 +45,8 @@ class ConsolePlayer {
 
   TraceRecorder& career_;
   CareerStore& store_;
+  FreeShop& shop_;
+  int64_t purchases_ = 0;  ///< of this run
   LineInput input_;
   std::ostream& out_;
   bool colour_;

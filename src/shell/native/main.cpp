@@ -97,7 +97,7 @@ int play(const CommandLine& line) {
   const bool colour = isTerminal(STDOUT_FILENO) && environment("NO_COLOR").empty();
   const bool atTerminal = isTerminal(STDIN_FILENO) && isTerminal(STDOUT_FILENO);
   LineInput input = atTerminal ? linesFromTerminal() : linesFrom(std::cin);
-  ConsolePlayer(career, *opened.store, std::move(input), std::cout, colour, unixMilliseconds).run();
+  ConsolePlayer(career, *opened.store, platform, std::move(input), std::cout, colour, unixMilliseconds).run();
   if (!line.trace.empty() && !trace) return fail("the trace " + line.trace + " is not complete.");
   if (career.session().game().saveFile.failing()) return fail("the last steps could not be saved.");
   return done;

@@ -51,6 +51,7 @@ void print(PrintedPage& page, const PhotoField& field) {
   Inked line = page.inked().add(page.number(std::move(given))).add(oneLine(field.label, 30) + ": ");
   page.put(line.add(field.taken ? "(set; paste another as a data: address)" : "(paste a picture as a data: address)",
                     faint));
+  page.paragraph(field.note, faint, 6);
 }
 
 void print(PrintedPage& page, const Choice& choice) {

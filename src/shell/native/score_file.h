@@ -1,13 +1,13 @@
-// The scores of the lives played on this computer, in a small text beside the save.
+// This computer: its shop is free, and the scores of the lives played on it stand in a small text beside the save.
 #pragma once
 
 #include <string>
 
-#include "shell/score_keeper.h"
+#include "shell/free_shop.h"
 
 namespace backbeat {
 
-class ScoreFile final : public ScoreKeeper {
+class ScoreFile final : public FreeShop {
  public:
   /// Those of the save at `save`; none where nothing can be read.
   explicit ScoreFile(const std::string& save);

@@ -390,10 +390,16 @@ std::vector<KeptCopy> SqliteStore::snapshots() {
   return kept;
 }
 
+bool SqliteStore::clearCareer() { return runFor(deviceKey, {"DELETE FROM kv", "DELETE FROM list WHERE key <> ?1"}); }
+
 bool SqliteStore::replaceAll(std::span<const Write> rows) {
   return transaction([&] {
-    return runFor("", {"DELETE FROM kv", "DELETE FROM list"}) &&
-           std::all_of(rows.begin(), rows.end(), [&](const Write& row) { return apply(row); });
+    if (!clearCareer()) return false;
+    int code = SQLITE_OK;
+    const bool keepsDevices = queryNumber(database_.get(), "SELECT count(*) FROM list", code) != 0;
+    return code == SQLITE_OK && std::all_of(rows.begin(), rows.end(), [&](const Write& row) {
+             return (keepsDevices && row.key == deviceKey) || apply(row);
+           });
   });
 }
 
@@ -412,8 +418,8 @@ bool SqliteStore::restoreSnapshot(std::string_view name) {
   }
   if (step != SQLITE_DONE) return false;
   return transaction([&] {
-    return runFor(name, {"DELETE FROM kv", "DELETE FROM list",
-                         "INSERT INTO kv SELECT key, value, checkOfRow(key, -1, value) FROM snapshot_row"
+    return clearCareer() &&
+           runFor(name, {"INSERT INTO kv SELECT key, value, checkOfRow(key, -1, value) FROM snapshot_row"
                          " WHERE name = ?1 AND chunk = -1",
                          "INSERT INTO list SELECT key, chunk, value, checkOfRow(key, chunk, value) FROM snapshot_row "
                          "WHERE name = ?1 AND chunk <> -1"});

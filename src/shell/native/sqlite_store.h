@@ -64,6 +64,8 @@ class SqliteStore final : public CareerStore {
   bool prepareStatements();
   void dropStatements();
   bool apply(const Write& write);
+  /// Removes every row but the device's.
+  bool clearCareer();
   bool transaction(const std::function<bool()>& body);
   bool run(sqlite3_stmt* statement);
   Statement prepared(const char* sql) const;

@@ -24,6 +24,7 @@ void printTitle(PrintedPage& page, const View& view) {
   page.line("");
   page.line(oneLine(view.title, pageWidth), bold);
   page.paragraph(view.subtitle, faint, 0);
+  if (!view.pictureId.empty()) page.line("  " + page.numberOf(view.pictureId, "Portrait") + "(your portrait)", faint);
 }
 
 /// What stands pinned at the foot.

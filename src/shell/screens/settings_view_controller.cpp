@@ -35,10 +35,14 @@ Outcome SettingsViewController::act(const Action& action) {
   if (action.id == "appearance") return chooseAppearance(action.value);
   if (action.id == "artistName") nameArtist(game_, action.value);
   for (const std::string_view segue :
-       {exportCareerSegue, importCareerSegue, std::string_view("goToRestore"),
+       {exportCareerSegue, importCareerSegue, feedbackSegue, replaySegue, std::string_view("goToRestore"),
         std::string_view("goToChangeFeaturedArtistName"), std::string_view("goToChangeCameoNames"),
         std::string_view("goToData"), std::string_view("goToAbout")}) {
     if (action.id == segue) return goTo(action.id);
+  }
+  if (action.id == "rateButton") {
+    game_.platform.requestReview();
+    thanked_ = true;
   }
   return {};
 }
@@ -85,6 +89,15 @@ View SettingsViewController::view() const {
   view.add(Rows{{wayTo(std::string(exportCareerSegue), "document", "Export", whyExport),
                  wayTo(std::string(importCareerSegue), "box", "Import", "Go on with a career from a file"),
                  wayTo("goToRestore", "restart", "Restore", "Go back to a New Year, or undo a restart")}});
+  view.add(Heading{"To the makers"});
+  view.add(
+      Rows{{wayTo(std::string(feedbackSegue), "envelope", "Write to us", "In your own mail; nothing goes by itself"),
+            {.picture = icon("star"),
+             .title = "Rate Backbeat",
+             .subtitle = thanked_ ? "Thank you" : "If it is worth your evenings",
+             .id = "rateButton"},
+            wayTo(std::string(replaySegue), "play", "Replay file",
+                  "All you pressed since the game was opened, for a fault to be found")}});
   view.add(Heading{"Backbeat"});
   view.add(Rows{{wayTo("goToData", "box", "Data", "Make a long career lighter"),
                  wayTo("goToAbout", "info", "About", "What this is, and whose work is in it")}});

@@ -1,4 +1,5 @@
-// Settings: the look, other people's names, what this is, and the way back to the beginning.
+// Settings: the look, names, the career as a file, a word to the makers, what this is, and the way back to the
+// beginning.
 #pragma once
 
 #include "core/screen.h"
@@ -17,6 +18,8 @@ class SettingsViewController final : public Screen {
  private:
   Outcome restart();
   Outcome chooseAppearance(std::string_view option);
+
+  bool thanked_ = false;  ///< the player would rate the game
 };
 
 }  // namespace backbeat

@@ -7,8 +7,8 @@
 
 #include "core/career_file.h"
 #include "core/json.h"
+#include "shell/free_shop.h"
 #include "shell/page_store.h"
-#include "shell/score_keeper.h"
 #include "shell/session.h"
 #include "shell/shown_json.h"
 #include "shell/trace.h"
@@ -18,9 +18,11 @@ namespace {
 
 /// Everything that lives between two calls. One for the instance; the page makes a new instance to begin anew.
 struct Door {
-  ScoreKeeper platform;
+  FreeShop platform;
   PageStore store;
-  std::unique_ptr<Session> session;
+  std::string trace;  // of this launch, a line each
+  TraceRecorder career{store, platform, [this](const std::string& line) { trace += line + "\n"; }};
+  bool launched = false;
   std::unique_ptr<GameState> stored;  // what the rows hold, once asked for without a session
   std::string input;
   std::string answer;
@@ -39,15 +41,13 @@ std::string_view nextPart(std::string_view& text) {
   return part;
 }
 
-Date dateFrom(std::string_view unixMilliseconds) {
-  return {static_cast<double>(wholeNumber(unixMilliseconds).value_or(0)) / 1000};
-}
+int64_t timeFrom(std::string_view unixMilliseconds) { return wholeNumber(unixMilliseconds).value_or(0); }
 
 /// The running career, or the one in the rows that were handed in: an engine that the page does not dare to start can
 /// still hand out what is stored.
 const GameState& currentState() {
   Door& here = door();
-  if (here.session) return here.session->game().state;
+  if (here.launched) return here.career.session().game().state;
   if (!here.stored) {
     here.stored = std::make_unique<GameState>();
     SaveFile(here.store).load(*here.stored);
@@ -72,7 +72,14 @@ std::string importAsJson(const ImportedCareer& career, const std::string& givesU
 
 void answer() {
   Door& here = door();
-  here.answer = shownAsJson(here.session->navigator(), here.session->shown());
+  const Session& session = here.career.session();
+  Shown shown = session.shown();
+  if (std::string product = here.platform.takeAsked(); !product.empty()) {
+    shown.request = {.kind = Request::Kind::purchase, .product = std::move(product)};
+  } else if (here.platform.takeReview()) {
+    shown.request.kind = Request::Kind::review;
+  }
+  here.answer = shownAsJson(session.navigator(), shown);
   here.batch = here.store.takeBatch();
 }
 
@@ -105,26 +112,43 @@ extern "C" {
   for (const char digit : seed) number = number * 10 + static_cast<uint64_t>(digit - '0');
   auto& here = door();
   here.store.giveChecks();
-  here.session = std::make_unique<backbeat::Session>(here.store, here.platform, number,
-                                                     backbeat::dateFrom(backbeat::nextPart(text)));
+  if (here.store.holdsRows()) here.career.noteForeignCareer();
+  here.career.play(backbeat::launchEvent(backbeat::timeFrom(backbeat::nextPart(text)), number));
+  here.launched = true;
   here.store.dropRows();
   backbeat::answer();
 }
 
 [[clang::export_name("bb_act")]] void bb_act(const char* bytes, uint32_t size) {
   std::string_view text(bytes, size);
-  const backbeat::Date now = backbeat::dateFrom(backbeat::nextPart(text));
-  const std::string screen(backbeat::nextPart(text));
-  const std::string id(backbeat::nextPart(text));
-  door().session->press(now, screen, {id, std::string(text)});
+  const int64_t now = backbeat::timeFrom(backbeat::nextPart(text));
+  std::string screen(backbeat::nextPart(text));
+  std::string id(backbeat::nextPart(text));
+  door().career.play(backbeat::actEvent(now, std::move(screen), {std::move(id), std::string(text)}));
   backbeat::answer();
 }
+
+[[clang::export_name("bb_purchase")]] void bb_purchase(const char* bytes, uint32_t size) {
+  std::string_view text(bytes, size);
+  const int64_t now = backbeat::timeFrom(backbeat::nextPart(text));
+  backbeat::PurchaseAnswer said;
+  // A word that is none is no purchase: nothing may be credited for it.
+  said.result =
+      backbeat::purchaseResultFrom(backbeat::nextPart(text)).value_or(backbeat::PurchaseAnswer::Result::failed);
+  said.product = backbeat::nextPart(text);
+  said.transaction = backbeat::nextPart(text);
+  said.free = text == "free";
+  door().career.play(backbeat::purchaseEvent(now, std::move(said)));
+  backbeat::answer();
+}
+
+[[clang::export_name("bb_trace")]] void bb_trace() { door().answer = door().trace; }
 
 [[clang::export_name("bb_snapshot")]] void bb_snapshot(const char* bytes, uint32_t size) {
   std::string_view copy(bytes, size);
   const int64_t room = backbeat::wholeNumber(backbeat::nextPart(copy)).value_or(0);
   auto& here = door();
-  if (here.session) {
+  if (here.launched) {
     here.store.measureSnapshot(copy, room);
   } else {
     here.store.addSnapshot(std::string(copy), room);
@@ -157,7 +181,7 @@ extern "C" {
 
 [[clang::export_name("bb_import")]] void bb_import(const char* bytes, uint32_t size) {
   std::string_view file(bytes, size);
-  const backbeat::Date now = backbeat::dateFrom(backbeat::nextPart(file));
+  const backbeat::Date now{static_cast<double>(backbeat::timeFrom(backbeat::nextPart(file))) / 1000};
   backbeat::ImportedCareer career = backbeat::importCareer(file);
   auto& here = door();
   constexpr auto kind = backbeat::SnapshotKind::import;
@@ -171,7 +195,7 @@ extern "C" {
 
 [[clang::export_name("bb_state_hash")]] void bb_state_hash() {
   auto& here = door();
-  here.answer = backbeat::hashText(backbeat::stateHash(here.session->game().state));
+  here.answer = backbeat::hashText(backbeat::stateHash(here.career.session().game().state));
 }
 
 [[clang::export_name("bb_out")]] const char* bb_out() { return door().answer.data(); }

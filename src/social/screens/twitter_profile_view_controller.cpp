@@ -78,7 +78,8 @@ View TwitterProfileViewController::view() const {
 void TwitterProfileViewController::describeProfile(View& view) const {
   view.add(Cover{.picture = artistPicture(state()),
                  .title = state().myArtistsName,
-                 .text = handleOf(state().myArtistsName) + "\n" + withCommas(state().followerCount) + " followers"});
+                 .text = handleOf(state().myArtistsName) + "\n" + withCommas(state().followerCount) + " followers",
+                 .back = hasOwnHeader(state()) ? headerPicture(state()) : Picture{}});
   view.add(Button{.id = "followButton", .label = "Follow", .pulse = pulses_});
   view.add(
       caption("🎶 New music whenever it is ready, not a day sooner.\n📍 Somewhere between the studio and the "

@@ -61,7 +61,8 @@ Outcome ViewController::open() {
 
 Outcome ViewController::act(const Action& action) {
   if (action.verb() == "song") return goTo("goToSongDetail", std::string(action.argument()));
-  for (const std::string_view segue : {"goToMonthlyListenerDetail", "goToBillboard", "goToEnergyTransparency"}) {
+  for (const std::string_view segue :
+       {"goToArtistProfile", "goToMonthlyListenerDetail", "goToBillboard", "goToEnergyTransparency"}) {
     if (action.id == segue) return goTo(action.id);
   }
   Outcome way = followNeed(game_, action);
@@ -73,7 +74,8 @@ View ViewController::view() const {
             .subtitle = state().isLabelLaunched >= 1 ? state().myLabelName
                         : state().underContract >= 1 ? "Signed artist"
                                                      : "Independent artist",
-            .picture = artistPicture(state())};
+            .picture = artistPicture(state()),
+            .pictureId = "goToArtistProfile"};
   describeStanding(view);
   listNeeds(view, game_);
   describeGoal(view);

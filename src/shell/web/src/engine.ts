@@ -1,6 +1,7 @@
 import type { Answer, PressScreen } from "./protocol";
 import { decodeBatch, encodedSize, encodeRow, type Row, type StoredRow } from "./rows";
 import type { KeptCopy } from "./save";
+import type { PurchaseAnswer } from "./shop";
 
 interface Exports {
   memory: WebAssembly.Memory;
@@ -17,6 +18,8 @@ interface Exports {
   bb_import(address: number, size: number): void;
   bb_start(address: number, size: number): void;
   bb_act(address: number, size: number): void;
+  bb_purchase(address: number, size: number): void;
+  bb_trace(): void;
   bb_out(): number;
   bb_out_size(): number;
   bb_batch(): number;
@@ -126,6 +129,19 @@ export class Engine {
   /** One press. */
   act(now: number, screen: PressScreen, id: string, value: string): Reply {
     return this.call(`${now}\0${screen}\0${id}\0${value}`, this.door.bb_act);
+  }
+
+  /** What the shop answers. */
+  purchase(now: number, { result, product, transaction, free }: PurchaseAnswer): Reply {
+    return this.call([now, result, product, transaction, free ? "free" : "paid"].join("\0"), this.door.bb_purchase);
+  }
+
+  /** What happened in this launch, a line each. */
+  trace(): Uint8Array<ArrayBuffer> {
+    return this.guard(() => {
+      this.door.bb_trace();
+      return this.out();
+    });
   }
 
   /** The whole career as a file; before `start` the one that was handed in, without running a rule. */

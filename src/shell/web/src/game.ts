@@ -9,6 +9,7 @@ import { makeRoomForCopies } from "./room";
 import { asidesOf, isAside, type Row, type StoredRow } from "./rows";
 import { Save, type Trouble } from "./save";
 import { keepScores, keptScores } from "./scores";
+import type { PurchaseAnswer } from "./shop";
 import { forgetStops, noteStop, stopsTooOften } from "./stops";
 
 /** What the shell plays: the latest answer of the engine, and the way to press something. */
@@ -106,6 +107,27 @@ export class Game implements Player {
     this.onChange();
     askToKeep(before, this.answer);
     if (this.answer.request) void obey(this, this.answer);
+  }
+
+  /** Hears what the shop answers. */
+  takePurchase(answer: PurchaseAnswer): void {
+    if (!this.engine) return;
+    try {
+      this.take(this.engine.purchase(Date.now(), answer));
+    } catch (fault) {
+      return this.recover(fault);
+    }
+    this.onChange();
+  }
+
+  /** All that was pressed in this launch, as a file. */
+  replayFile(): HandedFile | null {
+    try {
+      return this.engine && { name: "backbeat-replay.txt", bytes: this.engine.trace(), type: "text/plain" };
+    } catch (fault) {
+      this.recover(fault);
+      return null;
+    }
   }
 
   /** The career as a file; null when making it stopped the engine. */

@@ -4,12 +4,14 @@ import { Game, launchSeed } from "./game";
 import { takeSave } from "./lock";
 import { installGlyphs } from "./pictures/icons";
 import { showNotice } from "./notice";
+import { applyLook } from "./preferences";
 import { showRescue } from "./rescue";
 import type { AppElement } from "./shell/app";
 import "./shell/app";
 import { offerUpdates } from "./updates";
 
 installGlyphs();
+applyLook();
 let game: Game | null = null;
 takeDroppedFiles(() => game);
 void begin(false);

@@ -1,13 +1,15 @@
+import { hapticsOn, lessMovement } from "./preferences";
+
 const stillness = matchMedia("(prefers-reduced-motion: reduce)");
 
-/** The player has asked the device for less movement. */
+/** The player has asked for less movement, the device or the game. */
 export function prefersStillness(): boolean {
-  return stillness.matches;
+  return stillness.matches || lessMovement();
 }
 
 /** A short tap in the hand; a pattern is ms of buzz and pause by turns. Browsers refuse it before the first touch. */
 export function tap(pattern: number | number[] = 8): void {
-  if (navigator.userActivation?.hasBeenActive) navigator.vibrate?.(pattern);
+  if (hapticsOn() && navigator.userActivation?.hasBeenActive) navigator.vibrate?.(pattern);
 }
 
 let onItsWay: Promise<void> = Promise.resolve();

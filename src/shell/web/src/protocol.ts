@@ -162,7 +162,9 @@ export interface PhotoField {
   kind: "photo";
   id: string;
   label?: string;
+  note?: string;
   taken?: boolean;
+  shape?: "square" | "wide";
 }
 
 export interface Slider {
@@ -263,6 +265,7 @@ export interface Cover {
   text?: string;
   badge?: string;
   hook?: string;
+  back?: Picture;
 }
 
 export interface Figure {
@@ -453,6 +456,7 @@ export interface View {
   title?: string;
   subtitle?: string;
   picture?: Picture;
+  pictureId?: string;
   theme?: Theme;
   blocks?: Block[];
   totals?: Total[];
@@ -497,8 +501,10 @@ export interface Answer {
   appearance?: "system" | "dark" | "light";
   feedback?: "none" | "energyBounce" | "success" | "warning";
   alert?: Alert | null;
-  request?: "" | "export" | "import" | "restore";
+  request?: "" | "export" | "import" | "restore" | "purchase" | "review" | "feedback" | "replay";
   snapshot?: string;
+  product?: string;
+  text?: string;
   notice?: string;
   view: View;
   /** At a desk: what can be seen beside the shown screen. */

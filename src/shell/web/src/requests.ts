@@ -1,13 +1,18 @@
-import { handOver, pickFile } from "./files";
+import { handOver, pickFile, type HandedFile } from "./files";
 import type { Game } from "./game";
 import type { Answer } from "./protocol";
 import { steps } from "./reading";
 import { withRoom } from "./room";
 import type { Trouble } from "./save";
+import { freePack } from "./shop";
 
 /** Does what the engine asks of the page after a press. */
-export async function obey(game: Game, { request, snapshot }: Answer): Promise<void> {
-  if (request === "export") await exportCareer(game);
+export async function obey(game: Game, { request, snapshot, product, text }: Answer): Promise<void> {
+  if (request === "export") await handOut(game, game.careerFile());
+  if (request === "replay") await handOut(game, game.replayFile());
+  if (request === "purchase" && product) game.takePurchase(freePack(product));
+  if (request === "review") game.messages.show({ text: "Thank you. That you play it is what we hoped for." });
+  if (request === "feedback") writeToTheMakers(text ?? "");
   if (request === "import") {
     const file = await pickFile();
     if (file) await offerCareer(game, file);
@@ -15,8 +20,16 @@ export async function obey(game: Game, { request, snapshot }: Answer): Promise<v
   if (request === "restore" && snapshot) await goBack(game, snapshot);
 }
 
-async function exportCareer(game: Game): Promise<void> {
-  const file = game.careerFile();
+/** Opens the player's own mail program on a letter; whether it is sent is theirs to say. */
+function writeToTheMakers(facts: string): void {
+  const address: string = import.meta.env.VITE_FEEDBACK_ADDRESS ?? "";
+  const body = `\n\n\n${facts}\n${navigator.userAgent}`;
+  const link = document.createElement("a");
+  link.href = `mailto:${address}?subject=${encodeURIComponent("Backbeat")}&body=${encodeURIComponent(body)}`;
+  link.click();
+}
+
+async function handOut(game: Game, file: HandedFile | null): Promise<void> {
   if (file && (await handOver(file)) === "downloaded") game.messages.show({ text: `Saved as ${file.name}` });
 }
 

@@ -29,6 +29,9 @@ export function isOrder(row: Row): boolean {
   return keepsCopy(row) || forgetsCopy(row);
 }
 
+/** The key of what belongs to the device: another career does not take its place. */
+export const deviceKey = "creditedPurchases";
+
 const quarantinePrefix = "quarantine/";
 
 /** Whether it was put aside: out of the engine's way, but not out of the world. */

@@ -1,5 +1,6 @@
 import { openDB, type IDBPDatabase, type IDBPTransaction } from "idb";
 import {
+  deviceKey,
   forgetCopy,
   forgetsCopy,
   identity,
@@ -120,12 +121,11 @@ export class Save {
     else if (rows.length > 0) void this.store([batch]);
   }
 
-  /** Puts `batch` in the place of every row, its orders first; all or nothing, and not tried again. Why not, or "". */
+  /** Puts `batch` in the place of every row but the device's, its orders first; all or nothing, and not tried again. Why not, or "". */
   replace(batch: Row[]): Promise<Trouble> {
     return this.exchange(async (tx) => {
       await put(tx, batch.filter(isOrder));
-      await tx.objectStore(rowStore).clear();
-      await put(
+      await putInPlace(
         tx,
         batch.filter((row) => !isOrder(row)),
       );
@@ -137,8 +137,7 @@ export class Save {
     return this.exchange(
       async (tx, rows) => {
         await put(tx, orders);
-        await tx.objectStore(rowStore).clear();
-        await put(tx, rows);
+        await putInPlace(tx, rows);
       },
       () => this.rowsOfCopy(name),
     );
@@ -346,6 +345,17 @@ async function put(tx: Writing, rows: Row[]): Promise<void> {
     else if (forgetsCopy(row)) for (const store of [copies, sizes]) store.delete(row.key).catch(() => {});
     else (row.value ? kept.put(row.value, at) : kept.delete(at)).catch(() => {});
   }
+}
+
+/** These rows and no others, but for those that belong to the device: they stay, and others of their kind stay out. */
+async function putInPlace(tx: Writing, rows: Row[]): Promise<void> {
+  const kept = tx.objectStore(rowStore);
+  const own = IDBKeyRange.bound([deviceKey], [deviceKey, []]);
+  const [places, values] = await Promise.all([kept.getAllKeys(own) as Promise<Key[]>, kept.getAll(own)]);
+  await kept.clear();
+  if (places.length === 0) return put(tx, rows);
+  const stays = places.map(([key, chunk], i) => storedRow(key, chunk, values[i]));
+  await put(tx, [...stays, ...rows.filter(({ key }) => key !== deviceKey)]);
 }
 
 async function rowsToCopy(tx: Writing): Promise<StoredRow[]> {

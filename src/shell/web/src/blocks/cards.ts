@@ -1,6 +1,6 @@
 import { html, nothing, type TemplateResult } from "lit";
 import "../hooks/button";
-import { picture } from "../pictures/picture";
+import { hasPicture, picture } from "../pictures/picture";
 import { soundOn, soundOpen } from "../preferences";
 import type { Card, Cover } from "../protocol";
 import type { Scene } from "../scene";
@@ -51,7 +51,8 @@ function change(note: string): string | TemplateResult {
 /** The head of a detail screen. A badge that is a rating out of a hundred stands in a ring. */
 export function coverBlock(head: Cover): TemplateResult {
   const rating = /^\d{1,2}(\.\d)?$|^100$/.test(head.badge ?? "") ? Number(head.badge) : null;
-  return html`<section class="head card kind-${head.picture?.kind ?? "none"}">
+  return html`<section class="head card kind-${head.picture?.kind ?? "none"} ${hasPicture(head.back) ? "backed" : ""}">
+    ${hasPicture(head.back) ? html`<div class="head-back">${picture(head.back)}</div>` : nothing}
     <div class="head-picture">
       ${picture(head.picture)}
       ${head.hook && (soundOn() || soundOpen()) ? html`<bb-hook .hook=${head.hook}></bb-hook>` : nothing}

@@ -299,12 +299,20 @@ class AppElement extends LitElement {
 
   /** On the name screen a tap on it does what the button below says. */
   private face(view: View | null): unknown {
+    if (view?.pictureId) return this.portraitButton(view, view.pictureId);
     if (view?.screen !== "EnterNameViewController") return picture(view?.picture);
     const { picture: told, key } = view;
     const chosen = / #\d+$/.exec(told?.name ?? "")?.[0] ?? "";
     const typed: Picture | undefined =
       this.typedName && told?.kind === "person" ? { kind: "person", name: this.typedName + chosen } : told;
     return html`<span class="typed-face" @click=${() => this.press(key, "anotherPortrait")}>${picture(typed)}</span>`;
+  }
+
+  private portraitButton({ picture: portrait, key }: View, id: string): TemplateResult {
+    const open = (): void => this.press(key, id);
+    return html`<button class="portrait" type="button" aria-label="Artist profile" @click=${open}>
+      ${picture(portrait)}
+    </button>`;
   }
 
   private helpButton(view: View | null): TemplateResult | undefined {
