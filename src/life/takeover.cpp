@@ -39,9 +39,10 @@ constexpr Skill skills[] = {
 void install(Game& game, const Child& heir, const Inheritance& inheritance) {
   GameState& state = game.state;
   state.myArtistsName = heir.name;
-  state.totalCashAvailable = static_cast<double>(inheritance.cash);
   state.totalFans = inheritance.followers;
-  state.totalEnergyMax = state.totalEnergyAvailable = inheritance.maxEnergy;
+  state.totalEnergyMax = inheritance.maxEnergy;
+  earn(game, {.energy = inheritance.maxEnergy - state.totalEnergyAvailable,
+              .dollars = static_cast<double>(inheritance.cash) - state.totalCashAvailable});
   for (const auto& [ofChild, level, energyCost] : skills) {
     state.*level = std::max<int64_t>(heir.*ofChild, 1);
     state.*energyCost = state.*level + 1;
@@ -51,8 +52,7 @@ void install(Game& game, const Child& heir, const Inheritance& inheritance) {
   state.twitterHeaderImage.clear();
   state.saveRingImage.clear();
   bringPortrait(game, grownPortrait(heir));
-  game.save(&GameState::myArtistsName, &GameState::totalCashAvailable, &GameState::totalFans,
-            &GameState::totalEnergyMax, &GameState::totalEnergyAvailable, &GameState::heirParentNames,
+  game.save(&GameState::myArtistsName, &GameState::totalFans, &GameState::totalEnergyMax, &GameState::heirParentNames,
             &GameState::twitterHeaderImage, &GameState::saveRingImage);
 }
 
