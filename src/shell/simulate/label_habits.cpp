@@ -154,7 +154,7 @@ void makeRoom(Player& player) {
 
 /// Lowers the label's share until the artist is likely to sign, and asks.
 void makeOffer(Player& player) {
-  const auto chance = [&] { return numberIn(player.view().totals[0].value); };
+  const auto chance = [&] { return numberIn(totalLabelled(player.view(), "One offer a visit").value); };
   for (int64_t share = SigningTerms{}.revenueShare; share > leastShare && chance() < sureEnough; --share) {
     player.press("share", "-1");
   }
@@ -173,7 +173,7 @@ void scout(Player& player, const LabelHabit& habit) {
   const auto best = std::max_element(
       found.begin(), found.end(), [](const Card& a, const Card& b) { return numberIn(a.value) < numberIn(b.value); });
   if (best == found.end() || numberIn(best->value) < habit.worstRating) return;
-  player.press(best->buttons[0].id);
+  player.press("demo:" + std::to_string(best - found.begin()));
   makeOffer(player);
 }
 
