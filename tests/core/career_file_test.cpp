@@ -24,7 +24,7 @@ TEST(CareerFile, HoldsEverythingAndSurvivesOtherTools) {
   folder.write("ours", exportCareer(state));
   EXPECT_TRUE(folder.run("plistutil -f xml -i ours -o xml && plistutil -f bin -i xml -o theirs"));
   EXPECT_TRUE(folder.run(
-      "python3 -c \"import plistlib; career = plistlib.load(open('ours', 'rb')); assert len(career) == 193; "
+      "python3 -c \"import plistlib; career = plistlib.load(open('ours', 'rb')); assert len(career) == 196; "
       "assert career['myArtistsName'] == 'Zo\\u00eb \\U0001f3a4'; assert career['totalCashAvailable'] == -12.5; "
       "assert career['saveAllSongList'][0]['songId'] == " +
       std::to_string(state.saveAllSongList[0].songId) +
