@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/assisted.h"
 #include "core/money.h"
 #include "core/view_words.h"
 
@@ -38,6 +39,7 @@ View RecordsViewController::view() const {
   View view{.title = "Records", .theme = Theme::gala};
   view.add(Text{.text = "The best of all your lives. Scores are told in weeks 24 and 48 of the year, and only rise.",
                 .style = Text::Style::caption});
+  addAssistedMark(view, state());
   view.add(Rows{});
   for (size_t i = 0; i < values_.size(); ++i) describeRecord(view, i);
   describeLives(view);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "core/assisted.h"
 #include "core/money.h"
 #include "core/view_words.h"
 #include "merch/catalogue.h"
@@ -89,6 +90,7 @@ View YearlyMusicStatsViewController::view() const {
                    .value = year,
                    .canLess = year_ > firstYear(state()),
                    .canMore = year_ < state().yearNumber});
+  addAssistedMark(view, state());
   if (recordsAreGone(state(), year_)) {
     view.add(EmptyHint{.icon = "hourglass", .text = "No records of " + year + " are left"});
     return view;
