@@ -19,6 +19,11 @@ constexpr uint64_t seed = 7;
 /// last among them.
 constexpr size_t mostOfOneAction = 4;
 constexpr size_t mostPlaces = 400;
+/// From then on a kind of place is known: in further worlds each action is pressed once there, to see where it leads.
+constexpr int worldsToKnow = 2;
+
+/// How many worlds have shown a kind of place.
+using KnownPlaces = std::map<std::string, int>;
 
 /// The values that a press of it may carry.
 std::vector<std::string> valuesFor(const Pressable& pressable) {
@@ -34,6 +39,7 @@ std::vector<std::string> valuesFor(const Pressable& pressable) {
 template <class T>
 std::vector<T> spread(const std::vector<T>& items, size_t count) {
   if (items.size() <= count) return items;
+  if (count == 1) return {items.back()};
   std::vector<T> chosen;
   for (size_t i = 0; i < count; ++i) chosen.push_back(items[i * (items.size() - 1) / (count - 1)]);
   return chosen;
@@ -41,13 +47,14 @@ std::vector<T> spread(const std::vector<T>& items, size_t count) {
 
 class Crawler {
  public:
-  explicit Crawler(const NamedWorld& world) : world_(world) {}
+  Crawler(const NamedWorld& world, KnownPlaces& known) : world_(world), known_(known) {}
 
   Crawl crawl() {
     arrive({});
     ways_.push_back({});
     kinds_.insert(kindOfPlace());
     for (; !ways_.empty(); ways_.pop_front()) visit(ways_.front());
+    for (const std::string& kind : kinds_) ++known_[kind];
     if (kinds_.size() >= mostPlaces) found_.faults.push_back(where() + "there is no end of places");
     return std::move(found_);
   }
@@ -104,14 +111,17 @@ class Crawler {
       if (!byVerb.contains(verb)) order.push_back(verb);
       byVerb[verb].push_back(each);
     }
+    const auto seen = known_.find(kindOfPlace());
+    const bool isKnown = seen != known_.end() && seen->second >= worldsToKnow;
+    const size_t most = isKnown ? 1 : mostOfOneAction;
     std::vector<std::pair<Pressable, std::string>> presses;
     for (const std::string& verb : order) {
-      for (const Pressable& each : spread(byVerb[verb], mostOfOneAction)) {
-        for (const std::string& value : spread(valuesFor(each), mostOfOneAction)) presses.emplace_back(each, value);
+      for (const Pressable& each : spread(byVerb[verb], most)) {
+        for (const std::string& value : spread(valuesFor(each), most)) presses.emplace_back(each, value);
       }
     }
     const Shown shown = career_->shown();
-    if (shown.alert || shown.modal) return presses;
+    if (shown.alert || shown.modal || (isKnown && !way_.empty())) return presses;
     const auto add = [&](const char* where, const char* id, std::string value) {
       Pressable pressable;
       pressable.screenKey = where;
@@ -176,6 +186,7 @@ class Crawler {
   }
 
   const NamedWorld& world_;
+  KnownPlaces& known_;
   std::unique_ptr<WatchedCareer> career_;
   Way way_;                   ///< that the running career went
   bool asksOutside_ = false;  ///< what the last press led to may well look as before
@@ -193,12 +204,11 @@ void Crawl::add(const Crawl& other) {
   answered.insert(other.answered.begin(), other.answered.end());
 }
 
-Crawl crawlThrough(const NamedWorld& world) { return Crawler(world).crawl(); }
-
 const Crawl& wholeCrawl() {
   static const Crawl whole = [] {
+    KnownPlaces known;
     Crawl all;
-    for (const NamedWorld& world : namedWorlds()) all.add(crawlThrough(world));
+    for (const NamedWorld& world : namedWorlds()) all.add(Crawler(world, known).crawl());
     return all;
   }();
   return whole;

@@ -19,12 +19,10 @@ struct Crawl {
   void add(const Crawl& other);
 };
 
-/// Presses everything that is offered on every kind of place in a world, breadth first, and follows every way. A place
-/// is of the same kind as another when the same screen offers the same actions there, or the same alert stands; so a
-/// song in production is another kind than one that is out, and a hundred songs are two places.
-Crawl crawlThrough(const NamedWorld& world);
-
-/// Through all worlds. Runs when first asked for.
+/// Presses everything that is offered on every kind of place in all worlds, breadth first, and follows every way. A
+/// place is of the same kind as another when the same screen offers the same actions there, or the same alert stands;
+/// so a song in production is another kind than one that is out, and a hundred songs are two places. What two worlds
+/// have shown is passed through in the others, one press an action. Runs when first asked for.
 const Crawl& wholeCrawl();
 
 }  // namespace backbeat
