@@ -148,6 +148,11 @@ class Crawler {
     Way filledIn = way;
     std::optional<Looks> before;
     for (const auto& [pressable, value] : pressesHere()) {
+      if (!stillOffered(pressable)) {  // what was filled in has put something else in its place
+        arrive(way);
+        filledIn = way;
+        before.reset();
+      }
       if (!before) before = looks();
       const TraceEvent event = press(pressable, value);
       const Looks after = looks();
@@ -166,6 +171,13 @@ class Crawler {
         before.reset();
       }
     }
+  }
+
+  bool stillOffered(const Pressable& pressable) {
+    if (pressable.screenKey == "tabs" || pressable.screenKey == "nav") return true;
+    const std::vector<Pressable> offered = career_->offered();
+    return std::any_of(offered.begin(), offered.end(),
+                       [&](const Pressable& each) { return each.action.id == pressable.action.id; });
   }
 
   TraceEvent press(const Pressable& pressable, const std::string& value) {
