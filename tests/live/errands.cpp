@@ -59,6 +59,10 @@ const RoomErrands errands({
     {"leave a label in mid-tour", {"on tour"}, {{"Home"}, {"labelContract"}, {"endContract"}, {"Currently on Tour"}}},
     {"rest after a tour", {"on tour"}, {{"Music"}, {"goToTour"}, {"On Break!"}}, 6},
     {"turn a festival down", {"festival season", "star"}, {{"Festival Invite"}, {"declineButton"}}, wait},
+    {"leaf through all songs for a festival",
+     {"end of a year"},
+     {{"Festival Invite"}, {"goToChooseSetList"}, {"songs"}},
+     wait},
     {"look at an old bill", {"festival season"}, {{"Music"}, {"goToFestivalArchive"}, {"festival:1"}}},
     sixteenSongs(),
 });

@@ -44,6 +44,7 @@ void addSongs(GameState& state, int64_t count, int64_t plays, bool isExplicit = 
 void addRow(GameState& state, int64_t songId, int64_t rank, int64_t weeks, int64_t weeksAtOne) {
   add(state.saveAllBillboardSongList, [&](BillboardSong& row) {
     row.songId = songId;
+    row.isOnCharts = true;
     row.rankThisWeek = rank;
     row.weeksOnChart = weeks;
     row.weeksAtOne = weeksAtOne;
