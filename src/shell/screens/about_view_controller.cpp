@@ -44,7 +44,7 @@ void addLicences(View& view, const char* heading, std::span<const Licence> licen
   view.add(Heading{heading});
   Rows works;
   for (const Licence& licence : licences) {
-    works.items.push_back({.title = licence.work, .subtitle = licence.role, .value = licence.licence});
+    works.items.push_back({.title = licence.work, .subtitle = std::string(licence.role) + "\n" + licence.licence});
   }
   view.add(std::move(works));
 }

@@ -33,7 +33,8 @@ export async function openHouse(folder) {
     page.on("console", (message) => message.type() === "error" && faults.push(message.text()));
     page.on("pageerror", (error) => faults.push(String(error)));
     page.on("request", (request) => {
-      const outside = !request.url().startsWith(home) && !request.url().startsWith("data:");
+      // A letter goes to the device's own mail program, and only once the player sends it.
+      const outside = ![home, "data:", "mailto:"].some((start) => request.url().startsWith(start));
       if (outside) faults.push(`asked for ${request.url()}`);
     });
     await page.goto(address);

@@ -68,7 +68,7 @@ describe(
       await alert(page).getByText("Once a Week").waitFor();
       await answerAlerts(page);
       await page.reload();
-    await page.locator(".layer.top .status").waitFor();
+      await page.locator(".layer.top .status").waitFor();
       assert.equal(await energy(page), before + 60);
       const rows = () =>
         page.evaluate(async () => {

@@ -69,7 +69,7 @@ class AppElement extends LitElement {
       endWeek: () => this.endWeek(),
       show: (sheet) => (this.sheet = sheet),
       agree: () => (this.stack.top?.modal && !this.stack.top.view?.aside ? this.mainButton() : null),
-      busy: () => Boolean(this.sheet) || this.alerting,
+      busy: () => Boolean(this.sheet) || this.alerting || this.querySelector("dialog[open]") !== null,
     });
   }
 
