@@ -35,8 +35,8 @@ std::vector<ScreenFigures> screens() {
                }},
           {.segue = "goToAbout",
            .figures = [](Game&) { return Standings(); },
-           .noFigures = {"subtitle", "Open Peeps", "Inter", "@dicebear/core", "lit", "ionicons", "libc*", "wasi*",
-                         "musl", "xxHash", "CLI11", "libedit", "utf8proc"}}};
+           .noFigures = {"subtitle", "Open Peeps*", "Inter*", "@dicebear*", "lit*", "ionicons*", "uPlot*", "idb*",
+                         "libc*", "wasi*", "musl*", "xxHash*", "SQLite*", "zlib*", "CLI11*", "libedit*", "utf8proc*"}}};
 }
 
 const FiguresOf shell{.screens = screens};
