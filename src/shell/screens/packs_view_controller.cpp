@@ -24,7 +24,7 @@ struct ShelfWords {
   const char* about;
 };
 constexpr ShelfWords shelves[] = {
-    {Shelf::energy, "Energy", "bolt", "At once, above the week's own too"},
+    {Shelf::energy, "Energy", "bolt", "At once, even above your maximum"},
     {Shelf::cash, "Cash", "cash", "At once, into your purse"},
     {Shelf::forGood, "For Good", "spark", "This week and every other, in every life"},
 };

@@ -65,7 +65,7 @@ void ForbesDetailViewController::describeFortune(View& view) const {
 }
 
 void ForbesDetailViewController::describeProfile(View& view) const {
-  Rows profile{{lineOf("Source of Wealth", sourceOfWealth(state())),
+  Rows profile{{{.title = "Source of Wealth", .subtitle = sourceOfWealth(state())},
                 lineOf("Self-Made Score", std::to_string(selfMadeScore(state()))),
                 lineOf("Philanthropy Score", std::to_string(philanthropyScore(state()))),
                 lineOf("Martial Status", maritalStatus(state()))}};  // the paper has always spelt it so
