@@ -163,6 +163,7 @@ describe(
       await give("Your own photo", "broken.png", Buffer.from("no picture").toString("base64"));
       await page.getByText("That file is no picture").waitFor();
       await give("Your own photo", "left.png", await picture(30, 30));
+      await crop.waitFor();
       await page.keyboard.press("Escape");
       await crop.waitFor({ state: "detached" });
 
