@@ -1,3 +1,5 @@
+import { keepText, keptText } from "./kept";
+
 /** What the page itself lets the player choose. It stays with this browser and is no part of the save. */
 const soundPlace = "backbeat-song-hooks";
 const hapticsPlace = "backbeat-haptics";
@@ -13,10 +15,10 @@ export const letterSizes = [
 ] as const;
 const normalLetters = 1;
 
-let sound = read(soundPlace);
-let haptics = read(hapticsPlace);
-let movement = read(movementPlace);
-let letters = read(lettersPlace);
+let sound = keptText(soundPlace);
+let haptics = keptText(hapticsPlace);
+let movement = keptText(movementPlace);
+let letters = keptText(lettersPlace);
 
 /** Songs and soft sounds may be heard. */
 export function soundOn(): boolean {
@@ -25,11 +27,11 @@ export function soundOn(): boolean {
 
 /** Nobody has said yes or no: a song may offer it, and nothing sounds by itself. */
 export function soundOpen(): boolean {
-  return sound === null;
+  return sound === "";
 }
 
 export function setSound(on: boolean): void {
-  sound = write(soundPlace, on ? "1" : "0");
+  sound = kept(soundPlace, on ? "1" : "0");
 }
 
 /** The hand feels what happens, where the device can. */
@@ -38,7 +40,7 @@ export function hapticsOn(): boolean {
 }
 
 export function setHaptics(on: boolean): void {
-  haptics = write(hapticsPlace, on ? "1" : "0");
+  haptics = kept(hapticsPlace, on ? "1" : "0");
 }
 
 /** The player wants less movement here, whatever the device says. */
@@ -47,18 +49,18 @@ export function lessMovement(): boolean {
 }
 
 export function setLessMovement(less: boolean): void {
-  movement = write(movementPlace, less ? "less" : "");
+  movement = kept(movementPlace, less ? "less" : "");
   applyLook();
 }
 
 /** Which of the sizes the letters have. */
 export function letterSize(): number {
-  const chosen = letters === null ? normalLetters : Number(letters);
+  const chosen = letters === "" ? normalLetters : Number(letters);
   return letterSizes[chosen] ? chosen : normalLetters;
 }
 
 export function setLetterSize(size: number): void {
-  letters = write(lettersPlace, String(size));
+  letters = kept(lettersPlace, String(size));
   applyLook();
 }
 
@@ -70,19 +72,7 @@ export function applyLook(): void {
   root.classList.toggle("still", lessMovement());
 }
 
-function read(place: string): string | null {
-  try {
-    return localStorage.getItem(place);
-  } catch {
-    return null;
-  }
-}
-
-function write(place: string, value: string): string {
-  try {
-    localStorage.setItem(place, value);
-  } catch {
-    // no such storage here: it holds until the page is closed
-  }
+function kept(place: string, value: string): string {
+  keepText(place, value);
   return value;
 }
