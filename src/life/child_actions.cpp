@@ -162,13 +162,11 @@ Outcome abandonChild(Game& game, int64_t index) {
   if (!position || !hasEnergy(state, abandonmentCost)) return {};
   const int64_t cost = state.saveAllChildList[*position].weeklyEnergyCost;
   pay(game, abandonmentCost);
-  state.childEnergyCost -= cost;
   state.childAbandonmentEnergyLoss += cost / 2;
   state.totalEnergyMax -= cost / 2;
-  state.saveAllChildList.update(*position, [](Child& child) {
+  state.saveAllChildList.update(*position, [&](Child& child) {
+    endUpkeep(state, child);
     child.typeOfRelationship = kinship::abandoned;
-    child.weeklyFinancialCost = 0;
-    child.weeklyEnergyCost = 0;
     child.admiration = 0;
     child.relationship = "Abandoned";
   });

@@ -59,6 +59,10 @@ std::optional<size_t> childPosition(const GameState& state, int64_t index) {
 
 bool isInFamily(const Child& child) { return child.typeOfRelationship > 0; }
 
+int64_t childrenInFamily(const GameState& state) {
+  return std::count_if(state.saveAllChildList.begin(), state.saveAllChildList.end(), isInFamily);
+}
+
 bool mayTakeOver(const GameState& state, const Child& child) {
   return isInFamily(child) && ageOf(state, child) >= ageOfMajority;
 }
@@ -94,6 +98,12 @@ bool raiseTalent(Child& child, int64_t Child::*level) {
   if (child.*level >= mostTalent) return false;
   child.*level += 1;
   return true;
+}
+
+void endUpkeep(GameState& state, Child& child) {
+  state.childEnergyCost -= child.weeklyEnergyCost;
+  child.weeklyEnergyCost = 0;
+  child.weeklyFinancialCost = 0;
 }
 
 void admire(Child& child, double points) {

@@ -28,6 +28,8 @@ std::optional<size_t> childPosition(const GameState& state, int64_t index);
 
 /// Not abandoned, and alive.
 bool isInFamily(const Child& child);
+/// How many are in the family.
+int64_t childrenInFamily(const GameState& state);
 /// In the family and of age.
 bool mayTakeOver(const GameState& state, const Child& child);
 
@@ -52,6 +54,9 @@ inline constexpr Talent talents[] = {{"Songwriting", &Child::songWriting},
                                      {"Charisma", &Child::charisma}};
 /// Raises it by 1; false, and nothing happens, at its end.
 bool raiseTalent(Child& child, int64_t Child::*level);
+/// From now on the child takes neither energy nor money.
+void endUpkeep(GameState& state, Child& child);
+
 /// Changes the admiration by points, within 0 to 100.
 void admire(Child& child, double points);
 

@@ -43,9 +43,7 @@ void growIntoTeen(Random& random, Child& child) {
 Outcome die(Game& game, Child& child) {
   child.causeOfDeath = game.random.element(causeOfDeathList);
   child.typeOfRelationship = kinship::dead;
-  game.state.childEnergyCost -= child.weeklyEnergyCost;
-  child.weeklyEnergyCost = 0;
-  child.weeklyFinancialCost = 0;
+  endUpkeep(game.state, child);
   child.totalEnergyMax = 0;
   child.admiration = 0;
   return news<"🕊️ In Loving Memory 🕊️">(
@@ -60,9 +58,7 @@ void findWork(Random& random, Child& child) {
 /// A child that takes energy and is too old for that has not left home yet.
 Outcome leaveHome(Game& game, Child& child) {
   if (child.weeklyEnergyCost <= 0) return {};
-  game.state.childEnergyCost -= child.weeklyEnergyCost;
-  child.weeklyEnergyCost = 0;
-  child.weeklyFinancialCost = 0;
+  endUpkeep(game.state, child);
   return news<"🎓 All Grown Up 🎓">("\n" + child.name + " has left home to work as: " + child.occupation +
                                   ".\n\nThe house is quieter now, and cheaper.");
 }

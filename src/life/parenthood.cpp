@@ -48,11 +48,8 @@ Child childOf(const GameState& state) {
   return child;
 }
 
-void drawWeeklyCosts(Random& random, Child& child, bool moneyFirst) {
-  if (moneyFirst) child.weeklyFinancialCost = random.uniformDouble(75, 250);
-  child.weeklyEnergyCost = random.integer(3, 10);
-  if (!moneyFirst) child.weeklyFinancialCost = random.uniformDouble(75, 250);
-}
+int64_t drawWeeklyEnergy(Random& random) { return random.integer(3, 10); }
+double drawWeeklyMoney(Random& random) { return random.uniformDouble(75, 250); }
 
 void drawFuture(Random& random, Child& child) {
   child.totalEnergyMax = random.integer(100, 135);
@@ -83,7 +80,8 @@ void becomeParentByBirth(Game& game, const Matches& partner) {
   child.partnerName = partner.name;
   child.gender = random.integer(0, 1);
   child.relationship = child.gender == daughter ? "Daughter" : "Son";
-  drawWeeklyCosts(random, child, false);
+  child.weeklyEnergyCost = drawWeeklyEnergy(random);
+  child.weeklyFinancialCost = drawWeeklyMoney(random);
   child.imageString = drawPicture(random, child.gender, hasDarkSkin(partner.matchImage) ? "" : "w");
   drawTalents(random, child);
   drawFuture(random, child);
@@ -98,7 +96,8 @@ Child drawAdoption(Game& game) {
   child.relationship = child.gender == daughter ? "Adopted Daughter" : "Adopted Son";
   const std::string family = random.coin() == 0 ? "b" : "w";
   child.imageString = drawPicture(random, child.gender, family);
-  drawWeeklyCosts(random, child, true);
+  child.weeklyFinancialCost = drawWeeklyMoney(random);
+  child.weeklyEnergyCost = drawWeeklyEnergy(random);
   const int64_t age = random.integer(1, 5);
   child.birthYear -= age;
   child.birthWeekForTracking -= age * 52;

@@ -61,8 +61,7 @@ void install(Game& game, const Child& heir, const Inheritance& inheritance) {
 Inheritance inheritanceOf(const GameState& state, const Child& heir) {
   Inheritance inheritance;
   inheritance.legacyNetWorth = legacyNetWorth(state);
-  const auto heirs =
-      static_cast<int64_t>(std::count_if(state.saveAllChildList.begin(), state.saveAllChildList.end(), isInFamily));
+  const int64_t heirs = childrenInFamily(state);
   inheritance.cash = heirs == 0 ? 1 : truncate(inheritance.legacyNetWorth) / heirs;
   inheritance.followers = heir.followers;
   inheritance.maxEnergy = heir.totalEnergyMax + state.permanentEnergyUpgrade;

@@ -19,12 +19,6 @@ const Matches* partnerOf(const GameState& state) {
   return position ? &state.saveAllMatchesList[*position] : nullptr;
 }
 
-int64_t childrenIn(const GameState& state) {
-  int64_t count = 0;
-  for (const Child& child : state.saveAllChildList) count += isInFamily(child) ? 1 : 0;
-  return count;
-}
-
 void openApp(Player& player, const char* way) {
   player.tab(lifeTab);
   player.press("goToFXYDating");
@@ -67,7 +61,7 @@ void takeNextStep(Player& player, const FamilyPlan& plan) {
   const GameState& state = player.state();
   const Matches* partner = partnerOf(state);
   if (!partner || partner->timeToBirth >= 0) return;
-  const bool wantsChild = isMarried(*partner) && childrenIn(state) < plan.children && !fertilityBlocked(state);
+  const bool wantsChild = isMarried(*partner) && childrenInFamily(state) < plan.children && !fertilityBlocked(state);
   if (!wantsChild && !mayTakeNextStep(state, *partner)) return;
   const bool isWedding = partner->relationshipState == love::engaged;
   player.press("mainAction");
