@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "core/calendar.h"
 #include "core/money.h"
 #include "core/short_money.h"
 #include "core/week_rows.h"
@@ -36,8 +37,7 @@ Chapter songChapter(const GameState& state, const YearOfKind& songs) {
                  "“" + song.title + "” was the one they played the most: " + many(song.amount, "plays") + ".")};
 }
 
-Chapter albumChapter(const GameState& state, int64_t year) {
-  const YearOfKind albums = yearOfKind(state, YearKind::albums, year);
+Chapter albumChapter(const GameState& state, const YearOfKind& albums) {
   if (albums.amount == 0) return {cardOf(icon("album"), "The album", "No album was sold this year."), false};
   const YearWork& album = albums.works.front();
   return {
@@ -114,18 +114,32 @@ double paidForStreams(const GameState& state, int64_t year) {
   return dollars;
 }
 
-/// What the records know of: jobs and standing entries leave none.
-double earnedIn(const GameState& state, int64_t year) {
+struct MusicYear {
+  YearOfKind songs;
+  YearOfKind albums;
+  YearOfKind tours;
+  /// What the records know of: jobs and standing entries leave none.
+  double earned = 0;
+};
+
+/// Streams, merchandise, videos, verses and festivals.
+double earnedBesides(const GameState& state, int64_t year) {
   double dollars = paidForStreams(state, year);
-  for (const YearKind kind : {YearKind::albums, YearKind::tours, YearKind::merch, YearKind::videos}) {
-    dollars += yearOfKind(state, kind, year).dollars;
-  }
+  for (const YearKind kind : {YearKind::merch, YearKind::videos}) dollars += yearOfKind(state, kind, year).dollars;
   for (const auto& row : rowsOfYear(state.saveAllFeaturedOnWeeklySongListens, year)) dollars += row.totalStreamRevenue;
   for (const Festival& festival : state.saveAllFestivalList) {
     const bool isPlayed = festival.weekNumberForTracking < state.weekNumberForTracking;
     if (festival.yearNumber == year && isPlayed) dollars += festival.payment;
   }
   return dollars;
+}
+
+MusicYear musicYear(const GameState& state, int64_t year) {
+  MusicYear music{.songs = yearOfKind(state, YearKind::songs, year),
+                  .albums = yearOfKind(state, YearKind::albums, year),
+                  .tours = yearOfKind(state, YearKind::tours, year)};
+  music.earned = earnedBesides(state, year) + music.albums.dollars + music.tours.dollars;
+  return music;
 }
 
 Chapter moneyChapter(double dollars) {
@@ -154,21 +168,11 @@ Chapter honoursChapter(const GameState& state, int64_t year) {
                      (wins > 1 ? ", one of " + counted(wins, "GRAM") : "") + ".")};
 }
 
-}  // namespace
-
-bool hasReview(const GameState& state, int64_t year) {
-  return year >= firstYear(state) && year < state.yearNumber && !recordsAreGone(state, year);
-}
-
-bool isReviewDue(const GameState& state) { return state.weekNumber == 1 && hasReview(state, state.yearNumber - 1); }
-
-std::vector<Card> cardsOfYear(const GameState& state, int64_t year) {
-  const YearOfKind songs = yearOfKind(state, YearKind::songs, year);
-  std::vector<Chapter> chapters = {
-      songChapter(state, songs),  albumChapter(state, year),
-      weekChapter(songs),         roadChapter(state, yearOfKind(state, YearKind::tours, year), year),
-      heartChapter(state, year),  moneyChapter(earnedIn(state, year)),
-      honoursChapter(state, year)};
+std::vector<Card> cardsOfYear(const GameState& state, int64_t year, const MusicYear& music) {
+  std::vector<Chapter> chapters = {songChapter(state, music.songs), albumChapter(state, music.albums),
+                                   weekChapter(music.songs),        roadChapter(state, music.tours, year),
+                                   heartChapter(state, year),       moneyChapter(music.earned),
+                                   honoursChapter(state, year)};
   auto told = static_cast<size_t>(
       std::count_if(chapters.begin(), chapters.end(), [](const Chapter& chapter) { return chapter.isTold; }));
   std::vector<Card> cards;
@@ -180,9 +184,8 @@ std::vector<Card> cardsOfYear(const GameState& state, int64_t year) {
   return cards;
 }
 
-Story storyOfYear(const GameState& state, int64_t year) {
-  const YearOfKind songs = yearOfKind(state, YearKind::songs, year);
-  const YearOfKind tours = yearOfKind(state, YearKind::tours, year);
+Story storyOfYear(const GameState& state, int64_t year, const MusicYear& music) {
+  const YearOfKind& songs = music.songs;
   const std::string figure = std::to_string(year);
   Story story{.sky = cover(state.myArtistsName),
               .kicker = state.myArtistsName + " · My year",
@@ -195,16 +198,29 @@ Story storyOfYear(const GameState& state, int64_t year) {
     story.title = song.title;
     story.text = many(song.amount, "plays");
   }
-  story.facts = {{.label = "streams", .value = abbreviated(static_cast<double>(songs.amount))},
-                 {.label = "albums sold",
-                  .value = abbreviated(static_cast<double>(yearOfKind(state, YearKind::albums, year).amount))},
-                 {.label = "earned", .value = abbreviatedDollars(earnedIn(state, year))},
-                 {.label = "shows sold out", .value = withCommas(tours.soldOut) + " of " + withCommas(tours.shows)}};
+  story.facts = {
+      {.label = "streams", .value = abbreviated(static_cast<double>(songs.amount))},
+      {.label = "albums sold", .value = abbreviated(static_cast<double>(music.albums.amount))},
+      {.label = "earned", .value = abbreviatedDollars(music.earned)},
+      {.label = "shows sold out", .value = withCommas(music.tours.soldOut) + " of " + withCommas(music.tours.shows)}};
   for (size_t i = 0; i < std::min(songsListed, songs.works.size()); ++i) {
     story.facts.push_back(
         {.label = songs.works[i].title, .value = abbreviated(static_cast<double>(songs.works[i].amount))});
   }
   return story;
+}
+
+}  // namespace
+
+bool hasReview(const GameState& state, int64_t year) {
+  return year >= generationBegan(state) && year < state.yearNumber && !recordsAreGone(state, year);
+}
+
+bool isReviewDue(const GameState& state) { return state.weekNumber == 1 && hasReview(state, state.yearNumber - 1); }
+
+YearInReview reviewOfYear(const GameState& state, int64_t year) {
+  const MusicYear music = musicYear(state, year);
+  return {.story = storyOfYear(state, year, music), .cards = cardsOfYear(state, year, music)};
 }
 
 Picture pictureOfWork(const GameState& state, YearKind kind, const YearWork& work) {

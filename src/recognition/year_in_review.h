@@ -16,12 +16,14 @@ bool hasReview(const GameState& state, int64_t year);
 /// Whether the report of this week leads to the review of the year that has just ended.
 bool isReviewDue(const GameState& state);
 
-/// Five to seven, each a sentence and a picture: the song, the album, the biggest week, the road, the heart, the money
-/// and the honours. What the year did not have is told only where there would be too few.
-std::vector<Card> cardsOfYear(const GameState& state, int64_t year);
-
-/// The year in one picture, to keep and to share.
-Story storyOfYear(const GameState& state, int64_t year);
+struct YearInReview {
+  /// The year in one picture, to keep and to share.
+  Story story;
+  /// Five to seven, each a sentence and a picture: the song, the album, the biggest week, the road, the heart, the
+  /// money and the honours. What the year did not have is told only where there would be too few.
+  std::vector<Card> cards;
+};
+YearInReview reviewOfYear(const GameState& state, int64_t year);
 
 /// What something of a year looks like, wherever it is told.
 Picture pictureOfWork(const GameState& state, YearKind kind, const YearWork& work);

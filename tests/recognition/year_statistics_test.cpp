@@ -129,7 +129,7 @@ std::string textOf(const std::vector<Card>& cards, const std::string& title) {
 TEST(YearInReview, TellsFiveToSevenThingsOfTheYear) {
   Years world;
   GameState& state = world.state;
-  std::vector<Card> cards = cardsOfYear(state, 2024);
+  std::vector<Card> cards = reviewOfYear(state, 2024).cards;
   EXPECT_EQ(cards.size(), 5u) << "an empty year fills up";
   EXPECT_EQ(textOf(cards, "The song"), "“Song 1” was the one they played the most: 70 plays.");
   EXPECT_EQ(textOf(cards, "The biggest week"), "In week 1 more of you was heard than in any other: 90 streams.");
@@ -152,15 +152,15 @@ TEST(YearInReview, TellsFiveToSevenThingsOfTheYear) {
   award.yearAwarded = 2024;
   award.isWinner = 1;
   state.saveAllMusicAwards.append(award);
-  cards = cardsOfYear(state, 2024);
+  cards = reviewOfYear(state, 2024).cards;
   EXPECT_EQ(cards.size(), 6u) << "no album";
   EXPECT_EQ(textOf(cards, "The road"), "1 show, 1 sold out, for 2.5K people, and 1 festival.");
   EXPECT_EQ(textOf(cards, "The heart"), "You and Theo began something.");
   EXPECT_EQ(textOf(cards, "The money"), "Music and its stages brought in $600.");
   EXPECT_EQ(textOf(cards, "The honours"), "“Song 2” is Song of the Year.");
-  EXPECT_EQ(textOf(cardsOfYear(state, 2023), "The road"), "You stayed at home, and so did the suitcases.");
+  EXPECT_EQ(textOf(reviewOfYear(state, 2023).cards, "The road"), "You stayed at home, and so did the suitcases.");
 
-  const Story story = storyOfYear(state, 2024);
+  const Story story = reviewOfYear(state, 2024).story;
   EXPECT_EQ(story.kicker, "Ada · My year");
   EXPECT_EQ(story.figure, "2024");
   EXPECT_EQ(story.title, "Song 1");

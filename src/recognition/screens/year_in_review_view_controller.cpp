@@ -1,13 +1,10 @@
 #include "recognition/screens/year_in_review_view_controller.h"
 
-#include "recognition/year_in_review.h"
-
 namespace backbeat {
 
 Outcome YearInReviewViewController::open() {
   if (!hasReview(state(), year_)) return {};
-  story_ = storyOfYear(state(), year_);
-  cards_ = cardsOfYear(state(), year_);
+  review_ = reviewOfYear(state(), year_);
   return {};
 }
 
@@ -18,12 +15,12 @@ Outcome YearInReviewViewController::act(const Action& action) {
 View YearInReviewViewController::view() const {
   View view{.title = "Your Year"};
   view.aside = Button{.id = "doneButton", .label = "Done"};
-  if (!story_) {
+  if (!review_) {
     view.add(EmptyHint{.icon = "hourglass", .text = "There is nothing to tell of that year"});
     return view;
   }
-  view.add(*story_);
-  for (const Card& card : cards_) view.add(card);
+  view.add(review_->story);
+  for (const Card& card : review_->cards) view.add(card);
   return view;
 }
 

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <optional>
-#include <vector>
 
 #include "core/screen.h"
+#include "recognition/year_in_review.h"
 
 namespace backbeat {
 
@@ -18,8 +18,7 @@ class YearInReviewViewController final : public Screen {
 
  private:
   int64_t year_;
-  std::optional<Story> story_;  // nothing where there is nothing to tell
-  std::vector<Card> cards_;
+  std::optional<YearInReview> review_;  // nothing where there is nothing to tell
 };
 
 }  // namespace backbeat
