@@ -11,6 +11,8 @@ constexpr int64_t lowestCeilingOfAge = 25;
 
 }  // namespace
 
+int64_t generationBegan(const GameState& state) { return std::max(state.ageAtTakeover, firstYear); }
+
 void rollCalendar(Game& game) {
   GameState& state = game.state;
   if (state.weekNumber > weeksInYear) {

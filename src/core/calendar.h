@@ -5,6 +5,14 @@
 
 namespace backbeat {
 
+inline constexpr int64_t firstYear = 2023;  ///< in which every first artist begins
+
+/// How many years of the own music Optimize leaves standing.
+inline constexpr int64_t yearsOfOwnMusic = 20;
+
+/// The year in which this generation began: the first one of all, or that of the takeover.
+int64_t generationBegan(const GameState& state);
+
 /// Turns week 53 into week 1 of the next year, when the artist ages: one point of energy ceiling goes, down to 25.
 /// Frees the leaderboard pass in weeks 10, 20, ... Runs whenever the header is shown anew, not only at a week's end.
 void rollCalendar(Game& game);

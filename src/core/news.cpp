@@ -2,17 +2,11 @@
 
 #include <algorithm>
 
+#include "core/calendar.h"
 #include "core/room.h"
 #include "core/sorting.h"
 
 namespace backbeat {
-
-namespace {
-
-constexpr int64_t firstYear = 2023;
-constexpr int64_t yearsKept = 20;
-
-}  // namespace
 
 std::vector<News> newsOf(const Game& game) {
   std::vector<News> news;
@@ -33,9 +27,7 @@ int64_t passedPowerOfTen(int64_t before, int64_t now) {
   return passed;
 }
 
-bool historyIsWhole(const GameState& state) {
-  return state.yearNumber - std::max(state.ageAtTakeover, firstYear) < yearsKept;
-}
+bool historyIsWhole(const GameState& state) { return state.yearNumber - generationBegan(state) < yearsOfOwnMusic; }
 
 Poster posterOf(const News& news) {
   Poster poster{

@@ -23,6 +23,12 @@ Card hint(std::string text) { return {.picture = icon("info"), .title = "Good to
 double shareOf(double part, double whole) { return whole > 0 ? std::clamp(part / whole, 0.0, 1.0) : 0; }
 double shareOf(int64_t part, int64_t whole) { return shareOf(static_cast<double>(part), static_cast<double>(whole)); }
 
+Tone toneOfBand(double points) {
+  if (points < 25) return Tone::bad;
+  if (points < 50) return Tone::warning;
+  return points < 80 ? Tone::fair : Tone::good;
+}
+
 Tone toneOfChange(double change) { return change < 0 ? Tone::bad : change > 0 ? Tone::good : Tone::plain; }
 Tone toneOfChange(int64_t change) { return toneOfChange(static_cast<double>(change)); }
 

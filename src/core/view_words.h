@@ -20,6 +20,9 @@ Card hint(std::string text);
 double shareOf(double part, double whole);
 double shareOf(int64_t part, int64_t whole);
 
+/// The four bands of whatever goes to 100, such as a rating: bad below 25, then 50, then 80.
+Tone toneOfBand(double points);
+
 /// Good above 0, bad below.
 Tone toneOfChange(double change);
 Tone toneOfChange(int64_t change);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <map>
 
+#include "core/most.h"
 #include "core/numbers.h"
 #include "life/children.h"
 #include "life/partner.h"
@@ -18,16 +19,6 @@ int64_t countOf(const List& list, Match matches) {
   return static_cast<int64_t>(std::count_if(list.begin(), list.end(), matches));
 }
 
-/// The record with the most of something; nullptr when none has any. Of equals the first.
-template <class T, class Match>
-const T* greatest(const RecordList<T>& list, int64_t T::*amount, Match counts) {
-  const T* best = nullptr;
-  for (const T& each : list) {
-    if (counts(each) && each.*amount > (best ? best->*amount : 0)) best = &each;
-  }
-  return best;
-}
-
 /// Each generation that took over was born when its predecessor wrote down.
 int64_t birthYear(const GameState& state) {
   constexpr int64_t ofTheFirst = 2005;
@@ -38,13 +29,15 @@ int64_t birthYear(const GameState& state) {
 void addWorks(const GameState& state, Legacy& legacy) {
   const auto isReleased = [](const auto& work) { return work.isReleased; };
   const auto isAlbum = [](const Album& album) { return album.isReleased && album.albumId > 0; };
+  const auto isHeard = [](const Song& song) { return song.isReleased && song.totalListen > 0; };
+  const auto isSold = [&](const Album& album) { return isAlbum(album) && album.albumsSold > 0; };
   legacy.numOfSongs = countOf(state.saveAllSongList, isReleased);
   legacy.numOfAlbums = countOf(state.saveAllAlbumList, isAlbum);
-  if (const Song* song = greatest(state.saveAllSongList, &Song::totalListen, isReleased)) {
+  if (const Song* song = recordWithMost(state.saveAllSongList, &Song::totalListen, isHeard)) {
     legacy.biggestSong = song->title;
     legacy.biggestSongStreams = song->totalListen;
   }
-  if (const Album* album = greatest(state.saveAllAlbumList, &Album::albumsSold, isAlbum)) {
+  if (const Album* album = recordWithMost(state.saveAllAlbumList, &Album::albumsSold, isSold)) {
     legacy.biggestAlbum = album->title;
     legacy.biggestAlbumSold = album->albumsSold;
   }
@@ -148,7 +141,7 @@ Legacy legacyOf(const GameState& state, const Child& successor) {
   legacy.numberOfExes =
       countOf(state.saveAllMatchesList, [](const Matches& match) { return match.relationshipState < love::matched; });
   legacy.biggestInvestmentExit = state.biggestExit;
-  legacy.numberOfChildren = countOf(state.saveAllChildList, isInFamily);
+  legacy.numberOfChildren = childrenInFamily(state);
   legacy.recordLabelName = state.myLabelName;
   legacy.successorBirthYear = successor.birthYear;
   legacy.totalFollowers = state.totalFans;

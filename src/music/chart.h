@@ -15,6 +15,8 @@ namespace backbeat {
 inline constexpr int64_t signedArtistSongOffset = 1'000'000;
 inline constexpr int64_t featuredSongOffset = 10'000'000;
 
+inline bool isOwnSong(const BillboardSong& row) { return row.songId < signedArtistSongOffset; }
+
 /// Whether the row belongs to one of the label's artists: neither to a song of the player's nor to a verse of theirs.
 inline bool isOfTheLabel(const BillboardSong& row) {
   return row.songId >= signedArtistSongOffset && row.songId < featuredSongOffset;

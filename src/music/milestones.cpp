@@ -114,7 +114,7 @@ void addBests(MilestoneSnapshot& snapshot, const GameState& state) {
     snapshot.bestAlbumTier = std::max(snapshot.bestAlbumTier, albumCertificationTier(album));
   }
   for (const BillboardSong& row : state.saveAllBillboardSongList) {
-    if (row.songId >= signedArtistSongOffset) continue;
+    if (!isOwnSong(row)) continue;
     if (snapshot.bestRank == 0 || row.peakPosition < snapshot.bestRank) snapshot.bestRank = row.peakPosition;
   }
 }

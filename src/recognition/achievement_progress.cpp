@@ -4,19 +4,16 @@
 #include <map>
 #include <set>
 
+#include "core/most.h"
 #include "music/chart.h"
 #include "music/genres.h"
 #include "recognition/award_fields.h"
 #include "wealth/net_assets.h"
+#include "wealth/ventures.h"
 
 namespace backbeat::progress {
 
 namespace {
-
-/// `Venture::hasExited`.
-constexpr int64_t wasAcquired = 1;
-constexpr int64_t wentPublic = 2;
-constexpr int64_t wentBankrupt = 3;
 
 constexpr int64_t stealthBomberId = 7'020;
 constexpr int64_t weeksOfYear = 52;
@@ -33,26 +30,17 @@ Progress towards(double now, int64_t amount) { return {now, static_cast<double>(
 Progress towards(int64_t now, int64_t amount) { return towards(static_cast<double>(now), amount); }
 Progress once(bool happened) { return {happened ? 1.0 : 0.0, 1}; }
 
-/// The greatest of a number over the records that `counts`; 0 when none does.
-template <class T, class Number, class Counts>
-Number greatest(const RecordList<T>& list, Number T::*number, Counts counts) {
-  Number most = 0;
-  for (const T& record : list) {
-    if (counts(record)) most = std::max(most, record.*number);
-  }
-  return most;
-}
-template <class T, class Number>
-Number greatest(const RecordList<T>& list, Number T::*number) {
-  return greatest(list, number, [](const T&) { return true; });
+/// The most that a record has of something, of those that count; nothing is 0, and so is less.
+template <class T, class Number, class... Counts>
+Number greatest(const RecordList<T>& list, Number T::*number, Counts... counts) {
+  const T* record = recordWithMost(list, number, counts...);
+  return record ? std::max(Number{0}, record->*number) : 0;
 }
 
 template <class T, class Matches>
 bool has(const RecordList<T>& list, Matches matches) {
   return list.find(matches) != list.size();
 }
-
-bool isOwnRow(const BillboardSong& row) { return row.songId < signedArtistSongOffset; }
 
 bool hasExit(const GameState& state, int64_t kind) {
   return has(state.saveAllVentureInvestments, [&](const Venture& venture) { return venture.hasExited == kind; });
@@ -109,14 +97,15 @@ Progress ventureWorth(const GameState& state, int64_t amount) {
 
 Progress listeners(const GameState& state, int64_t amount) { return towards(state.totalFans, amount); }
 
-Progress publicOffering(const GameState& state, int64_t) { return once(hasExit(state, wentPublic)); }
-Progress bankruptcy(const GameState& state, int64_t) { return once(hasExit(state, wentBankrupt)); }
-Progress acquisition(const GameState& state, int64_t) { return once(hasExit(state, wasAcquired)); }
+Progress publicOffering(const GameState& state, int64_t) { return once(hasExit(state, venture_exit::listed)); }
+Progress bankruptcy(const GameState& state, int64_t) { return once(hasExit(state, venture_exit::bankrupt)); }
+Progress acquisition(const GameState& state, int64_t) { return once(hasExit(state, venture_exit::acquired)); }
 
 Progress exitGain(const GameState& state, int64_t amount) {
   double most = 0;
   for (const Venture& venture : state.saveAllVentureInvestments) {
-    if (venture.hasExited == wasAcquired || venture.hasExited == wentPublic) most = std::max(most, gainOf(venture));
+    if (venture.hasExited == venture_exit::acquired || venture.hasExited == venture_exit::listed)
+      most = std::max(most, gainOf(venture));
   }
   return towards(most, amount);
 }
@@ -133,7 +122,7 @@ Progress billionSingles(const GameState& state, int64_t amount) {
 
 Progress debutAtOne(const GameState& state, int64_t) {
   return once(has(state.saveAllBillboardSongList, [](const BillboardSong& row) {
-    return isOwnRow(row) && row.weeksAtOne >= 1 && row.weeksOnChart == row.weeksAtOne;
+    return isOwnSong(row) && row.weeksAtOne >= 1 && row.weeksOnChart == row.weeksAtOne;
   }));
 }
 
@@ -142,17 +131,17 @@ Progress topTenAtOnce(const GameState& state, int64_t) {
   std::set<int64_t> held;
   for (const BillboardSong& row : state.saveAllBillboardSongList) {
     const bool isPlace = row.isOnCharts && row.rankThisWeek >= 1 && row.rankThisWeek <= places;
-    if (isPlace && isOwnRow(row) && row.weeksOnChart == 1) held.insert(row.rankThisWeek);
+    if (isPlace && isOwnSong(row) && row.weeksOnChart == 1) held.insert(row.rankThisWeek);
   }
   return towards(static_cast<int64_t>(held.size()), places);
 }
 
 Progress weeksAtOne(const GameState& state, int64_t amount) {
-  return towards(greatest(state.saveAllBillboardSongList, &BillboardSong::weeksAtOne, isOwnRow), amount);
+  return towards(greatest(state.saveAllBillboardSongList, &BillboardSong::weeksAtOne, isOwnSong), amount);
 }
 
 Progress weeksOnChart(const GameState& state, int64_t amount) {
-  return towards(greatest(state.saveAllBillboardSongList, &BillboardSong::weeksOnChart, isOwnRow), amount);
+  return towards(greatest(state.saveAllBillboardSongList, &BillboardSong::weeksOnChart, isOwnSong), amount);
 }
 
 Progress explicitAtOne(const GameState& state, int64_t) {

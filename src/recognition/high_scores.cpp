@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/most.h"
 #include "core/numbers.h"
 #include "label/accounts.h"
 
@@ -10,25 +11,15 @@ namespace backbeat {
 
 namespace {
 
-/// The record with the most of something; nullptr in an empty list. Of equals the first.
-template <class T, class Number>
-const T* greatest(const RecordList<T>& list, Number T::*member) {
-  const T* most = nullptr;
-  for (const T& record : list) {
-    if (!most || record.*member > most->*member) most = &record;
-  }
-  return most;
-}
-
 template <class T, class Number>
 std::optional<int64_t> most(const RecordList<T>& list, Number T::*member) {
-  const T* record = greatest(list, member);
+  const T* record = recordWithMost(list, member);
   return record ? std::optional<int64_t>(truncate(static_cast<double>(record->*member))) : std::nullopt;
 }
 
 template <class T, class Number>
 std::string nameOfMost(const RecordList<T>& list, Number T::*member, std::string T::*name) {
-  const T* record = greatest(list, member);
+  const T* record = recordWithMost(list, member);
   return record ? record->*name : "";
 }
 

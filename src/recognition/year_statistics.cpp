@@ -3,15 +3,14 @@
 #include <algorithm>
 #include <map>
 
+#include "core/calendar.h"
 #include "core/numbers.h"
+#include "core/sorting.h"
 #include "core/week_rows.h"
 
 namespace backbeat {
 
 namespace {
-
-constexpr int64_t beginning = 2023;
-constexpr int64_t yearsKept = 20;
 
 /// Adds up the rows of a year, work by work.
 class Sum {
@@ -32,8 +31,7 @@ class Sum {
   }
 
   YearOfKind done() {
-    std::stable_sort(year_.works.begin(), year_.works.end(),
-                     [](const YearWork& a, const YearWork& b) { return a.amount > b.amount; });
+    sortStably(year_.works, [](const YearWork& a, const YearWork& b) { return a.amount > b.amount; });
     return std::move(year_);
   }
 
@@ -94,10 +92,8 @@ YearOfKind yearOfKind(const GameState& state, YearKind kind, int64_t year) {
   return sum.done();
 }
 
-int64_t firstYear(const GameState& state) { return state.ageAtTakeover > 0 ? state.ageAtTakeover : beginning; }
-
 bool recordsAreGone(const GameState& state, int64_t year) {
-  return year < state.yearNumber - yearsKept && rowsOfYear(state.saveAllWeeklySongListens, year).empty() &&
+  return year < state.yearNumber - yearsOfOwnMusic && rowsOfYear(state.saveAllWeeklySongListens, year).empty() &&
          rowsOfYear(state.saveAllWeeklyAlbumSales, year).empty();
 }
 

@@ -35,9 +35,6 @@ struct YearOfKind {
 /// Looks at the records of that year alone.
 YearOfKind yearOfKind(const GameState& state, YearKind kind, int64_t year);
 
-/// The year in which this generation began. What was before it belongs to others.
-int64_t firstYear(const GameState& state);
-
 /// Whether the year is so long ago that its records were cleared away: its songs and albums have none.
 bool recordsAreGone(const GameState& state, int64_t year);
 

@@ -2,11 +2,12 @@
 
 #include <algorithm>
 
+#include "core/calendar.h"
+
 namespace backbeat {
 
 namespace {
 
-constexpr int64_t yearsOfOwnMusic = 20;
 constexpr int64_t yearsOfSignedMusic = 10;
 
 template <class T>

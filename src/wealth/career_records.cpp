@@ -4,6 +4,7 @@
 #include <map>
 
 #include "core/money.h"
+#include "core/most.h"
 #include "core/short_money.h"
 #include "music/chart.h"
 
@@ -14,16 +15,6 @@ namespace {
 constexpr const char* nothing = "-";
 
 std::string amountOf(int64_t count, const char* noun) { return abbreviated(static_cast<double>(count)) + " " + noun; }
-
-/// The record with the most of something; nullptr when none has any. Of equals the first.
-template <class T, class Amount>
-const T* greatest(const RecordList<T>& list, Amount T::*amount) {
-  const T* best = nullptr;
-  for (const T& each : list) {
-    if (each.*amount > 0 && (!best || each.*amount > best->*amount)) best = &each;
-  }
-  return best;
-}
 
 /// The tour that took in the most, all its venues together.
 RecordLine bestTour(const GameState& state) {
@@ -77,8 +68,8 @@ void addFestivalLines(const GameState& state, std::vector<RecordLine>& lines) {
   for (const Festival& festival : state.saveAllFestivalList) {
     if (festival.isHeadliner >= 1 && festival.audience > (headline ? headline->audience : 0)) headline = &festival;
   }
-  const Festival* crowd = greatest(state.saveAllFestivalList, &Festival::audience);
-  const Festival* paid = greatest(state.saveAllFestivalList, &Festival::payment);
+  const Festival* crowd = recordWithMostOfAny(state.saveAllFestivalList, &Festival::audience);
+  const Festival* paid = recordWithMostOfAny(state.saveAllFestivalList, &Festival::payment);
   const auto line = [](const char* label, const Festival* festival, std::string note) {
     return RecordLine{label, festival ? festival->festivalName : nothing, festival ? std::move(note) : ""};
   };
@@ -91,9 +82,9 @@ void addFestivalLines(const GameState& state, std::vector<RecordLine>& lines) {
 }  // namespace
 
 std::vector<RecordLine> careerRecords(const GameState& state) {
-  const Album* album = greatest(state.saveAllAlbumList, &Album::albumsSold);
-  const Song* song = greatest(state.saveAllSongList, &Song::totalListen);
-  const MusicVideo* video = greatest(state.saveAllMusicVideoList, &MusicVideo::totalViews);
+  const Album* album = recordWithMostOfAny(state.saveAllAlbumList, &Album::albumsSold);
+  const Song* song = recordWithMostOfAny(state.saveAllSongList, &Song::totalListen);
+  const MusicVideo* video = recordWithMostOfAny(state.saveAllMusicVideoList, &MusicVideo::totalViews);
   const auto count = [](size_t number) { return withCommas(static_cast<int64_t>(number)); };
   int64_t explicitSongs = 0;
   for (const Song& each : state.saveAllSongList) explicitSongs += each.isExplicit >= 1 ? 1 : 0;

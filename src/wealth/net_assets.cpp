@@ -1,5 +1,7 @@
 #include "wealth/net_assets.h"
 
+#include "wealth/ventures.h"
+
 namespace backbeat {
 
 namespace {
@@ -18,7 +20,7 @@ double estimateOf(const Venture& venture) {
 double venturesValue(const GameState& state) {
   double sum = 0;
   for (const Venture& venture : state.saveAllVentureInvestments) {
-    if (venture.hasExited == 0) sum += estimateOf(venture);
+    if (isRunning(venture)) sum += estimateOf(venture);
   }
   return sum;
 }

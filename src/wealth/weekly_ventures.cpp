@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "core/case_folding.h"
 #include "core/money.h"
 #include "core/numbers.h"
 #include "core/purse.h"
@@ -25,13 +26,6 @@ constexpr int64_t rollToGoPublic = 11;
 
 std::string shortDollars(int64_t dollars) { return abbreviatedDollars(static_cast<double>(dollars)); }
 
-std::string inCapitals(std::string name) {
-  std::transform(name.begin(), name.end(), name.begin(), [](char letter) {
-    return letter >= 'a' && letter <= 'z' ? static_cast<char>(letter - 'a' + 'A') : letter;
-  });
-  return name;
-}
-
 /// Moves the valuation of the startup at that position and tells of it; three levels of eleven raise it, three lower
 /// it.
 void moveValuation(Game& game, size_t position) {
@@ -44,7 +38,7 @@ void moveValuation(Game& game, size_t position) {
   const std::string line(rises ? game.random.element(investmentGrowthChirps)
                                : game.random.element(investmentDeclineChirps));
   // The blank is there twice: kept.
-  const std::string text = inCapitals(ventures[position].businessName) + " " + line + " " +
+  const std::string text = upperCase(ventures[position].businessName) + " " + line + " " +
                            (rises ? " up from " : " down from ") + shortDollars(before) + (rises ? " 🔼🎉" : " 🔽");
   ventures.update(position, [&](Venture& venture) {
     venture.lastValuation = truncate(static_cast<double>(before) * factor);

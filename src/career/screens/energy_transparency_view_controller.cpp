@@ -4,13 +4,13 @@
 
 #include "career/energy.h"
 #include "career/ledger.h"
+#include "core/calendar.h"
 #include "core/view_words.h"
 
 namespace backbeat {
 
 namespace {
 
-constexpr int64_t firstYear = 2023;
 constexpr int64_t lastLifestyle = 9;
 
 /// Only lines with a value are told.

@@ -54,7 +54,7 @@ Card employeeCard(const GameState& state, const Employee& employee) {
           .title = currency(static_cast<double>(employee.employeeSalary)) + " a year",
           .text = currency(static_cast<double>(weeklyPay(employee.employeeSalary))) + " a week\n" +
                   std::to_string(employee.employeeBurnRate) + " BURN/WK",
-          .tone = toneOfRating(static_cast<double>(employee.employeeRating)),
+          .tone = toneOfBand(static_cast<double>(employee.employeeRating)),
           .value = std::to_string(employee.employeeRating) + " rating",
           .meters = {levelMeter("Energy", employee.employeeEnergy), levelMeter("Happiness", employee.employeeMorale)},
           .buttons = {{.id = "fire:" + id, .label = "Fire", .style = Button::Style::destructive},

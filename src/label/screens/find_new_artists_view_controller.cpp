@@ -15,7 +15,7 @@ Card artistCard(const ScoutedArtist& artist, size_t number) {
           .title = artist.name,
           .text = abbreviated(static_cast<double>(artist.monthlyListeners)) + " monthly listeners",
           .badge = artist.createdPosition >= 0 ? "YOURS" : "",
-          .tone = toneOfRating(static_cast<double>(rating)),
+          .tone = toneOfBand(static_cast<double>(rating)),
           .value = std::to_string(rating) + " rating",
           .meters = {{.label = "🔥 Talent",
                       .value = std::to_string(artist.talent),

@@ -55,7 +55,7 @@ Row artistRow(const SignedArtist& artist) {
           .title = artist.name,
           .subtitle = abbreviated(static_cast<double>(artist.monthlyListeners)),
           .value = std::to_string(rating),
-          .tone = toneOfRating(static_cast<double>(rating)),
+          .tone = toneOfBand(static_cast<double>(rating)),
           .id = "artist:" + std::to_string(artist.artistId)};
 }
 

@@ -27,7 +27,7 @@ Card candidateCard(const Candidate& candidate, const LabelRatings& label, size_t
           .text = currency(static_cast<double>(candidate.salary)) + " a year · " +
                   currency(static_cast<double>(candidate.weeklySalary())) + " a week\n" +
                   std::to_string(candidate.burnRate) + " BURN/WK",
-          .tone = toneOfRating(static_cast<double>(candidate.rating)),
+          .tone = toneOfBand(static_cast<double>(candidate.rating)),
           .value = std::to_string(candidate.rating) + " rating",
           .meters = {levelMeter("Energy", static_cast<double>(candidate.energy)),
                      levelMeter("Happiness", static_cast<double>(candidate.morale))},

@@ -33,24 +33,18 @@ Picture staffPortrait(const Employee& employee) {
   return drawn(Picture::Kind::person, "staff", number);
 }
 
-Tone toneOfRating(double rating) {
-  if (rating < 25) return Tone::bad;
-  if (rating < 50) return Tone::warning;
-  return rating < 80 ? Tone::fair : Tone::good;
-}
-
 Meter levelMeter(std::string label, double level) {
   return {.label = std::move(label),
           .value = withCommas(roundHalfAway(level)),
           .share = shareOf(level, 100),
-          .tone = toneOfRating(level)};
+          .tone = toneOfBand(level)};
 }
 
 Gauge levelGauge(std::string label, double level) {
   return {.label = std::move(label),
           .value = withCommas(roundHalfAway(level)),
           .share = shareOf(level, 100),
-          .tone = toneOfRating(level)};
+          .tone = toneOfBand(level)};
 }
 
 }  // namespace backbeat

@@ -18,9 +18,6 @@ Picture logoOf(const GameState& state);
 Picture staffPortrait(int64_t number);
 Picture staffPortrait(const Employee& employee);
 
-/// The tone of a figure out of a hundred: bad, warning, fair or good, with bounds at 25, 50 and 80.
-Tone toneOfRating(double rating);
-
 /// A level out of a hundred as a bar with its band's tone.
 Meter levelMeter(std::string label, double level);
 

@@ -16,7 +16,7 @@ Row songRow(const SignedArtistSong& song, int64_t number, bool canGo) {
           .title = std::to_string(number) + ". " + song.title,
           .value = withDecimals(song.productionRating, 1),
           .note = counted(song.totalListen, "stream"),
-          .tone = toneOfRating(song.productionRating)};
+          .tone = toneOfBand(song.productionRating)};
   if (song.features.size() > 1) row.subtitle = "feat. " + song.features[1];
   if (song.isExplicit == 1) row.badge = "E";
   if (canGo) {

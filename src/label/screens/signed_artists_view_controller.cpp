@@ -3,6 +3,7 @@
 #include "career/skill.h"
 #include "core/money.h"
 #include "core/sorting.h"
+#include "core/view_words.h"
 #include "label/departments.h"
 #include "label/roster.h"
 #include "label/screens/label_words.h"
@@ -33,7 +34,7 @@ Row rowOf(const GameState& state, const SignedArtist& artist) {
           .title = artist.name,
           .subtitle = standingOf(state, artist),
           .value = std::to_string(rating),
-          .tone = artist.underContract ? toneOfRating(static_cast<double>(rating)) : Tone::plain,
+          .tone = artist.underContract ? toneOfBand(static_cast<double>(rating)) : Tone::plain,
           .opens = true,
           .id = "artist:" + std::to_string(artist.artistId)};
   if (contractIsUp(state, artist)) row.badge = "CONTRACT";

@@ -25,13 +25,6 @@ Row fact(const char* glyph, const char* title, std::string value) {
   return {.picture = icon(glyph), .title = title, .value = std::move(value)};
 }
 
-/// Four bands, as for a relationship.
-Tone admirationTone(double admiration) {
-  if (admiration < 25) return Tone::bad;
-  if (admiration < 50) return Tone::warning;
-  return admiration < 80 ? Tone::fair : Tone::good;
-}
-
 }  // namespace
 
 Outcome ChildDetailViewController::act(const Action& action) {
@@ -82,7 +75,7 @@ void ChildDetailViewController::describeActions(View& view, const Child& child) 
   view.add(Meter{.label = "Admiration",
                  .value = std::to_string(truncate(child.admiration)),
                  .share = shareOf(child.admiration, mostAdmiration),
-                 .tone = admirationTone(child.admiration)});
+                 .tone = toneOfBand(child.admiration)});
   view.add(
       Tiles{{{.icon = "message", .label = "Compliment", .id = "complimentChild", .price = childComplimentCost},
              {.icon = "mic", .label = "Play Music", .id = "playMusic", .price = playMusicCost},

@@ -1,9 +1,9 @@
 #include "life/screens/fxy_matching_view_controller.h"
 
 #include "core/money.h"
+#include "core/view_words.h"
 #include "life/dating.h"
 #include "life/partner.h"
-#include "life/screens/love_words.h"
 
 namespace backbeat {
 
@@ -36,7 +36,7 @@ View FXYMatchingViewController::view() const {
       .corners = {{.icon = "flame",
                    .value = withCommas(static_cast<int64_t>(candidate.chemistry)),
                    .label = "chemistry",
-                   .tone = chemistryTone(candidate.chemistry)},
+                   .tone = toneOfBand(candidate.chemistry)},
                   {.icon = "star", .value = std::to_string(ratingOf(candidate)), .label = "rating"}},
       .choices =
           {{.id = "xbutton", .label = "Pass", .icon = "pass", .price = swipeCost, .side = Deck::Choice::Side::left},

@@ -8,7 +8,6 @@
 #include "life/engagement.h"
 #include "life/partner.h"
 #include "life/relationship.h"
-#include "life/screens/love_words.h"
 
 namespace backbeat {
 
@@ -25,7 +24,7 @@ Poster coupleOf(const GameState& state, const Matches& partner) {
           .meter = Meter{.label = "Your relationship",
                          .value = std::to_string(truncate(partner.relationshipStatus)),
                          .share = std::clamp(partner.relationshipStatus / fullMeter, 0.0, 1.0),
-                         .tone = chemistryTone(partner.relationshipStatus)}};
+                         .tone = toneOfBand(partner.relationshipStatus)}};
 }
 
 int64_t weeksCarried(const Matches& partner) { return weeksOfPregnancy - partner.timeToBirth; }

@@ -40,7 +40,7 @@ Row ChooseSetListViewController::describe(int64_t songId) const {
           .subtitle = song->album,
           .value = withDecimals(song->productionRating, 0),
           .note = place == setList.end() ? "rating" : "No. " + std::to_string(place - setList.begin() + 1),
-          .tone = toneOfAverage(song->productionRating),
+          .tone = toneOfBand(song->productionRating),
           .selected = place != setList.end(),
           .id = "song:" + std::to_string(songId)};
 }
@@ -52,7 +52,7 @@ View ChooseSetListViewController::view() const {
   view.add(Meter{.label = "Average rating",
                  .value = withDecimals(average, 0),
                  .share = std::clamp(average / 100, 0.0, 1.0),
-                 .tone = toneOfAverage(average)});
+                 .tone = toneOfBand(average)});
   if (songs_.empty()) {
     view.add(EmptyHint{.icon = "note", .text = "Nothing of yours is out. Release a song to play it."});
   } else {
@@ -60,7 +60,7 @@ View ChooseSetListViewController::view() const {
                           [&](size_t i) { return describe(songs_[i]); }));
   }
   view.totals = {{.label = "songs", .value = setListCount(setList)},
-                 {.label = "average", .value = withDecimals(average, 0), .tone = toneOfAverage(average)}};
+                 {.label = "average", .value = withDecimals(average, 0), .tone = toneOfBand(average)}};
   view.mainAction = Button{.id = "closeButton", .label = "Done", .style = Button::Style::primary};
   return view;
 }

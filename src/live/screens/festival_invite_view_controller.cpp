@@ -50,7 +50,7 @@ Row setListRow(const GameState& state, const std::vector<int64_t>& setList) {
   if (setList.size() > named) row.subtitle += " and " + std::to_string(setList.size() - named) + " more";
   const double average = songSelectionAverage(state, setList);
   row.note = "avg " + withDecimals(average, 0);
-  row.tone = toneOfAverage(average);
+  row.tone = toneOfBand(average);
   return row;
 }
 

@@ -8,12 +8,6 @@ std::string setListCount(const std::vector<int64_t>& setList) {
   return std::to_string(setList.size()) + " of " + std::to_string(mostSongsOfSetList);
 }
 
-Tone toneOfAverage(double rating) {
-  if (rating < 25) return Tone::bad;
-  if (rating < 50) return Tone::warning;
-  return rating < 80 ? Tone::fair : Tone::good;
-}
-
 const Song* releasedSongOf(const GameState& state, int64_t songId) {
   const RecordList<Song>& songs = state.saveAllSongList;
   const size_t found = songs.find([&](const Song& song) { return song.songId == songId && song.isReleased; });

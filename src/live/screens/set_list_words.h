@@ -13,9 +13,6 @@ namespace backbeat {
 /// "11 of 15".
 std::string setListCount(const std::vector<int64_t>& setList);
 
-/// The four bands of a mean rating.
-Tone toneOfAverage(double rating);
-
 /// Nullptr when the song is gone or not out.
 const Song* releasedSongOf(const GameState& state, int64_t songId);
 

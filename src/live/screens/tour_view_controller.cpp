@@ -13,12 +13,6 @@ namespace {
 
 std::string shortDollars(double amount) { return (amount < 0 ? "-$" : "$") + abbreviated(std::abs(amount)); }
 
-Tone toneOfDemand(double percent) {
-  if (percent < 25) return Tone::bad;
-  if (percent < 50) return Tone::warning;
-  return percent < 80 ? Tone::fair : Tone::good;
-}
-
 /// What the plan would come to in a sentence.
 Text outlookOf(const TourTotals& totals) {
   if (totals.numberOfShows == 0) return caption("Choose where to play. Every figure below is known before you go.");
@@ -97,7 +91,7 @@ Row TourViewController::describe(const TourLocation& location) const {
                       price(venue.ticketPrice) + " · net " + shortDollars(expectedNet(state(), venue)),
           .value = percent > 100 ? "100%" : withDecimals(percent, 0) + "%",
           .note = percent > 100 ? "Oversubscribed" : "Est. Demand",
-          .tone = toneOfDemand(percent),
+          .tone = toneOfBand(percent),
           // Said, and not taken: the road takes it week by week.
           .price = Price{.energy = showEnergy(location) * venue.numberOfShows, .charge = Charge{}},
           .share = std::clamp(percent / 100, 0.0, 1.0),

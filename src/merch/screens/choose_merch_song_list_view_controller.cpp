@@ -6,6 +6,7 @@
 #include "core/sorting.h"
 #include "merch/product_launch.h"
 #include "music/covers.h"
+#include "music/screens/song_rows.h"
 
 namespace backbeat {
 
@@ -39,12 +40,9 @@ Outcome ChooseMerchSongListViewController::chooseSong(int64_t songId) {
 }
 
 /// The best first, since good songs sell the record.
-std::vector<size_t> ChooseMerchSongListViewController::releasedSongs() const {
+std::vector<size_t> ChooseMerchSongListViewController::songsByRating() const {
   const auto& songs = state().saveAllSongList;
-  std::vector<size_t> positions;
-  for (size_t i = 0; i < songs.size(); ++i) {
-    if (songs[i].isReleased) positions.push_back(i);
-  }
+  std::vector<size_t> positions = releasedSongs(state());
   sortStably(positions, [&](size_t a, size_t b) { return songs[a].productionRating > songs[b].productionRating; });
   return positions;
 }
@@ -54,7 +52,7 @@ View ChooseMerchSongListViewController::view() const {
   View view{.title = "Song List",
             .subtitle = std::to_string(chosen.size()) + " of " + std::to_string(mostSongsOnMerch) + " songs",
             .theme = Theme::merch};
-  const std::vector<size_t> positions = releasedSongs();
+  const std::vector<size_t> positions = songsByRating();
   if (positions.empty()) {
     view.add(EmptyHint{.icon = "note", .text = "No song is out yet. Release one and it can be pressed."});
     return view;

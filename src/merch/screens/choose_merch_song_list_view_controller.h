@@ -20,7 +20,7 @@ class ChooseMerchSongListViewController final : public Screen {
   Outcome chooseSong(int64_t songId);
 
  private:
-  std::vector<size_t> releasedSongs() const;
+  std::vector<size_t> songsByRating() const;
 
   ListWindow songs_;
 };

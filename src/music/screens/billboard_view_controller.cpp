@@ -9,8 +9,6 @@ namespace backbeat {
 
 namespace {
 
-bool isOwnSong(const BillboardSong& song) { return song.songId < signedArtistSongOffset; }
-
 template <class T>
 std::string nameIn(const RecordList<T>& songs, int64_t songId) {
   const size_t found = songs.find([&](const T& song) { return song.songId == songId; });

@@ -21,21 +21,26 @@ constexpr std::string_view oldSongListKey = "AllSongList";
 /// Below a longer list nobody would find the menu.
 constexpr size_t shortList = 4;
 
-template <class T>
-std::vector<size_t> positionsWhere(const RecordList<T>& list, bool released) {
+std::vector<size_t> releasedAlbums(const GameState& state) {
   std::vector<size_t> positions;
-  for (size_t i = 0; i < list.size(); ++i) {
-    if (list[i].isReleased == released) positions.push_back(i);
+  for (size_t i = 0; i < state.saveAllAlbumList.size(); ++i) {
+    if (state.saveAllAlbumList[i].isReleased) positions.push_back(i);
   }
   return positions;
 }
 
-std::vector<size_t> releasedAlbums(const GameState& state) { return positionsWhere(state.saveAllAlbumList, true); }
+std::vector<size_t> songsInProduction(const GameState& state) {
+  std::vector<size_t> positions;
+  for (size_t i = 0; i < state.saveAllSongList.size(); ++i) {
+    if (!state.saveAllSongList[i].isReleased) positions.push_back(i);
+  }
+  return positions;
+}
 
 /// The latest release first; the list itself is in the order of virality.
-std::vector<size_t> releasedSongs(const GameState& state) {
+std::vector<size_t> latestSongs(const GameState& state) {
   const RecordList<Song>& songs = state.saveAllSongList;
-  std::vector<size_t> positions = positionsWhere(songs, true);
+  std::vector<size_t> positions = releasedSongs(state);
   const auto age = [&](size_t i) { return std::pair(songs[i].releaseWeek, songs[i].songId); };
   sortStably(positions, [&](size_t a, size_t b) { return age(a) > age(b); });
   return positions;
@@ -121,8 +126,8 @@ View MusicViewController::view() const {
 
 void MusicViewController::describeSongs(View& view) const {
   const RecordList<Song>& songs = state().saveAllSongList;
-  const std::vector<size_t> inProduction = positionsWhere(songs, false);
-  const std::vector<size_t> released = releasedSongs(state());
+  const std::vector<size_t> inProduction = songsInProduction(state());
+  const std::vector<size_t> released = latestSongs(state());
   if (songs.empty()) {
     view.add(EmptyHint{.icon = "note",
                        .text = "No songs yet. Write one, release it, and end the week to hear what the world says."});

@@ -1,5 +1,6 @@
 #include "music/screens/song_rows.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/money.h"
@@ -8,6 +9,26 @@
 #include "music/streaming.h"
 
 namespace backbeat {
+
+std::vector<size_t> releasedSongs(const GameState& state) {
+  std::vector<size_t> released;
+  for (size_t i = 0; i < state.saveAllSongList.size(); ++i) {
+    if (state.saveAllSongList[i].isReleased) released.push_back(i);
+  }
+  return released;
+}
+
+std::vector<size_t> mostHeard(const GameState& state, std::vector<size_t> songs, size_t count) {
+  const RecordList<Song>& all = state.saveAllSongList;
+  const size_t shown = std::min(count, songs.size());
+  // The others need no order.
+  std::partial_sort(songs.begin(), songs.begin() + static_cast<std::ptrdiff_t>(shown), songs.end(),
+                    [&](size_t a, size_t b) {
+                      return all[a].totalListen != all[b].totalListen ? all[a].totalListen > all[b].totalListen : a < b;
+                    });
+  songs.resize(shown);
+  return songs;
+}
 
 int64_t latestWeeklyStreams(const GameState& state, const Song& song) {
   const auto weeks = state.saveAllWeeklySongListens.historyOf(song.songId);

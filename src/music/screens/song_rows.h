@@ -1,6 +1,8 @@
 // How a song stands in a list.
 #pragma once
 
+#include <vector>
+
 #include "core/game_state.h"
 #include "core/view.h"
 
@@ -9,6 +11,12 @@ namespace backbeat {
 /// A song in a list of the player's own: cover, title, what it is on, streams so far and in its last week. A press of
 /// "song:<id>" opens it.
 Row songRow(const GameState& state, const Song& song);
+
+/// Positions of the songs that are out.
+std::vector<size_t> releasedSongs(const GameState& state);
+
+/// Of the songs at these positions those with the most streams, `count` at most; of equal ones the first in the list.
+std::vector<size_t> mostHeard(const GameState& state, std::vector<size_t> songs, size_t count);
 
 /// The streams of the song's latest recorded week, 0 when there is none.
 int64_t latestWeeklyStreams(const GameState& state, const Song& song);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/money.h"
+#include "core/sorting.h"
 #include "core/view_words.h"
 
 namespace backbeat {
@@ -94,8 +95,7 @@ void AchievementsViewController::describeNearest(View& view) const {
   for (const Standing& standing : standings_) {
     if (!standing.isCompleted && hasWay(standing.progress) && standing.progress.now > 0) open.push_back(&standing);
   }
-  std::stable_sort(open.begin(), open.end(),
-                   [](const Standing* a, const Standing* b) { return shareOf(a->progress) > shareOf(b->progress); });
+  sortStably(open, [](const Standing* a, const Standing* b) { return shareOf(a->progress) > shareOf(b->progress); });
   if (open.empty()) return;
   view.add(Heading{"Nearly there"});
   Rows rows;

@@ -17,7 +17,7 @@ constexpr int64_t lastOfTop100 = 100;
 const BillboardSong* firstHit(const GameState& state) {
   const BillboardSong* first = nullptr;
   for (const BillboardSong& row : state.saveAllBillboardSongList) {
-    if (row.songId >= signedArtistSongOffset || row.peakPosition > lastOfTop100) continue;
+    if (!isOwnSong(row) || row.peakPosition > lastOfTop100) continue;
     if (!first || row.weekNumber < first->weekNumber) first = &row;
   }
   return first;

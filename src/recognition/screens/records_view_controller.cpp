@@ -4,6 +4,7 @@
 
 #include "core/assisted.h"
 #include "core/money.h"
+#include "core/sorting.h"
 #include "core/view_words.h"
 
 namespace backbeat {
@@ -73,7 +74,7 @@ void RecordsViewController::describeLives(View& view) const {
     const auto found = each.scores.find(score.leaderboard);
     if (found != each.scores.end()) lives.emplace_back(found->second, &each.life);
   }
-  std::stable_sort(lives.begin(), lives.end(), [](const auto& a, const auto& b) { return a.first > b.first; });
+  sortStably(lives, [](const auto& a, const auto& b) { return a.first > b.first; });
   view.add(Heading{"Lives on this device"});
   view.add(std::move(by));
   if (lives.empty()) {

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "core/assisted.h"
+#include "core/calendar.h"
 #include "core/money.h"
 #include "core/view_words.h"
 #include "merch/catalogue.h"
@@ -64,10 +65,10 @@ Outcome YearlyMusicStatsViewController::appear() {
 
 void YearlyMusicStatsViewController::look(int64_t year, YearKind kind) {
   if (year != year_ || kind != kind_) window_ = {};
-  year_ = std::max(firstYear(state()), std::min(year, state().yearNumber));
+  year_ = std::max(generationBegan(state()), std::min(year, state().yearNumber));
   kind_ = kind;
   now_ = yearOfKind(state(), kind_, year_);
-  before_ = year_ > firstYear(state()) ? yearOfKind(state(), kind_, year_ - 1) : YearOfKind();
+  before_ = year_ > generationBegan(state()) ? yearOfKind(state(), kind_, year_ - 1) : YearOfKind();
 }
 
 Outcome YearlyMusicStatsViewController::act(const Action& action) {
@@ -88,7 +89,7 @@ View YearlyMusicStatsViewController::view() const {
   view.add(Stepper{.id = "year",
                    .label = "Year",
                    .value = year,
-                   .canLess = year_ > firstYear(state()),
+                   .canLess = year_ > generationBegan(state()),
                    .canMore = year_ < state().yearNumber});
   addAssistedMark(view, state());
   if (recordsAreGone(state(), year_)) {

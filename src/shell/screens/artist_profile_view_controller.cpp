@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/assisted.h"
+#include "core/calendar.h"
 #include "core/money.h"
 #include "core/own_photo.h"
 #include "core/room.h"
@@ -21,7 +22,6 @@ namespace {
 
 constexpr size_t popularShown = 5;
 constexpr size_t videosShown = 3;
-constexpr int64_t firstYear = 2023;
 
 constexpr std::array<std::pair<std::string_view, std::string_view>, 4> ways = {{
     {"song", "goToSongDetail"},
@@ -36,15 +36,6 @@ PhotoField headerField(const GameState& state) {
           .note = photoLimit,
           .taken = hasOwnHeader(state),
           .shape = PhotoField::Shape::wide};
-}
-
-/// Positions of the songs that are out.
-std::vector<size_t> releasedSongs(const RecordList<Song>& songs) {
-  std::vector<size_t> released;
-  for (size_t i = 0; i < songs.size(); ++i) {
-    if (songs[i].isReleased) released.push_back(i);
-  }
-  return released;
 }
 
 }  // namespace
@@ -83,15 +74,14 @@ void ArtistProfileViewController::addRooms(View& view) const {
 View ArtistProfileViewController::view() const {
   View view{.title = "Artist Profile"};
   view.add(Cover{.picture = artistPicture(state()), .title = state().myArtistsName, .back = headerPicture(state())});
-  view.add(Tiles{{{.icon = "headphones",
-                   .label = "Monthly listeners",
-                   .value = withCommas(state().totalFans),
-                   .id = "goToMonthlyListenerDetail"},
-                  {.icon = "calendar",
-                   .label = "Making music since",
-                   .value = std::to_string(state().ageAtTakeover > 0 ? state().ageAtTakeover : firstYear)}}});
+  view.add(
+      Tiles{{{.icon = "headphones",
+              .label = "Monthly listeners",
+              .value = withCommas(state().totalFans),
+              .id = "goToMonthlyListenerDetail"},
+             {.icon = "calendar", .label = "Making music since", .value = std::to_string(generationBegan(state()))}}});
   addAssistedMark(view, state());
-  const std::vector<size_t> released = releasedSongs(state().saveAllSongList);
+  const std::vector<size_t> released = releasedSongs(state());
   describePopular(view, released);
   describeAlbums(view);
   describeSingles(view, released);
@@ -121,16 +111,10 @@ void ArtistProfileViewController::describePopular(View& view, const std::vector<
     return;
   }
   const RecordList<Song>& songs = state().saveAllSongList;
-  std::vector<size_t> popular = released;
-  const size_t shown = std::min(popularShown, popular.size());
-  // Of equal ones the first in the list; the others need no order.
-  std::partial_sort(
-      popular.begin(), popular.begin() + static_cast<std::ptrdiff_t>(shown), popular.end(), [&](size_t a, size_t b) {
-        return songs[a].totalListen != songs[b].totalListen ? songs[a].totalListen > songs[b].totalListen : a < b;
-      });
+  const std::vector<size_t> popular = mostHeard(state(), released, popularShown);
   view.add(Heading{.text = "Popular", .link = Link{.id = "goToCertification", .label = "Certifications"}});
   Rows rows;
-  for (size_t i = 0; i < shown; ++i) {
+  for (size_t i = 0; i < popular.size(); ++i) {
     Row row = songRow(state(), songs[popular[i]]);
     row.subtitle = std::to_string(i + 1) + " · " + songs[popular[i]].album;
     rows.items.push_back(std::move(row));
@@ -146,7 +130,7 @@ void ArtistProfileViewController::describeSingles(View& view, const std::vector<
   }
   if (singles.empty()) return;
   const auto age = [&](size_t i) { return std::pair(songs[i].releaseWeek, songs[i].songId); };
-  std::sort(singles.begin(), singles.end(), [&](size_t a, size_t b) { return age(a) > age(b); });
+  sortStably(singles, [&](size_t a, size_t b) { return age(a) > age(b); });
   view.add(Heading{"Singles"});
   view.add(windowedRows("singles", singles_, static_cast<int64_t>(singles.size()), [&](size_t i) {
     Row row = songRow(state(), songs[singles[i]]);

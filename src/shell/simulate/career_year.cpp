@@ -22,7 +22,7 @@ void countMusic(const GameState& state, CareerYear& row) {
     row.albumsSold += album.albumsSold;
   }
   for (const BillboardSong& hit : state.saveAllBillboardSongList) {
-    if (hit.songId >= signedArtistSongOffset) continue;
+    if (!isOwnSong(hit)) continue;
     row.chartHits += 1;
     row.weeksAtOne += hit.weeksAtOne;
     if (row.bestRank == 0 || hit.peakPosition < row.bestRank) row.bestRank = hit.peakPosition;

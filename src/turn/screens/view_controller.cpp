@@ -139,21 +139,11 @@ void ViewController::describeWeek(View& view) const {
 }
 
 void ViewController::describeMusic(View& view) const {
-  const RecordList<Song>& all = state().saveAllSongList;
-  std::vector<size_t> songs;
-  for (size_t i = 0; i < all.size(); ++i) {
-    if (all[i].isReleased) songs.push_back(i);
-  }
+  const std::vector<size_t> songs = mostHeard(state(), releasedSongs(state()), topSongs);
   if (!songs.empty()) {
-    const size_t shown = std::min(topSongs, songs.size());
-    // Of equal ones the first in the list; the others need no order.
-    std::partial_sort(
-        songs.begin(), songs.begin() + static_cast<std::ptrdiff_t>(shown), songs.end(), [&](size_t a, size_t b) {
-          return all[a].totalListen != all[b].totalListen ? all[a].totalListen > all[b].totalListen : a < b;
-        });
     view.add(Heading{"Top songs"});
     Rows rows;
-    for (size_t i = 0; i < shown; ++i) rows.items.push_back(songRow(state(), all[songs[i]]));
+    for (const size_t i : songs) rows.items.push_back(songRow(state(), state().saveAllSongList[i]));
     view.add(std::move(rows));
   }
   if (!state().saveAllChirpList.empty()) {
