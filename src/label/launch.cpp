@@ -45,6 +45,7 @@ Outcome beginLaunch(Game& game) {
 Outcome launchLabel(Game& game, const std::string& name, const std::string& slogan, const LabelLogo& logo) {
   GameState& state = game.state;
   if (state.isLabelLaunched >= 1) return {};
+  if (Outcome competing = openLabelHome(game); !competing.done()) return competing;
   if (name.empty()) return refuse<"🔥 Name Your Label 🔥">("\nYour record label needs a name.");
   if (slogan.empty()) return refuse<"🔥 Create a Slogan 🔥">("\nYour record label needs a slogan.");
   if (!hasCash(state, launchCost)) {

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 
 #include "career/skill.h"
@@ -71,7 +72,7 @@ Standings deskFigures(const GameState& state) {
     const std::string name(departments[code].shortName);
     const bool staffed = code < 3;
     standings.push_back({name, staffed ? rated(state, code) : "0", "goToDepartment " + std::to_string(code)});
-    standings.push_back({name + ": note", staffed ? "1 staff" : "0 staff"});
+    standings.push_back({name + ": note", staffed ? "1 EMPLOYEE(S)" : "0 EMPLOYEE(S)"});
     standings.push_back({name + ": share", shareText(staffed ? 1 : 0)});
   }
   const std::string rule = "One of the staff for every 3 artists";
@@ -242,7 +243,8 @@ Standings scoutingFigures(Game& twin) {
   for (const ScoutedArtist& one : artists) {
     standings.push_back({"card: text", abbreviated(static_cast<double>(one.monthlyListeners)) + " monthly listeners"});
     standings.push_back({"card: value", std::to_string(ratingOf(one)) + " rating"});
-    standings.push_back({"card: note", "Demo " + withDecimals(one.demoRating, 1)});
+    standings.push_back({"Demo", withDecimals(one.demoRating, 1)});
+    standings.push_back({"Demo: share", shareText(std::min(one.demoRating / 100, 1.0))});
     standings.push_back({"card: price", "5 energy"});
     standings.push_back({"🔥 Talent", std::to_string(one.talent)});
     standings.push_back({"🔥 Talent: share", shareText(static_cast<double>(one.talent) / 100)});
@@ -262,7 +264,9 @@ Standings offerFigures(Game& twin) {
                         static_cast<double>(state.labelNegotiationBonus);
   // A year more and a per cent less for the label; the bonus stays where it cannot fall any further.
   const auto shown = static_cast<int64_t>((chance + 0.5 + 3) / 2);
-  return Standings{{"cover: text", "96,400 monthly listeners\nrating 51 · demo 61.2"},
+  return Standings{{"cover: text", "96,400 monthly listeners\nrating 51"},
+                   {"Demo", "61.2"},
+                   {"Demo: share", shareText(0.6125)},
                    {"Talent meter", "71"},
                    {"Talent meter: share", shareText(0.71)},
                    {"Contract", "3 years"},
@@ -380,6 +384,7 @@ Standings returnFigures(Game& twin) {
   return {{"Albums", currency(albumsEarned(state))},
           {"Streams", currency(streamsEarned(state))},
           {"Your verses", "$0"},
+          {"Total Earnings", currency(albumsEarned(state) + streamsEarned(state))},
           {"Cost of the label", currency(-state.totalRecordLabelCost)},
           {"Net Earnings", currency(net)},
           {"Nova Reed", currency(revenue), "goToSignedArtistDetail 7"},

@@ -37,6 +37,16 @@ TEST(LabelLaunch, TakesTwoMillionsNoEnergyAndTheOfferOfOthers) {
   EXPECT_EQ(world.state.underContract, 0) << "who has a label signs with none";
 }
 
+TEST(LabelLaunch, NotByWhoHasSignedMeanwhile) {
+  World world;
+  world.state.totalCashAvailable = 2'000'000;
+  world.state.underContract = 1;
+  world.settle();
+  EXPECT_EQ(launchLabel(world.game, "North", "We sing", labelLogos[0]).alerts.at(0).title, "✍️ Non Compete ✍️");
+  EXPECT_EQ(world.state.isLabelLaunched, 0);
+  EXPECT_DOUBLE_EQ(world.state.totalCashAvailable, 2'000'000);
+}
+
 TEST(LabelLaunch, ClosingLeavesNothingButTheShop) {
   World world;
   GameState& state = world.state;

@@ -34,6 +34,11 @@ Outcome ArtistRoiViewController::open() {
   return {};
 }
 
+Outcome ArtistRoiViewController::appear() {
+  if (state().isLabelLaunched >= 1) return_ = labelReturn(game_);
+  return {};
+}
+
 Outcome ArtistRoiViewController::press(const Action& action) {
   if (action.id == "artists") window_.moveTo(action.value);
   if (action.verb() == "artist") return goTo("goToSignedArtistDetail", std::string(action.argument()));
@@ -44,11 +49,11 @@ void ArtistRoiViewController::describe(View& view) const {
   view.title = "Return";
   view.subtitle = state().myLabelName;
   const double net = return_.net();
-  view.add(Figures{
-      .title = "Total Earnings",
-      .items = {line("Albums", return_.albums, Tone::good), line("Streams", return_.streams, Tone::good),
-                line("Your verses", return_.verses, Tone::good), line("Cost of the label", -return_.cost, Tone::bad)},
-      .total = line("Net Earnings", net, toneOfChange(net))});
+  view.add(Figures{.items = {line("Albums", return_.albums, Tone::good), line("Streams", return_.streams, Tone::good),
+                             line("Your verses", return_.verses, Tone::good)},
+                   .total = line("Total Earnings", return_.earnings(), Tone::plain)});
+  view.add(Figures{.items = {line("Cost of the label", -return_.cost, Tone::bad)},
+                   .total = line("Net Earnings", net, toneOfChange(net))});
   const RecordList<SignedArtist>& artists = state().saveAllSignedArtistList;
   if (artists.empty()) {
     view.add(EmptyHint{.icon = "mic", .text = "Nobody has signed yet. Your scouts know where to look."});

@@ -11,13 +11,15 @@ class ArtistRoiViewController final : public LabelScreen {
   using LabelScreen::LabelScreen;
   /// The best return of any label is kept.
   Outcome open() override;
+  /// A contract may have been renewed meanwhile.
+  Outcome appear() override;
 
  protected:
   Outcome press(const Action& action) override;
   void describe(View& view) const override;
 
  private:
-  LabelReturn return_;  ///< no week ends while this is open
+  LabelReturn return_;
   ListWindow window_;
 };
 

@@ -57,15 +57,16 @@ void DemoAndOfferViewController::describe(View& view) const {
 }
 
 void DemoAndOfferViewController::describeArtist(View& view) const {
-  view.add(Cover{.picture = person(artist_.name),
-                 .title = artist_.name,
-                 .text = withCommas(artist_.monthlyListeners) + " monthly listeners\nrating " +
-                         std::to_string(ratingOf(artist_)) + " · demo " + withDecimals(artist_.demoRating, 1),
-                 .hook = demoHook(artist_)});
+  view.add(Cover{
+      .picture = person(artist_.name),
+      .title = artist_.name,
+      .text = withCommas(artist_.monthlyListeners) + " monthly listeners\nrating " + std::to_string(ratingOf(artist_)),
+      .hook = demoHook(artist_)});
   view.add(Meter{.label = "Talent meter",
                  .value = std::to_string(artist_.talent),
                  .share = shareOf(artist_.talent, int64_t{100}),
                  .steps = 12});
+  view.add(ratingMeter("Demo", artist_.demoRating));
   Gauges traits;
   traits.items = {levelGauge("Songwriting", static_cast<double>(artist_.songwriting)),
                   levelGauge("Vocals", static_cast<double>(artist_.vocals)),

@@ -20,12 +20,12 @@ Card artistCard(const ScoutedArtist& artist, size_t number) {
           .meters = {{.label = "🔥 Talent",
                       .value = std::to_string(artist.talent),
                       .share = shareOf(artist.talent, int64_t{100}),
-                      .steps = 12}},
+                      .steps = 12},
+                     ratingMeter("Demo", artist.demoRating)},
           .buttons = {{.id = "demo:" + std::to_string(number),
                        .label = "DEMO",
                        .price = demoCost,
-                       .style = Button::Style::primary}},
-          .note = "Demo " + withDecimals(artist.demoRating, 1)};
+                       .style = Button::Style::primary}}};
 }
 
 }  // namespace

@@ -182,7 +182,7 @@ void LabelDetailViewController::describeDepartments(View& view, const LabelRatin
   for (size_t code = 0; code < departmentCount; ++code) {
     const DepartmentStanding& standing = label.departments[code];
     Gauge fader = levelGauge(std::string(departments[code].shortName), static_cast<double>(standing.rating));
-    fader.note = std::to_string(standing.staff) + " staff";
+    fader.note = std::to_string(standing.staff) + " EMPLOYEE(S)";
     fader.id = "department:" + std::to_string(code);
     desk.items.push_back(std::move(fader));
     Row concern = concernOf(state(), label, code);

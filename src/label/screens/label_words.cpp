@@ -40,6 +40,13 @@ Meter levelMeter(std::string label, double level) {
           .tone = toneOfBand(level)};
 }
 
+Meter ratingMeter(std::string label, double rating) {
+  return {.label = std::move(label),
+          .value = withDecimals(rating, 1),
+          .share = shareOf(rating, 100),
+          .tone = toneOfBand(rating)};
+}
+
 Gauge levelGauge(std::string label, double level) {
   return {.label = std::move(label),
           .value = withCommas(roundHalfAway(level)),

@@ -21,7 +21,10 @@ Picture staffPortrait(const Employee& employee);
 /// A level out of a hundred as a bar with its band's tone.
 Meter levelMeter(std::string label, double level);
 
-/// The same as one of several columns.
+/// A rating out of a hundred, to a tenth, as a bar with its band's tone.
+Meter ratingMeter(std::string label, double rating);
+
+/// A level as one of several columns.
 Gauge levelGauge(std::string label, double level);
 
 }  // namespace backbeat
