@@ -253,19 +253,17 @@ void reconcileIds(GameState& state, const Ids<T>& ids, Reconciled& found) {
   found.mended.push_back(std::string("The counter of the ") + ids.what + " stood behind them and was raised.");
 }
 
-/// An album in production holds the songs that are on it, and may count singles that were made when no other album was
-/// there. What is out may have lost songs to Optimize.
+/// An album in production holds the songs that are on it, and may count more: singles that were made when no other
+/// album was there, songs that moved on to another one, songs lost to Optimize.
 void countSongs(GameState& state, Reconciled& found) {
   std::map<int64_t, int64_t> songs;
   for (const Song& song : state.saveAllSongList) songs[song.albumId] += 1;
-  const auto all = static_cast<int64_t>(state.saveAllSongList.size());
   constexpr size_t mostAlbumsNamed = 5;
   size_t recounted = 0;
   for (size_t i = 0; i < state.saveAllAlbumList.size(); ++i) {
     const Album& album = state.saveAllAlbumList[i];
     const int64_t counted = songs[album.albumId];
-    const bool possible = album.songCount >= counted && album.songCount <= all;
-    if (album.isReleased || album.albumId == 0 || possible) continue;
+    if (album.isReleased || album.albumId == 0 || album.songCount >= counted) continue;
     if (++recounted <= mostAlbumsNamed) {
       found.mended.push_back("The songs on " + firstCharacters(album.title, 40) +
                              " were counted anew: " + std::to_string(counted) + ".");

@@ -66,7 +66,7 @@ std::vector<size_t> albumsInProduction(const GameState& state) {
 
 std::vector<size_t> albumsOpenTo(const GameState& state, int64_t songId) {
   const auto song = songPosition(state, songId);
-  if (!song) return {};
+  if (!song || state.saveAllSongList[*song].isReleased) return {};
   std::vector<size_t> positions = albumsInProduction(state);
   std::erase_if(positions, [&](size_t position) {
     return state.saveAllAlbumList[position].albumId == state.saveAllSongList[*song].albumId;

@@ -88,7 +88,8 @@ void residualWeek(Game& game, size_t position, double life) {
   const int64_t sold = truncate(units);
   // The money counts the fraction of a unit here, unlike in the launch phase: intended.
   if (units >= 1) recordSales(state, album, sold, units);
-  if (sold > 0) state.saveAllAlbumList.update(position, [&](Album& changed) { addUnits(changed, sold); });
+  const bool isDue = albumAwardTierFor(album.albumsSold) > album.albumAward;  // a career from outside may be behind
+  if (sold > 0 || isDue) state.saveAllAlbumList.update(position, [&](Album& changed) { addUnits(changed, sold); });
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "music/marketing_plans.h"
 #include "music/screens/add_to_album_view_controller.h"
 #include "music/screens/music_view_controller.h"
+#include "music/screens/set_album_marketing_view_controller.h"
 #include "music/screens/song_detail_view_controller.h"
 #include "music/song_creation.h"
 #include "support/world.h"
@@ -176,6 +177,24 @@ TEST(AddToAlbum, NeedsAnAlbumInProduction) {
   EXPECT_EQ(screen.addToAlbumButton().go->segue, "goToAddToAlbum");
   addSongToAlbum(world.game, 12, "Next");
   EXPECT_EQ(titleOfAlert(screen.addToAlbumButton()), "🎧 No Unreleased Albums 🎧") << "it is on the only one";
+}
+
+TEST(AddToAlbum, AndMarketingEndWhenTheSongCameOutOnAnotherTab) {
+  World world;
+  ensureSingleAlbum(world.game);
+  world.state.totalCashAvailable = 1'000'000;
+  world.state.saveAllAlbumList.append(albumInProduction(9, "Next", 0));
+  world.state.saveAllSongList.append(songInProduction(12, "Lone"));
+  AddToAlbumViewController albums(world.game, 12);
+  SetAlbumMarketingViewController marketing(world.game, {MarketingTarget::Kind::song, 12});
+  world.random.integerIs(1, 10, 7);
+  marketing.selectButton(0);
+  world.state.saveAllSongList.update(0, [](Song& song) { song.isReleased = true; });
+  world.settle();
+  albums.act({"album:9", ""});
+  marketing.act({"setMarketingButton", ""});
+  EXPECT_NE(world.state.saveAllSongList[0].albumId, 9);
+  EXPECT_DOUBLE_EQ(world.state.totalCashAvailable, 1'000'000);
 }
 
 TEST(AlbumRelease, TakesItsSongsAlongAndTellsTheFeed) {

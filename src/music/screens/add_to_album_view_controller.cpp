@@ -23,8 +23,11 @@ View AddToAlbumViewController::view() const {
   if (song) view.subtitle = state().saveAllSongList[*song].title;
   const std::vector<size_t> positions = albumsOpenTo(state(), songId_);
   if (positions.empty()) {
-    view.add(EmptyHint{.icon = "album",
-                       .text = "The song is on the only album in production. Create another one on the Music tab."});
+    const bool isOut = song && state().saveAllSongList[*song].isReleased;
+    view.add(
+        EmptyHint{.icon = "album",
+                  .text = isOut ? "The song is out. It stays on the album it came with."
+                                : "The song is on the only album in production. Create another one on the Music tab."});
     return view;
   }
   view.add(windowedRows("albums", albums_, static_cast<int64_t>(positions.size()), [&](size_t i) {

@@ -92,6 +92,7 @@ void AlbumDetailViewController::describeReleased(View& view, const Album& album)
   view.add(Tiles{{{.icon = "star", .label = "Rating", .value = withDecimals(album.productionRating, 1)},
                   {.icon = "cash", .label = "Earned", .value = "$" + abbreviated(figures.earned)},
                   {.icon = "cart", .label = "Price", .value = price(album.price)}}});
+  view.add(caption("RELEASED ", Tone::good));
   view.add(Button{.id = "marketingButton", .label = "Statistics"});
 }
 

@@ -19,14 +19,15 @@ constexpr std::array<PlanText, marketingPlans.size()> planTexts = {{
     {"globe", "World campaign"},
 }};
 
-/// Nothing when what was to be marketed is gone.
+/// Nothing when what was to be marketed is gone, or came out while this screen stood on another tab.
+template <class Work>
+std::optional<std::string> titleOf(const RecordList<Work>& works, std::optional<size_t> position) {
+  return position && !works[*position].isReleased ? std::optional(works[*position].title) : std::nullopt;
+}
+
 std::optional<std::string> titleOf(const GameState& state, const MarketingTarget& target) {
-  if (target.kind == MarketingTarget::Kind::album) {
-    const auto position = albumPosition(state, target.id);
-    return position ? std::optional(state.saveAllAlbumList[*position].title) : std::nullopt;
-  }
-  const auto position = songPosition(state, target.id);
-  return position ? std::optional(state.saveAllSongList[*position].title) : std::nullopt;
+  return target.kind == MarketingTarget::Kind::album ? titleOf(state.saveAllAlbumList, albumPosition(state, target.id))
+                                                     : titleOf(state.saveAllSongList, songPosition(state, target.id));
 }
 
 }  // namespace
@@ -45,7 +46,9 @@ Outcome SetAlbumMarketingViewController::selectButton(size_t tier) {
   return {};
 }
 
-Outcome SetAlbumMarketingViewController::setMarketingButton() { return applyMarketingPlan(game_, target_, plan_); }
+Outcome SetAlbumMarketingViewController::setMarketingButton() {
+  return titleOf(state(), target_) ? applyMarketingPlan(game_, target_, plan_) : Outcome{};
+}
 
 View SetAlbumMarketingViewController::view() const {
   const auto title = titleOf(state(), target_);

@@ -178,7 +178,7 @@ void SongDetailViewController::describeReleased(View& view, const Song& song) co
                              video ? "On your channel" : "Nobody has filmed it yet",
                              video ? abbreviated(static_cast<double>(video->totalViews)) + " views" : ""));
   view.add(std::move(more));
-  view.add(caption("RELEASED", Tone::good));
+  view.add(caption("RELEASED ", Tone::good));
   view.add(Button{.id = "marketingButton", .label = "Statistics"});
 }
 
