@@ -23,6 +23,7 @@ void endLives(Game& game, Lifetime last) {
 void forgetLaunch(Game& game) {
   const Launch before = game.launch;
   game.launch = Launch();
+  game.turn = Turn();
   game.launch.leaderboardPassDone = before.leaderboardPassDone;
   game.launch.musicScreenLoaded = before.musicScreenLoaded;
   game.launch.venueDemand = before.venueDemand;

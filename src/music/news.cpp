@@ -165,7 +165,7 @@ void addStreams(const Game& game, std::vector<News>& all) {
                    .headline = "Somebody pressed play",
                    .text = "Your first " + counted(streams, "stream")});
   }
-  if (before.streamWeeks.count >= weeksToBeat && streams > bestStreams) {
+  if (before.streamWeeks.count >= weeksToBeat && streams > bestStreams && historyIsWhole(game.state)) {
     all.push_back({.kind = Kind::best,
                    .rank = 200,
                    .key = "best week",

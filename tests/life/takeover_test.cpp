@@ -77,6 +77,7 @@ TEST(Takeover, TheHeirBeginsWithWhatTheChildHas) {
   world.state.saveRingImage = "ring3.png";
   world.state.saveAllChildList.update(0, [](Child& child) { child.followers = 812; });
   world.game.launch.merchSongs = {3};
+  world.game.turn.before.absoluteWeek = 2'099;
   const std::string face = portraitOf(world.state, world.state.saveAllChildList[0]).name;
   world.settle();
   EXPECT_EQ(takeOver(world.game, 0).go->segue, startOverSegue);
@@ -98,6 +99,7 @@ TEST(Takeover, TheHeirBeginsWithWhatTheChildHas) {
   EXPECT_EQ(heir.AllCompletedAchievements, std::vector<int64_t>{307});
   EXPECT_EQ(heir.saveAllWeeklyLineItems.size(), 1u) << "the basic needs";
   EXPECT_TRUE(world.game.launch.merchSongs.empty());
+  EXPECT_EQ(world.game.turn.before.absoluteWeek, 0) << "the heir is not compared with the parent's week";
   EXPECT_EQ(artistPicture(heir).name, face) << "grown up at 20, and still the same";
   chooseNextPortrait(world.game);
   EXPECT_EQ(artistPicture(heir).name, face + " #2");
