@@ -80,6 +80,7 @@ Outcome checkContractDeadlines(Game& game) {
 bool freeFromLostContract(Game& game) {
   const GameState& state = game.state;
   if (state.underContract == 0 || runningContract(state) != state.saveAllContractLabelList.size()) return false;
+  if (state.onTour >= 1) return false;  // the shows go on without cost or cut; nobody else could call them off
   freeArtist(game);
   return true;
 }
