@@ -61,20 +61,34 @@ Statement statementOf(const GameState& state) {
            {"Office rent", currency(-rent)}}};
 }
 
-Standings statementFigures(Game& twin) {
-  const Statement statement = statementOf(twin.state);
-  return statement.lines + Standings{{"subtitle", "Week 35, 2049"},
-                                     {"Net", currency(statement.ownWork + statement.label - statement.expenses)},
-                                     {"Own work", currency(statement.ownWork)},
-                                     {"Total income", currency(statement.ownWork + statement.label)},
-                                     {"Total expenses", currency(-statement.expenses)}};
-}
-
 constexpr double property = 1'310'000 * 1.125;
 constexpr double garage = 470'000 * 0.9;
 constexpr double ventures = 6'060'606 / 4.0;
 
 double fortune(const GameState& state) { return state.totalCashAvailable + property + garage + ventures; }
+
+Standings netWorthFigures(Game& twin) {
+  const double all = fortune(twin.state);
+  Standings standings = {{"Net worth", currency(all)}};
+  const std::pair<const char*, double> parts[] = {
+      {"Cash ", twin.state.totalCashAvailable}, {"Property ", property}, {"Venture ", ventures}, {"Garage ", garage}};
+  for (const auto& [title, value] : parts) {
+    const std::string where = title + withDecimals(value / all * 100, 1) + "%";
+    standings.push_back({where, currency(value)});
+    standings.push_back({where + ": share", shareText(value / all)});
+  }
+  return standings;
+}
+
+Standings statementFigures(Game& twin) {
+  const Statement statement = statementOf(twin.state);
+  return statement.lines + netWorthFigures(twin) +
+         Standings{{"subtitle", "Week 35, 2049"},
+                   {"Net", currency(statement.ownWork + statement.label - statement.expenses)},
+                   {"Own work", currency(statement.ownWork)},
+                   {"Total income", currency(statement.ownWork + statement.label)},
+                   {"Total expenses", currency(-statement.expenses)}};
+}
 
 Standings businessFigures(Game& twin) {
   const GameState& state = twin.state;
@@ -98,19 +112,6 @@ Standings businessFigures(Game& twin) {
           {"Farbes", "Unranked", "goToForbesDetail"},
           {"Motors", currency(garage), "goToTransportationOptions"},
           {"Motors: subtitle", state.saveAllTransportationOwnedList[0].title}};
-}
-
-Standings netWorthFigures(Game& twin) {
-  const double all = fortune(twin.state);
-  Standings standings = {{"Net worth", currency(all)}};
-  const std::pair<const char*, double> parts[] = {
-      {"Cash ", twin.state.totalCashAvailable}, {"Property ", property}, {"Venture ", ventures}, {"Garage ", garage}};
-  for (const auto& [title, value] : parts) {
-    const std::string where = title + withDecimals(value / all * 100, 1) + "%";
-    standings.push_back({where, currency(value)});
-    standings.push_back({where + ": share", shareText(value / all)});
-  }
-  return standings;
 }
 
 Standings expenseFigures(Game& twin) {

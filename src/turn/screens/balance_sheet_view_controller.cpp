@@ -56,6 +56,7 @@ View BalanceSheetViewController::view() const {
                "are counted here, though only the most streamed song of a week pays out."};
   if (!anyWeekReported(state())) {
     view.add(EmptyHint{.icon = "document", .text = "No week has ended yet. Your first report fills these lines."});
+    describeNetWorth(view, state());
     return view;
   }
   const CalendarWeek week = reportedWeek(state());
@@ -68,6 +69,8 @@ View BalanceSheetViewController::view() const {
   view.add(incomeOf(statement));
   view.add(labelIncomeOf(state(), statement));
   view.add(expensesOf(statement));
+  view.add(Heading{"What it has come to"});
+  describeNetWorth(view, state());
   return view;
 }
 

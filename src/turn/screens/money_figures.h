@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "core/game_state.h"
 #include "core/view.h"
 
 namespace backbeat {
@@ -16,5 +17,8 @@ Figure totalOf(std::string label, const std::vector<Figure>& lines);
 
 /// Good from 0 up, bad below.
 Tone toneOfAmount(double amount);
+
+/// What everything is worth together, and the share of cash, homes, startups and vehicles.
+void describeNetWorth(View& view, const GameState& state);
 
 }  // namespace backbeat

@@ -1,6 +1,7 @@
 #include "turn/screens/weekly_summary_view_controller.h"
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <map>
 #include <utility>
@@ -46,8 +47,8 @@ void addExpense(Figures& figures, std::string label, double amount) {
   if (amount != 0) figures.items.push_back(dollars(std::move(label), -amount, Tone::bad));
 }
 
-/// `exits`: what startups paid when they were sold or listed, after the settlement.
-Figures incomeOf(const WeeklyReport& report, double exits) {
+/// The total is what the week was paid, to the cent; the lines are told to the dollar.
+Figures incomeOf(const WeeklyReport& report) {
   Figures income{.title = "Income"};
   const std::string top = report.weeklySongListens.empty() ? "" : report.weeklySongListens.front().songTitle;
   addIncome(income, "Streams", report.streams, top);
@@ -57,11 +58,11 @@ Figures incomeOf(const WeeklyReport& report, double exits) {
   addIncome(income, "Festival", report.festivalPayment);
   addIncome(income, "Featured on", report.featured);
   if (report.merch > 0) addIncome(income, "MERCH SALES", report.merch, counted(report.merchUnits, "unit"));
+  if (report.merch < 0) income.items.push_back(dollars("Merchandise", report.merch, Tone::bad));
   addIncome(income, "My label", report.label);
   addIncome(income, "Job", report.job);
   addIncome(income, "Standing income", report.standingIncome);
-  addIncome(income, "Startups", exits);
-  income.total = totalOf("Total revenue", income.items);
+  income.total = dollars("Total revenue", report.totalRevenue, Tone::plain);
   return income;
 }
 
@@ -371,8 +372,10 @@ void WeeklySummaryViewController::describeMusic(View& view) const {
     view.add(Heading{"ALBUM SALES"});
     view.add(std::move(albums));
   }
-  if (Rows artists = signedArtistsOf(state(), report_); !artists.items.empty()) {
+  if (!state().saveAllSignedArtistList.empty()) {
     view.add(Heading{"POPULAR SIGNED ARTISTS\n"});
+    Rows artists = signedArtistsOf(state(), report_);
+    if (artists.items.empty()) view.add(caption("Nobody heard them this week."));
     view.add(std::move(artists));
   }
   if (Rows verses = versesOf(report_); !verses.items.empty()) {
@@ -405,9 +408,9 @@ View WeeklySummaryViewController::view() const {
   } else {
     view.add(Text{.text = story_, .style = Text::Style::lead});
   }
-  Figures income = incomeOf(report_, exits_);
+  Figures income = incomeOf(report_);
   Figures expenses = expensesOf(report_, settlement_);
-  const double net = income.total->amount + expenses.total->amount;
+  const double net = std::nearbyint(report_.totalRevenue) + std::nearbyint(exits_) + expenses.total->amount;
   const double cashAfter = cashBefore_ + report_.totalRevenue + exits_ - costOf(report_) - settlement_;
   const int64_t change = game_.launch.weeklyFanChange;
   const std::string ofNet =
@@ -425,6 +428,7 @@ View WeeklySummaryViewController::view() const {
   describeMusic(view);
   describeNews(view);
   view.add(std::move(income));
+  if (exits_ != 0) view.add(Figures{.items = {dollars("Startups", exits_, Tone::good, "paid after the settlement")}});
   view.add(std::move(expenses));
   describeEvents(view);
   view.mainAction = Button{.id = "closeButton", .label = "Continue", .style = Button::Style::primary};
