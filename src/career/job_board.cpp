@@ -70,7 +70,8 @@ void advanceJobContract(Game& game) {
   } else {
     state.weeklyJobContractRemaining -= 1;
   }
-  game.save(&GameState::weeklyJobContractRemaining, &GameState::weeklyJobIncome, &GameState::weeklyEnergyCost);
+  game.save(&GameState::weeklyJobContractRemaining, &GameState::totalCashAvailable, &GameState::weeklyJobIncome,
+            &GameState::weeklyEnergyCost);
 }
 
 }  // namespace backbeat

@@ -86,7 +86,7 @@ void addCareerNeeds(const Game& game, std::vector<Need>& needs) {
     needs.push_back({.priority = 300,
                      .picture = icon("label"),
                      .title = "A record label wants to talk",
-                     .subtitle = "The offer waits until the week ends",
+                     .subtitle = "It may be gone when the week ends",
                      .badge = "!",
                      .segue = "goToContractOffer"});
   }

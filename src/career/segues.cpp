@@ -78,6 +78,8 @@ void describeOffer(const Game& game, Row& row) {
   if (game.launch.contractOfferState >= 1) row.subtitle = "An offer waits";
 }
 
+std::string_view offerBadge(const Game& game) { return game.launch.contractOfferState >= 1 ? "!" : ""; }
+
 template <size_t number>
 constexpr MenuLine lifestyleLine(std::string_view title, std::string_view argument, std::string_view id) {
   return {.tab = lifeTab,
@@ -112,7 +114,8 @@ constexpr MenuLine menu[] = {
      .segue = "goToContractOffer",
      .id = "labelContract",
      .shown = isUnsigned,
-     .describe = describeOffer},
+     .describe = describeOffer,
+     .badge = offerBadge},
     {.tab = lifeTab,
      .section = "Get better",
      .order = 110,

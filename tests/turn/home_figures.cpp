@@ -69,6 +69,7 @@ Standings offeredHomeFigures(Game& twin) {
   Standings standings = festivalHomeFigures(twin);
   standings.push_back({"A record label wants to talk", "", "goToContractOffer"});
   standings.push_back({"A record label wants to talk: badge", "!"});
+  standings.push_back({"Label contract: badge", "!"});
   for (Standing& standing : standings) {
     if (standing.where == "Label contract") standing.leadsTo = "goToContractOffer";
     if (standing.where == "Label contract: subtitle") standing.says = "An offer waits";

@@ -99,9 +99,9 @@ View EnergyTransparencyViewController::view() const {
         .label = "Next week",
         .value = std::to_string(nextWeeksEnergy(state())),
         .note = "after costs"}}});
-  describe(view, "ENERGY COSTS (WEEKLY)", weeklyCosts(state()), "Nothing takes energy from you every week.");
-  describe(view, "MAX ENERGY LOSS", ceilingLosses(state()), "Nothing has worn you out yet.");
-  describe(view, "MAX ENERGY GAIN", ceilingGains(state()), "Eat, rest and move better to raise your ceiling.");
+  describe(view, "ENERGY COSTS (WEEKLY)\n", weeklyCosts(state()), "Nothing takes energy from you every week.");
+  describe(view, "\nMAX ENERGY LOSS\n", ceilingLosses(state()), "Nothing has worn you out yet.");
+  describe(view, "\nMAX ENERGY GAIN\n", ceilingGains(state()), "Eat, rest and move better to raise your ceiling.");
   view.help =
       Help{.title = "Energy",
            .text =
