@@ -37,13 +37,15 @@ void grantForLooks(Game& game, const Matches& candidate) {
   if (isInfluencer && likes("Foodie") && likes("Vegan")) grantAchievement(game, achievement::veganInfluencer);
 }
 
+/// Who seeks neither women nor men, which no screen offers, meets either, without a picture.
 void drawIdentity(Random& random, int64_t preference, Matches& candidate) {
+  const bool isOffered = preference == seekingWoman || preference == seekingMan;
   const auto draw = [&](const char* picture, int64_t pictures, const auto& taglines, const auto& names) {
-    candidate.matchImage = picture + std::to_string(random.integer(1, pictures)) + ".png";
+    if (isOffered) candidate.matchImage = picture + std::to_string(random.integer(1, pictures)) + ".png";
     candidate.matchTagline = random.element(taglines);
     candidate.name = random.element(names);
   };
-  if (preference == seekingWoman) {
+  if (isOffered ? preference == seekingWoman : random.coin() == 1) {
     draw("woman", womenPictures, femaleTagLines, femaleNames);
   } else {
     draw("man", menPictures, maleTaglines, maleNames);

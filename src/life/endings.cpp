@@ -1,11 +1,10 @@
 #include "life/endings.h"
 
-#include <cmath>
-
 #include "core/calendar.h"
 #include "core/case_folding.h"
 #include "core/money.h"
 #include "core/purse.h"
+#include "core/short_money.h"
 #include "life/partner.h"
 #include "wealth/net_assets.h"
 
@@ -72,7 +71,7 @@ Outcome divorceNews(const GameState& state, const Matches& partner, const Reproa
 
 double settlement(const GameState& state) { return state.signPrenup >= 1 ? 0 : netAssets(state) * 0.5; }
 
-std::string settlementText(double dollars) { return (dollars < 0 ? "-$" : "$") + abbreviated(std::abs(dollars)); }
+std::string settlementText(double dollars) { return abbreviatedDollars(dollars); }
 
 Outcome partnerLeaves(Game& game, const std::string& line, const Reproach& reproach) {
   const auto position = partnerPosition(game.state);

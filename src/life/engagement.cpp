@@ -36,7 +36,7 @@ std::optional<Outcome> tooEarly(const GameState& state, const Matches& partner) 
                       " thinks a potential wedding could be in "
                 : " feels like a proposal now is too soon and would like to spend more time together.\n\nIdeally, " +
                       partner.name + " would like to get engaged in ";
-  return refuse<"⏳ Needs More Time ⏳">("\n" + partner.name + words + remaining(weeks) + ".");
+  return refuse<"⏳ Needs More Time ⏳">("\n" + partner.name + words + remaining(weeks));
 }
 
 std::optional<Outcome> notReadyToPropose(const GameState& state, const Matches& partner) {

@@ -116,7 +116,7 @@ TEST(Engagement, ItTakesTimeLoveAndARing) {
   world.change([](Matches& partner) { partner.timeToPropose = 31; });
   EXPECT_EQ(mainAction(world.game).alerts.at(0).message,
             "\nTheo feels like a proposal now is too soon and would like to spend more time together.\n\nIdeally, Theo "
-            "would like to get engaged in 1 week(s).");
+            "would like to get engaged in 1 week(s)");
   world.change([](Matches& partner) { partner.timeToPropose = 30; });
   EXPECT_EQ(mainAction(world.game).go->segue, "goToEngagementRing");
   EXPECT_EQ(propose(world.game, 5).result, Result::noCash);
