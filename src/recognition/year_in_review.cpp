@@ -76,7 +76,8 @@ Chapter roadChapter(const GameState& state, const YearOfKind& tours, int64_t yea
 /// Whose heart it was about: a birth before a beginning, a beginning before an end.
 Chapter heartChapter(const GameState& state, int64_t year) {
   for (const Child& child : state.saveAllChildList) {
-    if (child.birthYear == year) {
+    const bool isOfTheBody = child.relationship == "Son" || child.relationship == "Daughter";
+    if (isOfTheBody && child.birthYear == year) {
       return {cardOf(drawn(Picture::Kind::scene, "nursery", child.name), "The heart",
                      child.name + " came into the world, and into the family.")};
     }
@@ -122,10 +123,14 @@ struct MusicYear {
   double earned = 0;
 };
 
-/// Streams, merchandise, videos, verses and festivals.
+/// Streams, merchandise, videos, verses, festivals and the label's artists.
 double earnedBesides(const GameState& state, int64_t year) {
   double dollars = paidForStreams(state, year);
   for (const YearKind kind : {YearKind::merch, YearKind::videos}) dollars += yearOfKind(state, kind, year).dollars;
+  for (const auto& row : rowsOfYear(state.saveAllMerchWeeklySales, year)) dollars -= row.merchTransactionFees;
+  for (const auto& row : rowsOfYear(state.saveAllSignedArtistWeeklySongListens, year))
+    dollars += row.totalStreamRevenue;
+  for (const auto& row : rowsOfYear(state.saveAllSignedArtistWeeklyAlbumSales, year)) dollars += row.albumRevenue;
   for (const auto& row : rowsOfYear(state.saveAllFeaturedOnWeeklySongListens, year)) dollars += row.totalStreamRevenue;
   for (const Festival& festival : state.saveAllFestivalList) {
     const bool isPlayed = festival.weekNumberForTracking < state.weekNumberForTracking;

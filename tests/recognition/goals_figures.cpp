@@ -125,11 +125,15 @@ Standings reviewFigures(Game& twin) {
     heard[row.songId] += row.songListens;
     titles[row.songId] = row.songTitle;
   }
-  double earned = sumOf(state.saveAllWeeklyAlbumSales, &WeeklyAlbumSales::albumRevenue) +
-                  sumOf(state.saveAllWeeklyTourSales, &WeeklyTourSales::tourRevenue) +
-                  sumOf(state.saveAllMerchWeeklySales, &MerchWeeklySales::merchGross) +
-                  sumOf(state.saveAllWeeklyVideoViews, &WeeklyVideoViews::totalViewRevenue) +
-                  sumOf(state.saveAllFeaturedOnWeeklySongListens, &FeaturedOnWeeklySongListens::totalStreamRevenue);
+  double earned =
+      sumOf(state.saveAllWeeklyAlbumSales, &WeeklyAlbumSales::albumRevenue) +
+      sumOf(state.saveAllWeeklyTourSales, &WeeklyTourSales::tourRevenue) +
+      sumOf(state.saveAllMerchWeeklySales, &MerchWeeklySales::merchGross) -
+      sumOf(state.saveAllMerchWeeklySales, &MerchWeeklySales::merchTransactionFees) +
+      sumOf(state.saveAllSignedArtistWeeklySongListens, &SignedArtistWeeklySongListens::totalStreamRevenue) +
+      sumOf(state.saveAllSignedArtistWeeklyAlbumSales, &SignedArtistWeeklyAlbumSales::albumRevenue) +
+      sumOf(state.saveAllWeeklyVideoViews, &WeeklyVideoViews::totalViewRevenue) +
+      sumOf(state.saveAllFeaturedOnWeeklySongListens, &FeaturedOnWeeklySongListens::totalStreamRevenue);
   for (const auto& [week, row] : best) earned += row.totalStreamRevenue;
   for (const Festival& festival : state.saveAllFestivalList) {
     const bool isPlayed = festival.weekNumberForTracking < state.weekNumberForTracking;

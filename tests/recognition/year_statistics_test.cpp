@@ -158,6 +158,12 @@ TEST(YearInReview, TellsFiveToSevenThingsOfTheYear) {
   EXPECT_EQ(textOf(cards, "The heart"), "You and Theo began something.");
   EXPECT_EQ(textOf(cards, "The money"), "Music and its stages brought in $600.");
   EXPECT_EQ(textOf(cards, "The honours"), "“Song 2” is Song of the Year.");
+  Child adopted;
+  adopted.birthYear = 2024;
+  adopted.relationship = "Adopted Son";
+  state.saveAllChildList.append(adopted);
+  EXPECT_EQ(textOf(reviewOfYear(state, 2024).cards, "The heart"), "You and Theo began something.")
+      << "whoever came later was born elsewhere";
   EXPECT_EQ(textOf(reviewOfYear(state, 2023).cards, "The road"), "You stayed at home, and so did the suitcases.");
 
   const Story story = reviewOfYear(state, 2024).story;
