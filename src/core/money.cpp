@@ -59,7 +59,11 @@ std::string abbreviated(double amount) {
   return printed("%.*fT", 1, std::floor(amount / 1e11) / 10);
 }
 
-std::string withDecimals(double number, int places) { return printed("%.*f", places, number); }
+std::string withDecimals(double number, int places) {
+  std::string text = printed("%.*f", places, number);
+  const bool isZero = text.find_first_not_of("-0.") == std::string::npos;
+  return isZero && text.starts_with('-') ? text.substr(1) : text;
+}
 
 std::string percentage(double percent) { return printed("%.*f%%", 2, percent); }
 

@@ -215,6 +215,7 @@ struct Option {
   Picture picture = {};          ///< in the style `pictures`
   std::string value = {};        ///< in the style `cards`: "$189 a week"
   std::vector<Fact> facts = {};  ///< in the style `cards`
+  std::string action = {};       ///< in the style `cards`: what its button says, or how the chosen one stands
 };
 struct Choice {
   std::string id = {};

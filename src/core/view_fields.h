@@ -133,7 +133,7 @@ template <>
 inline constexpr auto viewFields<Option> = std::to_array(
     {viewField("label", &Option::label), viewField("note", &Option::note), viewField("tone", &Option::tone),
      viewField("price", &Option::price), viewField("picture", &Option::picture), viewField("value", &Option::value),
-     viewField("facts", &Option::facts)});
+     viewField("facts", &Option::facts), viewField("action", &Option::action)});
 template <>
 inline constexpr auto viewFields<Choice> = std::to_array(
     {viewField("id", &Choice::id), viewField("label", &Choice::label), viewField("options", &Choice::options),

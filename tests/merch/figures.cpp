@@ -99,8 +99,9 @@ Standings shopFigures(Game& twin) {
              {"Old Mug: subtitle", "Mug · " + std::to_string(mug.yearLaunched)},
              {"text", "Mara Voss has released 4 signature product(s) including 1 limited edition(s). With sales of " +
                           currency(sales) + " your merchandise has become an exciting revenue oportunity."}} +
-         shelfFigures(state, "Static Tee", "Sold out (tap to reorder)") +
-         shelfFigures(state, "Boats on Vinyl", "Manufacturing (5 weeks)") +
+         shelfFigures(state, "Static Tee", "0 units for sale • Sold out (tap to reorder)") +
+         shelfFigures(state, "Boats on Vinyl",
+                      unitsForSale(productNamed(state, "Boats on Vinyl")) + " • Manufacturing (5 weeks)") +
          shelfFigures(state, "Lantern Hoody", unitsForSale(productNamed(state, "Lantern Hoody")));
 }
 

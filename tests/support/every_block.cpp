@@ -144,11 +144,17 @@ void addControls(View& view) {
                   .options = {{.label = "Pop"}, {.label = "Folk"}},
                   .selected = 1,
                   .style = Choice::Style::segments});
-  view.add(Choice{.id = "plan",
-                  .label = "Plan",
-                  .options = {{.label = "Garage", .note = "Current plan", .value = "$189 a week", .facts = facts},
-                              {.label = "Warehouse", .price = dear, .value = "$2,400 a week", .facts = facts}},
-                  .style = Choice::Style::cards});
+  view.add(Choice{
+      .id = "plan",
+      .label = "Plan",
+      .options =
+          {{.label = "Garage", .note = "Half full", .value = "$189 a week", .facts = facts, .action = "Current plan"},
+           {.label = "Warehouse",
+            .price = dear,
+            .value = "$2,400 a week",
+            .facts = facts,
+            .action = "Select this plan"}},
+      .style = Choice::Style::cards});
   view.add(
       Choice{.id = "look",
              .label = "Look",

@@ -49,11 +49,13 @@ View MerchPlanViewController::view() const {
                .label = "Plans",
                .selected = current ? static_cast<int64_t>(*current) : -1,
                .style = Choice::Style::cards};
-  for (const MerchPlan& plan : service_.plans) {
+  for (size_t i = 0; i < service_.plans.size(); ++i) {
+    const MerchPlan& plan = service_.plans[i];
     plans.options.push_back({.label = std::string(plan.name),
                              .note = noteOn(plan),
                              .value = currency(plan.weeklyPrice) + " a week",
-                             .facts = factsOf(service_, plan)});
+                             .facts = factsOf(service_, plan),
+                             .action = current == i ? "Current plan" : "Select this plan"});
   }
   view.add(std::move(plans));
   view.add(

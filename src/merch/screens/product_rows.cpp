@@ -1,7 +1,5 @@
 #include "merch/screens/product_rows.h"
 
-#include <string_view>
-
 #include "core/money.h"
 #include "core/view_words.h"
 #include "merch/catalogue.h"
@@ -17,20 +15,12 @@ Tone toneOf(const GameState& state, const Merch& product) {
   return weeksUntilOnSale(state, product) > 0 ? Tone::fair : Tone::plain;
 }
 
-/// On the shelf bar and foot tell the units, so that only what else there is to say has to be read.
-std::string shelfStanding(const GameState& state, const Merch& product) {
-  const std::string standing = productStanding(state, product);
-  constexpr std::string_view separator = " • ";
-  const size_t end = standing.find(separator);
-  return end == std::string::npos ? standing : standing.substr(end + separator.size());
-}
-
 }  // namespace
 
 Row productRow(const GameState& state, const Merch& product) {
   return {.picture = productPicture(product),
           .title = product.name,
-          .subtitle = shelfStanding(state, product),
+          .subtitle = productStanding(state, product),
           .value = price(product.pricePerUnit),
           .note = "of " + withCommas(product.startingInventory),
           .tone = toneOf(state, product),

@@ -21,6 +21,7 @@ void print(PrintedPage& page, const Option& option, size_t number, bool chosen, 
   add(page.price(option.price));
   page.put(std::move(left), right, 8 + 3 + labelColumns + 2);
   page.facts(option.facts, 8 + 3);
+  if (!option.action.empty()) page.put(page.inked(8 + 3).add(oneLine(option.action, 60)));
 }
 
 }  // namespace

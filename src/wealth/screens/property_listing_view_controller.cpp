@@ -59,7 +59,7 @@ Outcome PropertyListingViewController::purchase(const Property& property) {
 }
 
 View PropertyListingViewController::view() const {
-  View view{.title = "International Realty", .theme = Theme::estate};
+  View view{.title = "INTERNATIONAL REALTY", .theme = Theme::estate};
   const Property* property = shown();
   if (!property) {
     view.add(EmptyHint{.icon = "house", .text = "Nothing is for sale. You own it all."});

@@ -84,6 +84,7 @@ void TransportationOptionsViewController::describeFloor(View& view, const Transp
          .selected = &own == &vehicle,
          .id = "own:" + std::to_string(own.id)});
   }
+  view.add(Heading{"GARAGE"});
   view.add(std::move(floor));
 }
 

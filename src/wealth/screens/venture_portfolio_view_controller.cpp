@@ -36,7 +36,8 @@ Row rowOf(const Venture& venture) {
   const double gain = gainOn(venture, worth);
   Row row{.picture = markOf(venture),
           .title = titleOf(venture),
-          .subtitle = roundName(venture.currentFundingRound) + " · " + std::to_string(venture.percentageOwned) + "%",
+          .subtitle = (isRunning(venture) ? valuationText(venture) + "\n" : "") +
+                      roundName(venture.currentFundingRound) + " · " + std::to_string(venture.percentageOwned) + "%",
           .value = isRunning(venture) ? abbreviatedDollars(worth) : outcomeOf(venture),
           .opens = true,
           .id = "goToSellVentureShares:" + std::to_string(venture.businessId)};

@@ -199,6 +199,7 @@ export interface Option {
   picture?: Picture;
   value?: string;
   facts?: Fact[];
+  action?: string;
 }
 
 export interface Choice {

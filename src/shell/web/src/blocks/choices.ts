@@ -12,16 +12,16 @@ export function planCards({ id, label, options = [], selected = 0 }: Choice, sce
   </div>`;
 }
 
-function plan({ label, note, tone, price, value, facts }: Option, chosen: boolean, press: () => void): TemplateResult {
+function plan({ label, note, tone, price, value, facts, action = "" }: Option, chosen: boolean, press: () => void): TemplateResult {
   return html`<section class="plan card ${chosen ? "chosen" : ""} ${toneClass(tone)}">
     <h3 dir="auto">${label}</h3>
     ${value ? html`<p class="plan-value">${figureAndWords(value)}</p>` : nothing}
     ${note ? html`<p class="plan-note" dir="auto">${note}</p>` : nothing} ${factList(facts, "plan-facts")}
     ${
       chosen
-        ? html`<p class="plan-current">${glyph("check")}Current plan</p>`
+        ? html`<p class="plan-current">${glyph("check")}${action}</p>`
         : html`<button class="button secondary" type="button" @click=${press}>
-            <span class="button-label">Select this plan<span class="unseen">: ${label}</span></span
+            <span class="button-label">${action}<span class="unseen">: ${label}</span></span
             >${pricePill(price)}
           </button>`
     }
