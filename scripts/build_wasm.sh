@@ -17,8 +17,9 @@ quick=(core/chunked_list core/json core/money core/numbers core/property_list co
 # What nearly every source reads, parsed once. Without the time of the parsing in it, ccache knows it again.
 common=(algorithm array functional map optional string unordered_map variant vector core/game.h core/screen.h)
 parsed=(-fpch-instantiate-templates -Xclang -fno-pch-timestamp)
-# The stack lies below the data, so that running out of it is a trap. No -O here: it would run the optimiser with marks
-# of its own; it is run below, with the features that the engine may use.
+# The stack lies below the data, so that running out of it is a trap; nothing else lies in the lowest kilobyte, which the
+# optimiser may know. No -O here: it would run the optimiser with marks of its own; it is run below, with the features
+# that the engine may use.
 link_flags=(-mexec-model=reactor "-Wl,--stack-first" "-Wl,-z,stack-size=1048576" "-Wl,--strip-all")
 
 sources() {
@@ -45,7 +46,7 @@ rule c
 rule link
   command = clang++-19 --target=wasm32-wasi ${link_flags[*]} \$in -o \$out
 rule shrunk
-  command = wasm-opt -Oz --enable-bulk-memory --enable-sign-ext --enable-mutable-globals \$in -o \$out
+  command = wasm-opt -Oz --low-memory-unused --enable-bulk-memory --enable-sign-ext --enable-mutable-globals \$in -o \$out
 rule checked
   command = node ../../scripts/check_wasm.mjs \$in && mkdir -p ../../src/shell/web/public && cp \$in \$out
 build common-Oz.pch: pch common.h
