@@ -119,7 +119,8 @@ Standings startupsFigures(Game& twin) {
       {"heading", "News"},
       {"heading", "Holdings · 1 running"},
       {"Sprout", "$1.5M", "goToSellVentureShares 83"},
-      {"Sprout: subtitle", sprout.businessTagline + " and most recently was valued at $6.0M\nSeries B · " + percent},
+      {"Sprout: subtitle", "Series B · " + percent},
+          {"Sprout: subtitle (2)", sprout.businessTagline + " and most recently was valued at $6.0M"},
       {"Sprout: note", "+50%"},
       {"Sprout: points", pointsText({1'010'101, 6'060'606 / 4.0})}};
 }

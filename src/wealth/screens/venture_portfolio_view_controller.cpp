@@ -36,8 +36,7 @@ Row rowOf(const Venture& venture) {
   const double gain = gainOn(venture, worth);
   Row row{.picture = markOf(venture),
           .title = titleOf(venture),
-          .subtitle = (isRunning(venture) ? valuationText(venture) + "\n" : "") +
-                      roundName(venture.currentFundingRound) + " · " + std::to_string(venture.percentageOwned) + "%",
+          .subtitle = roundName(venture.currentFundingRound) + " · " + std::to_string(venture.percentageOwned) + "%",
           .value = isRunning(venture) ? abbreviatedDollars(worth) : outcomeOf(venture),
           .opens = true,
           .id = "goToSellVentureShares:" + std::to_string(venture.businessId)};
@@ -68,6 +67,7 @@ View VenturePortfolioViewController::view() const {
     describeWorth(view);
     describeNews(view);
     describeHoldings(view);
+    describeCompanies(view);
   }
   view.help = startupsHelp();
   return view;
@@ -100,6 +100,19 @@ void VenturePortfolioViewController::describeNews(View& view) const {
   }
   if (wire.items.empty()) return;
   view.add(Heading{"News"});
+  view.add(std::move(wire));
+}
+
+/// What each running company is about, and what all of it was last said to be worth.
+void VenturePortfolioViewController::describeCompanies(View& view) const {
+  Rows wire{.style = Rows::Style::wire};
+  for (const Venture* venture : inOrder(state())) {
+    if (!isRunning(*venture)) continue;
+    wire.items.push_back(
+        {.picture = icon("document"), .title = venture->businessName, .subtitle = valuationText(*venture)});
+  }
+  if (wire.items.empty()) return;
+  view.add(Heading{"Companies"});
   view.add(std::move(wire));
 }
 

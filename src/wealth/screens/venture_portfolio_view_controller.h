@@ -15,6 +15,7 @@ class VenturePortfolioViewController final : public Screen {
   void describeWorth(View& view) const;
   void describeNews(View& view) const;
   void describeHoldings(View& view) const;
+  void describeCompanies(View& view) const;
 };
 
 }  // namespace backbeat

@@ -52,9 +52,18 @@ function fader(item: Gauge, i: number, scene: Scene): TemplateResult {
     <b class="gauge-value" dir="auto">${value}</b>
     ${level("fader-slot", label, Math.round(share * 100), 100, html`<span class="fader-cap"></span>`)}
     <span class="gauge-label" dir="auto">${label}</span>
-    ${note ? html`<small class="gauge-note" dir="auto">${note}</small>` : nothing}
+    ${note ? headCount(note) : nothing}
   `;
   return gauge(item, `fader ${toneClass(tone)}`, `--share:${share};--i:${i}`, body, scene);
+}
+
+/** "3 EMPLOYEE(S)" below a narrow column: the number beside a glyph, the word for ears alone. */
+function headCount(note: string): TemplateResult {
+  const [count = "", ...words] = note.split(" ");
+  if (!/^\d+$/.test(count)) return html`<small class="gauge-note" dir="auto">${note}</small>`;
+  return html`<small class="gauge-note" dir="auto"
+    >${glyph("people")}${count}<span class="unseen"> ${words.join(" ")}</span></small
+  >`;
 }
 
 function barLine(item: Gauge, i: number, scene: Scene): TemplateResult {
