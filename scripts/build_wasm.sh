@@ -12,8 +12,8 @@ flags=(-std=c++20 -fno-exceptions -fno-rtti -ffp-contract=off -Wall -Wextra -Wer
 # Where a week spends its time; everything else is to be small.
 quick=(core/chunked_list core/json core/money core/numbers core/property_list core/random core/record_buffer
   core/record_codec core/row_check core/save_file core/text core/value_type music/album_sales music/chart music/listeners
-  music/milestones music/news music/silence music/streaming shell/page_store shell/shown_json
-  turn/screens/view_controller turn/week_cycle turn/week_story turn/weekly_report)
+  music/silence music/streaming shell/page_store shell/shown_json
+  turn/week_cycle)
 # What nearly every source reads, parsed once. Without the time of the parsing in it, ccache knows it again.
 common=(algorithm array functional map optional string unordered_map variant vector core/game.h core/screen.h)
 parsed=(-fpch-instantiate-templates -Xclang -fno-pch-timestamp)
