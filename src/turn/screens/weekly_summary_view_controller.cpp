@@ -23,6 +23,7 @@
 #include "music/covers.h"
 #include "recognition/year_in_review.h"
 #include "social/screens/chirp_post.h"
+#include "turn/open_report.h"
 #include "turn/screens/money_figures.h"
 #include "turn/week_story.h"
 #include "wealth/screens/venture_report.h"
@@ -46,8 +47,7 @@ void addExpense(Figures& figures, std::string label, double amount) {
   if (amount != 0) figures.items.push_back(dollars(std::move(label), -amount, Tone::bad));
 }
 
-/// `exits`: what startups paid when they were sold or listed, after the settlement.
-Figures incomeOf(const WeeklyReport& report, double exits) {
+Figures incomeOf(const WeeklyReport& report) {
   Figures income{.title = "Income"};
   const std::string top = report.weeklySongListens.empty() ? "" : report.weeklySongListens.front().songTitle;
   addIncome(income, "Streams", report.streams, top);
@@ -60,21 +60,21 @@ Figures incomeOf(const WeeklyReport& report, double exits) {
   addIncome(income, "My label", report.label);
   addIncome(income, "Job", report.job);
   addIncome(income, "Standing income", report.standingIncome);
-  addIncome(income, "Startups", exits);
+  addIncome(income, "Startups", report.exits);
   income.total = totalOf("Total revenue", income.items);
   return income;
 }
 
 double costOf(const WeeklyReport& report) { return report.totalExpenses + report.bonusPaidBack; }
 
-Figures expensesOf(const WeeklyReport& report, double settlement) {
+Figures expensesOf(const WeeklyReport& report) {
   Figures expenses{.title = "Cost"};
   addExpense(expenses, "Standing expenses", report.standingExpenses);
   addExpense(expenses, "Family", report.family);
   addExpense(expenses, "Touring", std::max(-report.tour, 0.0));
   addExpense(expenses, "Office", report.labelExpenses);
   addExpense(expenses, "Signing bonus paid back", report.bonusPaidBack);
-  addExpense(expenses, "Divorce", settlement);
+  addExpense(expenses, "Divorce", report.settlement);
   expenses.total = totalOf("Total cost", expenses.items);
   return expenses;
 }
@@ -213,33 +213,48 @@ Rows showsOf(const WeeklyReport& report) {
 }  // namespace
 
 Outcome WeeklySummaryViewController::open() {
-  cashBefore_ = state().totalCashAvailable;
+  if (isReportOpen(state())) return openAgain();
+  const double cash = state().totalCashAvailable;
   report_ = buildWeeklyReport(game_);
+  report_.cashBefore = cash;
   settleWeeklyCash(game_, report_);
   updateVentureValuations(game_);
   drawWeeklyEventCount(game_, events_);
   const double cashBeforeExits = state().totalCashAvailable;
   resolveVentureExits(game_);
-  exits_ = state().totalCashAvailable - cashBeforeExits;
+  report_.exits = state().totalCashAvailable - cashBeforeExits;
   updateEmployeesWeekly(game_);
   updateSignedArtistsWeekly(game_);
+  rememberReport(game_, report_);
+  tellWeek();
+  return {};
+}
+
+/// After a launch: nothing is settled and nothing drawn a second time, and the week's chances are gone.
+Outcome WeeklySummaryViewController::openAgain() {
+  report_ = recalledReport(game_);
+  tellWeek();
+  return {};
+}
+
+void WeeklySummaryViewController::tellWeek() {
   awardShow_ = showAwardButton(state());
   milestones_ = milestonesSince(game_.turn.before, state(), report_.week);
   news_ = newsOf(game_);
   story_ = weekStory(game_, report_);
-  return {};
 }
 
 Outcome WeeklySummaryViewController::appear() {
-  if (hasAppeared_) return {};
-  hasAppeared_ = true;
+  if (report_.hasAppeared) return {};
+  report_.hasAppeared = true;
   Outcome outcome = offerEnergyForRating();
   const double cash = state().totalCashAvailable;
   outcome += checkContractDeadlines(game_);
   report_.bonusPaidBack = cash - state().totalCashAvailable;
   const double cashWithPartner = state().totalCashAvailable;
   outcome += runRelationshipEvents(game_);
-  settlement_ = cashWithPartner - state().totalCashAvailable;
+  report_.settlement = cashWithPartner - state().totalCashAvailable;
+  rememberReport(game_, report_);
   news_ = newsOf(game_);  // who has left, and who was born, came with the last step
   return outcome;
 }
@@ -289,6 +304,7 @@ Outcome WeeklySummaryViewController::answerRatingOffer(int64_t answer) {
 
 Outcome WeeklySummaryViewController::closeButton() {
   Outcome outcome = weeklyChildUpdate(game_);
+  forgetReport(game_);
   outcome += closeScreen();
   return outcome;
 }
@@ -405,10 +421,11 @@ View WeeklySummaryViewController::view() const {
   } else {
     view.add(Text{.text = story_, .style = Text::Style::lead});
   }
-  Figures income = incomeOf(report_, exits_);
-  Figures expenses = expensesOf(report_, settlement_);
+  Figures income = incomeOf(report_);
+  Figures expenses = expensesOf(report_);
   const double net = income.total->amount + expenses.total->amount;
-  const double cashAfter = cashBefore_ + report_.totalRevenue + exits_ - costOf(report_) - settlement_;
+  const double cashAfter =
+      report_.cashBefore + report_.totalRevenue + report_.exits - costOf(report_) - report_.settlement;
   const int64_t change = game_.launch.weeklyFanChange;
   const std::string ofNet =
       report_.weeklyTourSales.empty() ? "cash " + currency(cashAfter) : "show " + currency(report_.tour);
