@@ -65,6 +65,7 @@ constexpr NamedBounds boundsOfFields[] = {
     {"followers", {0, 1e11}},  // of a child, who may become the artist
     {"totalEnergyMax", {-1e8, 1e8}},
     {"netWorth", {-9e15, 9e15}},
+    {"figure", {-1e18, 1e18}},  // cash among them
 };
 
 template <size_t count>

@@ -19,6 +19,7 @@
 #include "core/records/music.h"
 #include "core/records/packs.h"
 #include "core/records/recognition.h"
+#include "core/records/report.h"
 #include "core/records/social.h"
 #include "core/records/wealth.h"
 #include "core/store.h"
@@ -261,6 +262,7 @@ struct GameState {
   RecordList<AwardYear> awardYear{edited};  ///< one, or none before the first nominations
   RecordList<PackWeek> packWeeks{edited};   ///< one of each free pack that was taken
   RecordList<CreditedPurchase> creditedPurchases{growing};
+  RecordList<ReportNumber> openReport{growing};  ///< none while no report is open
 
   friend bool operator==(const GameState&, const GameState&) = default;
 };
@@ -500,7 +502,8 @@ inline constexpr auto fieldsOf<GameState> = [](auto&& take) {
       SavedList{"AllFeaturedArtists", &GameState::AllFeaturedArtists, Lifetime::player},
       SavedList{"AllCelebrityCameos", &GameState::AllCelebrityCameos, Lifetime::player},
       SavedList{"awardYear", &GameState::awardYear}, SavedList{"packWeeks", &GameState::packWeeks, Lifetime::family},
-      SavedList{deviceKey, &GameState::creditedPurchases, Lifetime::device});
+      SavedList{deviceKey, &GameState::creditedPurchases, Lifetime::device},
+      SavedList{"openReport", &GameState::openReport});
 };
 
 /// A list of a state, whatever it holds, and the key under which it is stored.

@@ -1,5 +1,6 @@
 // What a week meant, told by the rooms for its report: first times, best times, and what is over. Nothing of it is
-// kept: it follows from the state and from how the career stood before the turn (`Turn::before`).
+// kept: it follows from the state and from how the career stood before the turn (`Turn::before`), which an open report
+// remembers over a launch.
 #pragma once
 
 #include <cstdint>

@@ -107,6 +107,7 @@ struct RowAction {
 /// One line of a grouped list. Pressable when it has an id.
 struct Row {
   Picture picture = {};
+  std::vector<Picture> fan = {};  ///< of a row that is about several: what looks out behind the picture, two at most
   std::string title = {};
   std::string subtitle = {};
   std::string value = {};  ///< at the right, prominent

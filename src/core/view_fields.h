@@ -87,11 +87,11 @@ inline constexpr auto viewFields<RowAction> = std::to_array({viewField("id", &Ro
                                                              viewField("tone", &RowAction::tone)});
 template <>
 inline constexpr auto viewFields<Row> = std::to_array(
-    {viewField("picture", &Row::picture), viewField("title", &Row::title), viewField("subtitle", &Row::subtitle),
-     viewField("value", &Row::value), viewField("note", &Row::note), viewField("tone", &Row::tone),
-     viewField("badge", &Row::badge), viewField("price", &Row::price), viewField("share", &Row::share),
-     viewField("selected", &Row::selected), viewField("opens", &Row::opens), viewField("id", &Row::id),
-     viewField("actions", &Row::actions), viewField("points", &Row::points)});
+    {viewField("picture", &Row::picture), viewField("fan", &Row::fan), viewField("title", &Row::title),
+     viewField("subtitle", &Row::subtitle), viewField("value", &Row::value), viewField("note", &Row::note),
+     viewField("tone", &Row::tone), viewField("badge", &Row::badge), viewField("price", &Row::price),
+     viewField("share", &Row::share), viewField("selected", &Row::selected), viewField("opens", &Row::opens),
+     viewField("id", &Row::id), viewField("actions", &Row::actions), viewField("points", &Row::points)});
 template <>
 inline constexpr auto viewFields<Rows> = std::to_array(
     {viewField("items", &Rows::items), viewField("id", &Rows::id), viewField("total", &Rows::total),

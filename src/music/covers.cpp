@@ -8,6 +8,8 @@ namespace backbeat {
 
 namespace {
 
+constexpr size_t mostInFan = 2;
+
 /// Empty when the album has no cover of its own.
 Picture chosenCover(const GameState& state, int64_t albumId) {
   const RecordList<AlbumCover>& covers = state.saveAllAlbumCovers;
@@ -35,6 +37,23 @@ Picture coverOf(const GameState& state, const Song& song) { return coverFor(stat
 Picture coverOfSong(const GameState& state, int64_t songId, const std::string& title) {
   const auto found = state.saveAllSongList.historyOf(songId);
   return found.empty() ? cover(title) : coverOf(state, state.saveAllSongList[found.front()]);
+}
+
+void fanOutCovers(Row& row, const GameState& state, std::span<const int64_t> songIds) {
+  std::vector<Picture> covers;
+  for (const int64_t songId : songIds) {
+    const auto found = state.saveAllSongList.historyOf(songId);
+    if (found.empty()) continue;
+    Picture sleeve = coverOf(state, state.saveAllSongList[found.front()]);
+    const bool isKnown = std::any_of(covers.begin(), covers.end(), [&](const Picture& other) {
+      return other.kind == sleeve.kind && other.name == sleeve.name;
+    });
+    if (!isKnown) covers.push_back(std::move(sleeve));
+    if (covers.size() > mostInFan) break;
+  }
+  if (covers.empty()) return;
+  row.picture = covers.front();
+  row.fan.assign(covers.begin() + 1, covers.end());
 }
 
 Picture stillOf(const GameState& state, const MusicVideo& video) {

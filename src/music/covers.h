@@ -1,6 +1,8 @@
 // Which picture a song, an album or a video wears, wherever it appears.
 #pragma once
 
+#include <span>
+
 #include "core/game_state.h"
 #include "core/view.h"
 
@@ -18,6 +20,10 @@ Picture coverOf(const GameState& state, const Song& song);
 
 /// The same by id, for records that outlive their song.
 Picture coverOfSong(const GameState& state, int64_t songId, const std::string& title);
+
+/// Gives a row that is about several songs their covers, as many different ones as it has room for. Songs that are gone
+/// have none.
+void fanOutCovers(Row& row, const GameState& state, std::span<const int64_t> songIds);
 
 /// A frame of a video: by its style, in the colours of the song's sleeve, with the artist in it, as its director sees
 /// it. The second is one of a video that is not shot yet; `style` is the index of one.

@@ -8,8 +8,15 @@
 #include "recognition/achievement_grant.h"
 #include "shell/feedback.h"
 #include "shell/packs.h"
+#include "turn/open_report.h"
 
 namespace backbeat {
+
+namespace {
+
+constexpr std::string_view reportSegue = "goToWeeklySummary";
+
+}  // namespace
 
 Navigator::Navigator(Game& game) : game_(game) {}
 Navigator::~Navigator() = default;
@@ -41,6 +48,7 @@ void Navigator::tell(std::string_view what, const std::vector<std::string>& keys
 
 void Navigator::openFirstScreens() {
   open(stacks_[homeTab], tabs()[homeTab].root, "");
+  if (isReportOpen(game_.state)) open(modals_, *segueNamed(reportSegue), "");
   selectTab(game_.state.promptToEnterName >= 1 ? homeTab : musicTab);
 }
 
@@ -136,7 +144,7 @@ void Navigator::closeToRoot(std::vector<Open>& stack) {
 
 void Navigator::closeTop() {
   std::vector<Open>& stack = stackOfTop();
-  const bool report = stack.back().segue->name == "goToWeeklySummary";
+  const bool report = stack.back().segue->name == reportSegue;
   stack.pop_back();
   if (report) return selectTab(homeTab);
   appear();
@@ -145,7 +153,7 @@ void Navigator::closeTop() {
 void Navigator::endTheWeek() {
   for (std::vector<Open>& stack : stacks_) closeToRoot(stack);
   runWeekCycle(
-      game_, [this] { open(modals_, *segueNamed("goToWeeklySummary"), ""); }, turnObserver_);
+      game_, [this] { open(modals_, *segueNamed(reportSegue), ""); }, turnObserver_);
   appear();
 }
 

@@ -90,9 +90,7 @@ void settleLabel(GameState& state, WeeklyReport& report) {
 
 bool anyWeekReported(const GameState& state) { return state.weekNumberForTracking > 1; }
 
-WeeklyReport buildWeeklyReport(Game& game) {
-  const GameState& state = game.state;
-  WeeklyReport report;
+void gatherRecords(const GameState& state, WeeklyReport& report) {
   report.week = reportedWeek(state);
   report.weeklyAlbumSales = gathered(state.saveAllWeeklyAlbumSales, report.week);
   report.weeklySongListens = gathered(state.saveAllWeeklySongListens, report.week);
@@ -102,10 +100,15 @@ WeeklyReport buildWeeklyReport(Game& game) {
   report.weeklyFeaturedOnSongListens = gathered(state.saveAllFeaturedOnWeeklySongListens, report.week);
   report.weeklyMerchSales = gathered(state.saveAllMerchWeeklySales, report.week);
   report.weeklyMusicVideoViews = gathered(state.saveAllWeeklyVideoViews, report.week);
-  reviewFestival(game, report.week);
   report.festival = festivalPlayed(state, report.week);
   sortStably(report.weeklySongListens,
              [](const WeeklySongListens& a, const WeeklySongListens& b) { return a.songListens > b.songListens; });
+}
+
+WeeklyReport buildWeeklyReport(Game& game) {
+  WeeklyReport report;
+  reviewFestival(game, reportedWeek(game.state));
+  gatherRecords(game.state, report);
   chirpAboutShow(game, report);
   return report;
 }

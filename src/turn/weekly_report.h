@@ -42,13 +42,21 @@ struct WeeklyReport {
   double totalRevenue = 0;
   double totalExpenses = 0;  ///< of the settlement, without what was paid back
   int64_t merchUnits = 0;
+
+  // What happened around the settlement.
+  double cashBefore = 0;     ///< dollars
+  double exits = 0;          ///< what startups paid when they were sold or listed, in dollars
+  double settlement = 0;     ///< what a divorce took, in dollars
+  bool hasAppeared = false;  ///< the chain of the first appearance has run
 };
 
 /// False in the very first week of a family, which has no week before it to tell of.
 bool anyWeekReported(const GameState& state);
 
-/// Gathers the records of the reported week, with what the papers write about its festival, and tells the feed of its
-/// show.
+/// Gathers the records of the reported week.
+void gatherRecords(const GameState& state, WeeklyReport& report);
+
+/// The same, with what the papers write about its festival, and tells the feed of its show.
 WeeklyReport buildWeeklyReport(Game& game);
 
 /// Moves the week's net into the cash, which may fall below 0, and the label's costs into their total. Nothing can

@@ -60,6 +60,7 @@ void addLists(View& view) {
       Tiles{{{.icon = "bolt", .label = "Energy", .value = "73", .note = "of 104", .tone = Tone::fair, .id = "energy"},
              {.icon = "gift", .label = "Give a present", .id = "gift", .price = dear}}});
   Row everything = {.picture = person("Ada Brandt"),
+                    .fan = {cover("Tide"), cover("Paper Lanterns")},
                     .title = "Ada Brandt",
                     .subtitle = "Producer · Berlin",
                     .value = "$1,200",

@@ -40,11 +40,11 @@ Row setListRow(const GameState& state, const std::vector<int64_t>& setList) {
   Row row = wayTo("goToChooseSetList", "note", "Set list", "Nothing chosen yet", setListCount(setList));
   if (setList.empty()) return row;
   row.subtitle.clear();
+  fanOutCovers(row, state, setList);
   size_t named = 0;
   for (size_t i = 0; i < setList.size() && named < 2; ++i) {
     const Song* song = releasedSongOf(state, setList[i]);
     if (!song) continue;
-    if (named == 0) row.picture = coverOf(state, *song);
     row.subtitle += (named++ == 0 ? "" : ", ") + song->title;
   }
   if (setList.size() > named) row.subtitle += " and " + std::to_string(setList.size() - named) + " more";

@@ -3,6 +3,7 @@
 #include "core/money.h"
 #include "core/view_words.h"
 #include "merch/products.h"
+#include "music/covers.h"
 
 namespace backbeat {
 
@@ -26,6 +27,7 @@ Row songListRow(const GameState& state, const std::vector<int64_t>& songIds) {
                   std::to_string(songs.size()) + " of " + std::to_string(mostSongsOnMerch),
                   withDecimals(rating / static_cast<double>(songs.size()), 1));
   row.note = "mean rating";
+  fanOutCovers(row, state, songIds);
   return row;
 }
 

@@ -20,16 +20,25 @@ namespace {
 constexpr unsigned mostSeconds = 60;
 constexpr int mostAlerts = 200;  // more than a launch ever has to say
 
+void answerAll(Session& session, Date now) {
+  Shown shown = session.shown();
+  for (int answered = 0; shown.alert && answered < mostAlerts; ++answered, shown = session.shown()) {
+    session.press(now, "alert", {std::to_string(shown.alert->key), "0"});
+  }
+}
+
 /// False when the week does not end.
 bool play(std::span<const Write> rows, Trial trial, Date now) {
   MemoryStore store;
   store.replaceAll(rows);
   QuietPlatform platform;
   Session session(store, platform, 1, now);
-  Shown shown = session.shown();
-  if (trial == Trial::launch) return true;
-  for (int answered = 0; shown.alert && answered < mostAlerts; ++answered, shown = session.shown()) {
-    session.press(now, "alert", {std::to_string(shown.alert->key), "0"});
+  if (const Shown shown = session.shown(); trial == Trial::launch) return true;
+  answerAll(session, now);
+  // A report that was still open covers the tabs.
+  if (const Shown shown = session.shown(); shown.modal && shown.view.mainAction) {
+    session.press(now, std::to_string(shown.key), {shown.view.mainAction->id, ""});
+    answerAll(session, now);
   }
   const int64_t week = session.game().state.weekNumberForTracking;
   session.press(now, "nav", {"endTheWeekButton", ""});

@@ -24,6 +24,7 @@
 #include "music/covers.h"
 #include "recognition/year_in_review.h"
 #include "social/screens/chirp_post.h"
+#include "turn/open_report.h"
 #include "turn/screens/money_figures.h"
 #include "turn/week_story.h"
 #include "wealth/screens/venture_report.h"
@@ -68,14 +69,14 @@ Figures incomeOf(const WeeklyReport& report) {
 
 double costOf(const WeeklyReport& report) { return report.totalExpenses + report.bonusPaidBack; }
 
-Figures expensesOf(const WeeklyReport& report, double settlement) {
+Figures expensesOf(const WeeklyReport& report) {
   Figures expenses{.title = "Cost"};
   addExpense(expenses, "Standing expenses", report.standingExpenses);
   addExpense(expenses, "Family", report.family);
   addExpense(expenses, "Touring", std::max(-report.tour, 0.0));
   addExpense(expenses, "Office", report.labelExpenses);
   addExpense(expenses, "Signing bonus paid back", report.bonusPaidBack);
-  addExpense(expenses, "Divorce", settlement);
+  addExpense(expenses, "Divorce", report.settlement);
   expenses.total = totalOf("Total cost", expenses.items);
   return expenses;
 }
@@ -214,33 +215,48 @@ Rows showsOf(const WeeklyReport& report) {
 }  // namespace
 
 Outcome WeeklySummaryViewController::open() {
-  cashBefore_ = state().totalCashAvailable;
+  if (isReportOpen(state())) return openAgain();
+  const double cash = state().totalCashAvailable;
   report_ = buildWeeklyReport(game_);
+  report_.cashBefore = cash;
   settleWeeklyCash(game_, report_);
   updateVentureValuations(game_);
   drawWeeklyEventCount(game_, events_);
   const double cashBeforeExits = state().totalCashAvailable;
   resolveVentureExits(game_);
-  exits_ = state().totalCashAvailable - cashBeforeExits;
+  report_.exits = state().totalCashAvailable - cashBeforeExits;
   updateEmployeesWeekly(game_);
   updateSignedArtistsWeekly(game_);
+  rememberReport(game_, report_);
+  tellWeek();
+  return {};
+}
+
+/// After a launch: nothing is settled and nothing drawn a second time, and the week's chances are gone.
+Outcome WeeklySummaryViewController::openAgain() {
+  report_ = recalledReport(game_);
+  tellWeek();
+  return {};
+}
+
+void WeeklySummaryViewController::tellWeek() {
   awardShow_ = showAwardButton(state());
   milestones_ = milestonesSince(game_.turn.before, state(), report_.week);
   news_ = newsOf(game_);
   story_ = weekStory(game_, report_);
-  return {};
 }
 
 Outcome WeeklySummaryViewController::appear() {
-  if (hasAppeared_) return {};
-  hasAppeared_ = true;
+  if (report_.hasAppeared) return {};
+  report_.hasAppeared = true;
   Outcome outcome = offerEnergyForRating();
   const double cash = state().totalCashAvailable;
   outcome += checkContractDeadlines(game_);
   report_.bonusPaidBack = cash - state().totalCashAvailable;
   const double cashWithPartner = state().totalCashAvailable;
   outcome += runRelationshipEvents(game_);
-  settlement_ = cashWithPartner - state().totalCashAvailable;
+  report_.settlement = cashWithPartner - state().totalCashAvailable;
+  rememberReport(game_, report_);
   news_ = newsOf(game_);  // who has left, and who was born, came with the last step
   return outcome;
 }
@@ -290,6 +306,7 @@ Outcome WeeklySummaryViewController::answerRatingOffer(int64_t answer) {
 
 Outcome WeeklySummaryViewController::closeButton() {
   Outcome outcome = weeklyChildUpdate(game_);
+  forgetReport(game_);
   outcome += closeScreen();
   return outcome;
 }
@@ -409,9 +426,10 @@ View WeeklySummaryViewController::view() const {
     view.add(Text{.text = story_, .style = Text::Style::lead});
   }
   Figures income = incomeOf(report_);
-  Figures expenses = expensesOf(report_, settlement_);
-  const double net = std::nearbyint(report_.totalRevenue) + std::nearbyint(exits_) + expenses.total->amount;
-  const double cashAfter = cashBefore_ + report_.totalRevenue + exits_ - costOf(report_) - settlement_;
+  Figures expenses = expensesOf(report_);
+  const double net = std::nearbyint(report_.totalRevenue) + std::nearbyint(report_.exits) + expenses.total->amount;
+  const double cashAfter =
+      report_.cashBefore + report_.totalRevenue + report_.exits - costOf(report_) - report_.settlement;
   const int64_t change = game_.launch.weeklyFanChange;
   const std::string ofNet =
       report_.weeklyTourSales.empty() ? "cash " + currency(cashAfter) : "show " + currency(report_.tour);
@@ -428,7 +446,8 @@ View WeeklySummaryViewController::view() const {
   describeMusic(view);
   describeNews(view);
   view.add(std::move(income));
-  if (exits_ != 0) view.add(Figures{.items = {dollars("Startups", exits_, Tone::good, "paid after the settlement")}});
+  if (report_.exits != 0)
+    view.add(Figures{.items = {dollars("Startups", report_.exits, Tone::good, "paid after the settlement")}});
   view.add(std::move(expenses));
   describeEvents(view);
   view.mainAction = Button{.id = "closeButton", .label = "Continue", .style = Button::Style::primary};

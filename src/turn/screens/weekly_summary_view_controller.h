@@ -15,7 +15,7 @@ class WeeklySummaryViewController final : public Screen {
   using Screen::Screen;
 
   /// The opening chain, one step that nothing interrupts: gather, settle, valuations, events, exits, staff and artists,
-  /// awards.
+  /// awards. A report that was open when the last launch ended is told again, as it was, without its chances.
   Outcome open() override;
   /// The chain of the first appearance, which runs exactly once: the rating offer, the contract's deadline, the
   /// relationship.
@@ -40,6 +40,8 @@ class WeeklySummaryViewController final : public Screen {
   const WeeklyReport& report() const { return report_; }
 
  private:
+  Outcome openAgain();
+  void tellWeek();
   bool ratingOfferStands() const;
   void describeAwards(View& view) const;
   void describeYear(View& view) const;
@@ -50,14 +52,10 @@ class WeeklySummaryViewController final : public Screen {
 
   WeeklyReport report_;
   std::vector<Milestone> milestones_;  // greatest first
-  std::vector<News> news_;             // as it stood when the report opened
+  std::vector<News> news_;             // as it stood when the report appeared
   std::string story_;                  // for a week without a headline
   WeeklyEvents events_;
   AwardShow awardShow_ = AwardShow::none;
-  double cashBefore_ = 0;
-  double exits_ = 0;       // what startups paid in this report, in dollars
-  double settlement_ = 0;  // what a divorce in this report took, in dollars
-  bool hasAppeared_ = false;
 };
 
 }  // namespace backbeat

@@ -25,3 +25,9 @@ export function takeOff(): () => void {
 export function landed(): Promise<void> {
   return onItsWay;
 }
+
+/** The frame after that one, which has enough to do with putting away what lay beneath. */
+export async function cameToRest(): Promise<void> {
+  await landed();
+  for (let frames = 0; frames < 2; frames += 1) await new Promise(requestAnimationFrame);
+}

@@ -90,6 +90,7 @@ export interface RowAction {
 
 export interface Row {
   picture?: Picture;
+  fan?: Picture[];
   title?: string;
   subtitle?: string;
   value?: string;

@@ -12,8 +12,16 @@ export function trialProblem(engine: Engine, batch: Row[], now: number, onStep: 
     onStep(1);
     engine.hold(batch.filter((row): row is StoredRow => row.value !== null && !isOrder(row)));
     let { answer } = engine.start("1", now);
-    for (let answered = 0; answer.alert && answered < mostAlerts; answered += 1) {
-      ({ answer } = engine.act(now, "alert", String(answer.alert.key), "0"));
+    const answerAll = (): void => {
+      for (let answered = 0; answer.alert && answered < mostAlerts; answered += 1) {
+        ({ answer } = engine.act(now, "alert", String(answer.alert.key), "0"));
+      }
+    };
+    answerAll();
+    const { modal, view } = answer;
+    if (modal && view.mainAction) {
+      ({ answer } = engine.act(now, view.key, view.mainAction.id, "")); // a report that was still open
+      answerAll();
     }
     onStep(2);
     ({ answer } = engine.act(now, "nav", "endTheWeekButton", ""));

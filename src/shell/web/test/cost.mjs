@@ -6,6 +6,7 @@ export async function countCosts(browser, page) {
   const tracer = await browser.newBrowserCDPSession();
   const events = [];
   const names = [];
+  const moments = [];
   tracer.on("Tracing.dataCollected", ({ value }) => events.push(...value));
   await tracer.send("Tracing.start", {
     transferMode: "ReportEvents",
@@ -18,6 +19,17 @@ export async function countCosts(browser, page) {
     await page.evaluate(pressAndPaint, [names.length - 1, String(act), values]);
   }
 
+  /** A press that something moves after, for `ms`: its cost is that of the longest task in that time. */
+  async function moment(name, ms, act, ...values) {
+    const number = names.length;
+    await press(name, act, ...values);
+    moments.push(number);
+    await page.evaluate(
+      ([number, ms]) => new Promise((done) => setTimeout(() => done(performance.mark(`still ${number}`)), ms)),
+      [number, ms],
+    );
+  }
+
   /** The costs of the presses of each name. */
   async function end() {
     const complete = new Promise((done) => tracer.once("Tracing.tracingComplete", done));
@@ -25,11 +37,14 @@ export async function countCosts(browser, page) {
     await complete;
     await tracer.detach();
     const costs = {};
-    for (const [i, name] of names.entries()) (costs[name] ??= []).push(mainThreadTime(events, i));
+    for (const [i, name] of names.entries()) {
+      const cost = moments.includes(i) ? longestTask(events, i) : mainThreadTime(events, i);
+      (costs[name] ??= []).push(cost);
+    }
     return costs;
   }
 
-  return { press, end };
+  return { press, moment, end };
 }
 
 async function pressAndPaint([number, act, values]) {
@@ -48,21 +63,30 @@ async function pressAndPaint([number, act, values]) {
   await new Promise((idle) => requestIdleCallback(idle));
 }
 
-function mainThreadTime(events, number) {
-  const mark = (name) => events.find((event) => event.name === name && event.cat.includes("blink.user_timing"));
-  const [press, painted] = [mark(`press ${number}`), mark(`painted ${number}`)];
+const markOf = (events, name) => events.find((event) => event.name === name && event.cat.includes("blink.user_timing"));
+
+/** The processor times of the main thread's tasks between two marks, in milliseconds. */
+function tasksBetween(events, from, to) {
+  const [begin, end] = [markOf(events, from), markOf(events, to)];
   const tasks = events.filter(
     ({ name, ph, pid, tid, ts, dur, tdur }) =>
       name.endsWith("RunTask") &&
       ph === "X" &&
       tdur !== undefined &&
-      pid === press.pid &&
-      tid === press.tid &&
-      ts + dur >= press.ts &&
-      ts <= painted.ts,
+      pid === begin.pid &&
+      tid === begin.tid &&
+      ts + dur >= begin.ts &&
+      ts <= end.ts,
   );
-  return tasks.reduce((sum, { tdur }) => sum + tdur, 0) / 1000;
+  return tasks.map(({ tdur }) => tdur / 1000);
 }
+
+const mainThreadTime = (events, number) =>
+  tasksBetween(events, `press ${number}`, `painted ${number}`).reduce((sum, ms) => sum + ms, 0);
+
+/** A frame is one task. The one that ends with the mark belongs to the press. */
+const longestTask = (events, number) =>
+  Math.max(...tasksBetween(events, `painted ${number}`, `still ${number}`).slice(1));
 
 /**
  * How long presses take from the finger to the frame that shows their result, in milliseconds as the browser itself tells

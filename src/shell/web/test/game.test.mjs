@@ -42,6 +42,26 @@ describe("the whole game", { skip: !existsSync(engine) && "the engine is not bui
     await context.close();
   });
 
+  test("a report that is open at a reload is told again", async () => {
+    const { page, context, faults } = await open();
+    await start(page);
+    await press(page, /^Home/);
+    await press(page, "END THE WEEK");
+    await title(page, "Week 1");
+    // The week's chances go with the launch.
+    const told = async () => (await page.locator(".layer.modal").innerText()).split(/^Chances/m)[0];
+    const before = await told();
+    await page.reload();
+    await title(page, "Week 1");
+    assert.equal(await told(), before);
+    await press(page, "Continue");
+    await title(page, "Nova Reyes");
+    await page.reload();
+    await title(page, "Nova Reyes");
+    assert.deepEqual(faults, []);
+    await context.close();
+  });
+
   test("a second tab is told, and takes over only when asked to", async () => {
     const { page, context, faults } = await open();
     await start(page);

@@ -1,6 +1,6 @@
 import { html, LitElement, type TemplateResult } from "lit";
 import { drawsOf, pick } from "../pictures/chance";
-import { landed, prefersStillness, tap } from "../motion";
+import { cameToRest, prefersStillness, tap } from "../motion";
 
 const pieces = 46;
 const fallMs = 1400;
@@ -36,7 +36,7 @@ class ConfettiElement extends LitElement {
   protected override firstUpdated(): void {
     if (prefersStillness()) return tap(20);
     this.style.visibility = "hidden";
-    void landed().then(() => this.begin());
+    void cameToRest().then(() => this.isConnected && this.begin());
   }
 
   private begin(): void {

@@ -112,7 +112,7 @@ function rowBody(row: Row, underHeads: boolean, scene: Scene): TemplateResult {
         ? html`<span class="row-picture"
             >${picture(row.picture)}<span class="taken-mark">${glyph("check")}</span></span
           >`
-        : picture(row.picture)
+        : fanned(row)
     }
     <span class="row-texts">
       <span class="row-title"><span class="clip" dir="auto">${row.title}</span>${badge(row.badge)}</span>
@@ -130,6 +130,13 @@ function rowBody(row: Row, underHeads: boolean, scene: Scene): TemplateResult {
     ${row.selected ? selectedMark(taken, scene) : nothing}
     ${row.opens ? html`<span class="chevron" aria-hidden="true"></span>` : nothing}
   `;
+}
+
+/** The picture of a row, with those that look out behind it. */
+function fanned({ picture: first, fan = [] }: Row): TemplateResult | typeof nothing {
+  if (fan.length === 0) return picture(first);
+  // The last of them lies at the bottom.
+  return html`<span class="fan">${[...fan].reverse().map((each) => picture(each))}${picture(first)}</span>`;
 }
 
 /** At a gala the one that is marked has won. */

@@ -1,0 +1,23 @@
+// What of an open report would be lost with the launch: how the career stood before the week, and what the report
+// itself moved. It is kept from the opening of the report until it is closed, so that a launch in between tells it
+// again.
+#pragma once
+
+#include "core/game.h"
+#include "turn/weekly_report.h"
+
+namespace backbeat {
+
+/// Whether the report of the week that ended last was opened and not closed yet.
+bool isReportOpen(const GameState& state);
+
+/// Keeps what the report tells by; anew when it has come to tell more.
+void rememberReport(Game& game, const WeeklyReport& report);
+
+/// The report as it was kept. What the news compare stands in the turn and the launch again, as after the turn.
+WeeklyReport recalledReport(Game& game);
+
+/// The report is closed.
+void forgetReport(Game& game);
+
+}  // namespace backbeat
