@@ -187,7 +187,7 @@ void closeDoors(Player& player) {
 void choosePerks(Player& player) {
   openLabel(player);
   player.press("goToLabelBenefits");
-  for (const char* perk : worthwhilePerks) player.press(perk);
+  for (const char* perk : worthwhilePerks) player.press(perk, "1");
   player.settle();
 }
 
