@@ -103,6 +103,10 @@ void Player::endTheWeek(bool takesChances) {
   const int64_t week = state().weekNumberForTracking;
   act("nav", {"endTheWeekButton", ""});
   settle();
+  if (attendsAwards_ && tryPress("awardButton")) {
+    tryPress("allEnvelopes");  // there are none in the night of a year without nominations
+    press("doneButton");
+  }
   for (const char* chance : {"eventButton1", "eventButton2", "eventButton3"}) {
     if (!takesChances || (shareForARound_ <= 0 && isPitch(chance)) || !tryPress(chance)) continue;
     settle();

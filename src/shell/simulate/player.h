@@ -47,6 +47,8 @@ class Player {
 
   /// From now on hears pitches among the chances, and joins rounds that cost at most that share of the cash.
   void backStartups(double shareOfCash) { shareForARound_ = shareOfCash; }
+  /// From now on opens the envelopes of the awards when a report leads to them.
+  void attendAwards() { attendsAwards_ = true; }
 
   /// Has every turn tell `observer` of its steps.
   void observeTurns(StepObserver observer) { career_.session().observeTurns(std::move(observer)); }
@@ -68,6 +70,7 @@ class Player {
   TraceRecorder career_;
   std::optional<Shown> seen_;
   double shareForARound_ = 0;
+  bool attendsAwards_ = false;
   std::vector<std::string>& problems_;
 };
 
