@@ -38,7 +38,9 @@ void Player::press(const std::string& id, const std::optional<std::string>& valu
 
 bool Player::tryPress(const std::string& id, const std::optional<std::string>& value) {
   if (seen().alert || !isPressable(view(), id)) return false;
-  act(std::to_string(seen().key), {id, value.value_or("")});
+  const Toggle toggle = blockWithId<Toggle>(view(), id);
+  const char* turned = toggle.id.empty() ? "" : toggle.on ? "0" : "1";
+  act(std::to_string(seen().key), {id, value.value_or(turned)});
   return true;
 }
 
