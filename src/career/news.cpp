@@ -55,6 +55,19 @@ void addSkillNeed(const GameState& state, std::vector<Need>& needs) {
                    .segue = "goToMyMusic"});
 }
 
+void addFirstJob(const Game& game, std::vector<News>& news) {
+  if (!game.turn.tookFirstJob) return;
+  const GameState& state = game.state;
+  news.push_back({.kind = News::Kind::first,
+                  .rank = 305,
+                  .key = "job",
+                  .picture = icon("briefcase"),
+                  .kicker = "Your first job",
+                  .headline = "You work for " + currency(state.weeklyJobIncome) + " a week",
+                  .text = counted(state.weeklyJobContractRemaining, "week") + " to go, at " +
+                          std::to_string(state.weeklyEnergyCost) + " energy each"});
+}
+
 void addContractNews(const Game& game, std::vector<News>& news) {
   const size_t running = runningContract(game.state);
   if (running == game.state.saveAllContractLabelList.size()) return;
@@ -97,6 +110,7 @@ void addCareerNeeds(const Game& game, std::vector<Need>& needs) {
 
 void addCareerNews(const Game& game, std::vector<News>& news) {
   addContractNews(game, news);
+  addFirstJob(game, news);
   if (game.turn.before.jobWeeks < 1 || game.state.weeklyJobContractRemaining > 0) return;
   news.push_back(
       {.kind = News::Kind::ended,

@@ -73,6 +73,8 @@ struct Turn {
   std::vector<int64_t> songsOnCharts;    ///< rank, streams, rank, streams ... of this week
   int64_t seatsSoldOnTourForMerch = 0;
   std::vector<VentureWeek> ventures;  ///< of which the report has something to tell
+  bool madeFirstSong = false;         ///< since the last report, and never before
+  bool tookFirstJob = false;          ///< the same
 };
 
 /// The terms of a label's offer while it is on the table.

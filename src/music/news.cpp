@@ -109,6 +109,20 @@ void addRelease(const GameState& state, const Song& song, std::vector<News>& all
                  .text = "It plays for " + counted(weeks, "week") + ", one for each point of its rating"});
 }
 
+void addFirstSong(const Game& game, std::vector<News>& all) {
+  const GameState& state = game.state;
+  if (!game.turn.madeFirstSong || state.saveAllSongList.empty()) return;
+  const Song& song = *std::min_element(state.saveAllSongList.begin(), state.saveAllSongList.end(),
+                                       [](const Song& a, const Song& b) { return a.songId < b.songId; });
+  all.push_back({.kind = Kind::first,
+                 .rank = song.isReleased ? 275 : 425,  // its release is the greater news
+                 .key = "song",
+                 .picture = coverOf(state, song),
+                 .kicker = "Your first song",
+                 .headline = quoted(song.title) + " is finished",
+                 .text = song.isReleased ? "Written, recorded and out in one week" : "It waits for its release"});
+}
+
 void addReleases(const Game& game, std::vector<News>& all) {
   const GameState& state = game.state;
   const int64_t week = game.turn.before.absoluteWeek;
@@ -236,6 +250,7 @@ bool isFirstRelease(const GameState& state, const Album& album) {
 
 void addMusicNews(const Game& game, std::vector<News>& news) {
   addMilestones(game, news);
+  addFirstSong(game, news);
   addReleases(game, news);
   addStreams(game, news);
   addListeners(game, news);

@@ -5,6 +5,7 @@
 #include <type_traits>
 #include <variant>
 
+#include "core/calendar.h"
 #include "core/numbers.h"
 
 namespace backbeat {
@@ -82,11 +83,18 @@ constexpr Kept<VentureWeek> ofVenture[] = {
     {"payout", &VentureWeek::payout},
 };
 
-constexpr Kept<Turn> ofTurn[] = {{"last place", &Turn::lastPlaceChartPosition}};
+constexpr Kept<Turn> ofTurn[] = {
+    {"last place", &Turn::lastPlaceChartPosition},
+    {"first song", &Turn::madeFirstSong},
+    {"first job", &Turn::tookFirstJob},
+};
 
 constexpr Kept<Launch> ofLaunch[] = {{"listeners gained", &Launch::weeklyFanChange}, {"wedding", &Launch::weddingWeek}};
 
 constexpr std::string_view openWeek = "open";
+constexpr std::string_view closedWeek = "closed";
+constexpr std::string_view hasMadeSong = "has made a song";
+constexpr std::string_view hasWorked = "has worked";
 
 using Numbers = RecordList<ReportNumber>;
 
@@ -127,6 +135,27 @@ void recall(const ReportNumber& number, const Kept<Owner> (&table)[count], std::
   if (!owners.empty()) recall(number, table, owners.back());
 }
 
+bool isKept(const Numbers& numbers, std::string_view what) {
+  return numbers.find([&](const ReportNumber& number) { return number.what == what; }) != numbers.size();
+}
+
+/// Leaves the week, and what was done by then.
+void beginAnew(Game& game, std::string_view how) {
+  Numbers& numbers = game.state.openReport;
+  const bool songs = isKept(numbers, hasMadeSong) || !game.state.saveAllSongList.empty();
+  const bool jobs = isKept(numbers, hasWorked) || game.turn.tookFirstJob;
+  numbers.clear();
+  keep(numbers, how, game.state.weekNumberForTracking, 0);
+  if (songs) keep(numbers, hasMadeSong, 0, 1);
+  if (jobs) keep(numbers, hasWorked, 0, 1);
+}
+
+/// No week of this life has ended yet.
+bool isFirstWeek(const GameState& state) {
+  const bool hasBegun = state.weekNumberForTracking == 1 || state.ageAtTakeover == state.yearNumber;
+  return hasBegun && state.monthlyListenerData.empty();
+}
+
 }  // namespace
 
 bool isReportOpen(const GameState& state) {
@@ -137,8 +166,7 @@ bool isReportOpen(const GameState& state) {
 void rememberReport(Game& game, const WeeklyReport& report) {
   const Turn& turn = game.turn;
   Numbers& numbers = game.state.openReport;
-  numbers.clear();
-  keep(numbers, openWeek, game.state.weekNumberForTracking, 0);
+  beginAnew(game, openWeek);
   keep(numbers, ofReport, report);
   keep(numbers, ofTurn, turn);
   keep(numbers, ofLaunch, game.launch);
@@ -169,8 +197,19 @@ WeeklyReport recalledReport(Game& game) {
   return report;
 }
 
+void noteFirsts(Game& game) {
+  GameState& state = game.state;
+  Numbers& numbers = state.openReport;
+  if (numbers.empty() && !isFirstWeek(state)) {
+    keep(numbers, hasMadeSong, 0, 1);
+    keep(numbers, hasWorked, 0, 1);
+  }
+  game.turn.madeFirstSong = !isKept(numbers, hasMadeSong) && !state.saveAllSongList.empty();
+  game.turn.tookFirstJob = !isKept(numbers, hasWorked) && state.weeklyJobContractRemaining > 0;
+}
+
 void forgetReport(Game& game) {
-  game.state.openReport.clear();
+  beginAnew(game, closedWeek);
   game.save(&GameState::openReport);
 }
 

@@ -1,6 +1,6 @@
 // What of an open report would be lost with the launch: how the career stood before the week, and what the report
 // itself moved. It is kept from the opening of the report until it is closed, so that a launch in between tells it
-// again.
+// again. A closed one leaves which firsts were done by then, of those that carry no week.
 #pragma once
 
 #include "core/game.h"
@@ -16,6 +16,10 @@ void rememberReport(Game& game, const WeeklyReport& report);
 
 /// The report as it was kept. What the news compare stands in the turn and the launch again, as after the turn.
 WeeklyReport recalledReport(Game& game);
+
+/// As a turn begins: what was done since the last report and never before in this life. In a career that does not say
+/// how it stood at that report, such as one of an older version, nothing counts as the first.
+void noteFirsts(Game& game);
 
 /// The report is closed.
 void forgetReport(Game& game);

@@ -15,6 +15,7 @@
 #include "music/milestones.h"
 #include "music/silence.h"
 #include "music/streaming.h"
+#include "turn/open_report.h"
 #include "video/weekly_views.h"
 #include "wealth/real_estate_index.h"
 
@@ -38,6 +39,7 @@ void runWeekCycle(Game& game, const std::function<void()>& openReport, const Ste
   letRetiredProductsSleep(state);
   letSilentArtistsSleep(state);
   game.turn.before = milestoneSnapshot(game);
+  noteFirsts(game);
   step("album sales", simulateWeeklyAlbumSales);    // 1, first: it opens the marketing pool
   step("song streams", simulateWeeklySongStreams);  // 2, fills the chart
   step("video views", simulateWeeklyVideoViews);    // 3

@@ -1,5 +1,5 @@
-// What whole careers are told of themselves: each first time once, and none for what a career brought along. The
-// moments of the golden careers stand in golden_*_moments.txt:
+// What whole careers are told of themselves: each first time once in a life, and none for what a career brought along.
+// The moments of the golden careers stand in golden_*_moments.txt:
 //   BACKBEAT_REGOLD=1 backbeat_tests --gtest_filter='Moments*'
 #include <gtest/gtest.h>
 
@@ -20,6 +20,7 @@ namespace {
 constexpr int64_t newYear2023 = 1'672'660'800'000;  // unix milliseconds
 
 struct Moment {
+  size_t generation = 0;
   int64_t week = 0;
   News::Kind kind = News::Kind::reached;
   std::string key;
@@ -47,16 +48,20 @@ std::vector<Moment> momentsOf(const PlayedCareer& golden) {
     career.play(event);
     if (!endsWeek) continue;
     const Game& game = career.session().game();
-    for (const News& news : newsOf(game)) moments.push_back({game.turn.before.absoluteWeek, news.kind, news.key});
+    for (const News& news : newsOf(game)) {
+      moments.push_back({game.state.saveAllLegacyList.size(), game.turn.before.absoluteWeek, news.kind, news.key});
+    }
   }
   return moments;
 }
 
 std::set<std::string> firsts(const std::vector<Moment>& moments) {
   std::set<std::string> told;
+  std::set<std::pair<size_t, std::string>> inLife;
   for (const Moment& moment : moments) {
     if (moment.kind != News::Kind::first) continue;
-    EXPECT_TRUE(told.insert(moment.key).second) << moment.key << " again in week " << moment.week;
+    EXPECT_TRUE(inLife.emplace(moment.generation, moment.key).second) << moment.key << " again in week " << moment.week;
+    told.insert(moment.key);
   }
   return told;
 }
@@ -97,13 +102,22 @@ std::set<std::string> toldAfterReload(Store& store) {
 TEST(Moments, WhatWasDoneBeforeAReloadIsStillToldByTheWeek) {
   MemoryStore store;
   std::vector<std::string> problems;
-  Player player(store, newYear2023, 7, problems);
+  Player player(store, newYear2023, 1, problems);
   beginCareer(player);
+  lookForWork(player, 1'000);
+  player.endTheWeek(false);
   makeSong(player, {});
   MemoryStore made;
   made.rows = store.rows;
   releaseSingles(player, {});
-  EXPECT_EQ(toldAfterReload(made).count("first release"), 0u);
+  MemoryStore older;  // of a version that did not keep how the career stood
+  older.rows = made.rows;
+  std::erase_if(older.rows, [](const auto& row) { return row.first.first == "openReport"; });
+  const std::set<std::string> toldOfSong = toldAfterReload(made);
+  EXPECT_EQ(toldOfSong.count("first song"), 1u);
+  EXPECT_EQ(toldOfSong.count("first job"), 0u) << "that was last week's";
+  EXPECT_EQ(toldOfSong.count("first release"), 0u);
+  EXPECT_EQ(toldAfterReload(older).count("first song"), 0u);
   EXPECT_EQ(toldAfterReload(store).count("first release"), 1u);
   EXPECT_EQ(problems, std::vector<std::string>{});
 }
