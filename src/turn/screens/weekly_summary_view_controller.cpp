@@ -415,7 +415,7 @@ View WeeklySummaryViewController::view() const {
   const int64_t change = game_.launch.weeklyFanChange;
   const std::string ofNet =
       report_.weeklyTourSales.empty() ? "cash " + currency(cashAfter) : "show " + currency(report_.tour);
-  view.add(Figures{.items = {dollars("Net", net, toneOfAmount(net), ofNet),
+  view.add(Figures{.items = {dollars("Net", net, toneOfChange(net), ofNet),
                              {.label = "Listeners",
                               .value = (change > 0 ? "+" : "") + withCommas(change) + " FANS",
                               .amount = static_cast<double>(change),
