@@ -177,9 +177,10 @@ void addStreams(const Game& game, std::vector<News>& all) {
                    .picture = icon("headphones"),
                    .kicker = "Your first streams",
                    .headline = "Somebody pressed play",
-                   .text = "Your first " + counted(streams, "stream")});
+                   .text = "Your first " + (streams == 1 ? "stream" : counted(streams, "stream"))});
   }
-  if (before.streamWeeks.count >= weeksToBeat && streams > bestStreams && historyIsWhole(game.state)) {
+  if (before.streamWeeks.count >= weeksToBeat && bestStreams > 0 && streams > bestStreams &&
+      historyIsWhole(game.state)) {
     all.push_back({.kind = Kind::best,
                    .rank = 200,
                    .key = "best week",

@@ -228,7 +228,8 @@ std::string whilePlaying(const GameState& state, const WeeklyReport& report, con
   if (!facts.offChart.empty())
     return quoted(facts.offChart) + " has left the chart, with " + streams + " for all your songs.";
   if (facts.silencedNow > 0)
-    return "One voice fewer: " + counted(facts.songsPlaying, "song") + " of yours still play, for " + streams + ".";
+    return "One voice fewer: " + counted(facts.songsPlaying, "song") + " of yours still " +
+           (facts.songsPlaying == 1 ? "plays" : "play") + ", for " + streams + ".";
   if (facts.onChart) {
     const std::string song = quoted(facts.onChart->title);
     return inTurn(

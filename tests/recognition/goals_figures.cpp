@@ -99,7 +99,7 @@ Standings statisticsFigures(Game& twin) {
                          {"Streams: points", pointsText(weeks)},
                          {"Earned", currency(sumOf(rows, &WeeklySongListens::totalStreamRevenue))},
                          {"Songs heard", std::to_string(songs.size())},
-                         {"Best week", std::to_string(best - weeks.begin() + 1)},
+                         {"Best week", "Week " + std::to_string(best - weeks.begin() + 1)},
                          {"Best week: note", abbreviated(*best) + " streams"},
                          {"heading", "Best of 2049"}};
   for (const auto& [id, song] : songs) {

@@ -6,6 +6,7 @@
 #include "core/money.h"
 #include "core/numbers.h"
 #include "core/sorting.h"
+#include "core/view_words.h"
 #include "music/album_sales.h"
 #include "music/certifications.h"
 #include "music/covers.h"
@@ -54,8 +55,9 @@ Row albumRow(const GameState& state, const Album& album) {
   row.subtitle = albumFormat(album) + " · " + life;
   row.value = abbreviated(static_cast<double>(album.albumsSold));
   if (life != outOfPrint) {
-    row.note = "+" + abbreviated(static_cast<double>(albumFigures(state, album.albumId).latest));
-    row.tone = Tone::good;
+    const int64_t latest = albumFigures(state, album.albumId).latest;
+    row.note = "+" + abbreviated(static_cast<double>(latest));
+    row.tone = toneOfChange(latest);
   }
   if (const int64_t tier = albumCertificationTier(album); tier > 0) row.badge = certificationName(tier);
   return row;

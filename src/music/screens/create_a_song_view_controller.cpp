@@ -20,24 +20,28 @@ constexpr std::array<const char*, 3> choiceIds = {"writing", "musicality", "stud
 constexpr std::array<const char*, 3> choiceLabels = {"Songwriting", "Musicality", "Studio"};
 
 constexpr int64_t weak = 25;
+constexpr int64_t solid = 50;
 
-/// Weak is red only for whom something better is within reach.
-Tone toneOfRating(int64_t rating, bool betterInReach) {
-  if (rating < weak) return betterInReach ? Tone::bad : Tone::plain;
-  if (rating < 50) return Tone::warning;
+/// Weak is red, and middling a warning, only for whom something better is within reach.
+Tone toneOfRating(int64_t rating, int64_t bestInReach) {
+  if (rating < weak) return bestInReach >= weak ? Tone::bad : Tone::plain;
+  if (rating < solid) return bestInReach >= solid ? Tone::warning : Tone::plain;
   if (rating < 80) return Tone::plain;
   return Tone::good;
 }
 
 Choice describe(const GameState& state, size_t list, const std::vector<ProductionOption>& options, size_t chosen) {
-  const bool betterInReach = std::any_of(options.begin(), options.end(), [&](const ProductionOption& option) {
-    return option.rating >= weak && hasCash(state, {.dollars = static_cast<double>(option.cost)});
-  });
+  int64_t bestInReach = 0;
+  for (const ProductionOption& option : options) {
+    if (hasCash(state, {.dollars = static_cast<double>(option.cost)})) {
+      bestInReach = std::max(bestInReach, option.rating);
+    }
+  }
   Choice choice{.id = choiceIds[list], .label = choiceLabels[list], .selected = static_cast<int64_t>(chosen)};
   for (const ProductionOption& option : options) {
     Option shown{.label = option.name,
                  .note = "Rating | " + std::to_string(option.rating),
-                 .tone = toneOfRating(option.rating, betterInReach)};
+                 .tone = toneOfRating(option.rating, bestInReach)};
     if (option.cost > 0) shown.price = Price{.dollars = static_cast<double>(option.cost)};
     choice.options.push_back(std::move(shown));
   }

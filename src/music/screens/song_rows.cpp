@@ -5,6 +5,7 @@
 
 #include "core/money.h"
 #include "core/numbers.h"
+#include "core/view_words.h"
 #include "music/covers.h"
 #include "music/streaming.h"
 
@@ -60,8 +61,9 @@ Row songRow(const GameState& state, const Song& song) {
     row.note = rank(song.chartRanking);
     row.tone = Tone::warning;
   } else if (remainingLife(state, song) > 0) {
-    row.note = "+" + abbreviated(static_cast<double>(latestWeeklyStreams(state, song)));
-    row.tone = Tone::good;
+    const int64_t latest = latestWeeklyStreams(state, song);
+    row.note = "+" + abbreviated(static_cast<double>(latest));
+    row.tone = toneOfChange(latest);
   }
   return row;
 }

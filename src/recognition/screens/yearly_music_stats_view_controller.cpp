@@ -128,7 +128,7 @@ void YearlyMusicStatsViewController::describeSums(View& view) const {
                 .value = withCommas(static_cast<int64_t>(now_.works.size()))},
                {.icon = "calendar",
                 .label = "Best week",
-                .value = *best > 0 ? std::to_string(std::distance(now_.weeks.begin(), best) + 1) : "–",
+                .value = *best > 0 ? "Week " + std::to_string(std::distance(now_.weeks.begin(), best) + 1) : "–",
                 .note = *best > 0 ? abbreviated(static_cast<double>(*best)) + " " + words.amounts : ""}}};
   if (kind_ == YearKind::tours) {
     tiles.items[1] = {.icon = "ticket",

@@ -64,7 +64,7 @@ View BalanceSheetViewController::view() const {
   const double net = statement.income() - statement.expenses();
   view.subtitle = "Week " + std::to_string(week.week) + ", " + std::to_string(week.year);
   view.add(Figures{
-      .items = {dollars("Net", net, toneOfAmount(net), "Music, shows and label less standing costs; no job pay")},
+      .items = {dollars("Net", net, toneOfChange(net), "Music, shows and label less standing costs; no job pay")},
       .style = Figures::Style::large});
   view.add(incomeOf(statement));
   view.add(labelIncomeOf(state(), statement));

@@ -2,6 +2,7 @@
 
 #include "core/menu.h"
 #include "core/money.h"
+#include "core/view_words.h"
 #include "turn/screens/money_figures.h"
 #include "turn/weekly_report.h"
 
@@ -19,7 +20,7 @@ View FinancialViewController::view() const {
                   .subtitle = standingNetCaption(state()),
                   .value = currency(net),
                   .note = "a week",
-                  .tone = toneOfAmount(net)}}});
+                  .tone = toneOfChange(net)}}});
   addMenu(view, game_, businessTab);
   return view;
 }

@@ -38,8 +38,6 @@ Figure totalOf(std::string label, const std::vector<Figure>& lines) {
   return dollars(std::move(label), sum, Tone::plain);
 }
 
-Tone toneOfAmount(double amount) { return amount < 0 ? Tone::bad : Tone::good; }
-
 void describeNetWorth(View& view, const GameState& state) {
   const double totalNetWorth = netAssets(state);
   const Tone tone = totalNetWorth < 0 ? Tone::bad : Tone::plain;

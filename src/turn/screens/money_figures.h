@@ -15,9 +15,6 @@ Figure dollars(std::string label, double amount, Tone tone, std::string note = {
 /// The sum of the lines as they are shown, to the dollar.
 Figure totalOf(std::string label, const std::vector<Figure>& lines);
 
-/// Good from 0 up, bad below.
-Tone toneOfAmount(double amount);
-
 /// What everything is worth together, and the share of cash, homes, startups and vehicles.
 void describeNetWorth(View& view, const GameState& state);
 

@@ -134,7 +134,7 @@ void ViewController::describeWeek(View& view) const {
                   .title = "Standing net",
                   .subtitle = needsWork ? "Without a job" : standingNetCaption(state()),
                   .value = currency(net),
-                  .tone = toneOfAmount(net)}}});
+                  .tone = toneOfChange(net)}}});
   if (inFirstWeeks(state())) view.add(hint("Energy comes back each week. What is left over is gone, so spend it."));
 }
 

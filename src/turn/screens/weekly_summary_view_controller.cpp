@@ -359,7 +359,7 @@ void WeeklySummaryViewController::describeEvents(View& view) const {
     if (isNew) {
       view.add(eventCard(state(), events_, *button, press));
     } else if (Card* card = std::get_if<Card>(&view.blocks[known->second])) {
-      card->badge = card->badge.empty() ? "Two of them" : "Three of them";
+      card->badge = card->badge.empty() ? "Twice" : "Three times";
     }
   }
 }
@@ -433,7 +433,7 @@ View WeeklySummaryViewController::view() const {
   const int64_t change = game_.launch.weeklyFanChange;
   const std::string ofNet =
       report_.weeklyTourSales.empty() ? "cash " + currency(cashAfter) : "show " + currency(report_.tour);
-  view.add(Figures{.items = {dollars("Net", net, toneOfAmount(net), ofNet),
+  view.add(Figures{.items = {dollars("Net", net, toneOfChange(net), ofNet),
                              {.label = "Listeners",
                               .value = (change > 0 ? "+" : "") + withCommas(change) + " FANS",
                               .amount = static_cast<double>(change),

@@ -192,7 +192,7 @@ function endDot(plot: uPlot, points: (number | null)[], colour: (name: string) =
   }
 }
 
-/** The round numbers beside the plot, from its foot upwards: three or four, and never an empty range. */
+/** The round numbers beside the plot, from its foot upwards: three or four, two between neighbours, and never an empty range. */
 function ticksOf(points: (number | null)[], bars: boolean): number[] {
   const known = points.filter((point) => point !== null);
   let low = Math.min(...known, bars ? 0 : Infinity);
@@ -204,7 +204,8 @@ function ticksOf(points: (number | null)[], bars: boolean): number[] {
   }
   const rough = (high - low) / 3;
   const power = 10 ** Math.floor(Math.log10(rough));
-  const step = [1, 2, 2.5, 5, 10].map((factor) => factor * power).find((size) => size >= rough)!;
+  const round = [1, 2, 2.5, 5, 10].map((factor) => factor * power).find((size) => size >= rough)!;
+  const step = known.every(Number.isInteger) ? Math.max(1, round) : round; // there is no half of a listener
   const first = Math.floor(low / step);
   const steps = Math.max(1, Math.floor(high / step) - first);
   return Array.from({ length: steps + 1 }, (_, i) => (first + i) * step);

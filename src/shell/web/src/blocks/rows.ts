@@ -106,11 +106,14 @@ function rowBody(row: Row, underHeads: boolean, scene: Scene): TemplateResult {
   const value = row.value ? html`<span class="row-value" dir="auto">${row.value}</span>` : nothing;
   const note = row.note ? html`<span class="row-note" dir="auto">${row.note}</span>` : nothing;
   const taken = isTaken(row) && row.selected && hasPicture(row.picture);
+  const barred = row.tone === "locked" && row.price && hasPicture(row.picture);
   return html`
     ${
-      taken
+      taken || barred
         ? html`<span class="row-picture"
-            >${picture(row.picture)}<span class="taken-mark">${glyph("check")}</span></span
+            >${picture(row.picture)}<span class=${taken ? "taken-mark" : "barred-mark"}
+              >${glyph(taken ? "check" : "lock")}</span
+            ></span
           >`
         : fanned(row)
     }
@@ -125,8 +128,7 @@ function rowBody(row: Row, underHeads: boolean, scene: Scene): TemplateResult {
         ? html`<span class="row-ends">${underHeads ? [note, value] : [value, note]}</span>`
         : nothing
     }
-    ${pricePill(row.price)}
-    ${row.tone === "locked" ? html`<span class="row-mark">${glyph("lock")}<span class="unseen">locked</span></span>` : nothing}
+    ${pricePill(row.price)} ${row.tone === "locked" ? lockedMark(barred) : nothing}
     ${row.selected ? selectedMark(taken, scene) : nothing}
     ${row.opens ? html`<span class="chevron" aria-hidden="true"></span>` : nothing}
   `;
@@ -137,6 +139,12 @@ function fanned({ picture: first, fan = [] }: Row): TemplateResult | typeof noth
   if (fan.length === 0) return picture(first);
   // The last of them lies at the bottom.
   return html`<span class="fan">${[...fan].reverse().map((each) => picture(each))}${picture(first)}</span>`;
+}
+
+/** The room beside a price is the texts': there the lock sits on the picture. */
+function lockedMark(barred: unknown): TemplateResult {
+  if (barred) return html`<span class="unseen">locked</span>`;
+  return html`<span class="row-mark">${glyph("lock")}<span class="unseen">locked</span></span>`;
 }
 
 /** At a gala the one that is marked has won. */
