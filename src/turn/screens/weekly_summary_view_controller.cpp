@@ -359,7 +359,7 @@ void WeeklySummaryViewController::describeEvents(View& view) const {
     if (isNew) {
       view.add(eventCard(state(), events_, *button, press));
     } else if (Card* card = std::get_if<Card>(&view.blocks[known->second])) {
-      card->badge = card->badge.empty() ? "Twice" : "Three times";
+      card->badge = card->badge.empty() ? "Two of them" : "Three of them";
     }
   }
 }
