@@ -177,9 +177,9 @@ void addStreams(const Game& game, std::vector<News>& all) {
                    .picture = icon("headphones"),
                    .kicker = "Your first streams",
                    .headline = "Somebody pressed play",
-                   .text = "Your first " + counted(streams, "stream")});
+                   .text = streams == 1 ? "Your first stream" : "Your first " + counted(streams, "stream")});
   }
-  if (before.streamWeeks.count >= weeksToBeat && streams > bestStreams) {
+  if (isBestWeek(before.streamWeeks, streams)) {
     all.push_back({.kind = Kind::best,
                    .rank = 200,
                    .key = "best week",
@@ -234,6 +234,10 @@ void addSilences(const Game& game, std::vector<News>& all) {
 }
 
 }  // namespace
+
+bool isBestWeek(const StreamWeeks& before, int64_t streams) {
+  return before.count >= weeksToBeat && streams > std::max(before.bestStreams, before.streams);
+}
 
 bool isFirstRelease(const GameState& state, const Song& song) {
   return std::none_of(state.saveAllSongList.begin(), state.saveAllSongList.end(),

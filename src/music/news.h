@@ -9,6 +9,9 @@ namespace backbeat {
 
 void addMusicNews(const Game& game, std::vector<News>& news);
 
+/// Whether a week of so many streams beats all that stood in the records before it, once there are a few to beat.
+bool isBestWeek(const StreamWeeks& before, int64_t streams);
+
 /// Whether no other single or album song, and no other album of its format, came out before. An album is told from its
 /// songs: six make an LP.
 bool isFirstRelease(const GameState& state, const Song& song);
