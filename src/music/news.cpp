@@ -177,10 +177,9 @@ void addStreams(const Game& game, std::vector<News>& all) {
                    .picture = icon("headphones"),
                    .kicker = "Your first streams",
                    .headline = "Somebody pressed play",
-                   .text = "Your first " + (streams == 1 ? "stream" : counted(streams, "stream"))});
+                   .text = streams == 1 ? "Your first stream" : "Your first " + counted(streams, "stream")});
   }
-  if (before.streamWeeks.count >= weeksToBeat && bestStreams > 0 && streams > bestStreams &&
-      historyIsWhole(game.state)) {
+  if (isBestWeek(game, streams)) {
     all.push_back({.kind = Kind::best,
                    .rank = 200,
                    .key = "best week",
@@ -235,6 +234,12 @@ void addSilences(const Game& game, std::vector<News>& all) {
 }
 
 }  // namespace
+
+bool isBestWeek(const Game& game, int64_t streams) {
+  const StreamWeeks& before = game.turn.before.streamWeeks;
+  const int64_t best = std::max(before.bestStreams, before.streams);
+  return before.count >= weeksToBeat && best > 0 && streams > best && historyIsWhole(game.state);
+}
 
 bool isFirstRelease(const GameState& state, const Song& song) {
   return std::none_of(state.saveAllSongList.begin(), state.saveAllSongList.end(),

@@ -38,13 +38,16 @@ constexpr Kept<WeeklyReport> ofReport[] = {
     {"standing expenses", &WeeklyReport::standingExpenses},
     {"family", &WeeklyReport::family},
     {"label expenses", &WeeklyReport::labelExpenses},
-    {"bonus paid back", &WeeklyReport::bonusPaidBack},
     {"revenue", &WeeklyReport::totalRevenue},
     {"expenses", &WeeklyReport::totalExpenses},
     {"cash before", &WeeklyReport::cashBefore},
     {"exits", &WeeklyReport::exits},
-    {"settlement", &WeeklyReport::settlement},
+};
+
+constexpr Kept<WeeklyReport> ofAppearance[] = {
     {"has appeared", &WeeklyReport::hasAppeared},
+    {"bonus paid back", &WeeklyReport::bonusPaidBack},
+    {"settlement", &WeeklyReport::settlement},
 };
 
 constexpr Kept<MilestoneSnapshot> ofWeekBefore[] = {
@@ -178,6 +181,11 @@ void rememberReport(Game& game, const WeeklyReport& report) {
   game.save(&GameState::openReport);
 }
 
+void rememberAppearance(Game& game, const WeeklyReport& report) {
+  keep(game.state.openReport, ofAppearance, report);
+  game.save(&GameState::openReport);
+}
+
 WeeklyReport recalledReport(Game& game) {
   WeeklyReport report;
   gatherRecords(game.state, report);
@@ -186,6 +194,7 @@ WeeklyReport recalledReport(Game& game) {
   turn.before.week = report.week;
   for (const ReportNumber& number : game.state.openReport) {
     recall(number, ofReport, report);
+    recall(number, ofAppearance, report);
     recall(number, ofTurn, turn);
     recall(number, ofLaunch, game.launch);
     recall(number, ofWeekBefore, turn.before);

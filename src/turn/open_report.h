@@ -11,8 +11,9 @@ namespace backbeat {
 /// Whether the report of the week that ended last was opened and not closed yet.
 bool isReportOpen(const GameState& state);
 
-/// Keeps what the report tells by; anew when it has come to tell more.
+/// Keeps what the report tells by as it opens, and then what its first appearance added.
 void rememberReport(Game& game, const WeeklyReport& report);
+void rememberAppearance(Game& game, const WeeklyReport& report);
 
 /// The report as it was kept. What the news compare stands in the turn and the launch again, as after the turn.
 WeeklyReport recalledReport(Game& game);

@@ -6,6 +6,7 @@
 #include "core/money.h"
 #include "core/numbers.h"
 #include "core/view_words.h"
+#include "music/news.h"
 #include "music/song_creation.h"
 #include "music/streaming.h"
 #include "turn/goals.h"
@@ -16,7 +17,9 @@ namespace {
 
 constexpr double strongChange = 0.25;
 constexpr double mostOfAll = 0.7;
-constexpr int64_t longRun = 4;  ///< weeks in a row
+constexpr int64_t longRun = 4;   ///< weeks in a row
+constexpr double savings = 500;  ///< dollars: they pay somebody for a song
+constexpr int64_t lastWeekOfYear = 52;
 
 /// What the sentences choose by.
 struct Facts {
@@ -32,6 +35,7 @@ struct Facts {
   const Song* bestKnown = nullptr;  ///< the most streamed, of all only while none plays
   int64_t streams = 0;
   int64_t streamsBefore = 0;
+  bool isBestWeek = false;
   int64_t rising = 0;   ///< weeks in a row with more listeners
   int64_t falling = 0;  ///< and with fewer
 };
@@ -98,6 +102,7 @@ Facts factsOf(const Game& game, const WeeklyReport& report) {
   countRuns(state.monthlyListenerData, facts);
   facts.streams = streamsOf(report.weeklySongListens);
   facts.streamsBefore = streamsOf(rowsOfWeek(state.saveAllWeeklySongListens, weekBefore(report.week)));
+  facts.isBestWeek = isBestWeek(game, facts.streams);
   for (const MilestoneSnapshot::SongStanding& song : game.turn.before.songs) {
     for (const uint32_t position : state.saveAllBillboardSongList.historyOf(song.songId)) {
       const BillboardSong& row = state.saveAllBillboardSongList[position];
@@ -115,8 +120,20 @@ std::string debtOf(const GameState& state) {
 }
 
 std::string energyOf(const GameState& state) {
-  return "A song takes " + std::to_string(songEnergy) + " energy, and the new week brings " +
-         std::to_string(state.totalEnergyAvailable) + ".";
+  const std::string energy = std::to_string(state.totalEnergyAvailable);
+  if (state.totalCashAvailable < 0)
+    return energy + " energy for the new week, and none of it makes a song before the debt is paid.";
+  return "A song takes " + std::to_string(songEnergy) + " energy, and the new week brings " + energy + ".";
+}
+
+/// Where the account will stand at New Year if nothing changes; empty when it stays as it is.
+std::string untilNewYear(const GameState& state) {
+  const double net = standingWeeklyNet(state);
+  const auto weeks = static_cast<double>(lastWeekOfYear + 1 - state.weekNumber);
+  const double then = state.totalCashAvailable + net * weeks;
+  if (net == 0 || weeks < 2) return "";
+  return then < 0 ? "If nothing changes, you owe " + currency(-then) + " by New Year."
+                  : "At this pace there will be " + currency(then) + " by New Year.";
 }
 
 std::string beforeAnySong(const GameState& state, const Facts& facts) {
@@ -132,11 +149,15 @@ std::string beforeAnySong(const GameState& state, const Facts& facts) {
   const std::string account = debt.empty() ? "A first song costs energy, and no money." : debt;
   if (state.weeklyJobIncome > 0) {
     const int64_t left = state.weeklyJobContractRemaining;
-    return inTurn(facts,
-                  {"You worked, you got paid, and nobody has heard you yet. A song would change that.",
-                   weeks + " of work so far, and not one song.",
-                   left > 0 ? "The job goes on for " + counted(left, "week") + ". One evening makes a song." : readers,
-                   account, energyOf(state), "Ten listeners are the first step, and a song is the way there."});
+    return inTurn(
+        facts, {"You worked, you got paid, and nobody has heard you yet. A song would change that.",
+                weeks + " of work so far, and not one song.",
+                left > 0 ? "The job goes on for " + counted(left, "week") + ". One evening makes a song." : readers,
+                account, energyOf(state), "Ten listeners are the first step, and a song is the way there.",
+                state.totalCashAvailable >= savings ? currency(state.totalCashAvailable) +
+                                                          " put by. A writer, musicians and a studio can be had for it."
+                                                    : "",
+                untilNewYear(state)});
   }
   return inTurn(facts, {debt.empty() ? "A week without a song. Everything begins with the first one." : debt,
                         weeks + " in, and the first song is still to come.", readers, energyOf(state)});
@@ -150,6 +171,7 @@ std::string afterTheLastSong(const Game& game, const Facts& facts) {
   const std::string best = quoted(facts.bestKnown->title);
   const int64_t found = facts.bestKnown->totalListen;
   const std::string debt = debtOf(state);
+  const ListenerGoal goal = nextListenerGoal(state);
   return inTurn(
       facts,
       {debt.empty() ? "Silence: every song of yours has had its time. Write the next one." : debt,
@@ -162,7 +184,10 @@ std::string afterTheLastSong(const Game& game, const Facts& facts) {
                     : "Nobody came, nobody left: the world waits for what you do next.",
        found > 0 ? best + " had " + counted(found, "stream") + " in its time. The next one can have more."
                  : best + " was never found by anybody. The next one can be.",
-       state.totalFans > 0 ? counted(state.totalFans, "listener") + " would notice a new song." : ""});
+       state.totalFans > 0 ? counted(state.totalFans, "listener") + " would notice a new song." : "",
+       untilNewYear(state),
+       counted(goal.listeners - state.totalFans, "more listener") + " would make " + withCommas(goal.listeners) +
+           ", and they come with a song."});
 }
 
 std::string percentOf(double share) { return std::to_string(truncate(std::round(share * 100))) + "%"; }
@@ -203,6 +228,11 @@ std::string ordinary(const GameState& state, const WeeklyReport& report, const F
   const ListenerGoal goal = nextListenerGoal(state);
   const double loss = report.totalExpenses - report.totalRevenue;
   const auto left = truncate(std::ceil(remainingLife(state, *facts.freshest)));
+  if (facts.isBestWeek) {
+    return inTurn(facts,
+                  {"Never so many in one week: " + streams + " from " + counted(facts.songsPlaying, "song") + ".",
+                   "More than ever, by a little: " + streams + ", led by " + top + "."});
+  }
   const std::string run =
       facts.rising >= longRun
           ? "A steady climb: more listeners for " + counted(facts.rising, "week") + " in a row, and " + streams + "."

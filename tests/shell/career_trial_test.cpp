@@ -5,6 +5,10 @@
 
 #include <cstdlib>
 
+#include "core/career_file.h"
+#include "core/memory_store.h"
+#include "shell/session.h"
+
 namespace backbeat {
 namespace {
 
@@ -20,6 +24,18 @@ TEST(CareerTrial, WhateverTheWorkComesToIsOneSentence) {
   EXPECT_THAT(problemOfWork(endless, 1), HasSubstr("does not come to an end"));
   EXPECT_THAT(problemOfWork([] { return false; }, 1), HasSubstr("cannot be ended"));
   EXPECT_THAT(problemOfWork([]() -> bool { std::abort(); }, 1), HasSubstr("stops on this career"));
+}
+
+TEST(CareerTrial, AReportThatWasStillOpenIsClosedBeforeTheWeekEnds) {
+  MemoryStore store;
+  QuietPlatform platform;
+  Session session(store, platform, 7, Date());
+  const auto press = [&](const std::string& screenKey, Action action) { session.press(Date(), screenKey, action); };
+  press(std::to_string(session.shown().key), {"name", "Mira"});
+  press(std::to_string(session.shown().key), {"saveButton", ""});
+  press("nav", {"endTheWeekButton", ""});
+  ASSERT_TRUE(session.shown().modal);
+  EXPECT_EQ(trialProblem(rowsOf(session.game().state), Trial::oneWeek, Date()), "");
 }
 
 }  // namespace

@@ -256,7 +256,7 @@ Outcome WeeklySummaryViewController::appear() {
   const double cashWithPartner = state().totalCashAvailable;
   outcome += runRelationshipEvents(game_);
   report_.settlement = cashWithPartner - state().totalCashAvailable;
-  rememberReport(game_, report_);
+  rememberAppearance(game_, report_);
   news_ = newsOf(game_);  // who has left, and who was born, came with the last step
   return outcome;
 }
