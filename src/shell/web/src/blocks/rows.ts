@@ -111,9 +111,7 @@ function rowBody(row: Row, underHeads: boolean, scene: Scene): TemplateResult {
     ${
       taken || barred
         ? html`<span class="row-picture"
-            >${picture(row.picture)}<span class=${taken ? "taken-mark" : "barred-mark"}
-              >${glyph(taken ? "check" : "lock")}</span
-            ></span
+            >${picture(row.picture)}<span class="taken-mark">${glyph(taken ? "check" : "lock")}</span></span
           >`
         : fanned(row)
     }
@@ -128,8 +126,8 @@ function rowBody(row: Row, underHeads: boolean, scene: Scene): TemplateResult {
         ? html`<span class="row-ends">${underHeads ? [note, value] : [value, note]}</span>`
         : nothing
     }
-    ${pricePill(row.price)} ${row.tone === "locked" ? lockedMark(barred) : nothing}
-    ${row.selected ? selectedMark(taken, scene) : nothing}
+    ${pricePill(row.price)} ${row.tone === "locked" ? endMark("lock", "locked", barred) : nothing}
+    ${row.selected ? (scene.theme === "gala" ? endMark("trophy", "winner", taken) : endMark("check", "selected", taken)) : nothing}
     ${row.opens ? html`<span class="chevron" aria-hidden="true"></span>` : nothing}
   `;
 }
@@ -141,17 +139,11 @@ function fanned({ picture: first, fan = [] }: Row): TemplateResult | typeof noth
   return html`<span class="fan">${[...fan].reverse().map((each) => picture(each))}${picture(first)}</span>`;
 }
 
-/** The room beside a price is the texts': there the lock sits on the picture. */
-function lockedMark(barred: unknown): TemplateResult {
-  if (barred) return html`<span class="unseen">locked</span>`;
-  return html`<span class="row-mark">${glyph("lock")}<span class="unseen">locked</span></span>`;
-}
-
-/** At a gala the one that is marked has won. */
-function selectedMark(taken: boolean | undefined, { theme }: Scene): TemplateResult {
-  if (taken) return html`<span class="unseen">selected</span>`;
-  const [drawing, said] = theme === "gala" ? ["trophy", "winner"] : ["check", "selected"];
-  return html`<span class="row-mark chosen">${glyph(drawing)}<span class="unseen">${said}</span></span>`;
+/** The mark at a row's end, told to ears alone where the picture wears it. At a gala the one that is marked has won. */
+function endMark(drawing: string, said: string, isOnPicture: unknown): TemplateResult {
+  const word = html`<span class="unseen">${said}</span>`;
+  if (isOnPicture) return word;
+  return html`<span class="row-mark ${drawing === "lock" ? "" : "chosen"}">${glyph(drawing)}${word}</span>`;
 }
 
 /** Pictures to choose one from. */
