@@ -23,6 +23,8 @@ Item firstOf(const View& view, std::string Item::*member, std::string_view text)
   return {};
 }
 
+constexpr const char* pressedMembers[] = {"id", "suggest", "pictureId"};
+
 void walk(const ViewType& type, const void* value, const Visit& visit) {
   switch (type.kind) {
     case ViewType::Kind::record:
@@ -102,12 +104,23 @@ const std::string* textOf(const ViewType& type, const void* record, std::string_
 std::vector<std::string> pressableIds(const View& view) {
   std::vector<std::string> ids;
   forEachRecord(view, [&](const ViewType& type, const void* record) {
-    for (const char* member : {"id", "suggest", "pictureId"}) {
+    for (const char* member : pressedMembers) {
       const std::string* id = textOf(type, record, member);
       if (id && !id->empty() && std::find(ids.begin(), ids.end(), *id) == ids.end()) ids.push_back(*id);
     }
   });
   return ids;
+}
+
+bool isPressable(const View& view, std::string_view wanted) {
+  bool found = false;
+  forEachRecord(view, [&](const ViewType& type, const void* record) {
+    for (const char* member : pressedMembers) {
+      const std::string* id = found || wanted.empty() ? nullptr : textOf(type, record, member);
+      found |= id && *id == wanted;
+    }
+  });
+  return found;
 }
 
 }  // namespace backbeat

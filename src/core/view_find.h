@@ -60,5 +60,7 @@ const std::string* textOf(const ViewType& type, const void* record, std::string_
 
 /// The id of everything that can be pressed, each once, in reading order.
 std::vector<std::string> pressableIds(const View& view);
+/// Whether it is among them.
+bool isPressable(const View& view, std::string_view id);
 
 }  // namespace backbeat

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "core/view_find.h"
-#include "shell/native/view_printer.h"
 
 namespace backbeat {
 
@@ -15,6 +14,13 @@ constexpr int64_t newYear2023 = 1'672'660'800'000;  // unix milliseconds
 constexpr int64_t betweenPresses = 7'000;
 constexpr int mostReportPresses = 20;
 constexpr int mostQuestions = 100;
+
+/// What a press sends when nothing more is told: a toggle turns.
+std::string plainValue(const View& view, const std::string& id) {
+  const Toggle toggle = blockWithId<Toggle>(view, id);
+  if (toggle.id.empty()) return "";
+  return toggle.on ? "0" : "1";
+}
 
 }  // namespace
 
@@ -38,12 +44,9 @@ void Player::press(const std::string& id, const std::optional<std::string>& valu
 }
 
 bool Player::tryPress(const std::string& id, const std::optional<std::string>& value) {
-  for (const Pressable& each : printScreen(career_.session().navigator(), seen(), false).pressables) {
-    if (each.action.id != id || each.screenKey == "alert") continue;
-    act(each.screenKey, {id, value.value_or(each.action.value)});
-    return true;
-  }
-  return false;
+  if (seen().alert || !isPressable(view(), id)) return false;
+  act(std::to_string(seen().key), {id, value ? *value : plainValue(view(), id)});
+  return true;
 }
 
 void Player::tab(TabNumber number) {
@@ -107,6 +110,10 @@ void Player::endTheWeek(bool takesChances) {
   const int64_t week = state().weekNumberForTracking;
   act("nav", {"endTheWeekButton", ""});
   settle();
+  if (attendsAwards_ && tryPress("awardButton")) {
+    tryPress("allEnvelopes");  // there are none in the night of a year without nominations
+    press("doneButton");
+  }
   for (const char* chance : {"eventButton1", "eventButton2", "eventButton3"}) {
     if (!takesChances || (shareForARound_ <= 0 && isPitch(chance)) || !tryPress(chance)) continue;
     settle();

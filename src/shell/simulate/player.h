@@ -28,7 +28,8 @@ class Player {
   /// The screen that is seen, to look things up in; core/view_find.h has how.
   const View& view() { return seen().view; }
 
-  /// Presses what has the id; a step that finds nothing to press is a problem.
+  /// Presses what has the id; a step that finds nothing to press is a problem. Without a value a toggle turns, and what
+  /// else takes one gets none.
   void press(const std::string& id, const std::optional<std::string>& value = std::nullopt);
   /// The same where it is no problem when nothing has the id; false then.
   bool tryPress(const std::string& id, const std::optional<std::string>& value = std::nullopt);
@@ -46,6 +47,8 @@ class Player {
 
   /// From now on hears pitches among the chances, and joins rounds that cost at most that share of the cash.
   void backStartups(double shareOfCash) { shareForARound_ = shareOfCash; }
+  /// From now on opens the envelopes of the awards when a report leads to them.
+  void attendAwards() { attendsAwards_ = true; }
 
   /// Has every turn tell `observer` of its steps.
   void observeTurns(StepObserver observer) { career_.session().observeTurns(std::move(observer)); }
@@ -67,6 +70,7 @@ class Player {
   TraceRecorder career_;
   std::optional<Shown> seen_;
   double shareForARound_ = 0;
+  bool attendsAwards_ = false;
   std::vector<std::string>& problems_;
 };
 
