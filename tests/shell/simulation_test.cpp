@@ -69,6 +69,23 @@ TEST(Simulation, AFounderRunsTheLabelThatItCanPay) {
   EXPECT_GT(player.state().saveAllSignedArtistAlbumList.size(), 3u);
 }
 
+TEST(Simulation, AWholeLifeHasEverythingAndIsHandedOnTwice) {
+  const Career career = playCareer(*strategyNamed("lifelong"), 2, 56, nullptr);
+  EXPECT_THAT(career.problems, IsEmpty());
+  const auto most = [&](std::string_view column) {
+    const auto found = std::find_if(columns.begin(), columns.end(), [&](const Column& c) { return c.name == column; });
+    double greatest = 0;
+    for (const CareerYear& year : career.years) greatest = std::max(greatest, found->of(year));
+    return greatest;
+  };
+  EXPECT_EQ(most("generation"), 3);
+  EXPECT_EQ(most("love"), 3);
+  EXPECT_EQ(most("children"), 2);
+  for (const char* had : {"own_label", "artists", "homes", "garage", "ventures", "awards", "shows", "videos"}) {
+    EXPECT_GT(most(had), 0) << had;
+  }
+}
+
 TEST(Simulation, HarderWorkFindsMoreListeners) {
   int64_t before = -1;
   for (const char* name : {"idle", "casual", "keen"}) {

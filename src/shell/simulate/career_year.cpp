@@ -4,6 +4,8 @@
 
 #include "career/studio.h"
 #include "label/departments.h"
+#include "life/children.h"
+#include "life/partner.h"
 #include "music/chart.h"
 #include "wealth/net_assets.h"
 #include "wealth/ventures.h"
@@ -56,6 +58,15 @@ void countLabel(const GameState& state, CareerYear& row) {
   row.labelNet -= state.totalRecordLabelCost;
 }
 
+void countLife(const GameState& state, CareerYear& row) {
+  row.generation = static_cast<int64_t>(state.saveAllLegacyList.size()) + 1;
+  if (const auto partner = partnerPosition(state)) row.love = state.saveAllMatchesList[*partner].relationshipState;
+  for (const Matches& match : state.saveAllMatchesList) row.exes += match.relationshipState == love::ended ? 1 : 0;
+  row.children = childrenInFamily(state);
+  row.nominations = static_cast<int64_t>(state.saveAllMusicAwards.size());
+  for (const Award& award : state.saveAllMusicAwards) row.awards += award.isWinner;
+}
+
 }  // namespace
 
 double Column::of(const CareerYear& row) const {
@@ -88,6 +99,7 @@ CareerYear careerYear(const GameState& state, int64_t year) {
   countTheRest(state, row);
   countAssets(state, row);
   countLabel(state, row);
+  countLife(state, row);
   return row;
 }
 

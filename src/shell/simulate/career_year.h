@@ -40,6 +40,12 @@ struct CareerYear {
   int64_t ownLabel = 0;       ///< 1 while the own one stands
   int64_t artists = 0;        ///< under contract with it
   double labelNet = 0;        ///< dollars that it brought less all that it cost but its launch; 0 once it is closed
+  int64_t generation = 0;     ///< of the family, from 1; all else is of the one that plays
+  int64_t love = 0;           ///< with the partner: 0 for none, 1 dating, 2 engaged, 3 married
+  int64_t exes = 0;
+  int64_t children = 0;     ///< in the family
+  int64_t nominations = 0;  ///< for awards, the label's too
+  int64_t awards = 0;       ///< won, the label's too
   int64_t energyCeiling = 0;
   int64_t songWriting = 0;
   int64_t vocalRange = 0;
@@ -58,7 +64,7 @@ struct Column {
   std::string text(const CareerYear& row) const;  ///< dollars with cents
 };
 
-inline constexpr std::array<Column, 34> columns = {{
+inline constexpr std::array<Column, 40> columns = {{
     {"year", &CareerYear::year},
     {"cash", &CareerYear::cash},
     {"net_assets", &CareerYear::netAssets},
@@ -86,6 +92,12 @@ inline constexpr std::array<Column, 34> columns = {{
     {"own_label", &CareerYear::ownLabel},
     {"artists", &CareerYear::artists},
     {"label_net", &CareerYear::labelNet},
+    {"generation", &CareerYear::generation},
+    {"love", &CareerYear::love},
+    {"exes", &CareerYear::exes},
+    {"children", &CareerYear::children},
+    {"nominations", &CareerYear::nominations},
+    {"awards", &CareerYear::awards},
     {"energy_ceiling", &CareerYear::energyCeiling},
     {"songwriting", &CareerYear::songWriting},
     {"vocals", &CareerYear::vocalRange},

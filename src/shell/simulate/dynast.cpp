@@ -8,19 +8,15 @@ namespace backbeat {
 namespace {
 
 constexpr FamilyPlan family = {.swipes = 6, .dates = 2, .children = 1, .energyKept = 30};
-constexpr int64_t charming = 15;  ///< before that nearly nobody likes back
 constexpr int64_t ageOfHeir = 18;
 constexpr int64_t weeksOfALifestyle = 13;
 constexpr double shareForAWeekOfLife = 0.01;  ///< who does not live well has no energy left for handing over
-constexpr int64_t weeksBetweenLessons = 3;
 
 }  // namespace
 
 void Dynast::playWeek(Player& player, int64_t week) {
   if (retire(player, ageOfHeir)) firstWeek_ = week;
-  if (player.state().charisma >= charming) lookForLove(player, family);
-  lookAfterPartner(player, family);
-  if (week % weeksBetweenLessons == 0) raiseChildren(player);
+  liveWithFamily(player, family, week);
   if (week % weeksOfALifestyle == 0) {
     chooseLifestyles(player, player.state().totalCashAvailable * shareForAWeekOfLife);
   }

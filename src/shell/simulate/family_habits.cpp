@@ -2,8 +2,10 @@
 
 #include <string>
 
+#include "core/purse.h"
 #include "life/children.h"
 #include "life/engagement.h"
+#include "life/parenthood.h"
 #include "life/partner.h"
 #include "life/takeover.h"
 
@@ -12,6 +14,8 @@ namespace backbeat {
 namespace {
 
 constexpr double closeEnough = 92;
+constexpr int64_t charming = 15;  ///< before that nearly nobody likes back
+constexpr int64_t weeksBetweenLessons = 3;
 constexpr const char* givenName = "Juno";
 
 const Matches* partnerOf(const GameState& state) {
@@ -56,21 +60,32 @@ void spendTime(Player& player, const FamilyPlan& plan) {
   }
 }
 
+bool wantsChild(const GameState& state, const Matches& partner, const FamilyPlan& plan) {
+  if (!isMarried(partner) || childrenInFamily(state) >= plan.children) return false;
+  return !fertilityBlocked(state) || hasCash(state, adoptionCost);
+}
+
 /// A proposal, a wedding, a child or nothing.
 void takeNextStep(Player& player, const FamilyPlan& plan) {
   const GameState& state = player.state();
   const Matches* partner = partnerOf(state);
   if (!partner || partner->timeToBirth >= 0) return;
-  const bool wantsChild = isMarried(*partner) && childrenInFamily(state) < plan.children && !fertilityBlocked(state);
-  if (!wantsChild && !mayTakeNextStep(state, *partner)) return;
+  if (!wantsChild(state, *partner, plan) && !mayTakeNextStep(state, *partner)) return;
   const bool isWedding = partner->relationshipState == love::engaged;
   player.press("mainAction");
   if (isWedding) player.answer(1);
+  if (player.tryPress("adoptButton")) return player.settle();
   if (player.tryPress("ring:0")) {
     player.settle();
     if (partnerOf(player.state())->relationshipState == love::dating) player.back();  // the cash did not reach
   }
   player.settle();
+}
+
+/// The size of the list when there is none.
+size_t heirOfAge(const GameState& state, int64_t age) {
+  return state.saveAllChildList.find(
+      [&](const Child& child) { return mayTakeOver(state, child) && ageOf(state, child) >= age; });
 }
 
 void openChild(Player& player, size_t index) {
@@ -80,6 +95,12 @@ void openChild(Player& player, size_t index) {
 }
 
 }  // namespace
+
+void liveWithFamily(Player& player, const FamilyPlan& plan, int64_t week) {
+  if (player.state().charisma >= charming) lookForLove(player, plan);
+  lookAfterPartner(player, plan);
+  if (week % weeksBetweenLessons == 0) raiseChildren(player);
+}
 
 void lookForLove(Player& player, const FamilyPlan& plan) {
   if (partnerPosition(player.state())) return;
@@ -113,12 +134,12 @@ void raiseChildren(Player& player) {
   }
 }
 
+bool heirWaits(const GameState& state, int64_t age) { return heirOfAge(state, age) != state.saveAllChildList.size(); }
+
 bool retire(Player& player, int64_t age) {
   const GameState& state = player.state();
-  if (state.totalEnergyAvailable < takeoverEnergy) return false;
-  const size_t heir = state.saveAllChildList.find(
-      [&](const Child& child) { return mayTakeOver(state, child) && ageOf(state, child) >= age; });
-  if (heir == state.saveAllChildList.size()) return false;
+  if (state.totalEnergyAvailable < takeoverEnergy || !heirWaits(state, age)) return false;
+  const size_t heir = heirOfAge(state, age);
   openChild(player, heir);
   player.press("goToTakeOverDetail");
   player.press("playAsButton");

@@ -7,15 +7,14 @@ namespace backbeat {
 
 namespace {
 
-constexpr double cashKept = 500'000;
-constexpr LabelHabit habit = {.cashKept = cashKept, .worstRating = 45, .worstStaff = 40, .energyTrained = 110};
+constexpr LabelHabit habit;
 constexpr int64_t weeksOfALifestyle = 13;
 constexpr double shareForAWeekOfLife = 0.001;
 
 }  // namespace
 
 void Founder::playWeek(Player& player, int64_t week) {
-  foundLabel(player, cashKept);
+  foundLabel(player, habit.cashKept);
   runLabel(player, habit);
   const GameState& state = player.state();
   if (state.isLabelLaunched >= 1 && week % weeksOfALifestyle == 0) {  // the head of a label lives on energy

@@ -177,13 +177,6 @@ void scout(Player& player, const LabelHabit& habit) {
   makeOffer(player);
 }
 
-void closeDoors(Player& player) {
-  openLabel(player);
-  player.press("closeLabel");
-  player.answer(1);
-  player.settle();
-}
-
 void choosePerks(Player& player) {
   openLabel(player);
   player.press("goToLabelBenefits");
@@ -223,7 +216,7 @@ void foundLabel(Player& player, double cashKept) {
 void runLabel(Player& player, const LabelHabit& habit) {
   const GameState& state = player.state();
   if (state.isLabelLaunched < 1) return;
-  if (state.totalCashAvailable < 0) return closeDoors(player);
+  if (state.totalCashAvailable < 0) return endLabel(player);
   renewOrDrop(player);
   review(player);
   if (state.totalCashAvailable >= habit.cashKept) {
@@ -233,6 +226,14 @@ void runLabel(Player& player, const LabelHabit& habit) {
     if (!isForStaff) scout(player, habit);
   }
   practise(player, headTraits, std::max(state.totalEnergyAvailable - habit.energyTrained, int64_t{0}));
+}
+
+void endLabel(Player& player) {
+  if (player.state().isLabelLaunched < 1) return;
+  openLabel(player);
+  player.press("closeLabel");
+  player.answer(1);
+  player.settle();
 }
 
 }  // namespace backbeat

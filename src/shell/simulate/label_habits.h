@@ -11,14 +11,17 @@ namespace backbeat {
 void foundLabel(Player& player, double cashKept);
 
 struct LabelHabit {
-  double cashKept = 0;        ///< dollars below which nobody is hired or signed
-  int64_t worstRating = 0;    ///< of an artist who is made an offer
-  int64_t worstStaff = 0;     ///< rating of whoever is hired
-  int64_t energyTrained = 0;  ///< for the traits of a head of a label, a week
+  double cashKept = 500'000;    ///< dollars below which nobody is hired or signed
+  int64_t worstRating = 45;     ///< of an artist who is made an offer
+  int64_t worstStaff = 40;      ///< rating of whoever is hired
+  int64_t energyTrained = 110;  ///< for the traits of a head of a label, a week
 };
 /// Reviews albums, renews the contracts of those who have earned their bonus and drops the others, learns to lead,
 /// hires for every department, and makes the best whom the scouts found an offer. Closes the doors when the cash is
 /// gone.
 void runLabel(Player& player, const LabelHabit& habit);
+
+/// Closes the doors, if there are any.
+void endLabel(Player& player);
 
 }  // namespace backbeat

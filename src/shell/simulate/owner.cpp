@@ -4,19 +4,8 @@
 
 namespace backbeat {
 
-namespace {
-
-constexpr int64_t weeksBetweenLooks = 13;
-constexpr double shareForAHome = 0.6;
-constexpr double shareForAVehicle = 0.1;
-
-}  // namespace
-
 void Owner::playWeek(Player& player, int64_t week) {
-  if (week % weeksBetweenLooks == 0) {
-    buyHome(player, player.state().totalCashAvailable * shareForAHome);
-    buyVehicle(player, player.state().totalCashAvailable * shareForAVehicle);
-  }
+  placeCash(player, {}, week);
   keen_.playWeek(player, week);
 }
 

@@ -8,6 +8,7 @@
 #include "shell/simulate/idle.h"
 #include "shell/simulate/investor.h"
 #include "shell/simulate/keen.h"
+#include "shell/simulate/lifelong.h"
 #include "shell/simulate/mogul.h"
 #include "shell/simulate/owner.h"
 
@@ -30,6 +31,7 @@ constexpr StrategyEntry all[] = {
     {"investor", "keen, and a part in every startup that asks", make<Investor>},
     {"mogul", "keen, and everything that money buys", make<Mogul>},
     {"founder", "keen, and a label as soon as there is money for one", make<Founder>},
+    {"lifelong", "all of a life: family, label, homes, vehicles, startups, and heirs who go on", make<Lifelong>},
 };
 
 }  // namespace

@@ -11,6 +11,7 @@ namespace backbeat {
 namespace {
 
 constexpr size_t yes = 1;
+constexpr int64_t weeksBetweenLooks = 13;
 
 const Property* dearestHome(const GameState& state, double budget) {
   const Property* dearest = nullptr;
@@ -30,6 +31,12 @@ const TransportationOption* cheapestWithBonus(const GameState& state, double bud
 }
 
 }  // namespace
+
+void placeCash(Player& player, const WealthHabit& habit, int64_t week) {
+  if (week % weeksBetweenLooks != 0) return;
+  buyHome(player, player.state().totalCashAvailable * habit.shareForAHome);
+  buyVehicle(player, player.state().totalCashAvailable * habit.shareForAVehicle);
+}
 
 void buyHome(Player& player, double budget) {
   const Property* home = dearestHome(player.state(), budget);

@@ -6,6 +6,14 @@
 
 namespace backbeat {
 
+/// What becomes of the cash, in shares of it.
+struct WealthHabit {
+  double shareForAHome = 0.6;
+  double shareForAVehicle = 0.1;
+};
+/// Every quarter both of what follows.
+void placeCash(Player& player, const WealthHabit& habit, int64_t week);
+
 /// Buys the dearest home on the market that costs at most `budget` dollars.
 void buyHome(Player& player, double budget);
 
