@@ -344,6 +344,7 @@ bool SqliteStore::visitRows(const std::function<void(std::string_view, int32_t, 
     visit(key, number, next.valueHere());
     next.next();
   }
+  sqlite3_db_release_memory(database_.get());  // what was read once is not read again
   return wholes.atEnd() && chunks.atEnd();
 }
 
