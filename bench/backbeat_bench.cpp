@@ -1,8 +1,8 @@
 // What careers cost, each figure beside a reference measured in the same run: a heavy one at 1, 10, 50 and 100 years,
-// and one with a label of twenty artists at 10 and 50; a full label of 50 years is told of and held to nothing. Prints
+// and one with everything else besides at 10 and 100; a full label of 50 years is told of and held to nothing. Prints
 // the tables in Markdown; fails when a goal is missed.
 //
-//   backbeat_bench FOLDER [PART]...  measures all, or only "records", "label", "full"; leaves in FOLDER what
+//   backbeat_bench FOLDER [PART]...  measures all, or only "records", "everything", "full"; leaves in FOLDER what
 //                                    wasm_turn.mjs needs
 //   backbeat_bench --cpu FOLDER ...  the same in processor time, for a machine that is busy with other things
 //   backbeat_bench --peak FILE       plays on from a save and tells the peak of its memory in kilobytes
@@ -25,14 +25,19 @@ constexpr Plan records[] = {{.name = "", .live = liveWeek, .years = 1},
                             {.name = "", .live = liveWeek, .years = 10},
                             {.name = "", .live = liveWeek, .years = 50},
                             {.name = "", .live = liveWeek, .years = 100, .visitsEveryScreen = true}};
-constexpr Plan label[] = {
-    {.name = "label", .live = liveLabelWeek, .years = 10, .hasLabel = true, .goesThroughTheDoor = false},
-    {.name = "label",
-     .live = liveLabelWeek,
-     .years = 50,
-     .hasLabel = true,
-     .visitsEveryScreen = true,
-     .goesThroughTheDoor = false}};
+constexpr Plan everything[] = {{.name = "everything",
+                                .live = liveEverythingWeek,
+                                .years = 10,
+                                .hasLabel = true,
+                                .hasFamily = true,
+                                .goesThroughTheDoor = false},
+                               {.name = "everything",
+                                .live = liveEverythingWeek,
+                                .years = 100,
+                                .hasLabel = true,
+                                .hasFamily = true,
+                                .visitsEveryScreen = true,
+                                .goesThroughTheDoor = false}};
 constexpr Plan fullLabel[] = {
     {.name = "full", .live = liveFullLabelWeek, .years = 50, .hasLabel = true, .goesThroughTheDoor = false}};
 
@@ -67,13 +72,8 @@ class Table {
 };
 
 void tellScreens(const Table& table, const std::vector<Length>& all) {
-  for (const HeavyScreen& screen : heavyScreens()) {
-    table.time("**screen**: " + std::string(screen.name), screen.name);
-  }
-  if (all.front().plan.hasLabel) {
-    for (const HeavyScreen& screen : labelScreens()) {
-      table.time("**screen**: " + std::string(screen.name), screen.name);
-    }
+  for (const HeavyScreen* screen : screensOf(all.front().plan)) {
+    table.time("**screen**: " + std::string(screen->name), screen->name);
   }
   table.row("the slowest of every screen of the game", [](const Length& length) {
     if (length.screens == 0) return std::string();
@@ -91,6 +91,9 @@ void tell(const char* title, const std::vector<Length>& all) {
   if (all.front().plan.hasLabel) {
     table.row("of them weeks of the label's songs and albums",
               [](const Length& length) { return std::to_string(length.signedRows); });
+  }
+  if (all.front().plan.hasFamily) {
+    table.row("family, fortune and fame", [](const Length& length) { return length.family; });
   }
   table.row("a week commits", [](const Length& length) { return length.weekWritten; });
   table.time("**week**, played and durable", "week");
@@ -118,19 +121,24 @@ bool compare(const std::string& what, double value, double limit) {
   return met;
 }
 
+/// The most that a week of the last year may be of another week's time.
+struct WeekGoals {
+  double ofSqlite = 3;
+  double ofYearTen = 2;
+};
+
 /// What holds of each kind of career, at its tenth year and at its last.
-bool compareAll(const Length& ten, const Length& last) {
+bool compareAll(const Length& ten, const Length& last, const WeekGoals& goals) {
   const std::string when = " at year " + std::to_string(last.plan.years);
   std::cout << "\n| goal | at most | measured |\n|---|---|---|\n";
   const double week = last.of("week");
-  bool met = compare("week" + when + " / SQLite committing the same rows", week / last.of("rows"), 3);
-  met &= compare("week" + when + " / week at year 10", week / ten.of("week"), 2);
+  bool met = compare("week" + when + " / SQLite committing the same rows", week / last.of("rows"), goals.ofSqlite);
+  met &= compare("week" + when + " / week at year 10", week / ten.of("week"), goals.ofYearTen);
   met &= compare("week" + when + " / every touched list whole", week / last.of("whole"), 0.02);
   if (!last.plan.hasLabel) met &= compare("week in memory at year 10, ms", ten.of("memory"), 0.2);
   met &= compare("load" + when + ", ms", last.of("load"), 1000);
   double slowest = last.slowest();
-  for (const HeavyScreen& screen : heavyScreens()) slowest = std::max(slowest, last.of(screen.name));
-  for (const HeavyScreen& screen : labelScreens()) slowest = std::max(slowest, last.of(screen.name));
+  for (const HeavyScreen* screen : screensOf(last.plan)) slowest = std::max(slowest, last.of(screen->name));
   met &= compare("slowest screen" + when + ", ms", slowest, 2);
   met &= compare("peak memory" + when + ", MB", last.peakMemory, 250);
   return met;
@@ -151,12 +159,12 @@ bool measureParts(const std::string& folder, std::span<char* const> named) {
   if (wanted("records")) {
     const std::vector<Length> all = measured(folder, records);
     tell("Records, tours and a shop", all);
-    met &= compareAll(all[1], all[3]);
+    met &= compareAll(all[1], all[3], {.ofSqlite = 2.3, .ofYearTen = 1.6});
   }
-  if (wanted("label")) {
-    const std::vector<Length> all = measured(folder, label);
-    tell("Twenty artists besides, nothing ever cleared up", all);
-    met &= compareAll(all[0], all[1]);
+  if (wanted("everything")) {
+    const std::vector<Length> all = measured(folder, everything);
+    tell("Everything at once, nothing ever cleared up", all);
+    met &= compareAll(all[0], all[1], {.ofSqlite = 3, .ofYearTen = 2});
   }
   if (wanted("full")) tell("A full label", measured(folder, fullLabel));
   return met;

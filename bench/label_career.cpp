@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "family_career.h"
 #include "heavy_career.h"
 #include "label/album_review.h"
 #include "label/artist_contract.h"
@@ -102,9 +103,10 @@ void runLabel(Game& game, const LabelSize& size) {
 
 }  // namespace
 
-void liveLabelWeek(Game& game) {
+void liveEverythingWeek(Game& game) {
   liveWeek(game);
   runLabel(game, {.artists = 20, .staff = 35});
+  liveFamilyWeek(game);
 }
 
 void liveFullLabelWeek(Game& game) {

@@ -13,9 +13,9 @@
 #include <iostream>
 
 #include "core/career_file.h"
+#include "family_career.h"
 #include "label_career.h"
 #include "saved_world.h"
-#include "screens.h"
 #include "shell/page_store.h"
 #include "shell/trace.h"
 #include "turn/pruning.h"
@@ -71,13 +71,10 @@ void measureLoading(const std::string& path, const std::string& name) {
 
 // Screens.
 
-void measureScreens(Session& session, const std::string& name, const std::vector<HeavyScreen>& screens) {
-  for (const HeavyScreen& screen : screens) {
+void measureScreens(Session& session, const Length& length) {
+  for (const HeavyScreen* screen : screensOf(length.plan)) {
     measure(
-        screen.name + name, 31,
-        [&] {
-          if (!session.shown().modal) goToScreen(session, screen);
-        },
+        screen->name + length.name, 31, [&session, screen] { goToScreen(session, *screen); },
         [&] { benchmark::DoNotOptimize(describedScreen(session)); }, [] {});
   }
 }
@@ -178,6 +175,17 @@ double Length::of(const std::string& what) const {
   return found == ms.end() ? 0 : found->second;
 }
 
+std::vector<const HeavyScreen*> screensOf(const Plan& plan) {
+  std::vector<const HeavyScreen*> screens;
+  const auto take = [&](const std::vector<HeavyScreen>& more) {
+    for (const HeavyScreen& screen : more) screens.push_back(&screen);
+  };
+  take(heavyScreens());
+  if (plan.hasLabel) take(labelScreens());
+  if (plan.hasFamily) take(familyScreens());
+  return screens;
+}
+
 Length measureLength(const std::filesystem::path& folder, const Plan& plan) {
   Length length;
   length.plan = plan;
@@ -187,6 +195,7 @@ Length measureLength(const std::filesystem::path& folder, const Plan& plan) {
   length.streaming = songsStreaming(world.state());
   length.records = recordsIn(world.state());
   length.signedRows = signedRowsIn(world.state());
+  length.family = familyIn(world.state());
   const Bytes exported = exportCareer(world.state());
   length.exportedSize = static_cast<double>(exported.size()) / megabyte;
   if (plan.goesThroughTheDoor) leaveForTheDoor(folder, length, playThroughTheDoor(world.state()));
@@ -203,8 +212,7 @@ Length measureLength(const std::filesystem::path& folder, const Plan& plan) {
   const auto store = SqliteStore::open(path).store;
   QuietPlatform platform;
   Session session(*store, platform, doorSeed, {});
-  measureScreens(session, length.name, heavyScreens());
-  if (plan.hasLabel) measureScreens(session, length.name, labelScreens());
+  measureScreens(session, length);
   runAll(length.ms);
   if (plan.visitsEveryScreen) measureEveryScreen(session, length);
   return length;

@@ -3,8 +3,10 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "heavy_career.h"
+#include "screens.h"
 #include "times.h"
 
 namespace backbeat {
@@ -15,6 +17,7 @@ struct Plan {
   LiveWeek live;
   int64_t years = 0;
   bool hasLabel = false;
+  bool hasFamily = false;
   bool visitsEveryScreen = false;
   bool goesThroughTheDoor = true;  ///< is played by the page's engine as well
 };
@@ -28,6 +31,7 @@ struct Length {
   size_t streaming = 0;
   size_t records = 0;
   size_t signedRows = 0;
+  std::string family;
   std::string weekWritten;
   double storeSize = 0;     ///< megabytes
   double prunedSize = 0;    ///< megabytes that it takes once old records are cleared up
@@ -39,6 +43,9 @@ struct Length {
   double of(const std::string& what) const;
   double slowest() const { return of(slowestScreen); }
 };
+
+/// The screens that a career of this plan has most to say on.
+std::vector<const HeavyScreen*> screensOf(const Plan& plan);
 
 Length measureLength(const std::filesystem::path& folder, const Plan& plan);
 

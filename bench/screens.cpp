@@ -44,8 +44,27 @@ const std::vector<HeavyScreen>& labelScreens() {
   return screens;
 }
 
+const std::vector<HeavyScreen>& familyScreens() {
+  static const std::vector<HeavyScreen> screens = {
+      {"relationship", {"2", "goToRelationshipHome"}},
+      {"matches", {"2", "goToFXYDating", "goToFxyMatchList"}},
+      {"children", {"2", "goToChildList"}},
+      {"dynasty", {"2", "goToFamilyDynasty"}},
+      {"homes", {"3", "goToPropertyPortfolio"}},
+      {"startups", {"3", "goToVenturePortfolio"}},
+      {"the rich", {"3", "goToForbesDetail"}},
+      {"awards", {"1", "goToGramAwardDetail"}},
+  };
+  return screens;
+}
+
 void goToScreen(Session& session, const HeavyScreen& screen) {
-  if (screen.presses.empty()) return pressOnce(session, "nav", "endTheWeekButton", "");
+  const bool isReport = screen.presses.empty();
+  if (isReport && session.shown().modal) return;
+  if (isReport) return pressOnce(session, "nav", "endTheWeekButton", "");
+  closeTheReport(session, [&](const std::string& screenKey, const std::string& id, const std::string& value) {
+    pressOnce(session, screenKey, id, value);
+  });
   pressOnce(session, "tabs", "tab", screen.presses.front());
   while (session.shown().stack.size() > 1) pressOnce(session, "nav", "back", "");
   for (size_t i = 1; i < screen.presses.size(); ++i) {
@@ -62,7 +81,7 @@ std::vector<LooseScreen> everyScreen(Session& session) {
   const GameState& state = session.game().state;
   std::vector<std::string> arguments = {"", "0"};
   for (const int64_t last : {int64_t{1}, state.songId, state.albumId, state.merchId, state.tourId,
-                             state.featuredOnSongId, state.signedArtistId, state.signedArtistAlbumId}) {
+                             state.featuredOnSongId, state.signedArtistId, state.signedArtistAlbumId, state.matchId}) {
     arguments.push_back(std::to_string(last));
   }
   Shown glass = session.shown();
@@ -90,6 +109,10 @@ std::string describedScreen(const Session& session, Shown& glass, const Screen& 
 
 void endTheWeek(Session& session, const Press& press) {
   press("nav", "endTheWeekButton", "");
+  closeTheReport(session, press);
+}
+
+void closeTheReport(Session& session, const Press& press) {
   for (Shown shown = session.shown(); shown.alert || shown.modal; shown = session.shown()) {
     if (shown.alert) {
       press("alert", std::to_string(shown.alert->key), "0");

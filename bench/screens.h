@@ -15,10 +15,12 @@ struct HeavyScreen {
   std::vector<std::string> presses;  ///< the way there from anywhere: a tab's number, then ids; empty for the report
 };
 const std::vector<HeavyScreen>& heavyScreens();
-/// Those of a label, besides.
+/// Those of a label, and of a family and its fortune, besides.
 const std::vector<HeavyScreen>& labelScreens();
+const std::vector<HeavyScreen>& familyScreens();
 
-/// Goes to the screen. After the report the week is over.
+/// Goes to the screen; a report that stands there is read first, unless it is the one. After the report the week is
+/// over.
 void goToScreen(Session& session, const HeavyScreen& screen);
 
 /// What the page gets after a press: the whole glass, as JSON.
@@ -39,6 +41,8 @@ using Press = std::function<void(const std::string& screenKey, const std::string
 
 /// Ends the week, answers everything and closes the report, all by `press`.
 void endTheWeek(Session& session, const Press& press);
+/// The last part of it; nothing when no report stands there.
+void closeTheReport(Session& session, const Press& press);
 
 /// A press at a time that is always the same.
 void pressOnce(Session& session, const std::string& screenKey, const std::string& id, const std::string& value);

@@ -310,13 +310,18 @@ std::vector<std::string> unbearableValues(const GameState& state, size_t most) {
 }
 
 size_t mendRecords(RecordBuffer& records) {
-  Records places;
-  for (size_t i = 0; i < records.size(); ++i) places.push_back(records.recordAt(i));
+  const Shape shape(records.type());
   size_t mended = 0;
-  forEachUnbearable(Shape(records.type()), places, [&](const Number& number, const void* at, size_t) {
+  const std::function<void(const Number&, const void*, size_t)> mend = [&](const Number& number, const void* at,
+                                                                           size_t) {
     number.put(const_cast<void*>(at), nearest(number.bounds, number.in(at)));
     ++mended;
-  });
+  };
+  Records one(1);  // the places of a million would be felt
+  for (size_t i = 0; i < records.size(); ++i) {
+    one.front() = records.recordAt(i);
+    forEachUnbearable(shape, one, mend);
+  }
   return mended;
 }
 

@@ -425,6 +425,7 @@ void ChunkedList::rebuildIndexes() {
     if (key == noKey) return;
     index.clear();
     for (uint32_t i = 0; i < size(); ++i) index[numberAt<int64_t>(key, i)].push_back(i);
+    for (auto& [id, records] : index) records.shrink_to_fit();  // most of them have come to their end
   };
   rebuild(history_, type().historyKey);
   rebuild(groups_, type().groupKey);

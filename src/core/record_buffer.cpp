@@ -31,6 +31,10 @@ RecordBuffer& RecordBuffer::operator=(RecordBuffer other) noexcept {
 
 RecordBuffer::~RecordBuffer() { shrink(0); }
 
+void RecordBuffer::reserve(size_t count) {
+  if (first_ + count > capacity_) moveInto(first_, first_ + count);
+}
+
 void* RecordBuffer::add() {
   makeRoom();
   void* const place = recordAt(size_++);

@@ -26,6 +26,8 @@ class RecordBuffer {
   void* recordAt(size_t i) { return bytes_.get() + (first_ + i) * type_->size; }
   const void* recordAt(size_t i) const { return bytes_.get() + (first_ + i) * type_->size; }
 
+  /// Has room for so many records, which then come without another move of those before them.
+  void reserve(size_t count);
   /// One more record at the end, on its defaults; gives it.
   void* add();
   /// One more record at position `i`, made out of one that lies elsewhere and is left for its owner to end. Quick at

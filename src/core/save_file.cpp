@@ -47,6 +47,13 @@ class ListLoader {
     damaged_ = damaged_ || row == nullptr || !(chunk == orderRow ? takeOrder(*row) : takeChunk(chunk, *row));
   }
 
+  /// After the first chunk: so many rows there are in all. Where they are like it their records never have to move,
+  /// which would need the memory twice; what the next years add has room as well.
+  void expect(size_t rows) {
+    const size_t records = rows * places_.size();
+    places_.reserve(records + records / 8);
+  }
+
   /// Fills the list; it stays as it was, and counts as damaged, when its rows are no whole list.
   void finish() {
     if (stored.leftovers.empty()) return;
@@ -123,6 +130,7 @@ class Loader {
   }
 
   bool run(Store& store) {
+    store_ = &store;
     const bool readable =
         store.visitRows([&](std::string_view key, int32_t chunk, const Value& value) { take(key, chunk, value); });
     for (const auto& [key, unused] : listsOf(state_)) {
@@ -164,6 +172,7 @@ class Loader {
     if (key != deviceKey) rows.insert(placeOf(key, chunk));
     if (list != lists_.end()) {
       list->second.take(chunk, value);
+      if (chunk == 0) list->second.expect(store_->countRows(key));
     } else if (chunk == wholeRow) {
       takeWhole(key, value);
     }
@@ -179,6 +188,7 @@ class Loader {
   }
 
   GameState& state_;
+  Store* store_ = nullptr;
   std::map<std::string_view, ListLoader> lists_;
   std::map<std::string_view, const Scalar*> scalars_;
   std::set<std::string, std::less<>> damagedWholes_;

@@ -59,6 +59,9 @@ class Store {
   /// says so. False when the store cannot be read.
   virtual bool visitRows(const std::function<void(std::string_view key, int32_t chunk, const Value& value)>& visit) = 0;
 
+  /// How many rows stand under the key, where that is told without reading them; 0 otherwise.
+  virtual size_t countRows(std::string_view) { return 0; }
+
   /// Puts rows that cannot be read aside, out of the game's way but not out of the world: they leave the store's rows
   /// and are kept under their own names for whoever wants to repair them.
   virtual void quarantine(std::string_view key) = 0;

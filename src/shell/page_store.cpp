@@ -1,5 +1,7 @@
 #include "shell/page_store.h"
 
+#include <algorithm>
+#include <iterator>
 #include <limits>
 
 #include "shell/row_bytes.h"
@@ -40,6 +42,12 @@ bool PageStore::visitRows(const std::function<void(std::string_view, int32_t, co
     if (!row.first.starts_with(quarantinePrefix)) visit(row.first, row.second, value);
   }
   return true;
+}
+
+size_t PageStore::countRows(std::string_view key) {
+  const auto first = rows_.lower_bound({std::string(key), std::numeric_limits<int32_t>::min()});
+  return static_cast<size_t>(
+      std::distance(first, std::find_if(first, rows_.end(), [&](const auto& row) { return row.first.first != key; })));
 }
 
 void PageStore::quarantine(std::string_view key) {

@@ -40,6 +40,7 @@ class PageStore final : public Store {
 
   /// The rows handed in, but for those put aside.
   bool visitRows(const std::function<void(std::string_view, int32_t, const Value&)>& visit) override;
+  size_t countRows(std::string_view key) override;
 
   /// Has the page move the key's rows, of those handed in, to the same rows under "quarantine/" and the key.
   void quarantine(std::string_view key) override;

@@ -74,17 +74,24 @@ Outcome BillboardViewController::historyButton() {
   return {};
 }
 
-/// Positions of the rows: those on the chart by rank, or all of them by their weeks at number one.
+/// Positions of the rows: those on the chart by rank, or all of them by their weeks at number one. Most never had one
+/// and stand as they came, so that only the others have to be put in order.
 std::vector<size_t> BillboardViewController::rowsShown() const {
   const RecordList<BillboardSong>& rows = state().saveAllBillboardSongList;
-  std::vector<size_t> shown;
+  std::vector<size_t> ranked;
+  std::vector<size_t> others;
   for (size_t i = 0; i < rows.size(); ++i) {
-    if (history_ || rows[i].isOnCharts) shown.push_back(i);
+    if (history_ ? rows[i].weeksAtOne > 0 : rows[i].isOnCharts) {
+      ranked.push_back(i);
+    } else if (history_) {
+      others.push_back(i);
+    }
   }
-  sortStably(shown, [&](size_t a, size_t b) {
+  sortStably(ranked, [&](size_t a, size_t b) {
     return history_ ? rows[a].weeksAtOne > rows[b].weeksAtOne : rows[a].rankThisWeek < rows[b].rankThisWeek;
   });
-  return shown;
+  ranked.insert(ranked.end(), others.begin(), others.end());
+  return ranked;
 }
 
 Row BillboardViewController::describe(const BillboardSong& song) const {

@@ -23,17 +23,35 @@ size_t sizeInHead(std::string_view packed) {
 
 }  // namespace
 
-Bytes packRows(std::span<const Write> rows) {
-  Bytes plain;
-  for (const Write& row : rows) appendRow(plain, row);
-  uLongf size = compressBound(plain.size());
-  Bytes packed(headSize + size, '\0');
-  for (size_t i = 0; i < headSize; ++i) packed[i] = static_cast<char>(plain.size() >> (8 * i));
-  auto* out = reinterpret_cast<Bytef*>(packed.data() + headSize);
-  const auto* in = reinterpret_cast<const Bytef*>(plain.data());
-  if (compress2(out, &size, in, plain.size(), quick) != Z_OK) return {};
-  packed.resize(headSize + size);
-  return packed;
+RowPacker::RowPacker() : packed_(headSize, '\0'), works_(deflateInit(&stream_, quick) == Z_OK) {}
+
+RowPacker::~RowPacker() { deflateEnd(&stream_); }
+
+void RowPacker::add(const Write& row) {
+  plain_.clear();
+  appendRow(plain_, row);
+  squeeze(plain_, Z_NO_FLUSH);
+}
+
+Bytes RowPacker::finish() {
+  squeeze({}, Z_FINISH);
+  if (!works_) return {};
+  for (size_t i = 0; i < headSize; ++i) packed_[i] = static_cast<char>(stream_.total_in >> (8 * i));
+  return std::move(packed_);
+}
+
+void RowPacker::squeeze(std::string_view plain, int flush) {
+  constexpr size_t step = 1 << 16;
+  stream_.next_in = const_cast<Bytef*>(reinterpret_cast<const Bytef*>(plain.data()));  // zlib only reads it
+  stream_.avail_in = static_cast<uInt>(plain.size());
+  for (bool isMore = works_; isMore; isMore = works_ && stream_.avail_out == 0) {
+    const size_t full = packed_.size();
+    packed_.resize(full + step);
+    stream_.next_out = reinterpret_cast<Bytef*>(packed_.data() + full);
+    stream_.avail_out = step;
+    works_ = deflate(&stream_, flush) != Z_STREAM_ERROR;
+    packed_.resize(full + step - stream_.avail_out);
+  }
 }
 
 std::optional<std::vector<Write>> unpackRows(std::string_view packed) {

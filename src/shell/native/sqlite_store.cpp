@@ -344,7 +344,15 @@ bool SqliteStore::visitRows(const std::function<void(std::string_view, int32_t, 
     visit(key, number, next.valueHere());
     next.next();
   }
+  sqlite3_db_release_memory(database_.get());  // what was read once is not read again
   return wholes.atEnd() && chunks.atEnd();
+}
+
+size_t SqliteStore::countRows(std::string_view key) {
+  const Statement count = prepared("SELECT count(*) FROM list WHERE key = ?1");
+  if (!count) return 0;
+  bindKey(count.get(), key, wholeRow);
+  return sqlite3_step(count.get()) == SQLITE_ROW ? static_cast<size_t>(sqlite3_column_int64(count.get(), 0)) : 0;
 }
 
 void SqliteStore::quarantine(std::string_view key) {
@@ -356,11 +364,11 @@ void SqliteStore::quarantine(std::string_view key) {
 }
 
 bool SqliteStore::keepSnapshot(std::string_view name) {
-  std::vector<Write> rows;
+  RowPacker packer;
   const bool read = visitRows([&](std::string_view key, int32_t chunk, const Value& value) {
-    if (!std::holds_alternative<DamagedValue>(value)) rows.push_back({std::string(key), chunk, value});
+    if (!std::holds_alternative<DamagedValue>(value)) packer.add({std::string(key), chunk, value});
   });
-  const Value packed = read ? packRows(rows) : Bytes();  // bound below as it stands here
+  const Value packed = read ? packer.finish() : Bytes();  // bound below as it stands here
   if (std::get<Bytes>(packed).empty()) return false;
   return transaction([&] {
     const Statement put = prepared("INSERT INTO snapshot_packed VALUES (?1, ?2)");

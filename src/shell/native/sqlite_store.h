@@ -31,6 +31,7 @@ class SqliteStore final : public CareerStore {
 
   bool commit(std::span<const Write> writes) override;
   bool visitRows(const std::function<void(std::string_view, int32_t, const Value&)>& visit) override;
+  size_t countRows(std::string_view key) override;
   void quarantine(std::string_view key) override;
   bool keepSnapshot(std::string_view name) override;
   void dropSnapshot(std::string_view name) override;

@@ -7,6 +7,7 @@ namespace backbeat {
 
 namespace {
 
+constexpr FamilyPlan family = {.swipes = 6, .dates = 2, .children = 1, .energyKept = 30};
 constexpr int64_t ageOfHeir = 18;
 constexpr int64_t weeksOfALifestyle = 13;
 constexpr double shareForAWeekOfLife = 0.01;  ///< who does not live well has no energy left for handing over
@@ -15,7 +16,7 @@ constexpr double shareForAWeekOfLife = 0.01;  ///< who does not live well has no
 
 void Dynast::playWeek(Player& player, int64_t week) {
   if (retire(player, ageOfHeir)) firstWeek_ = week;
-  liveWithFamily(player, {}, week);
+  liveWithFamily(player, family, week);
   if (week % weeksOfALifestyle == 0) {
     chooseLifestyles(player, player.state().totalCashAvailable * shareForAWeekOfLife);
   }

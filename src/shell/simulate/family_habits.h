@@ -8,10 +8,10 @@
 namespace backbeat {
 
 struct FamilyPlan {
-  int64_t swipes = 6;       ///< a week, while nobody is there
-  int64_t dates = 2;        ///< at most so many things done with the partner in a week
+  int64_t swipes = 8;       ///< a week, while nobody is there
+  int64_t dates = 3;        ///< at most so many things done with the partner in a week
   int64_t children = 1;     ///< in the family; no more are wished for
-  int64_t energyKept = 30;  ///< what love may not take
+  int64_t energyKept = 40;  ///< what love may not take
 };
 
 /// All of what follows but the end, as often as it takes.

@@ -180,7 +180,7 @@ void scout(Player& player, const LabelHabit& habit) {
 void choosePerks(Player& player) {
   openLabel(player);
   player.press("goToLabelBenefits");
-  for (const char* perk : worthwhilePerks) player.press(perk, "1");
+  for (const char* perk : worthwhilePerks) player.press(perk);
   player.settle();
 }
 

@@ -11,7 +11,7 @@ namespace backbeat {
 
 namespace {
 
-constexpr FamilyPlan family = {.children = 2};
+constexpr FamilyPlan family = {.swipes = 6, .dates = 2, .children = 2, .energyKept = 30};
 constexpr LabelHabit label;
 constexpr WealthHabit wealth = {.shareForAHome = 0.2, .shareForAVehicle = 0.05};
 constexpr double shareForARound = 0.1;

@@ -15,6 +15,13 @@ constexpr int64_t betweenPresses = 7'000;
 constexpr int mostReportPresses = 20;
 constexpr int mostQuestions = 100;
 
+/// What a press sends when nothing more is told: a toggle turns.
+std::string plainValue(const View& view, const std::string& id) {
+  const Toggle toggle = blockWithId<Toggle>(view, id);
+  if (toggle.id.empty()) return "";
+  return toggle.on ? "0" : "1";
+}
+
 }  // namespace
 
 Player::Player(uint64_t seed, std::vector<std::string>& problems)
@@ -38,9 +45,7 @@ void Player::press(const std::string& id, const std::optional<std::string>& valu
 
 bool Player::tryPress(const std::string& id, const std::optional<std::string>& value) {
   if (seen().alert || !isPressable(view(), id)) return false;
-  const Toggle toggle = blockWithId<Toggle>(view(), id);
-  const char* turned = toggle.id.empty() ? "" : toggle.on ? "0" : "1";
-  act(std::to_string(seen().key), {id, value.value_or(turned)});
+  act(std::to_string(seen().key), {id, value ? *value : plainValue(view(), id)});
   return true;
 }
 

@@ -28,8 +28,8 @@ class Player {
   /// The screen that is seen, to look things up in; core/view_find.h has how.
   const View& view() { return seen().view; }
 
-  /// Presses what has the id; a step that finds nothing to press is a problem. A toggle is turned; what can be moved
-  /// or chosen needs a value.
+  /// Presses what has the id; a step that finds nothing to press is a problem. Without a value a toggle turns, and what
+  /// else takes one gets none.
   void press(const std::string& id, const std::optional<std::string>& value = std::nullopt);
   /// The same where it is no problem when nothing has the id; false then.
   bool tryPress(const std::string& id, const std::optional<std::string>& value = std::nullopt);
