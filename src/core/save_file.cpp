@@ -50,7 +50,8 @@ class ListLoader {
   /// After the first chunk: so many rows there are in all. Where they are like it their records never have to move,
   /// which would need the memory twice; what the next years add has room as well.
   void expect(size_t rows) {
-    const size_t records = rows * places_.size();
+    constexpr size_t mostBelieved = 1 << 22;  // more records than that come from nobody's career
+    const size_t records = std::min(rows, mostBelieved / std::max<size_t>(places_.size(), 1)) * places_.size();
     places_.reserve(records + records / 8);
   }
 
