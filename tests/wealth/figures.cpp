@@ -111,18 +111,17 @@ Standings richListFigures(Game& twin) {
 Standings startupsFigures(Game& twin) {
   const Venture& sprout = twin.state.saveAllVentureInvestments[0];
   const std::string percent = std::to_string(sprout.percentageOwned) + "%";
-  return {
-      {"Worth today", "$1,515,152"},
-      {"Worth today: note", "+$505,050 on $1,010,101 put in"},
-      {"Sprout: share", shareText(1)},
-      {"SPROUT: subtitle", "is on a roll.  up from $4.4M 🔼🎉"},
-      {"heading", "News"},
-      {"heading", "Holdings · 1 running"},
-      {"Sprout", "$1.5M", "goToSellVentureShares 83"},
-      {"Sprout: subtitle", "Series B · " + percent},
+  return {{"Worth today", "$1,515,152"},
+          {"Worth today: note", "+$505,050 on $1,010,101 put in"},
+          {"Sprout: share", shareText(1)},
+          {"SPROUT: subtitle", "is on a roll.  up from $4.4M 🔼🎉"},
+          {"heading", "News"},
+          {"heading", "Holdings · 1 running"},
+          {"Sprout", "$1.5M", "goToSellVentureShares 83"},
+          {"Sprout: subtitle", "Series B · " + percent},
           {"Sprout: subtitle (2)", sprout.businessTagline + " and most recently was valued at $6.0M"},
-      {"Sprout: note", "+50%"},
-      {"Sprout: points", pointsText({1'010'101, 6'060'606 / 4.0})}};
+          {"Sprout: note", "+50%"},
+          {"Sprout: points", pointsText({1'010'101, 6'060'606 / 4.0})}};
 }
 
 Standings stakeFigures(Game& twin) {

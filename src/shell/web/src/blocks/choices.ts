@@ -12,7 +12,11 @@ export function planCards({ id, label, options = [], selected = 0 }: Choice, sce
   </div>`;
 }
 
-function plan({ label, note, tone, price, value, facts, action = "" }: Option, chosen: boolean, press: () => void): TemplateResult {
+function plan(
+  { label, note, tone, price, value, facts, action = "" }: Option,
+  chosen: boolean,
+  press: () => void,
+): TemplateResult {
   return html`<section class="plan card ${chosen ? "chosen" : ""} ${toneClass(tone)}">
     <h3 dir="auto">${label}</h3>
     ${value ? html`<p class="plan-value">${figureAndWords(value)}</p>` : nothing}
