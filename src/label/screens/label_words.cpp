@@ -41,10 +41,9 @@ Meter levelMeter(std::string label, double level) {
 }
 
 Meter ratingMeter(std::string label, double rating) {
-  return {.label = std::move(label),
-          .value = withDecimals(rating, 1),
-          .share = shareOf(rating, 100),
-          .tone = toneOfBand(rating)};
+  Meter meter = levelMeter(std::move(label), rating);
+  meter.value = withDecimals(rating, 1);
+  return meter;
 }
 
 Gauge levelGauge(std::string label, double level) {

@@ -15,12 +15,12 @@ constexpr double shareForAWeekOfLife = 0.01;  ///< who does not live well has no
 }  // namespace
 
 void Dynast::playWeek(Player& player, int64_t week) {
-  if (retire(player, ageOfHeir)) firstWeek_ = week;
+  if (retire(player, ageOfHeir)) work_.beginAnew(week);
   liveWithFamily(player, family, week);
   if (week % weeksOfALifestyle == 0) {
     chooseLifestyles(player, player.state().totalCashAvailable * shareForAWeekOfLife);
   }
-  work_.playWeek(player, week - firstWeek_ + 1);
+  work_.playWeek(player, week);
 }
 
 }  // namespace backbeat

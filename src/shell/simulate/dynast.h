@@ -10,8 +10,7 @@ class Dynast final : public Strategy {
   void playWeek(Player& player, int64_t week) override;
 
  private:
-  Keen work_;
-  int64_t firstWeek_ = 1;  ///< of the generation that plays
+  KeenFamily work_;
 };
 
 }  // namespace backbeat

@@ -138,8 +138,8 @@ bool heirWaits(const GameState& state, int64_t age) { return heirOfAge(state, ag
 
 bool retire(Player& player, int64_t age) {
   const GameState& state = player.state();
-  if (state.totalEnergyAvailable < takeoverEnergy || !heirWaits(state, age)) return false;
   const size_t heir = heirOfAge(state, age);
+  if (state.totalEnergyAvailable < takeoverEnergy || heir == state.saveAllChildList.size()) return false;
   openChild(player, heir);
   player.press("goToTakeOverDetail");
   player.press("playAsButton");

@@ -33,7 +33,7 @@ void Lifelong::playWeek(Player& player, int64_t week) {
   player.backStartups(shareForARound);
   player.attendAwards();
   const bool isLast = state.saveAllLegacyList.size() + 1 >= generations;
-  if (!isLast && retire(player, ageOfHeir)) firstWeek_ = week;
+  if (!isLast && retire(player, ageOfHeir)) work_.beginAnew(week);
   liveWithFamily(player, family, week);
   if (!isLast && heirWaits(state, ageOfHeir) && isWornOut(state)) {
     endLabel(player);  // it ends with this life anyway
@@ -43,7 +43,7 @@ void Lifelong::playWeek(Player& player, int64_t week) {
   }
   if (week % weeksOfALifestyle == 0) chooseLifestyles(player, state.totalCashAvailable * shareForAWeekOfLife);
   placeCash(player, wealth, week);
-  work_.playWeek(player, week - firstWeek_ + 1);
+  work_.playWeek(player, week);
 }
 
 }  // namespace backbeat
