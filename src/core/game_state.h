@@ -262,7 +262,7 @@ struct GameState {
   RecordList<AwardYear> awardYear{edited};  ///< one, or none before the first nominations
   RecordList<PackWeek> packWeeks{edited};   ///< one of each free pack that was taken
   RecordList<CreditedPurchase> creditedPurchases{growing};
-  RecordList<ReportNumber> openReport{growing};  ///< and what a closed one leaves: see turn/open_report.h
+  RecordList<ReportNumbers> openReport{growing};  ///< and what a closed one leaves: see turn/open_report.h
 
   friend bool operator==(const GameState&, const GameState&) = default;
 };

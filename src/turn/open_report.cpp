@@ -1,9 +1,12 @@
 #include "turn/open_report.h"
 
 #include <algorithm>
+#include <span>
+#include <string>
 #include <string_view>
 #include <type_traits>
 #include <variant>
+#include <vector>
 
 #include "core/calendar.h"
 #include "core/numbers.h"
@@ -15,131 +18,125 @@ namespace {
 using AlbumBefore = MilestoneSnapshot::AlbumStanding;
 using SongBefore = MilestoneSnapshot::SongStanding;
 
-/// A number of an `Owner`, and the name under which it is kept. Names are part of the save; they never change.
+/// A number of an `Owner`. Each table below is in the order in which its numbers are kept, which is part of the save: a
+/// new one joins at the end.
 template <class Owner>
-struct Kept {
-  std::string_view what;
-  std::variant<int64_t Owner::*, double Owner::*, bool Owner::*> member;
-};
+using Kept = std::variant<int64_t Owner::*, double Owner::*, bool Owner::*>;
 
-constexpr Kept<WeeklyReport> ofReport[] = {
-    {"show chirp", &WeeklyReport::showChirpId},
-    {"albums", &WeeklyReport::totalAlbumRevenue},
-    {"streams", &WeeklyReport::streams},
-    {"tour", &WeeklyReport::tour},
-    {"festival", &WeeklyReport::festivalPayment},
-    {"label", &WeeklyReport::label},
-    {"featured", &WeeklyReport::featured},
-    {"merch", &WeeklyReport::merch},
-    {"merch units", &WeeklyReport::merchUnits},
-    {"videos", &WeeklyReport::videos},
-    {"job", &WeeklyReport::job},
-    {"standing income", &WeeklyReport::standingIncome},
-    {"standing expenses", &WeeklyReport::standingExpenses},
-    {"family", &WeeklyReport::family},
-    {"label expenses", &WeeklyReport::labelExpenses},
-    {"revenue", &WeeklyReport::totalRevenue},
-    {"expenses", &WeeklyReport::totalExpenses},
-    {"cash before", &WeeklyReport::cashBefore},
-    {"exits", &WeeklyReport::exits},
-};
+constexpr Kept<WeeklyReport> ofReport[] = {&WeeklyReport::showChirpId,
+                                           &WeeklyReport::totalAlbumRevenue,
+                                           &WeeklyReport::streams,
+                                           &WeeklyReport::tour,
+                                           &WeeklyReport::festivalPayment,
+                                           &WeeklyReport::label,
+                                           &WeeklyReport::featured,
+                                           &WeeklyReport::merch,
+                                           &WeeklyReport::merchUnits,
+                                           &WeeklyReport::videos,
+                                           &WeeklyReport::job,
+                                           &WeeklyReport::standingIncome,
+                                           &WeeklyReport::standingExpenses,
+                                           &WeeklyReport::family,
+                                           &WeeklyReport::labelExpenses,
+                                           &WeeklyReport::totalRevenue,
+                                           &WeeklyReport::totalExpenses,
+                                           &WeeklyReport::cashBefore,
+                                           &WeeklyReport::exits};
 
-constexpr Kept<WeeklyReport> ofAppearance[] = {
-    {"has appeared", &WeeklyReport::hasAppeared},
-    {"bonus paid back", &WeeklyReport::bonusPaidBack},
-    {"settlement", &WeeklyReport::settlement},
-};
+constexpr Kept<WeeklyReport> ofAppearance[] = {&WeeklyReport::hasAppeared, &WeeklyReport::bonusPaidBack,
+                                               &WeeklyReport::settlement};
 
 constexpr Kept<MilestoneSnapshot> ofWeekBefore[] = {
-    {"week before", &MilestoneSnapshot::absoluteWeek},
-    {"cash of the week before", &MilestoneSnapshot::cash},
-    {"listeners", &MilestoneSnapshot::listeners},
-    {"most listeners", &MilestoneSnapshot::mostListeners},
-    {"all listeners known", &MilestoneSnapshot::allListenersKnown},
-    {"followers", &MilestoneSnapshot::followers},
-    {"job weeks", &MilestoneSnapshot::jobWeeks},
-    {"best rank", &MilestoneSnapshot::bestRank},
-    {"best song tier", &MilestoneSnapshot::bestSongTier},
-    {"best album tier", &MilestoneSnapshot::bestAlbumTier},
-    {"was streamed", &MilestoneSnapshot::wasStreamed},
-};
+    &MilestoneSnapshot::absoluteWeek,      &MilestoneSnapshot::cash,
+    &MilestoneSnapshot::listeners,         &MilestoneSnapshot::mostListeners,
+    &MilestoneSnapshot::allListenersKnown, &MilestoneSnapshot::followers,
+    &MilestoneSnapshot::jobWeeks,          &MilestoneSnapshot::bestRank,
+    &MilestoneSnapshot::bestSongTier,      &MilestoneSnapshot::bestAlbumTier,
+    &MilestoneSnapshot::wasStreamed};
 
-constexpr Kept<StreamWeeks> ofStreams[] = {
-    {"last streams", &StreamWeeks::streams},     {"last dollars", &StreamWeeks::dollars},
-    {"best streams", &StreamWeeks::bestStreams}, {"best dollars", &StreamWeeks::bestDollars},
-    {"weeks of streams", &StreamWeeks::count},
-};
+constexpr Kept<StreamWeeks> ofStreams[] = {&StreamWeeks::streams, &StreamWeeks::dollars, &StreamWeeks::bestStreams,
+                                           &StreamWeeks::bestDollars, &StreamWeeks::count};
 
-constexpr Kept<SongBefore> ofSong[] = {
-    {"song", &SongBefore::songId},
-    {"song tier", &SongBefore::tier},
-    {"song peak", &SongBefore::peak},
-    {"song was first", &SongBefore::wasFirst},
-    {"song was on chart", &SongBefore::wasOnChart},
-};
+constexpr Kept<SongBefore> ofSong[] = {&SongBefore::songId, &SongBefore::tier, &SongBefore::peak, &SongBefore::wasFirst,
+                                       &SongBefore::wasOnChart};
 
-constexpr Kept<AlbumBefore> ofAlbum[] = {{"album", &AlbumBefore::albumId}, {"album tier", &AlbumBefore::tier}};
+constexpr Kept<AlbumBefore> ofAlbum[] = {&AlbumBefore::albumId, &AlbumBefore::tier};
 
-constexpr Kept<VentureWeek> ofVenture[] = {
-    {"company", &VentureWeek::businessId},  {"valuation before", &VentureWeek::valuationBefore},
-    {"revalued", &VentureWeek::isRevalued}, {"exit", &VentureWeek::exit},
-    {"payout", &VentureWeek::payout},
-};
+constexpr Kept<VentureWeek> ofVenture[] = {&VentureWeek::businessId, &VentureWeek::valuationBefore,
+                                           &VentureWeek::isRevalued, &VentureWeek::exit, &VentureWeek::payout};
 
-constexpr Kept<Turn> ofTurn[] = {
-    {"last place", &Turn::lastPlaceChartPosition},
-    {"first song", &Turn::madeFirstSong},
-    {"first job", &Turn::tookFirstJob},
-};
+constexpr Kept<Turn> ofTurn[] = {&Turn::lastPlaceChartPosition, &Turn::madeFirstSong, &Turn::tookFirstJob};
 
-constexpr Kept<Launch> ofLaunch[] = {{"listeners gained", &Launch::weeklyFanChange}, {"wedding", &Launch::weddingWeek}};
+constexpr Kept<Launch> ofLaunch[] = {&Launch::weeklyFanChange, &Launch::weddingWeek};
 
 constexpr std::string_view openWeek = "open";
 constexpr std::string_view closedWeek = "closed";
 constexpr std::string_view hasMadeSong = "has made a song";
 constexpr std::string_view hasWorked = "has worked";
 
-using Numbers = RecordList<ReportNumber>;
+using Numbers = RecordList<ReportNumbers>;
 
-void keep(Numbers& numbers, std::string_view what, int64_t of, double amount) {
-  numbers.append({std::string(what), of, amount});
+/// The numbers of all `owners`, if there are any.
+template <class Owner, size_t count>
+void keep(Numbers& numbers, std::string_view what, const Kept<Owner> (&table)[count], std::span<const Owner> owners) {
+  if (owners.empty()) return;
+  ReportNumbers kept{std::string(what), count, {}};
+  kept.figures.reserve(owners.size() * count);
+  for (const Owner& owner : owners) {
+    for (const Kept<Owner>& member : table) {
+      kept.figures.push_back(std::visit([&](auto number) { return static_cast<double>(owner.*number); }, member));
+    }
+  }
+  numbers.append(std::move(kept));
 }
 
-/// Its numbers, but for those that are nothing.
 template <class Owner, size_t count>
-void keep(Numbers& numbers, const Kept<Owner> (&table)[count], const Owner& owner, int64_t of = 0) {
-  for (const Kept<Owner>& kept : table) {
-    const double amount = std::visit([&](auto member) { return static_cast<double>(owner.*member); }, kept.member);
-    if (amount != 0) keep(numbers, kept.what, of, amount);
+void keep(Numbers& numbers, std::string_view what, const Kept<Owner> (&table)[count], const Owner& owner) {
+  keep(numbers, what, table, std::span(&owner, 1));
+}
+
+const ReportNumbers* keptOf(const Numbers& numbers, std::string_view what) {
+  const size_t at = numbers.find([&](const ReportNumbers& kept) { return kept.what == what && kept.each > 0; });
+  return at < numbers.size() ? &numbers[at] : nullptr;
+}
+
+/// Gives each of `owners` its numbers back. What an older version did not keep stays as it is.
+template <class Owner, size_t count>
+void recall(const ReportNumbers& kept, const Kept<Owner> (&table)[count], std::span<Owner> owners) {
+  const auto each = static_cast<size_t>(kept.each);
+  for (size_t i = 0; i < owners.size(); ++i) {
+    for (size_t k = 0; k < std::min(each, count) && i * each + k < kept.figures.size(); ++k) {
+      const double figure = kept.figures[i * each + k];
+      std::visit(
+          [&](auto number) {
+            using Value = std::remove_cvref_t<decltype(owners[i].*number)>;
+            if constexpr (std::is_same_v<Value, bool>) {
+              owners[i].*number = figure != 0;
+            } else {
+              owners[i].*number = static_cast<Value>(figure);
+            }
+          },
+          table[k]);
+    }
   }
 }
 
 template <class Owner, size_t count>
-void recall(const ReportNumber& number, const Kept<Owner> (&table)[count], Owner& owner) {
-  for (const Kept<Owner>& kept : table) {
-    if (kept.what != number.what) continue;
-    std::visit(
-        [&](auto member) {
-          using Value = std::remove_cvref_t<decltype(owner.*member)>;
-          if constexpr (std::is_same_v<Value, bool>) {
-            owner.*member = number.figure != 0;
-          } else {
-            owner.*member = static_cast<Value>(number.figure);
-          }
-        },
-        kept.member);
-  }
+void recall(const Numbers& numbers, std::string_view what, const Kept<Owner> (&table)[count], Owner& owner) {
+  if (const ReportNumbers* kept = keptOf(numbers, what)) recall(*kept, table, std::span(&owner, 1));
 }
 
-/// The same of a list: the first number of each is its id.
 template <class Owner, size_t count>
-void recall(const ReportNumber& number, const Kept<Owner> (&table)[count], std::vector<Owner>& owners) {
-  if (number.what == table[0].what) owners.emplace_back();
-  if (!owners.empty()) recall(number, table, owners.back());
+void recall(const Numbers& numbers, std::string_view what, const Kept<Owner> (&table)[count],
+            std::vector<Owner>& owners) {
+  const ReportNumbers* kept = keptOf(numbers, what);
+  if (!kept) return;
+  owners.resize(kept->figures.size() / static_cast<size_t>(kept->each));
+  recall(*kept, table, std::span(owners));
 }
 
 bool isKept(const Numbers& numbers, std::string_view what) {
-  return numbers.find([&](const ReportNumber& number) { return number.what == what; }) != numbers.size();
+  return numbers.find([&](const ReportNumbers& kept) { return kept.what == what; }) != numbers.size();
 }
 
 /// Leaves the week, and what was done by then.
@@ -148,9 +145,9 @@ void beginAnew(Game& game, std::string_view how) {
   const bool songs = isKept(numbers, hasMadeSong) || !game.state.saveAllSongList.empty();
   const bool jobs = isKept(numbers, hasWorked) || game.turn.tookFirstJob;
   numbers.clear();
-  keep(numbers, how, game.state.weekNumberForTracking, 0);
-  if (songs) keep(numbers, hasMadeSong, 0, 1);
-  if (jobs) keep(numbers, hasWorked, 0, 1);
+  numbers.append({std::string(how), 1, {static_cast<double>(game.state.weekNumberForTracking)}});
+  if (songs) numbers.append({std::string(hasMadeSong), 0, {}});
+  if (jobs) numbers.append({std::string(hasWorked), 0, {}});
 }
 
 /// No week of this life has ended yet.
@@ -162,27 +159,27 @@ bool isFirstWeek(const GameState& state) {
 }  // namespace
 
 bool isReportOpen(const GameState& state) {
-  const Numbers& numbers = state.openReport;
-  return !numbers.empty() && numbers[0].what == openWeek && numbers[0].of == state.weekNumberForTracking;
+  const ReportNumbers* kept = keptOf(state.openReport, openWeek);
+  return kept && kept->figures == std::vector{static_cast<double>(state.weekNumberForTracking)};
 }
 
 void rememberReport(Game& game, const WeeklyReport& report) {
   const Turn& turn = game.turn;
   Numbers& numbers = game.state.openReport;
   beginAnew(game, openWeek);
-  keep(numbers, ofReport, report);
-  keep(numbers, ofTurn, turn);
-  keep(numbers, ofLaunch, game.launch);
-  keep(numbers, ofWeekBefore, turn.before);
-  keep(numbers, ofStreams, turn.before.streamWeeks);
-  for (const SongBefore& song : turn.before.songs) keep(numbers, ofSong, song, song.songId);
-  for (const AlbumBefore& album : turn.before.albums) keep(numbers, ofAlbum, album, album.albumId);
-  for (const VentureWeek& venture : turn.ventures) keep(numbers, ofVenture, venture, venture.businessId);
+  keep(numbers, "report", ofReport, report);
+  keep(numbers, "turn", ofTurn, turn);
+  keep(numbers, "launch", ofLaunch, game.launch);
+  keep(numbers, "week before", ofWeekBefore, turn.before);
+  keep(numbers, "streams", ofStreams, turn.before.streamWeeks);
+  keep(numbers, "songs", ofSong, std::span(turn.before.songs));
+  keep(numbers, "albums", ofAlbum, std::span(turn.before.albums));
+  keep(numbers, "companies", ofVenture, std::span(turn.ventures));
   game.save(&GameState::openReport);
 }
 
 void rememberAppearance(Game& game, const WeeklyReport& report) {
-  keep(game.state.openReport, ofAppearance, report);
+  keep(game.state.openReport, "appearance", ofAppearance, report);
   game.save(&GameState::openReport);
 }
 
@@ -192,17 +189,16 @@ WeeklyReport recalledReport(Game& game) {
   Turn& turn = game.turn;
   turn = Turn();
   turn.before.week = report.week;
-  for (const ReportNumber& number : game.state.openReport) {
-    recall(number, ofReport, report);
-    recall(number, ofAppearance, report);
-    recall(number, ofTurn, turn);
-    recall(number, ofLaunch, game.launch);
-    recall(number, ofWeekBefore, turn.before);
-    recall(number, ofStreams, turn.before.streamWeeks);
-    recall(number, ofSong, turn.before.songs);
-    recall(number, ofAlbum, turn.before.albums);
-    recall(number, ofVenture, turn.ventures);
-  }
+  const Numbers& numbers = game.state.openReport;
+  recall(numbers, "report", ofReport, report);
+  recall(numbers, "appearance", ofAppearance, report);
+  recall(numbers, "turn", ofTurn, turn);
+  recall(numbers, "launch", ofLaunch, game.launch);
+  recall(numbers, "week before", ofWeekBefore, turn.before);
+  recall(numbers, "streams", ofStreams, turn.before.streamWeeks);
+  recall(numbers, "songs", ofSong, turn.before.songs);
+  recall(numbers, "albums", ofAlbum, turn.before.albums);
+  recall(numbers, "companies", ofVenture, turn.ventures);
   return report;
 }
 
@@ -210,8 +206,8 @@ void noteFirsts(Game& game) {
   GameState& state = game.state;
   Numbers& numbers = state.openReport;
   if (numbers.empty() && !isFirstWeek(state)) {
-    keep(numbers, hasMadeSong, 0, 1);
-    keep(numbers, hasWorked, 0, 1);
+    numbers.append({std::string(hasMadeSong), 0, {}});
+    numbers.append({std::string(hasWorked), 0, {}});
   }
   game.turn.madeFirstSong = !isKept(numbers, hasMadeSong) && !state.saveAllSongList.empty();
   game.turn.tookFirstJob = !isKept(numbers, hasWorked) && state.weeklyJobContractRemaining > 0;

@@ -3,25 +3,26 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "core/fields.h"
 
 namespace backbeat {
 
-/// One number that the open report tells by and that stands nowhere else, such as the followers before the week. What
-/// there is to remember may grow from version to version, so it is told by name: see turn/open_report.h.
-struct ReportNumber {
-  std::string what;
-  int64_t of = 0;  ///< the id of a song, an album or a company; 0 for what is about the week
-  double figure = 0;
+/// Numbers that the open report tells by and that stand nowhere else, such as the followers before the week. What there
+/// is to remember may grow from version to version: see turn/open_report.h.
+struct ReportNumbers {
+  std::string what;             ///< whose they are: "week before", "songs"
+  int64_t each = 0;             ///< how many belong to each of those, one after the other
+  std::vector<double> figures;  ///< those of the first, those of the second and so on
 
-  friend bool operator==(const ReportNumber&, const ReportNumber&) = default;
+  friend bool operator==(const ReportNumbers&, const ReportNumbers&) = default;
 };
 
 template <>
-inline constexpr auto fieldsOf<ReportNumber> = [](auto&& take) {
-  return take(Field{"what", &ReportNumber::what}, Field{"of", &ReportNumber::of},
-              Field{"figure", &ReportNumber::figure});
+inline constexpr auto fieldsOf<ReportNumbers> = [](auto&& take) {
+  return take(Field{"what", &ReportNumbers::what}, Field{"each", &ReportNumbers::each},
+              Field{"figures", &ReportNumbers::figures});
 };
 
 }  // namespace backbeat
