@@ -8,6 +8,7 @@
 #include <type_traits>
 
 #include "core/numbers.h"
+#include "core/sorting.h"
 #include "core/text.h"
 
 namespace backbeat {
@@ -244,7 +245,7 @@ void reconcileIds(GameState& state, const Ids<T>& ids, Reconciled& found) {
     if (record.*ids.id < 0) found.refusal = std::string("One of the ") + ids.what + " has an id below 0.";
     if (record.*ids.id >= ids.firstOwn) given.push_back(record.*ids.id);
   }
-  std::sort(given.begin(), given.end());
+  sortStably(given, std::less<>());
   const auto twice = std::adjacent_find(given.begin(), given.end());
   if (twice != given.end()) {
     found.refusal = std::string("Two of the ") + ids.what + " have the id " + std::to_string(*twice) + ".";

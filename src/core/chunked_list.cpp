@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <limits>
 #include <numeric>
 
 namespace backbeat {
@@ -19,26 +20,27 @@ bool isPermutation(const std::vector<uint32_t>& slots, size_t size) {
 }
 
 /// What a list is sorted by: a number of a record, and where it stands.
-template <class Number>
 struct SortEntry {
-  Number key;
+  int64_t key;
   uint32_t position;
 };
 
-template <class Entry>
-bool before(const Entry& a, const Entry& b) {
-  return a.key != b.key ? a.key > b.key : a.position < b.position;
+/// A whole number that orders like the number; both zeros are one.
+int64_t orderOf(double number) {
+  const auto bits = std::bit_cast<int64_t>(number + 0.0);
+  return bits < 0 ? bits ^ std::numeric_limits<int64_t>::max() : bits;
 }
+
+bool before(const SortEntry& a, const SortEntry& b) { return a.key != b.key ? a.key > b.key : a.position < b.position; }
 
 /// Takes the few entries that break the order out of `order`, which closes up behind them: keys fall, and equal ones
 /// stand by position.
-template <class Entry>
-std::vector<Entry> takeMisfits(std::vector<Entry>& order) {
+std::vector<SortEntry> takeMisfits(std::vector<SortEntry>& order) {
   constexpr size_t patience = 8;
-  const auto rises = [](const Entry& last, const Entry& next) { return next.key > last.key; };
+  const auto rises = [](const SortEntry& last, const SortEntry& next) { return next.key > last.key; };
   const auto firstRise = std::adjacent_find(order.begin(), order.end(), rises);
   if (firstRise == order.end()) return {};
-  std::vector<Entry> misfits;
+  std::vector<SortEntry> misfits;
   size_t kept = static_cast<size_t>(firstRise - order.begin()) + 1;
   size_t misfitsInARow = 0;
   for (size_t i = kept; i < order.size();) {
@@ -71,6 +73,12 @@ void mergeInto(std::vector<Entry>& order, const std::vector<Entry>& few, const B
     *--free = *next;
     end = place;
   }
+}
+
+std::vector<uint32_t> positionsOf(const std::vector<SortEntry>& order) {
+  std::vector<uint32_t> positions(order.size());
+  std::transform(order.begin(), order.end(), positions.begin(), [](const SortEntry& entry) { return entry.position; });
+  return positions;
 }
 
 /// A record got another key.
@@ -248,44 +256,35 @@ void ChunkedList::sortBy(SortKey key) {
     sortedBy_ = {};
     unsorted_.clear();
   }
-  key.isReal ? sortByNumber<double>(key.offset) : sortByNumber<int64_t>(key.offset);
+  const std::vector<uint32_t> order = key == sortedBy_ ? orderOfChanged(key) : wholeOrder(key);
+  if (!std::is_sorted(order.begin(), order.end())) reorder(order);
   if (hasSlots()) sortedBy_ = key;
   unsorted_.clear();
 }
 
-template <class Number>
-void ChunkedList::sortByNumber(size_t offset) {
-  const bool isKnown = sortedBy_.offset == offset;
-  const std::vector<uint32_t> order = isKnown ? orderOfChanged<Number>(offset) : wholeOrder<Number>(offset);
-  if (!std::is_sorted(order.begin(), order.end())) reorder(order);
-}
-
 // Quick when few records are out of order, however long the list.
-template <class Number>
-std::vector<uint32_t> ChunkedList::wholeOrder(size_t offset) const {
-  std::vector<SortEntry<Number>> order(size());
-  for (uint32_t i = 0; i < order.size(); ++i) order[i] = {numberAt<Number>(offset, indexOf(i)), i};
-  std::vector<SortEntry<Number>> misfits = takeMisfits(order);
-  std::sort(misfits.begin(), misfits.end(), before<SortEntry<Number>>);
-  mergeInto(order, misfits, before<SortEntry<Number>>);
-  std::vector<uint32_t> positions(order.size());
-  std::transform(order.begin(), order.end(), positions.begin(), [](const auto& entry) { return entry.position; });
-  return positions;
+std::vector<uint32_t> ChunkedList::wholeOrder(SortKey key) const {
+  std::vector<SortEntry> order(size());
+  for (uint32_t i = 0; i < order.size(); ++i) order[i] = {keyAt(key, indexOf(i)), i};
+  std::vector<SortEntry> misfits = takeMisfits(order);
+  std::sort(misfits.begin(), misfits.end(), before);
+  mergeInto(order, misfits, before);
+  return positionsOf(order);
 }
 
 // Takes the changed records out of the order, and puts each back in its place.
-template <class Number>
-std::vector<uint32_t> ChunkedList::orderOfChanged(size_t offset) const {
+std::vector<uint32_t> ChunkedList::orderOfChanged(SortKey key) const {
   std::vector<uint32_t> changed;
   for (const uint32_t slot : unsorted_.all()) changed.push_back(static_cast<uint32_t>(positionOfSlot(slot)));
   std::sort(changed.begin(), changed.end());
   std::vector<uint32_t> order(size());
   std::iota(order.begin(), order.end(), 0u);
   eraseAt(order, changed);
-  const auto entry = [&](uint32_t i) { return SortEntry<Number>{numberAt<Number>(offset, slots_[i]), i}; };
-  const auto isBefore = [&](uint32_t a, uint32_t b) { return before(entry(a), entry(b)); };
-  std::sort(changed.begin(), changed.end(), isBefore);
-  mergeInto(order, changed, isBefore);
+  const auto entry = [&](uint32_t i) { return SortEntry{keyAt(key, slots_[i]), i}; };
+  std::vector<SortEntry> misfits(changed.size());
+  std::transform(changed.begin(), changed.end(), misfits.begin(), entry);
+  std::sort(misfits.begin(), misfits.end(), before);
+  mergeInto(order, positionsOf(misfits), [&](uint32_t a, uint32_t b) { return before(entry(a), entry(b)); });
   return order;
 }
 
@@ -384,6 +383,10 @@ Number ChunkedList::numberAt(size_t offset, size_t index) const {
   return *reinterpret_cast<const Number*>(static_cast<const char*>(records_.recordAt(index)) + offset);
 }
 
+int64_t ChunkedList::keyAt(SortKey key, size_t index) const {
+  return key.isReal ? orderOf(numberAt<double>(key.offset, index)) : numberAt<int64_t>(key.offset, index);
+}
+
 ChunkedList::Keys ChunkedList::keysAt(size_t position) const {
   Keys keys;
   if (type().historyKey != noKey) keys.history = numberAt<int64_t>(type().historyKey, indexOf(position));
@@ -424,8 +427,12 @@ void ChunkedList::rebuildIndexes() {
   const auto rebuild = [&](Index& index, size_t key) {
     if (key == noKey) return;
     index.clear();
+    // Counted first, so that each takes what it needs: most of them have come to their end.
+    std::unordered_map<int64_t, uint32_t, AsItIs> counts;
+    for (uint32_t i = 0; i < size(); ++i) ++counts[numberAt<int64_t>(key, i)];
+    index.reserve(counts.size());
+    for (const auto& [id, count] : counts) index[id].reserve(count);
     for (uint32_t i = 0; i < size(); ++i) index[numberAt<int64_t>(key, i)].push_back(i);
-    for (auto& [id, records] : index) records.shrink_to_fit();  // most of them have come to their end
   };
   rebuild(history_, type().historyKey);
   rebuild(groups_, type().groupKey);

@@ -22,6 +22,11 @@ struct ListLayout {
   ///< slots: the list is sorted in place; each record keeps a stable slot, and the order is a row of its own.
 };
 
+/// Hashes a number that is spread well enough as it is: an id, a fingerprint.
+struct AsItIs {
+  size_t operator()(auto number) const { return static_cast<size_t>(number); }
+};
+
 /// Whole numbers that came up, each once, in no order.
 class NumberSet {
  public:
@@ -137,14 +142,11 @@ class ChunkedList {
   void sortBy(SortKey key);
 
  private:
-  using Index = std::unordered_map<int64_t, std::vector<uint32_t>>;
+  using Index = std::unordered_map<int64_t, std::vector<uint32_t>, AsItIs>;
 
-  template <class Number>
-  void sortByNumber(size_t offset);
-  template <class Number>
-  std::vector<uint32_t> wholeOrder(size_t offset) const;
-  template <class Number>
-  std::vector<uint32_t> orderOfChanged(size_t offset) const;
+  std::vector<uint32_t> wholeOrder(SortKey key) const;
+  std::vector<uint32_t> orderOfChanged(SortKey key) const;
+  int64_t keyAt(SortKey key, size_t index) const;
   void reorder(const std::vector<uint32_t>& order);
   template <class Number>
   Number numberAt(size_t offset, size_t index) const;

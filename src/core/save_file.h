@@ -32,10 +32,7 @@ struct StoredList {
   std::vector<int32_t> leftovers;  ///< rows that could not be read and go when the list is saved
 };
 
-/// Places of rows, each by a fingerprint that serves as its hash.
-struct AsItIs {
-  size_t operator()(uint64_t fingerprint) const { return static_cast<size_t>(fingerprint); }
-};
+/// Places of rows, each by a fingerprint.
 using RowPlaces = std::unordered_set<uint64_t, AsItIs>;
 
 class SaveFile {

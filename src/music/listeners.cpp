@@ -7,6 +7,7 @@
 
 #include "core/bands.h"
 #include "core/numbers.h"
+#include "core/sorting.h"
 
 namespace backbeat {
 
@@ -50,7 +51,7 @@ double meanRatingOfRecentSongs(const GameState& state) {
     if (!songs[i].isReleased || songs[i].releaseWeek <= state.weekNumberForTracking - recentWeeks) continue;
     sortedSongListForFans.emplace_back(-songs[i].releaseWeek, i);
   }
-  std::sort(sortedSongListForFans.begin(), sortedSongListForFans.end());
+  sortStably(sortedSongListForFans, [](const auto& a, const auto& b) { return a.first < b.first; });
   double sum = 0;
   for (const auto& [week, position] : sortedSongListForFans) sum += songs[position].productionRating;
   return sortedSongListForFans.empty() ? 0 : sum / static_cast<double>(sortedSongListForFans.size());

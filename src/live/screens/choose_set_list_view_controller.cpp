@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/money.h"
+#include "core/sorting.h"
 #include "core/view_words.h"
 #include "live/festival_invitation.h"
 #include "live/screens/set_list_words.h"
@@ -16,7 +17,7 @@ Outcome ChooseSetListViewController::open() {
   for (const Song& song : state().saveAllSongList) {
     if (song.isReleased) byRating.emplace_back(song.productionRating, song.songId);
   }
-  std::sort(byRating.rbegin(), byRating.rend());
+  sortStably(byRating, [](const auto& a, const auto& b) { return a > b; });
   for (const auto& [rating, songId] : byRating) songs_.push_back(songId);
   return {};
 }
