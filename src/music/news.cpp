@@ -81,17 +81,20 @@ void addMilestones(const Game& game, std::vector<News>& all) {
   int64_t bestAlbumTier = isWhole ? before.bestAlbumTier : certificationTiers;
   for (const Milestone& milestone : milestonesSince(before, game.state, before.week)) {
     News news;
+    news.headline = milestone.text;
     if (milestone.kind == Milestone::Kind::certification) {
       tellMetal(news, milestone, milestone.songId >= 0 ? bestSongTier : bestAlbumTier);
     } else if (milestone.kind == Milestone::Kind::recordWeek) {
       news.kind = Kind::best;
       news.rank = 150;
       news.key = "record week";
-      news.kicker = "Its best week";
+      // What the week came to stands in the line below.
+      const size_t amount = milestone.text.rfind(": ");
+      news.headline.resize(amount);
+      news.text = milestone.text.substr(amount + 2);
     } else {
       tellChart(news, milestone, bestRank);
     }
-    news.headline = milestone.text;
     news.picture = pictureFor(game.state, milestone);
     all.push_back(std::move(news));
   }
