@@ -104,8 +104,9 @@ test("the engine names the glyphs and pictures that there are, and each has a dr
 
 test("a picture follows from its name, and an unknown form still gives one", async () => {
   const { page, context, faults } = await stage.open();
-  const [same, shirts, unknown, plain] = await page.evaluate(() => {
+  const [same, shirts, unknown, plain, inks] = await page.evaluate(() => {
     const { drawing, forms } = window.stage;
+    const cloth = (name) => drawing("object", `hoody:${name}`).match(/#[0-9a-f]{6}/g)[3];
     const shirts = Array.from({ length: 100 }, (_, i) => drawing("object", `shirt:Tour ${i}`));
     const unknown = Object.keys(forms).map((kind) => drawing(kind, "toString:Heron").includes(`picture ${kind}`));
     return [
@@ -113,9 +114,12 @@ test("a picture follows from its name, and an unknown form still gives one", asy
       new Set(shirts).size,
       unknown,
       drawing("object", "no form at all").includes("<svg"),
+      ["Black Hoodie", "Blue Moon Black Hoodie", "Red Hoodie"].map(cloth),
     ];
   });
   assert.ok(same && plain);
+  assert.equal(inks[0], inks[1], "of several colours the last is that of the thing");
+  assert.notEqual(inks[0], inks[2]);
   assert.ok(shirts > 90, `only ${shirts} of 100 shirts differ`);
   assert.deepEqual(unknown, [true, true, true, true]);
   assert.deepEqual(faults, []);

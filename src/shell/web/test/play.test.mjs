@@ -141,6 +141,22 @@ test("an alert must be answered, one after the other, by key or by hand", async 
   await close();
 });
 
+test("the main button is bright only when the screen says so, and a locked one can still be pressed", async () => {
+  const main = { id: "sell", label: "Sell" };
+  const { page, presses, close } = await open(answer([], { mainAction: main }));
+  const look = () => page.getByRole("button", { name: "Sell" }).evaluate((it) => getComputedStyle(it).backgroundImage);
+  assert.equal(await look(), "none");
+  const show = (more) =>
+    page.evaluate((next) => window.stage.show(next), answer([], { mainAction: { ...main, ...more } }));
+  await show({ style: "primary" });
+  assert.notEqual(await look(), "none");
+  await show({ style: "primary", tone: "locked" });
+  assert.equal(await look(), "none");
+  await page.getByRole("button", { name: "Sell locked" }).click();
+  assert.deepEqual(await presses(), [["5", "sell", ""]]);
+  await close();
+});
+
 test("what is pinned never lies under the tabs, and everything scrolls clear of it", async () => {
   const blocks = Array.from({ length: 40 }, (_, i) => ({ kind: "text", text: `Line ${i}` }));
   const mainAction = { id: "go", label: "Release" };
