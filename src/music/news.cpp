@@ -81,7 +81,6 @@ void addMilestones(const Game& game, std::vector<News>& all) {
   int64_t bestAlbumTier = isWhole ? before.bestAlbumTier : certificationTiers;
   for (const Milestone& milestone : milestonesSince(before, game.state, before.week)) {
     News news;
-    news.headline = milestone.text;
     if (milestone.kind == Milestone::Kind::certification) {
       tellMetal(news, milestone, milestone.songId >= 0 ? bestSongTier : bestAlbumTier);
     } else if (milestone.kind == Milestone::Kind::recordWeek) {
@@ -90,11 +89,12 @@ void addMilestones(const Game& game, std::vector<News>& all) {
       news.key = "record week";
       // What the week came to stands in the line below.
       const size_t amount = milestone.text.rfind(": ");
-      news.headline.resize(amount);
+      news.headline = milestone.text.substr(0, amount);
       news.text = milestone.text.substr(amount + 2);
     } else {
       tellChart(news, milestone, bestRank);
     }
+    if (news.headline.empty()) news.headline = milestone.text;
     news.picture = pictureFor(game.state, milestone);
     all.push_back(std::move(news));
   }
