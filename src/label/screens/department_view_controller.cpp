@@ -100,8 +100,8 @@ void DepartmentViewController::describe(View& view) const {
   if (standing.staff > 0) {
     view.add(caption(whatYouBring(state(), departments[static_cast<size_t>(code_)], standing)));
   }
-  view.add(Tiles{{{.icon = "trend", .label = bonus.title, .value = bonus.value},
-                  {.icon = "people", .label = "Team", .value = std::to_string(standing.staff)},
+  view.add(Tiles{{{.icon = "trend", .label = bonus.title, .value = bonus.value}}});
+  view.add(Tiles{{{.icon = "people", .label = "Team", .value = std::to_string(standing.staff)},
                   {.icon = "mic", .label = "Artists", .value = std::to_string(activeArtists(state()))}}});
   view.add(Text{.text = bonus.text});
   view.add(Heading{"Team"});

@@ -63,8 +63,8 @@ View SetAlbumMarketingViewController::view() const {
     const MarketingPlan& plan = marketingPlans[tier];
     rows.items.push_back({.picture = icon(planTexts[tier].icon),
                           .title = planTexts[tier].title,
-                          .subtitle = "Marketing " + std::to_string(plan.leastScore) + " to " +
-                                      std::to_string(plan.greatestScore) + " of " + std::to_string(mostMarketing),
+                          .subtitle = std::to_string(plan.leastScore) + " to " + std::to_string(plan.greatestScore) +
+                                      " of " + std::to_string(mostMarketing),
                           .price = plan.cost,
                           .selected = tier_ == tier,
                           .id = "plan:" + std::to_string(tier)});
