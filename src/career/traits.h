@@ -32,16 +32,16 @@ inline constexpr std::array<Trait, 11> traits = {{
     {"charisma", "Charisma", "star", "Lifts every recording", &GameState::charisma, &GameState::charismaEnergyCost},
     {"virality", "Virality", "flame", "A larger audience", &GameState::virality, &GameState::viralityEnergyCost, 2},
     {"directing", "Directing", "video", "Your own videos", &GameState::directing, &GameState::directingEnergyCost},
-    {"businessTrait1", "Leadership", "people", "Happier staff", &GameState::businessTrait1,
+    {"businessTrait1", "Leadership", "people", "Cheaper coaching", &GameState::businessTrait1,
      &GameState::businessTraitCost1, 2, 50, true},
-    {"businessTrait2", "Marketing", "megaphone", "More publicity", &GameState::businessTrait2,
+    {"businessTrait2", "Marketing", "megaphone", "+2 for Publicity a level", &GameState::businessTrait2,
      &GameState::businessTraitCost2, 2, 50, true},
-    {"businessTrait3", "Negotiation", "document", "Better terms", &GameState::businessTrait3,
+    {"businessTrait3", "Negotiation", "document", "+2 for Legal a level", &GameState::businessTrait3,
      &GameState::businessTraitCost3, 2, 50, true},
-    {"businessTrait4", "Recruiting", "guest", "Better talent", &GameState::businessTrait4,
+    {"businessTrait4", "Recruiting", "guest", "+2 for A&R a level", &GameState::businessTrait4,
      &GameState::businessTraitCost4, 2, 50, true},
-    {"businessTrait5", "Sales", "cash", "More revenue", &GameState::businessTrait5, &GameState::businessTraitCost5, 2,
-     50, true},
+    {"businessTrait5", "Sales", "cash", "+2 for Sales a level", &GameState::businessTrait5,
+     &GameState::businessTraitCost5, 2, 50, true},
 }};
 
 /// The trait of that key, or nullptr.

@@ -106,6 +106,12 @@ struct Dating {
   int64_t pendingSuperLike = 0;   ///< 1: the next match counts as one by star
 };
 
+/// How many goals wait to be collected, as it stood when they were last looked for.
+struct GoalsInSight {
+  int64_t absoluteWeek = -1;  ///< in which that was; -1 for never
+  int64_t count = 0;
+};
+
 /// Working values of this launch; gone when the program ends, by design.
 struct Launch {
   int64_t contractOfferState = 0;  ///< 0 none, 1 an offer waits, 2 its terms were seen
@@ -126,6 +132,7 @@ struct Launch {
   VentureMemory ventures;
   int64_t weddingWeek = 0;                  ///< the absolute week of the last wedding
   std::vector<int64_t> achievementsToTell;  ///< granted by this press and not told yet
+  mutable GoalsInSight goalsInSight;        ///< looked for when a screen asks, once a week
   std::vector<std::string> awaitedPacks;    ///< products asked for, whose answer is still to come
 };
 

@@ -49,7 +49,9 @@ void describeTour(const Game& game, Row& row) {
 
 void describeFestivals(const Game& game, Row& row) {
   const size_t festivals = game.state.saveAllFestivalList.size();
-  if (festivals > 0) row.value = std::to_string(festivals);
+  if (festivals == 0) return;
+  row.value = std::to_string(festivals);
+  row.note = "so far";
 }
 
 constexpr MenuLine planning(TabNumber tab) {

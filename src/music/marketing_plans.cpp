@@ -9,12 +9,10 @@ namespace backbeat {
 
 namespace {
 
-constexpr int64_t albumBonus = 5;
-
 void marketAlbum(GameState& state, size_t position, int64_t score) {
   const int64_t albumId = state.saveAllAlbumList[position].albumId;
   state.saveAllAlbumList.update(position, [&](Album& album) {
-    album.marketingScore = static_cast<double>(score + album.songCount + albumBonus);
+    album.marketingScore = static_cast<double>(score + album.songCount + albumMarketingBonus);
   });
   RecordList<Song>& songs = state.saveAllSongList;
   for (size_t i = 0; i < songs.size(); ++i) {

@@ -24,6 +24,10 @@ inline constexpr std::array<MarketingPlan, 5> marketingPlans = {{
     {{.dollars = 875'000}, 80, 135},
 }};
 
+/// The most that a plan can bring a song, and an album beside its songs.
+inline constexpr int64_t mostMarketing = marketingPlans.back().greatestScore;
+inline constexpr int64_t albumMarketingBonus = 5;
+
 /// What is marketed.
 struct MarketingTarget {
   enum class Kind { song, album } kind = Kind::song;

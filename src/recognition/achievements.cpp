@@ -8,6 +8,20 @@
 
 namespace backbeat {
 
+namespace {
+
+/// Of the goals that are still open.
+std::vector<const Achievement*> reachedGoals(const GameState& state) {
+  std::vector<const Achievement*> reached;
+  for (const Achievement& goal : achievements()) {
+    if (!goal.measure || isCompleted(state, goal.id)) continue;
+    if (goal.measure(state, goal.amount).reached()) reached.push_back(&goal);
+  }
+  return reached;
+}
+
+}  // namespace
+
 std::string Achievement::task() const {
   std::string told(description);
   if (description.ends_with(" of") || description.ends_with(" least")) {
@@ -41,14 +55,17 @@ int64_t completedCount(const GameState& state) {
   return std::count_if(all.begin(), all.end(), [&](const Achievement& goal) { return isCompleted(state, goal.id); });
 }
 
+int64_t goalsToCollect(const Game& game) {
+  GoalsInSight& inSight = game.launch.goalsInSight;
+  const int64_t week = game.state.weekNumberForTracking;
+  if (inSight.absoluteWeek != week) inSight = {week, static_cast<int64_t>(reachedGoals(game.state).size())};
+  return inSight.count;
+}
+
 std::vector<const Achievement*> completeReached(Game& game) {
-  std::vector<const Achievement*> reached;
-  for (const Achievement& goal : achievements()) {
-    if (!goal.measure || isCompleted(game.state, goal.id)) continue;
-    if (!goal.measure(game.state, goal.amount).reached()) continue;
-    completeAchievement(game, goal.id);
-    reached.push_back(&goal);
-  }
+  std::vector<const Achievement*> reached = reachedGoals(game.state);
+  for (const Achievement* goal : reached) completeAchievement(game, goal->id);
+  game.launch.goalsInSight = {game.state.weekNumberForTracking, 0};
   return reached;
 }
 

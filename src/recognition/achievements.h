@@ -55,6 +55,10 @@ bool isCompleted(const GameState& state, int64_t id);
 /// How many of the goals that there are.
 int64_t completedCount(const GameState& state);
 
+/// How many goals are reached and wait for `completeReached`. Looking for them walks all of a career, so it is done
+/// once a week: what a press reaches is counted a week later.
+int64_t goalsToCollect(const Game& game);
+
 /// Looks for every goal that is still open, and completes and saves those that are reached. Answers with them.
 std::vector<const Achievement*> completeReached(Game& game);
 

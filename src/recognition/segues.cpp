@@ -41,6 +41,7 @@ void describeAwards(const Game& game, Row& row) {
 void describeAchievements(const Game& game, Row& row) {
   const std::string all = std::to_string(achievements().size());
   row.subtitle = "Achieved " + std::to_string(completedCount(game.state)) + " of " + all;
+  if (const int64_t waiting = goalsToCollect(game); waiting > 0) row.badge = std::to_string(waiting) + " to collect";
 }
 
 constexpr MenuLine menu[] = {

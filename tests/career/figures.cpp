@@ -98,12 +98,17 @@ Standings lifeFigures(Game& twin) {
 
 Standings traitFigures(Game& twin) {
   const GameState& state = twin.state;
-  Standings standings = {{"Virality: subtitle", "+" + std::to_string(state.fashionViralityBonus) + " from your style"}};
+  Standings standings = {
+      {"Virality: subtitle", "+" + std::to_string(state.fashionViralityBonus) + " from your style"},
+      {"text",
+       "In a department your level counts twice, beside the ratings of its staff. All five go to 50, "
+       "and the higher they are, the better those who want to work for you."}};
   for (const Trait& trait : traits) {
     const std::string where(trait.title);
     const int64_t cost = state.*trait.cost;
     standings.push_back({where, std::to_string(state.*trait.level)});
     standings.push_back({where + ": note", "next " + std::to_string(cost / trait.energyPerLevel)});
+    if (trait.effect.front() == '+') standings.push_back({where + ": subtitle", std::string(trait.effect)});
     standings.push_back({where + ": price", priceText({cost, 0})});
     standings.push_back({where + ": share", shareText(static_cast<double>(state.*trait.level) /
                                                       static_cast<double>(trait.needsLabel ? 50 : 110))});

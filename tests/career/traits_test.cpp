@@ -87,6 +87,7 @@ TEST(Traits, TheScreenTellsLevelCostAndWhatComesNext) {
   EXPECT_DOUBLE_EQ(charisma.share.value_or(0), 0.5);
   EXPECT_EQ(rowTitled(screen.view(), "Virality").badge, "MAX");
   EXPECT_EQ(rowTitled(screen.view(), "Sales").tone, Tone::locked);
+  EXPECT_EQ(rowTitled(screen.view(), "Sales").note, "a first step") << "which gives no level yet";
 
   world.random.integerIs(0, 9, 0);
   screen.act({charisma.id, ""});

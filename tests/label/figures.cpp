@@ -196,13 +196,19 @@ Standings departmentFigures(Game& twin) {
   const std::string bonuses[] = {withDecimals(state.labelArtistHappinessBonus, 2),
                                  std::to_string(state.labelNegotiationBonus) + "%",
                                  std::to_string(state.labelViralityBoost)};
+  const std::string whatIsBrought[] = {
+      "Recruiting of " + std::to_string(state.businessTrait4) + " is counted in, doubled",
+      "Negotiation of " + std::to_string(state.businessTrait3) + " is counted in, doubled",
+      "studio of " + std::to_string(studioRating(state)) + " is counted in"};
   const char* titles[] = {"Artist Happiness Bonus", "Negotiation Bonus", "Virality Bonus"};
   const int64_t motivation = (50 - state.businessTrait1) / 5 + 5;
   return Standings{{"subtitle", "1 EMPLOYEE(S)"},
                    {titles[code], bonuses[code]},
                    {"Team", "1"},
                    {"Artists", "1"},
-                   {"text (2)", "Boost your employee's energy by +" + withDecimals(state.labelEnergyBoost, 2) +
+                   {"text", "Your staff rate " + std::to_string(one.employeeRating) + ", as their fader says. Your " +
+                                whatIsBrought[code] + ", and makes it " + std::to_string(rating) + "."},
+                   {"text (3)", "Boost your employee's energy by +" + withDecimals(state.labelEnergyBoost, 2) +
                                     " and happiness by +" + withDecimals(state.labelMoraleBoost, 2) + " for " +
                                     std::to_string(motivation) +
                                     " energy. Upgrade your boosts in the benefit/culture tab. As your leadership "
@@ -403,9 +409,9 @@ std::vector<ScreenFigures> screens() {
       {.segue = "goToLabelCapacity", .figures = capacityFigures, .noFigures = {"poster*", "subtitle"}},
       {.segue = "goToLabelBenefits", .figures = benefitFigures, .noFigures = {"text"}},
       {.segue = "goToLabelHireStaff", .figures = hireFigures, .noFigures = {"subtitle"}},
-      {.segue = "goToDepartment", .argument = "0", .figures = departmentFigures<0>, .noFigures = {"text"}},
-      {.segue = "goToDepartment", .argument = "1", .figures = departmentFigures<1>, .noFigures = {"text"}},
-      {.segue = "goToDepartment", .argument = "2", .figures = departmentFigures<2>, .noFigures = {"text"}},
+      {.segue = "goToDepartment", .argument = "0", .figures = departmentFigures<0>, .noFigures = {"text (2)"}},
+      {.segue = "goToDepartment", .argument = "1", .figures = departmentFigures<1>, .noFigures = {"text (2)"}},
+      {.segue = "goToDepartment", .argument = "2", .figures = departmentFigures<2>, .noFigures = {"text (2)"}},
       {.segue = "goToFindNewArtists", .figures = scoutingFigures, .before = meetAnna, .noFigures = {"subtitle"}},
       {.segue = "goToDemoAndOffer",
        .argument = marlow,

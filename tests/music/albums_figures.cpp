@@ -12,7 +12,7 @@ Standings albumOutFigures(Game& twin) {
   const Album& album = albumTitled(state, "First Light");
   const Weeks weeks = weeksOf(state, album);
   return Standings{{"cover: text",
-                    "EP · " + counted(album.songCount, "song") + "\nReleased in " + std::to_string(album.releaseYear)},
+                    "EP · " + counted(album.songCount, "song") + "\nRELEASED " + std::to_string(album.releaseYear)},
                    {"Rating", withDecimals(album.productionRating, 1)},
                    {"Earned", "$" + abbreviated(weeks.earned())},
                    {"Price", price(album.price)}} +
@@ -30,6 +30,7 @@ Standings albumInProductionFigures(Game& twin) {
                    {"text", counted(fewestSongsOnAlbum - album.songCount, "more song") + " and it can come out."},
                    {"button", "SET PRICING (" + price(album.price) + ")"},
                    {"MARKETING", withDecimals(album.marketingScore, 0), "goToSetAlbumMarketing 23"},
+                   {"MARKETING: note", "of " + std::to_string(135 + 5 + album.songCount)},
                    {"RELEASE: price", priceText(albumReleaseCost)}} +
          songFigures(state, "Night Bus");
 }

@@ -84,15 +84,15 @@ Standings certificationFigures(const std::string& label, int64_t total, const st
 }
 
 Standings marketingFigures(Game&) {
-  return {{"Flyers and friends: subtitle", "Marketing 1 to 10"},
+  return {{"Flyers and friends: subtitle", "1 to 10 of 135"},
           {"Flyers and friends: price", "$500"},
-          {"Local radio: subtitle", "Marketing 10 to 25"},
+          {"Local radio: subtitle", "10 to 25 of 135"},
           {"Local radio: price", "$4,500"},
-          {"City campaign: subtitle", "Marketing 25 to 40"},
+          {"City campaign: subtitle", "25 to 40 of 135"},
           {"City campaign: price", "$35,000"},
-          {"National campaign: subtitle", "Marketing 40 to 80"},
+          {"National campaign: subtitle", "40 to 80 of 135"},
           {"National campaign: price", "$175,000"},
-          {"World campaign: subtitle", "Marketing 80 to 135"},
+          {"World campaign: subtitle", "80 to 135 of 135"},
           {"World campaign: price", "$875,000"},
           {"Set marketing: price", "$35,000"}};
 }

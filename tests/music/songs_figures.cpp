@@ -14,13 +14,12 @@ namespace {
 Standings songOutFigures(Game& twin) {
   const GameState& state = twin.state;
   const Song& song = songTitled(state, "Glass Harbour");
-  return Standings{
-             {"cover: text", "First Light\nfeat. Bo Crow, Cy Dell\nReleased in " + std::to_string(song.releaseYear)},
-             {"cover: badge", "E"},
-             {"Rating", withDecimals(song.productionRating, 1)},
-             {"Virality", withDecimals(song.viralityScore, 1)},
-             {"Chart", rank(song.chartRanking)},
-             {"MUSIC VIDEO", "", "goToCreateMusicVideo 15"}} +
+  return Standings{{"cover: text", "First Light\nfeat. Bo Crow, Cy Dell\nRELEASED " + std::to_string(song.releaseYear)},
+                   {"cover: badge", "E"},
+                   {"Rating", withDecimals(song.productionRating, 1)},
+                   {"Virality", withDecimals(song.viralityScore, 1)},
+                   {"Chart", rank(song.chartRanking)},
+                   {"MUSIC VIDEO", "", "goToCreateMusicVideo 15"}} +
          weekFigures("Streams", song.totalListen, weeksLeft(remainingLife(state, song)), weeksOf(state, song)) +
          certificationFigures("Certified Silver", song.totalListen, "Gold", 75'000'150);
 }
@@ -29,7 +28,7 @@ Standings songOutFigures(Game& twin) {
 Standings filmedSongFigures(Game& twin) {
   const GameState& state = twin.state;
   const Song& song = songTitled(state, "Tin Roof");
-  return Standings{{"cover: text", "Single\nReleased in " + std::to_string(song.releaseYear)},
+  return Standings{{"cover: text", "Single\nRELEASED " + std::to_string(song.releaseYear)},
                    {"Rating", withDecimals(song.productionRating, 1)},
                    {"Virality", withDecimals(song.viralityScore, 1)},
                    {"MUSIC VIDEO", "7.6M views", "goToYouViewVideoDetail 31"}} +
@@ -49,6 +48,7 @@ Standings songInProductionFigures(Game& twin) {
           {"Virality +0.5: price", priceText(*viralityBoostCost(song))},
           {"Announce on Chirp: price", "5 energy"},
           {"Marketing", withDecimals(song.marketingScore, 0), "goToSetSongMarketing 21"},
+          {"Marketing: note", "of 135"},
           {"Add to album", "", "goToAddToAlbum 21"},
           {"RELEASE: price", priceText(releaseCost)}};
 }

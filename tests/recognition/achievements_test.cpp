@@ -272,8 +272,10 @@ TEST(Achievements, AreLookedForWhenTheirScreenOpensInOneOrderAndOnceForAll) {
   state.totalFans = 1'000;
   state.totalCashAvailable = -5;
   world.settle();
+  EXPECT_EQ(goalsToCollect(world.game), 5) << "they wait until somebody looks";
   AchievementsViewController screen(world.game);
   EXPECT_EQ(screen.appear().feedback, Feedback::success);
+  EXPECT_EQ(goalsToCollect(world.game), 0);
   EXPECT_EQ(state.AllCompletedAchievements, (std::vector<int64_t>{171, 119, 120, 204, 408}));
   EXPECT_EQ(blocksOf<Card>(screen.view()).size(), 3u);
   EXPECT_EQ(blockOf<Text>(screen.view()).text, "and 2 more");

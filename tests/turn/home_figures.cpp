@@ -1,6 +1,7 @@
 #include "career/energy.h"
 #include "career/traits.h"
 #include "core/money.h"
+#include "recognition/achievements.h"
 #include "turn/figures.h"
 
 namespace backbeat {
@@ -42,6 +43,7 @@ Standings homeFigures(Game& twin) {
              {"Label contract: subtitle", "6 EPs, 8 LPs and 41 songs in 37 weeks"},
              {"Achievements", "", "goToAchievements"},
              {"Achievements: subtitle", "Achieved 0 of 82"},
+             {"Achievements: badge", std::to_string(goalsToCollect(twin)) + " to collect"},
              {"Records", "", "goToRecords"},
              {"Yearly Statistics", "", "goToYearlyMusicStats"},
              {"Settings", "", "goToSettings"}} +

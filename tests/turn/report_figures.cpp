@@ -12,15 +12,16 @@ namespace {
 
 /// What one song or album did in the week.
 Standings weekFigures(const std::string& title, const std::string& album, int64_t count, const char* badge) {
-  Standings standings = {{title, withCommas(count)}, {title + ": badge", badge}};
+  Standings standings = {{title, withCommas(count)}};
+  if (*badge) standings.push_back({title + ": badge", badge});
   if (!album.empty()) standings.push_back({title + ": subtitle", album});
   return standings;
 }
 
-Standings songWeek(const GameState& state, const char* title, const char* badge) {
+Standings songWeek(const GameState& state, const char* title, const char* badge, const char* besides = "") {
   const auto weeks = state.saveAllWeeklySongListens.historyOf(songTitled(state, title).songId);
   const WeeklySongListens& week = state.saveAllWeeklySongListens[weeks.back()];
-  Standings standings = weekFigures(title, week.albumTitle, week.songListens, badge);
+  Standings standings = weekFigures(title, week.albumTitle + besides, week.songListens, badge);
   const int64_t change = week.songListens - state.saveAllWeeklySongListens[weeks[weeks.size() - 2]].songListens;
   standings.push_back({std::string(title) + ": note", (change > 0 ? "+" : "") + withCommas(change) + " streams"});
   return standings;
@@ -104,13 +105,12 @@ Standings reportFigures(Game& twin) {
                    {"Family", currency(-family)},
                    {"Office", currency(-office)},
                    {"Total cost", currency(-toldSumOf(expenses))},
-                   {"heading (8)", "Chances · " + std::to_string(state.totalEnergyAvailable) + " energy left"},
                    {"Energy", std::to_string(state.totalEnergyAvailable)},
                    {"Energy: note", "of " + std::to_string(state.totalEnergyMax)},
                    {"Cash", currency(cash + net)}} +
          showFigures(twin) + songWeek(state, "Paper Boats", "#1") + songWeek(state, "Fever Line", "DEBUT") +
          songWeek(state, "Glass Harbour", "PEAK") + songWeek(state, "Tin Roof", "CERTIFIED") +
-         songWeek(state, "Small Hours", "RECORD") +
+         songWeek(state, "Small Hours", "", " · best week") +
          weekFigures("First Light", "", state.saveAllWeeklyAlbumSales[sales.back()].albumSales, "CERTIFIED");
 }
 

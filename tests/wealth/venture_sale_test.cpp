@@ -2,9 +2,11 @@
 
 #include <gmock/gmock.h>
 
+#include "core/view_find.h"
 #include "support/dates.h"
 #include "support/world.h"
 #include "wealth/builders.h"
+#include "wealth/screens/sell_venture_shares_view_controller.h"
 #include "wealth/screens/venture_words.h"
 #include "wealth/ventures.h"
 
@@ -43,6 +45,19 @@ TEST(VentureSale, OneOfferAWeekWhichStaysUntilItIsAnswered) {
   EXPECT_EQ(titleOf(state.saveAllVentureInvestments[0]), "Flow (PRIVATE EXIT)");
   askForOffer(world.game, 4);
   EXPECT_EQ(sellStake(world.game, 4).result, Result::refused) << "it is gone";
+}
+
+TEST(VentureSale, WhoLedSeveralRoundsOwnsThemInOne) {
+  World world;
+  Venture stake = stakeIn(world.state, 4, 0);
+  stake.shareholderName = {"Walt & Sons", "Creative Ventures", "Walt & Sons"};
+  stake.shareholderPercentage = {5, 8, 20};
+  world.state.saveAllVentureInvestments.append(std::move(stake));
+  std::vector<std::string> owners;
+  for (const Gauge& owner : blockOf<Gauges>(SellVentureSharesViewController(world.game, 4).view()).items) {
+    owners.push_back(owner.label + " " + owner.value);
+  }
+  EXPECT_THAT(owners, testing::ElementsAre("You 10%", "Walt & Sons 25%", "Creative Ventures 8%", "Not sold 85%"));
 }
 
 TEST(VentureSale, AGainWearsItsSignFromOnePercentOn) {

@@ -24,7 +24,8 @@ Row traitRow(const GameState& state, const Trait& trait) {
     row.badge = "MAX";
     return row;
   }
-  row.note = "next " + std::to_string(nextLevel(state, trait));
+  const int64_t next = nextLevel(state, trait);
+  row.note = next == level ? "a first step" : "next " + std::to_string(next);
   row.price = traitCost(state, trait);
   return row;
 }
@@ -52,6 +53,10 @@ View MyMusicViewController::view() const {
   view.add(Heading{"BUSINESS TRAITS"});
   if (state().isLabelLaunched < 1) {
     view.add(caption("These wait for the day you launch your own record label.", Tone::locked));
+  } else {
+    view.add(
+        caption("In a department your level counts twice, beside the ratings of its staff. All five go to 50, and "
+                "the higher they are, the better those who want to work for you."));
   }
   view.add(traitRows(state(), true));
   view.help = Help{

@@ -1,5 +1,7 @@
 #include "label/screens/department_view_controller.h"
 
+#include "career/studio.h"
+#include "career/traits.h"
 #include "core/money.h"
 #include "core/view_words.h"
 #include "label/hiring.h"
@@ -48,6 +50,17 @@ Bonus bonusOf(const GameState& state, int64_t code) {
   }
 }
 
+/// Why the department rates otherwise than the fader of its staff on the label's home.
+std::string whatYouBring(const GameState& state, const Department& department, const DepartmentStanding& standing) {
+  std::string own = "Your studio of " + std::to_string(studioRating(state)) + " is counted in";
+  for (const Trait& trait : traits) {
+    if (!department.trait || trait.level != department.trait) continue;
+    own = "Your " + std::string(trait.title) + " of " + std::to_string(state.*trait.level) + " is counted in, doubled";
+  }
+  return "Your staff rate " + std::to_string(standing.rating) + ", as their fader says. " + own + ", and makes it " +
+         std::to_string(standing.studioRating) + ".";
+}
+
 Card employeeCard(const GameState& state, const Employee& employee) {
   const std::string id = std::to_string(employee.employeeId);
   return {.picture = staffPortrait(employee),
@@ -84,8 +97,11 @@ void DepartmentViewController::describe(View& view) const {
   view.subtitle = std::to_string(standing.staff) + " EMPLOYEE(S)";
   view.add(levelMeter(isUnderstaffed(state(), standing) ? "Department Rating (Understaffed)" : "Department Rating",
                       static_cast<double>(standing.studioRating)));
-  view.add(Tiles{{{.icon = "trend", .label = bonus.title, .value = bonus.value},
-                  {.icon = "people", .label = "Team", .value = std::to_string(standing.staff)},
+  if (standing.staff > 0) {
+    view.add(caption(whatYouBring(state(), departments[static_cast<size_t>(code_)], standing)));
+  }
+  view.add(Tiles{{{.icon = "trend", .label = bonus.title, .value = bonus.value}}});
+  view.add(Tiles{{{.icon = "people", .label = "Team", .value = std::to_string(standing.staff)},
                   {.icon = "mic", .label = "Artists", .value = std::to_string(activeArtists(state()))}}});
   view.add(Text{.text = bonus.text});
   view.add(Heading{"Team"});

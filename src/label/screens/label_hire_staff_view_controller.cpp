@@ -18,7 +18,7 @@ double weeklyExpenses(const GameState& state) {
   return sum;
 }
 
-Card candidateCard(const Candidate& candidate, const LabelRatings& label, size_t number) {
+Card candidateCard(const Candidate& candidate, const LabelRatings& label, size_t number, bool hasDesk) {
   const auto code = static_cast<size_t>(candidate.department);
   const DepartmentStanding& now = label.departments[code];
   const int64_t then = (now.ratings + candidate.rating) / (now.staff + 1);
@@ -33,9 +33,11 @@ Card candidateCard(const Candidate& candidate, const LabelRatings& label, size_t
                      levelMeter("Happiness", static_cast<double>(candidate.morale))},
           .buttons = {{.id = "offerJob:" + std::to_string(number),
                        .label = "Offer a Job",
-                       .style = Button::Style::primary}},
-          .note = std::string(departments[code].shortName) + " " + std::to_string(now.rating) + " → " +
-                  std::to_string(then)};
+                       .style = Button::Style::primary,
+                       .tone = hasDesk ? Tone::plain : Tone::locked}},
+          .note = hasDesk ? std::string(departments[code].shortName) + " " + std::to_string(now.rating) + " → " +
+                                std::to_string(then)
+                          : "No desk is free"};
 }
 
 }  // namespace
@@ -59,14 +61,18 @@ Outcome LabelHireStaffViewController::press(const Action& action) {
 void LabelHireStaffViewController::describe(View& view) const {
   view.title = "Hire";
   view.subtitle = state().myLabelName;
-  view.add(Tiles{
-      {{.label = candidates_.size() == 1 ? "candidate this visit" : "candidates this visit",
-        .value = std::to_string(candidates_.size())},
-       {.label = "desks taken",
-        .value = std::to_string(state().saveAllEmployeeList.size()) + " of " + std::to_string(state().officeCapacity)},
-       {.label = "Weekly Exp: ", .value = currency(weeklyExpenses(state()))}}});
+  const auto staff = static_cast<int64_t>(state().saveAllEmployeeList.size());
+  const bool hasDesk = staff < state().officeCapacity;
+  view.add(Tiles{{{.label = candidates_.size() == 1 ? "candidate this visit" : "candidates this visit",
+                   .value = std::to_string(candidates_.size())},
+                  {.label = "desks taken",
+                   .value = std::to_string(staff) + " of " + std::to_string(state().officeCapacity),
+                   .tone = hasDesk ? Tone::plain : Tone::warning},
+                  {.label = "Weekly Exp: ", .value = currency(weeklyExpenses(state()))}}});
   const LabelRatings label = departmentRatings(state());
-  for (size_t i = 0; i < candidates_.size(); ++i) view.add(candidateCard(candidates_[i], label, i));
+  for (size_t i = 0; i < candidates_.size(); ++i) {
+    view.add(candidateCard(candidates_[i], label, i, hasDesk));
+  }
   view.add(caption("Others come by at your next visit."));
   view.help =
       Help{.title = "🧐 RECRUITING 🧐",

@@ -101,6 +101,21 @@ Row TourViewController::describe(const TourLocation& location) const {
   return row;
 }
 
+/// What would be as good as full is met first; in each of both groups the venues keep their order.
+void TourViewController::describeVenues(View& view) const {
+  Rows full;
+  Rows others;
+  for (const TourLocation& location : tourLocations) {
+    const bool wouldFill = toneOfBand(demandPercent(game_, plan_, location)) == Tone::good;
+    (wouldFill ? full : others).items.push_back(describe(location));
+  }
+  const bool isSplit = !full.items.empty() && !others.items.empty();
+  if (isSplit) view.add(caption("These you would fill, or nearly."));
+  if (!full.items.empty()) view.add(std::move(full));
+  if (isSplit) view.add(Heading{"Harder to fill"});
+  if (!others.items.empty()) view.add(std::move(others));
+}
+
 View TourViewController::view() const {
   View view{.title = "Plan a Tour", .subtitle = plan_.tempTourTitle, .theme = Theme::live};
   view.add(TextField{.id = "title",
@@ -116,9 +131,7 @@ View TourViewController::view() const {
   const TourTotals totals = totalsOf(state(), plan_);
   view.add(outlookOf(totals));
   view.add(Heading{"Venues · " + std::to_string(totals.numberOfShows) + " of " + std::to_string(tourLocationCount)});
-  Rows venues;
-  for (const TourLocation& location : tourLocations) venues.items.push_back(describe(location));
-  view.add(std::move(venues));
+  describeVenues(view);
   view.add(sumOf(state(), totals));
   const int64_t left = energyForTour(state()) - totals.energyCostToTour;
   view.totals = {

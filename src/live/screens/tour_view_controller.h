@@ -21,6 +21,7 @@ class TourViewController final : public Screen {
 
  private:
   Row describe(const TourLocation& location) const;
+  void describeVenues(View& view) const;
 
   TourPlan plan_;
   uint64_t diceThrows_ = 0;

@@ -5,6 +5,7 @@
 #include "music/album_creation.h"
 #include "music/album_release.h"
 #include "music/covers.h"
+#include "music/marketing_plans.h"
 #include "music/news.h"
 #include "music/screens/album_rows.h"
 #include "music/screens/song_rows.h"
@@ -42,7 +43,7 @@ View AlbumDetailViewController::view() const {
   }
   const Album& album = state().saveAllAlbumList[*position];
   view.title = album.title;
-  const std::string stage = album.isReleased ? "\nReleased in " + std::to_string(album.releaseYear) : "\nIn Production";
+  const std::string stage = album.isReleased ? "\nRELEASED " + std::to_string(album.releaseYear) : "\nIn Production";
   view.add(Cover{.picture = coverOf(state(), album), .title = album.title, .text = albumFormat(album) + stage});
   if (album.isReleased) {
     describeReleased(view, album);
@@ -62,8 +63,10 @@ void AlbumDetailViewController::describeProduction(View& view, const Album& albu
     view.add(Text{.text = counted(missing, "more song") + " and it can come out.", .tone = Tone::warning});
   }
   view.add(Button{.id = "pricingButton", .label = "SET PRICING (" + price(album.price) + ")"});
-  view.add(Rows{{wayTo("marketingButton", "megaphone", "MARKETING", "Brings listeners once it is out",
-                       withDecimals(album.marketingScore, 0))}});
+  Row marketing = wayTo("marketingButton", "megaphone", "MARKETING", "Brings listeners once it is out",
+                        withDecimals(album.marketingScore, 0));
+  marketing.note = "of " + std::to_string(mostMarketing + album.songCount + albumMarketingBonus);
+  view.add(Rows{{std::move(marketing)}});
   view.mainAction = Button{.id = "releaseButton", .label = "RELEASE", .price = albumReleaseCost};
   if (album.songCount < fewestSongsOnAlbum) {
     view.mainAction->tone = Tone::locked;
@@ -92,7 +95,6 @@ void AlbumDetailViewController::describeReleased(View& view, const Album& album)
   view.add(Tiles{{{.icon = "star", .label = "Rating", .value = withDecimals(album.productionRating, 1)},
                   {.icon = "cash", .label = "Earned", .value = "$" + abbreviated(figures.earned)},
                   {.icon = "cart", .label = "Price", .value = price(album.price)}}});
-  view.add(caption("RELEASED ", Tone::good));
   view.add(Button{.id = "marketingButton", .label = "Statistics"});
 }
 

@@ -61,13 +61,13 @@ View SetAlbumMarketingViewController::view() const {
   Rows rows;
   for (size_t tier = 0; tier < marketingPlans.size(); ++tier) {
     const MarketingPlan& plan = marketingPlans[tier];
-    rows.items.push_back(
-        {.picture = icon(planTexts[tier].icon),
-         .title = planTexts[tier].title,
-         .subtitle = "Marketing " + std::to_string(plan.leastScore) + " to " + std::to_string(plan.greatestScore),
-         .price = plan.cost,
-         .selected = tier_ == tier,
-         .id = "plan:" + std::to_string(tier)});
+    rows.items.push_back({.picture = icon(planTexts[tier].icon),
+                          .title = planTexts[tier].title,
+                          .subtitle = std::to_string(plan.leastScore) + " to " + std::to_string(plan.greatestScore) +
+                                      " of " + std::to_string(mostMarketing),
+                          .price = plan.cost,
+                          .selected = tier_ == tier,
+                          .id = "plan:" + std::to_string(tier)});
   }
   view.add(std::move(rows));
   view.mainAction = Button{.id = "setMarketingButton",

@@ -9,6 +9,7 @@
 #include "music/album_release.h"
 #include "music/covers.h"
 #include "music/genres.h"
+#include "music/marketing_plans.h"
 #include "music/news.h"
 #include "music/screens/statistics.h"
 #include "music/song_release.h"
@@ -106,7 +107,7 @@ View SongDetailViewController::view() const {
              .badge = song.isExplicit >= 1 ? "E" : "",
              .hook = hookOf(state(), song)};
   if (const std::string names = featuring(song); !names.empty()) head.text += "\n" + names;
-  head.text += song.isReleased ? "\nReleased in " + std::to_string(song.releaseYear) : "\nIn production";
+  head.text += song.isReleased ? "\nRELEASED " + std::to_string(song.releaseYear) : "\nIn production";
   view.add(std::move(head));
   if (song.isReleased) {
     describeReleased(view, song);
@@ -147,6 +148,7 @@ void SongDetailViewController::describeProduction(View& view, const Song& song) 
   }
   ways.items.push_back(wayTo("marketingButton", "megaphone", "Marketing", "Brings listeners once it is out",
                              withDecimals(song.marketingScore, 0)));
+  ways.items.back().note = "of " + std::to_string(mostMarketing);
   ways.items.push_back(wayTo("addToAlbumButton", "album", "Add to album"));
   view.add(std::move(ways));
   view.mainAction =
@@ -171,14 +173,14 @@ void SongDetailViewController::describeReleased(View& view, const Song& song) co
     more.items.push_back({.picture = icon("megaphone"),
                           .title = "Marketing",
                           .subtitle = "Still brings new listeners",
-                          .value = withDecimals(song.marketingScore, 0)});
+                          .value = withDecimals(song.marketingScore, 0),
+                          .note = "left"});
   }
   const MusicVideo* video = videoOf(state(), songId_);
   more.items.push_back(wayTo("musicVideoButton", "video", "MUSIC VIDEO",
                              video ? "On your channel" : "Nobody has filmed it yet",
                              video ? abbreviated(static_cast<double>(video->totalViews)) + " views" : ""));
   view.add(std::move(more));
-  view.add(caption("RELEASED ", Tone::good));
   view.add(Button{.id = "marketingButton", .label = "Statistics"});
 }
 

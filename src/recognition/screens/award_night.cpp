@@ -64,7 +64,7 @@ View AwardNight::view() const {
     view.mainAction = Button{.id = "doneButton", .label = "Done", .style = Button::Style::primary};
     return view;
   }
-  view.mainAction = Button{.id = "nextEnvelope", .label = "Open the Next Envelope", .style = Button::Style::primary};
+  view.mainAction = Button{.id = "nextEnvelope", .label = "Next Envelope", .style = Button::Style::primary};
   if (left > 1) view.aside = Button{.id = "allEnvelopes", .label = "All"};
   return view;
 }

@@ -40,12 +40,15 @@ constexpr size_t mostListed = 5;
 constexpr size_t mostNews = 6;  ///< the headline among them
 constexpr const char* ratingAnswer = "ratingAnswer:";
 
+/// Whether there is a dollar of it to tell.
+bool isTold(double amount) { return std::nearbyint(amount) != 0; }
+
 void addIncome(Figures& figures, std::string label, double amount, std::string note = {}) {
-  if (amount != 0) figures.items.push_back(dollars(std::move(label), amount, Tone::good, std::move(note)));
+  if (isTold(amount)) figures.items.push_back(dollars(std::move(label), amount, Tone::good, std::move(note)));
 }
 
 void addExpense(Figures& figures, std::string label, double amount) {
-  if (amount != 0) figures.items.push_back(dollars(std::move(label), -amount, Tone::bad));
+  if (isTold(amount)) figures.items.push_back(dollars(std::move(label), -amount, Tone::bad));
 }
 
 /// The total is what the week was paid, to the cent; the lines are told to the dollar.
@@ -59,7 +62,7 @@ Figures incomeOf(const WeeklyReport& report) {
   addIncome(income, "Festival", report.festivalPayment);
   addIncome(income, "Featured on", report.featured);
   if (report.merch > 0) addIncome(income, "MERCH SALES", report.merch, counted(report.merchUnits, "unit"));
-  if (report.merch < 0) income.items.push_back(dollars("Merchandise", report.merch, Tone::bad));
+  if (report.merch < 0 && isTold(report.merch)) income.items.push_back(dollars("Merchandise", report.merch, Tone::bad));
   addIncome(income, "My label", report.label);
   addIncome(income, "Job", report.job);
   addIncome(income, "Standing income", report.standingIncome);
@@ -88,16 +91,19 @@ const char* badgeFor(Milestone::Kind kind) {
     case Milestone::Kind::certification: return "CERTIFIED";
     case Milestone::Kind::chartDebut: return "DEBUT";
     case Milestone::Kind::newPeak: return "PEAK";
-    case Milestone::Kind::recordWeek: return "RECORD";
+    case Milestone::Kind::recordWeek: return "";
   }
   return "";
 }
 
-/// The greatest milestone of a song or an album this week, as a badge; empty without one.
-std::string badgeOf(const std::vector<Milestone>& milestones, int64_t Milestone::*id, int64_t wanted) {
+/// Puts the greatest milestone of a song or an album this week on its row: as a badge, but a best week in the small
+/// line.
+void mark(Row& row, const std::vector<Milestone>& milestones, int64_t Milestone::*id, int64_t wanted) {
   const auto found = std::find_if(milestones.begin(), milestones.end(),
                                   [&](const Milestone& milestone) { return milestone.*id == wanted; });
-  return found == milestones.end() ? "" : badgeFor(found->kind);
+  if (found == milestones.end()) return;
+  row.badge = badgeFor(found->kind);
+  if (found->kind == Milestone::Kind::recordWeek) row.subtitle += row.subtitle.empty() ? "Best week" : " · best week";
 }
 
 Rows songsOf(const GameState& state, const WeeklyReport& report, const std::vector<Milestone>& milestones) {
@@ -107,8 +113,8 @@ Rows songsOf(const GameState& state, const WeeklyReport& report, const std::vect
     rows.items.push_back({.picture = coverOfSong(state, week.songId, week.songTitle),
                           .title = week.songTitle,
                           .subtitle = week.albumTitle,
-                          .value = withCommas(week.songListens),
-                          .badge = badgeOf(milestones, &Milestone::songId, week.songId)});
+                          .value = withCommas(week.songListens)});
+    mark(rows.items.back(), milestones, &Milestone::songId, week.songId);
     const std::optional<int64_t> before = streamsTheWeekBefore(state, week.songId, report.week);
     const int64_t change = week.songListens - before.value_or(week.songListens);
     const int64_t told = change == 0 ? week.songListens : std::abs(change);
@@ -132,8 +138,8 @@ Rows albumsOf(const GameState& state, const WeeklyReport& report, const std::vec
         {.picture = isThere ? coverOf(state, state.saveAllAlbumList[found]) : cover(sales[i].albumTitle),
          .title = sales[i].albumTitle,
          .value = withCommas(sales[i].albumSales),
-         .note = "sold",
-         .badge = badgeOf(milestones, &Milestone::albumId, sales[i].albumId)});
+         .note = "sold"});
+    mark(rows.items.back(), milestones, &Milestone::albumId, sales[i].albumId);
   }
   return rows;
 }
@@ -343,7 +349,7 @@ void WeeklySummaryViewController::describeEvents(View& view) const {
   };
   const auto isShown = [](const auto& each) { return each.first->shown(); };
   if (std::none_of(std::begin(buttons), std::end(buttons), isShown)) return;
-  view.add(Heading{"Chances · " + std::to_string(state().totalEnergyAvailable) + " energy left"});
+  view.add(Heading{"Chances"});
   view.add(Tiles{{{.icon = "bolt",
                    .label = "Energy",
                    .value = std::to_string(state().totalEnergyAvailable),

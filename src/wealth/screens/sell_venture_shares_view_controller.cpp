@@ -1,8 +1,12 @@
 #include "wealth/screens/sell_venture_shares_view_controller.h"
 
 #include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "core/money.h"
+#include "core/numbers.h"
 #include "core/short_money.h"
 #include "core/view_words.h"
 #include "wealth/net_assets.h"
@@ -17,6 +21,22 @@ namespace {
 
 Gauge ownerOf(std::string name, int64_t percent) {
   return {.label = std::move(name), .value = std::to_string(percent) + "%", .share = shareOf(percent, int64_t{100})};
+}
+
+/// Those who led its rounds with all that they hold, each once, in the order in which they came.
+std::vector<std::pair<std::string, int64_t>> investorsOf(const Venture& held) {
+  std::vector<std::pair<std::string, int64_t>> investors;
+  const size_t rounds = std::min(held.shareholderName.size(), held.shareholderPercentage.size());
+  for (size_t i = 0; i < rounds; ++i) {
+    const auto known = std::find_if(investors.begin(), investors.end(),
+                                    [&](const auto& each) { return each.first == held.shareholderName[i]; });
+    if (known == investors.end()) {
+      investors.emplace_back(held.shareholderName[i], held.shareholderPercentage[i]);
+    } else {
+      known->second = add(known->second, held.shareholderPercentage[i]);
+    }
+  }
+  return investors;
 }
 
 }  // namespace
@@ -100,10 +120,7 @@ void SellVentureSharesViewController::describeOffer(View& view, const Venture& h
 void SellVentureSharesViewController::describeOwners(View& view, const Venture& held) const {
   Gauges owners{.title = "Who owns it", .style = Gauges::Style::split};
   owners.items.push_back(ownerOf("You", held.percentageOwned));
-  const size_t leads = std::min(held.shareholderName.size(), held.shareholderPercentage.size());
-  for (size_t i = 0; i < leads; ++i) {
-    owners.items.push_back(ownerOf(held.shareholderName[i], held.shareholderPercentage[i]));
-  }
+  for (auto& [name, percent] : investorsOf(held)) owners.items.push_back(ownerOf(std::move(name), percent));
   owners.items.push_back(ownerOf("Not sold", held.percentageRemaining));
   view.add(std::move(owners));
 }

@@ -31,3 +31,9 @@ export async function cameToRest(): Promise<void> {
   await landed();
   for (let frames = 0; frames < 2; frames += 1) await new Promise(requestAnimationFrame);
 }
+
+/** The next frame is made. */
+export async function painted(): Promise<void> {
+  await new Promise(requestAnimationFrame);
+  await new Promise((done) => setTimeout(done));
+}

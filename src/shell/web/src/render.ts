@@ -17,6 +17,7 @@ import { storyBlock } from "./blocks/story";
 import { tilesBlock } from "./blocks/tiles";
 import { treeBlock } from "./blocks/tree";
 import { companyAt } from "./company";
+import { beginning, leastHeight } from "./extent";
 import { picture } from "./pictures/picture";
 import type { Block } from "./protocol";
 import type { Scene } from "./scene";
@@ -81,19 +82,26 @@ export function renderBlock(block: Block, scene: Scene): TemplateResult {
   }
 }
 
-/** All blocks in reading order; some that follow each other share one card. */
-export function renderBlocks(blocks: Block[], scene: Scene): TemplateResult[] {
+/** As many blocks in reading order as fill `room` pixels, and whether those are all. Some that follow each other share one card. */
+export function renderBlocks(blocks: Block[], scene: Scene, room: number): { drawn: TemplateResult[]; whole: boolean } {
   const drawn: TemplateResult[] = [];
+  let whole = true;
   for (let i = 0; i < blocks.length;) {
+    if (room <= 0) return { drawn, whole: false };
     const company = companyAt(blocks, i, scene.theme);
-    const together = blocks.slice(i, i + company.length).map((block) => renderBlock(block, scene));
+    const together = blocks.slice(i, i + company.length).map((block) => {
+      const begun = beginning(block, room);
+      if (begun !== block) whole = false;
+      room -= leastHeight(block);
+      return renderBlock(begun, scene);
+    });
     if (company.look.startsWith("channel")) together.unshift(wall(blocks));
     const isLatest = company.look.startsWith("award") && blocks.findIndex(({ kind }) => kind === "card") === i;
     if (isLatest) drawn.push(envelope(blocks[i]!, company.look, together));
     else drawn.push(company.look ? html`<div class=${company.look}>${together}</div>` : together[0]!);
     i += company.length;
   }
-  return drawn;
+  return { drawn, whole };
 }
 
 /** The envelope opened last, on top of the others: it unfolds anew when another takes its place. */

@@ -8,6 +8,8 @@ export interface Layer {
   modal: boolean;
   /** Lies on another screen of its tab, to which one can go back. */
   pushed: boolean;
+  /** The week could be ended here when the screen was last on top. */
+  endWeek: boolean;
   focus: HTMLElement | null;
   /** The id that was pressed last. */
   pressed: string;
@@ -62,6 +64,7 @@ export class Stack {
     top.view = answer.view;
     top.modal = modal;
     top.pushed = this.layers.length > 1 && !modal;
+    top.endWeek = answer.endWeek ?? false;
 
     const step = this.move(was, top, tab === this.tab ? before : null);
     this.tab = tab;
@@ -91,5 +94,5 @@ export class Stack {
 }
 
 function fresh(key: number): Layer {
-  return { key, view: null, modal: false, pushed: false, focus: null, pressed: "" };
+  return { key, view: null, modal: false, pushed: false, endWeek: false, focus: null, pressed: "" };
 }

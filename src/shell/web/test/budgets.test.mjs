@@ -128,7 +128,7 @@ test("a release and the report that celebrates it move without a jerk", async ()
     await press(page, /^Create song/);
     await answerAlerts(page);
     await press(page, title);
-    await page.locator("backbeat-app:not(.moving)").waitFor();
+    await page.locator("backbeat-app:not(:has(.moving))").waitFor();
     await moment("release", "RELEASE", 1700);
     await answerAlerts(page);
     await press(page, "Back");

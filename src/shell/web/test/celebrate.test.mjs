@@ -34,7 +34,7 @@ async function rise(mood) {
     await new Promise(requestAnimationFrame);
     const confetti = document.querySelector("bb-confetti");
     return {
-      rising: document.querySelector("backbeat-app").classList.contains("moving"),
+      rising: document.querySelector(".layer.moving") !== null,
       confetti: confetti && getComputedStyle(confetti).visibility,
       figure: document.querySelector(".figure-value").textContent,
     };
@@ -59,7 +59,7 @@ test("confetti and figures wait until the sheet stands, and a tap lets all of it
 test("under sad news nothing counts and nothing falls", async () => {
   const { page, context, first } = await rise("mourn");
   assert.deepEqual(first, { rising: true, confetti: null, figure: "$41,230" });
-  await page.locator("backbeat-app:not(.moving)").waitFor();
+  await page.locator("backbeat-app:not(:has(.moving))").waitFor();
   await context.close();
 });
 

@@ -52,6 +52,34 @@ for (const theme of ["dark", "light"]) {
   });
 }
 
+test("the first frame fills a tall screen, and what follows moves nothing of it", async () => {
+  const { page, context } = await stage.open({ height: 932 });
+  const faults = [];
+  let stepwise = 0;
+  for (const [i, [name, answer]] of Object.entries(screens).entries()) {
+    const key = 1000 + i;
+    const seen = { ...answer, stack: [key], modal: false, alert: null, view: { ...answer.view, key } };
+    const { filled, all, moved } = await page.evaluate(async (answer) => {
+      window.stage.show(answer);
+      await new Promise(requestAnimationFrame);
+      const blocks = document.querySelector(".layer.top bb-blocks");
+      const tops = () => [...blocks.children].map((block) => block.getBoundingClientRect().top);
+      const [first, foot] = [tops(), blocks.lastElementChild?.getBoundingClientRect().bottom ?? 0];
+      const all = blocks.whole;
+      while (!blocks.whole) await new Promise(requestAnimationFrame);
+      const seen = first.filter((top) => top < innerHeight);
+      const moved = seen.some((top, i) => Math.abs(top - tops()[i]) > 1);
+      return { filled: foot >= innerHeight, all, moved };
+    }, seen);
+    if (!filled && !all) faults.push(`${name} is not filled`);
+    if (moved) faults.push(`${name} moves`);
+    stepwise += all ? 0 : 1;
+  }
+  assert.deepEqual(faults, []);
+  assert.ok(stepwise > 3, "long screens are drawn in steps");
+  await context.close();
+});
+
 test("with letters twice as large on a small phone nothing is cut off and everything can be pressed", async () => {
   const { page, context, faults } = await stage.open({ width: 320, height: 568 });
   await page.evaluate(() => (document.documentElement.style.fontSize = "200%"));
@@ -104,8 +132,9 @@ test("the engine names the glyphs and pictures that there are, and each has a dr
 
 test("a picture follows from its name, and an unknown form still gives one", async () => {
   const { page, context, faults } = await stage.open();
-  const [same, shirts, unknown, plain] = await page.evaluate(() => {
+  const [same, shirts, unknown, plain, inks] = await page.evaluate(() => {
     const { drawing, forms } = window.stage;
+    const cloth = (name) => drawing("object", `hoody:${name}`).match(/#[0-9a-f]{6}/g)[3];
     const shirts = Array.from({ length: 100 }, (_, i) => drawing("object", `shirt:Tour ${i}`));
     const unknown = Object.keys(forms).map((kind) => drawing(kind, "toString:Heron").includes(`picture ${kind}`));
     return [
@@ -113,9 +142,12 @@ test("a picture follows from its name, and an unknown form still gives one", asy
       new Set(shirts).size,
       unknown,
       drawing("object", "no form at all").includes("<svg"),
+      ["Black Hoodie", "Blue Moon Black Hoodie", "Red Hoodie"].map(cloth),
     ];
   });
   assert.ok(same && plain);
+  assert.equal(inks[0], inks[1], "of several colours the last is that of the thing");
+  assert.notEqual(inks[0], inks[2]);
   assert.ok(shirts > 90, `only ${shirts} of 100 shirts differ`);
   assert.deepEqual(unknown, [true, true, true, true]);
   assert.deepEqual(faults, []);

@@ -1,11 +1,11 @@
 /** What can be wrong with the looks of a page, as lists of faults. */
 
-/** Brings all that fades or slides to its end: a half-faded text has no contrast. */
+/** Waits for what is drawn below the first screenful, and brings all that fades or slides to its end. */
 export const quiet = (page) =>
   page.evaluate(async () => {
     await document.fonts.ready;
-    await new Promise(requestAnimationFrame);
-    await new Promise(requestAnimationFrame);
+    const isWhole = () => [...document.querySelectorAll("bb-blocks")].every(({ whole }) => whole);
+    for (let frames = 0; frames < 2 || !isWhole(); frames += 1) await new Promise(requestAnimationFrame);
     for (const animation of document.getAnimations()) {
       if (animation.effect.getComputedTiming().endTime !== Infinity) animation.finish();
     }

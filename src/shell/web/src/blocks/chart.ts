@@ -1,5 +1,6 @@
 import { html, LitElement, nothing, type TemplateResult } from "lit";
 import uPlot from "uplot";
+import { painted } from "../motion";
 import type { Chart } from "../protocol";
 import type { Scene } from "../scene";
 import { toneClass } from "./parts";
@@ -62,8 +63,9 @@ class ChartElement extends LitElement {
     </section>`;
   }
 
+  // A plot takes longer than all the rest of its screen, and its room is there already.
   protected override updated(): void {
-    this.draw();
+    void painted().then(() => this.isConnected && this.draw());
   }
 
   private points(): (number | null)[] {

@@ -1,5 +1,6 @@
 import { html, nothing, type TemplateResult } from "lit";
 import { live } from "lit/directives/live.js";
+import { glyph } from "../pictures/icons";
 import type { ButtonData, Choice, PhotoField, TextField, Toggle } from "../protocol";
 import type { Scene } from "../scene";
 import { pictureStrip, planCards } from "./choices";
@@ -7,7 +8,7 @@ import { pricePill, toneClass } from "./parts";
 import "./photo-field";
 import "./text-field";
 
-/** A button with its price. One that is too dear looks so and still answers. */
+/** A button with its price. One that is too dear or locked looks so and still answers. */
 export function buttonBlock(button: ButtonData, scene: Scene): TemplateResult {
   const { id, label, price, style = "secondary", tone, pulse } = button;
   const dear = price !== undefined && !price.affordable && (price.energy || price.dollars);
@@ -16,7 +17,8 @@ export function buttonBlock(button: ButtonData, scene: Scene): TemplateResult {
     type="button"
     @click=${() => scene.press(id)}
   >
-    <span class="button-label" dir="auto">${label}</span>${pricePill(price)}
+    ${tone === "locked" ? glyph("lock") : nothing}<span class="button-label" dir="auto">${label}</span
+    >${tone === "locked" ? html`<span class="unseen"> locked</span>` : nothing}${pricePill(price)}
   </button>`;
 }
 

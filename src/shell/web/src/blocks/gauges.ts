@@ -92,7 +92,9 @@ const colours = 6;
 
 function splitBar(items: Gauge[]): TemplateResult {
   return html`<span class="split-bar" aria-hidden="true">
-    ${items.map(({ share }, i) => html`<i class="part-${i % colours}" style="flex-grow:${clamped(share)}"></i>`)}
+    ${items.map(({ share }, i) =>
+      clamped(share) > 0 ? html`<i class="part-${i % colours}" style="flex-grow:${clamped(share)}"></i>` : nothing,
+    )}
   </span>`;
 }
 

@@ -8,16 +8,52 @@ import { box, dot, fade, framed, line, oval, repeat, ring, shape, turned } from 
 /** Cloth in the light, in the shade, and inside. */
 type Cloth = readonly [string, string, string];
 
-const cloths: readonly Cloth[] = [
-  ["#24242b", "#15151a", "#0c0c10"],
-  ["#f1ece1", "#d9d1c2", "#b8ae9b"],
-  ["#9cc8e8", "#78a9cf", "#4e7ea6"],
-  ["#ff8a72", "#e4664f", "#b8432f"],
-  ["#93a86a", "#728750", "#52633a"],
-  ["#c3aef0", "#a289d8", "#7b62b4"],
-  ["#d8f25a", "#b3cf36", "#86a01a"],
-  ["#e3c79a", "#c8a673", "#a07f4c"],
-];
+const dyes = {
+  black: ["#24242b", "#15151a", "#0c0c10"],
+  white: ["#f1ece1", "#d9d1c2", "#b8ae9b"],
+  sky: ["#9cc8e8", "#78a9cf", "#4e7ea6"],
+  coral: ["#ff8a72", "#e4664f", "#b8432f"],
+  olive: ["#93a86a", "#728750", "#52633a"],
+  lilac: ["#c3aef0", "#a289d8", "#7b62b4"],
+  lime: ["#d8f25a", "#b3cf36", "#86a01a"],
+  sand: ["#e3c79a", "#c8a673", "#a07f4c"],
+  red: ["#d9363e", "#b3242d", "#7d141c"],
+  blue: ["#3f6fd8", "#2b53ad", "#1b3778"],
+  navy: ["#2a3768", "#1c274e", "#121a36"],
+  green: ["#3f9d63", "#2c7a4a", "#1b5331"],
+  yellow: ["#ffd94d", "#e2b622", "#b08a0f"],
+  orange: ["#ff9f45", "#e07c1d", "#ab5a0c"],
+  purple: ["#7d4fc4", "#5f379f", "#422270"],
+  pink: ["#ff9ec4", "#e8749f", "#bb4d77"],
+  brown: ["#8a5f41", "#6b462d", "#4a2f1d"],
+  grey: ["#9b9ba5", "#7d7d88", "#5c5c66"],
+} satisfies Record<string, Cloth>;
+
+/** Of which chance picks where a name tells no colour. */
+const { black, white, sky, coral, olive, lilac, lime, sand } = dyes;
+const cloths: readonly Cloth[] = [black, white, sky, coral, olive, lilac, lime, sand];
+
+/** Words of a name for a dye of another name. */
+const shades = new Map<string, Cloth>([
+  ...Object.entries(dyes),
+  ["ivory", white],
+  ["cream", white],
+  ["crimson", dyes.red],
+  ["scarlet", dyes.red],
+  ["teal", dyes.green],
+  ["gold", dyes.yellow],
+  ["golden", dyes.yellow],
+  ["violet", dyes.purple],
+  ["rose", dyes.pink],
+  ["tan", sand],
+  ["beige", sand],
+  ["gray", dyes.grey],
+  ["silver", dyes.grey],
+]);
+
+/** The colour that a name tells; of several the last, which stands beside the thing. */
+const clothTold = (name: string): Cloth | undefined =>
+  shades.get((name.toLowerCase().match(/\p{L}+/gu) ?? []).filter((word) => shades.has(word)).at(-1) ?? "");
 
 const walls: readonly [string, string][] = [
   ["#f3d9b5", "#d79a6b"],
@@ -65,8 +101,8 @@ const products: Record<string, Product> = {
     );
   },
   vinyl: (_, name) =>
-    dot(62, 50, 33, "#0d0d10") +
-    [29, 25, 21, 17].map((r) => ring(62, 50, r, "#2d2d33", 0.8)).join("") +
+    dot(62, 50, 33, clothTold(name)?.[0] ?? "#0d0d10") +
+    [29, 25, 21, 17].map((r) => ring(62, 50, r, clothTold(name)?.[1] ?? "#2d2d33", 0.8)).join("") +
     shape("M62 50 92 34A33 33 0 0 1 95 50Z", "#fff", 0.12) +
     dot(62, 50, 11, artworkOf(name, drawsOf(name)).palette[1]) +
     box(10.5, 21, 62, 62, "#000", 2, 0.25) +
@@ -190,7 +226,8 @@ const products: Record<string, Product> = {
 };
 
 export const productForms = family(products, (product, name, draw) => {
-  const cloth = pick(cloths, draw);
+  const drawn = pick(cloths, draw);
+  const cloth = clothTold(name) ?? drawn;
   const [light, shade] = pick(walls, draw);
   const sky = `radial-gradient(90% 80% at 50% 12%,#ffffff5e,#fff0),${fade(light, shade, 160)}`;
   return framed({ kind: "object", sky }, oval(50, 90, 30, 3.6, "#000", 0.16) + product(cloth, name));

@@ -26,7 +26,7 @@ import "./sheet";
 import { shakeEnergy, statusRow } from "./status";
 import { tabBar } from "./tab-bar";
 import { toastPlace } from "./toast";
-import { play } from "./transition";
+import { play, type Stage } from "./transition";
 import { washOf } from "./wash";
 
 /** Where a screen lies while two find room: the root, what it led to, or a screen that has both places. */
@@ -224,9 +224,9 @@ class AppElement extends LitElement {
       class="layer ${place} ${panel} ${layer.modal ? "modal" : ""} ${wash && "sleeved"} theme-${view?.theme ?? "plain"} ${moodOf(view)}"
       style=${wash || nothing}
       data-screen=${view?.screen ?? nothing}
-      aria-label=${view?.title || nothing}
+      aria-label=${((top || panel) && view?.title) || nothing}
       role=${top ? "main" : nothing}
-      ?inert=${!top && !(panel && !this.stack.top!.modal)}
+      ?inert=${panel && !top && this.stack.top!.modal}
     >
       <div class="scroll">
         <div class="page">
@@ -240,10 +240,9 @@ class AppElement extends LitElement {
   }
 
   private foot(layer: Layer, root: boolean): TemplateResult | typeof nothing {
-    const { header = {}, endWeek } = this.player.answer;
     if (!root) return dock(layer.view, this.sceneOf(layer));
-    const here = endWeek && layer === this.stack.top && this.room === "phone";
-    return here ? endWeekDock(header, () => this.endWeek()) : nothing;
+    const here = layer.endWeek && this.room === "phone";
+    return here ? endWeekDock(this.player.answer.header ?? {}, () => this.endWeek()) : nothing;
   }
 
   private placeOf(layer: Layer): "top" | "leaving" | "beneath" | "parked" {
@@ -416,19 +415,19 @@ class AppElement extends LitElement {
   /** After a step: the focus as it was, then the movement; at its end the leaving screen goes. */
   private async settle(step: Step): Promise<void> {
     if (step.motion === "none") return;
-    // Before anything asks where things lie: what the class shows is then styled with all the rest.
-    this.classList.add("moving");
     const top = this.stack.top!;
-    const element = this.querySelector<HTMLElement>(".layer.top")!;
+    const stage = this.stage();
+    const element = stage.top!;
+    // Before anything asks where things lie: what the class shows is then styled with all the rest.
+    for (const moved of Object.values(stage)) moved?.classList.add("moving");
     await element.querySelector<LitElement>("bb-blocks")!.updateComplete;
     if (top !== this.stack.top) return;
     // A new week begins at the top of its screen.
     if (step.leaving?.view?.theme === "report") element.querySelector(".scroll")!.scrollTop = 0;
     const focused = top.focus?.isConnected ? top.focus : element.querySelector<HTMLElement>("h1");
     focused?.focus({ preventScroll: true });
-    const [beneath, leaving] = [".beneath", ".leaving"].map((place) => this.querySelector<HTMLElement>(place));
     const atOnce = this.room === "desk" && step.motion === "fade";
-    this.moving = atOnce ? [] : play(step.motion, { top: element, beneath, leaving }, this.pulledShare);
+    this.moving = atOnce ? [] : play(step.motion, stage, this.pulledShare);
     this.pull(0);
     await Promise.all(this.moving.map((animation) => animation.finished)).catch(() => {});
     if (this.step === step) this.stopMoving();
@@ -438,7 +437,7 @@ class AppElement extends LitElement {
     this.land();
     for (const animation of this.moving) animation.cancel();
     this.moving = [];
-    this.classList.remove("moving");
+    for (const layer of this.layerElements) layer.classList.remove("moving");
     if (this.step.leaving) {
       this.step = { motion: "none", leaving: null };
       this.requestUpdate();
@@ -449,10 +448,10 @@ class AppElement extends LitElement {
     if (this.heard) playSoft(this.heard);
     const { gains } = this;
     // The screen's own blocks are drawn a moment later.
-    if (gains.size > 0) requestAnimationFrame(() => flyGains(gains, this.querySelector(".layer.top")));
-    if (this.released) playRelease(this.querySelector(".layer.top"));
+    if (gains.size > 0) requestAnimationFrame(() => flyGains(gains, this.stage().top));
+    if (this.released) playRelease(this.stage().top);
     if (feedback === "energyBounce") {
-      shakeEnergy(this.querySelector(".layer.top"), prefersStillness());
+      shakeEnergy(this.stage().top, prefersStillness());
       navigator.vibrate?.([20, 40, 20]);
     } else if (feedback === "success") navigator.vibrate?.(15);
     else if (feedback === "warning") navigator.vibrate?.([30, 60, 30]);
@@ -460,15 +459,33 @@ class AppElement extends LitElement {
 
   private remember(): void {
     const top = this.stack.top;
-    const element = this.querySelector<HTMLElement>(".layer.top");
+    const element = this.stage().top;
     if (!top || !element) return;
     top.focus = element.contains(document.activeElement) ? (document.activeElement as HTMLElement) : top.focus;
   }
 
   private pull(share: number): void {
+    if (share === this.pulledShare) return;
     this.pulledShare = share;
-    this.classList.toggle("pulling", share > 0);
-    this.style.setProperty("--pulled", String(share));
+    const { top, beneath } = this.stage();
+    for (const layer of this.layerElements) {
+      const pulled = share > 0 && (layer === top || layer === beneath);
+      layer.classList.toggle("pulled", pulled);
+      const at = layer === top ? share * 100 : (1 - share) * -28;
+      layer.style.transform = pulled ? `translateX(${at}%)` : "";
+    }
+  }
+
+  private get layerElements(): HTMLElement[] {
+    const phone = this.firstElementChild?.children ?? [];
+    return [...phone].filter((part): part is HTMLElement => part.classList.contains("layer"));
+  }
+
+  /** The screens that a step can move. */
+  private stage(): Stage {
+    const at = (place: string): HTMLElement | null =>
+      this.layerElements.find((layer) => layer.classList.contains(place)) ?? null;
+    return { top: at("top"), beneath: at("beneath"), leaving: at("leaving") };
   }
 
   private release(goBack: boolean): void {

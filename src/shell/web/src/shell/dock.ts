@@ -16,7 +16,7 @@ export function dock(view: View | null, scene: Scene): Part {
   );
   const buttons = [
     aside ? buttonBlock(aside, scene) : null,
-    mainAction ? buttonBlock({ style: "primary", ...toldOnce(mainAction, totals) }, scene) : null,
+    mainAction ? buttonBlock(toldOnce(mainAction, totals), scene) : null,
     story ? html`<bb-share-button .story=${story}></bb-share-button>` : null,
   ].filter((button) => button !== null);
   if (buttons.length === 0 && totals.length === 0) return nothing;
@@ -39,8 +39,7 @@ export function headButtons(view: View | null, scene: Scene): Part {
   const { mainAction, aside } = view ?? {};
   if (!mainAction && !aside) return nothing;
   return html`<div class="head-buttons">
-    ${mainAction ? buttonBlock({ style: "primary", ...mainAction }, scene) : nothing}
-    ${aside ? buttonBlock(aside, scene) : nothing}
+    ${mainAction ? buttonBlock(mainAction, scene) : nothing} ${aside ? buttonBlock(aside, scene) : nothing}
   </div>`;
 }
 

@@ -57,7 +57,7 @@ const inSight = (element: Element): boolean => element.checkVisibility({ visibil
 
 /** The places that the focus goes through: the rail and the screens that can be pressed, from left to right. */
 function places(): HTMLElement[] {
-  return [...document.querySelectorAll<HTMLElement>(".side-rail:not([inert]), .layer:not([inert])")]
+  return [...document.querySelectorAll<HTMLElement>(":is(.side-rail, .layer:is(.top, .left, .right)):not([inert])")]
     .filter(inSight)
     .sort((a, b) => a.getBoundingClientRect().left - b.getBoundingClientRect().left);
 }

@@ -7,8 +7,8 @@ const mark = (badge: string): TemplateResult => html`<span aria-hidden="true">${
 
 /** The floating bar with the tabs. */
 export function tabBar(tabs: Tab[], shown: number, covered: boolean, press: (tab: number) => void): TemplateResult {
-  return html`<nav class="tab-bar" aria-label="Tabs" ?inert=${covered} style="--tabs:${tabs.length};--tab:${shown}">
-    <span class="tab-highlight"></span>
+  return html`<nav class="tab-bar" aria-label="Tabs" ?inert=${covered} style="--tabs:${tabs.length}">
+    <span class="tab-highlight" style="--tab:${shown}"></span>
     ${tabs.map(
       ({ label, icon, badge }, i) =>
         html`<button class="tab" type="button" aria-current=${i === shown ? "page" : nothing} @click=${() => press(i)}>

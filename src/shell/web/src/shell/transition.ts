@@ -3,9 +3,10 @@ import type { Motion } from "../stack";
 
 const glide = "cubic-bezier(0.32, 0.72, 0, 1)";
 
-type Moved = HTMLElement | null | undefined;
+type Moved = HTMLElement | null;
 
-interface Stage {
+/** The screens that take part in a step. */
+export interface Stage {
   top: Moved;
   beneath: Moved;
   leaving: Moved;
