@@ -70,7 +70,8 @@ const stripLook = (items: Row[]): string => `of-${items[0]?.picture?.kind ?? "no
 const isTaken = ({ share, price }: Row): boolean => share !== undefined && price !== undefined;
 
 function rowLook(row: Row): string {
-  if (!isTaken(row)) return "";
+  if (row.share === undefined) return "";
+  if (!isTaken(row)) return "measured";
   return row.selected ? "taking taken" : "taking";
 }
 
