@@ -36,12 +36,12 @@ Outcome successAndClose() {
   return outcome;
 }
 
-Outcome news(AlertTitle title, std::string message, Feedback feedback) {
-  return withAlert({std::move(title), std::move(message)}, feedback, Result::done);
+Outcome news(const AlertTitle& title, const std::string& message, Feedback feedback) {
+  return withAlert({title, message}, feedback, Result::done);
 }
 
-Outcome refuse(AlertTitle title, std::string message) {
-  return withAlert({std::move(title), std::move(message)}, Feedback::warning, Result::refused);
+Outcome refuse(const AlertTitle& title, const std::string& message) {
+  return withAlert({title, message}, Feedback::warning, Result::refused);
 }
 
 Outcome bounce() {
@@ -51,17 +51,17 @@ Outcome bounce() {
   return outcome;
 }
 
-Outcome noEnergy(AlertTitle title, std::string message) {
-  return withAlert({std::move(title), std::move(message)}, Feedback::energyBounce, Result::noEnergy);
+Outcome noEnergy(const AlertTitle& title, const std::string& message) {
+  return withAlert({title, message}, Feedback::energyBounce, Result::noEnergy);
 }
 
-Outcome noCash(AlertTitle title, std::string message) {
-  return withAlert({std::move(title), std::move(message)}, Feedback::warning, Result::noCash);
+Outcome noCash(const AlertTitle& title, const std::string& message) {
+  return withAlert({title, message}, Feedback::warning, Result::noCash);
 }
 
-Outcome ask(AlertTitle title, std::string message, std::string no, AlertButton yes) {
-  std::vector<AlertButton> answers = {{std::move(no), {}, AlertButton::Style::cancel}, std::move(yes)};
-  return withAlert({std::move(title), std::move(message), std::move(answers)}, Feedback::none, Result::asked);
+Outcome ask(const AlertTitle& title, const std::string& message, const std::string& no, const AlertButton& yes) {
+  std::vector<AlertButton> answers = {{no, {}, AlertButton::Style::cancel}, yes};
+  return withAlert({title, message, std::move(answers)}, Feedback::none, Result::asked);
 }
 
 Outcome goTo(std::string segue, std::string argument) {

@@ -72,46 +72,47 @@ struct Outcome {
 };
 
 // What a rule answers. Each word with a title has a short form, refuse<"🔥 Add Songs 🔥">("\n..."), and one for titles
-// out of tables or with a name in them.
+// out of tables or with a name in them. Texts come by reference: the short form is made anew for each title, and is to
+// be nothing but a call.
 
 /// Done.
 Outcome success();
 /// Done, and the screen that answers closes.
 Outcome successAndClose();
 /// Done, and this is what came of it.
-Outcome news(AlertTitle title, std::string message, Feedback feedback = Feedback::success);
+Outcome news(const AlertTitle& title, const std::string& message, Feedback feedback = Feedback::success);
 /// The rule says no.
-Outcome refuse(AlertTitle title, std::string message);
+Outcome refuse(const AlertTitle& title, const std::string& message);
 /// The week's energy does not reach: the energy figure shakes, with or without words.
 Outcome bounce();
-Outcome noEnergy(AlertTitle title, std::string message);
+Outcome noEnergy(const AlertTitle& title, const std::string& message);
 /// The cash does not reach.
-Outcome noCash(AlertTitle title, std::string message);
+Outcome noCash(const AlertTitle& title, const std::string& message);
 /// A question: `no` leaves everything as it is, `yes` sends its action to the screen that asks.
-Outcome ask(AlertTitle title, std::string message, std::string no, AlertButton yes);
+Outcome ask(const AlertTitle& title, const std::string& message, const std::string& no, const AlertButton& yes);
 
 Outcome goTo(std::string segue, std::string argument = {});
 Outcome closeScreen();
 
 template <FixedText words>
-Outcome news(std::string message, Feedback feedback = Feedback::success) {
-  return news(alertTitle<words>, std::move(message), feedback);
+Outcome news(const std::string& message, Feedback feedback = Feedback::success) {
+  return news(alertTitle<words>, message, feedback);
 }
 template <FixedText words>
-Outcome refuse(std::string message) {
-  return refuse(alertTitle<words>, std::move(message));
+Outcome refuse(const std::string& message) {
+  return refuse(alertTitle<words>, message);
 }
 template <FixedText words = "⚡️ Not Enough Energy ⚡️">
-Outcome noEnergy(std::string message) {
-  return noEnergy(alertTitle<words>, std::move(message));
+Outcome noEnergy(const std::string& message) {
+  return noEnergy(alertTitle<words>, message);
 }
 template <FixedText words = "💰 Not Enough Cash 💰">
-Outcome noCash(std::string message) {
-  return noCash(alertTitle<words>, std::move(message));
+Outcome noCash(const std::string& message) {
+  return noCash(alertTitle<words>, message);
 }
 template <FixedText words>
-Outcome ask(std::string message, std::string no, AlertButton yes) {
-  return ask(alertTitle<words>, std::move(message), std::move(no), std::move(yes));
+Outcome ask(const std::string& message, const std::string& no, const AlertButton& yes) {
+  return ask(alertTitle<words>, message, no, yes);
 }
 
 }  // namespace backbeat

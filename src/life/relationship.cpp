@@ -122,7 +122,7 @@ Outcome compliment(Game& game) {
   }
   pay(game, complimentCost);
   stateChanged(game);
-  return news(loveTo(game.state.saveAllMatchesList[*position]), std::move(told));
+  return news(loveTo(game.state.saveAllMatchesList[*position]), told);
 }
 
 Outcome serenade(Game& game) {
@@ -162,7 +162,7 @@ Outcome askForMoney(Game& game) {
   }
   earn(game, {.dollars = amount});
   stateChanged(game);
-  return news<"💰 Cash Money 💰">(std::move(told), isGladly ? Feedback::success : Feedback::warning);
+  return news<"💰 Cash Money 💰">(told, isGladly ? Feedback::success : Feedback::warning);
 }
 
 Outcome askToBreakUp(const Game& game, Action confirmed) {
@@ -175,17 +175,17 @@ Outcome askToBreakUp(const Game& game, Action confirmed) {
   const Matches& partner = state.saveAllMatchesList[*position];
   AlertButton yes = {"Break Up", std::move(confirmed), AlertButton::Style::destructive};
   if (!isMarried(partner)) {
-    return ask<"💔 Breakup? 💔">("\nAre you sure you want to breakup with " + partner.name + "?", "No", std::move(yes));
+    return ask<"💔 Breakup? 💔">("\nAre you sure you want to breakup with " + partner.name + "?", "No", yes);
   }
   yes.label = "Divorce";
   const std::string sure = "Are you sure you want to divorce " + partner.name + "?\n\n";
   if (state.signPrenup >= 1) {
-    return ask<"💔 Divorce? 💔">(sure + "You signed a prenup so you will keep all your assets.", "No", std::move(yes));
+    return ask<"💔 Divorce? 💔">(sure + "You signed a prenup so you will keep all your assets.", "No", yes);
   }
   return ask<"💔 Divorce? 💔">(
       "\n" + sure + partner.name + " will be entitled to 50% - (" + settlementText(settlement(state)) +
           ").\n\nIf you do not have the cash on hand, properties will be sold and stakes in companies will be split.",
-      "No", std::move(yes));
+      "No", yes);
 }
 
 Outcome breakup(Game& game) {

@@ -27,7 +27,7 @@ Outcome seeDoctor(Game& game, const WeeklyEvents&) {
     message = "\nYou have seen an increase in your energy levels. Your total energy increased by ";
     message += std::to_string(change);
   }
-  return news<"⚡️ Health Checkup! ⚡️">(std::move(message));
+  return news<"⚡️ Health Checkup! ⚡️">(message);
 }
 
 /// A share of the cash as it stands at the draw; in debt it is less than nothing.
@@ -51,7 +51,7 @@ Outcome giveToGoodCause(Game& game, const WeeklyEvents&) {
     message = "\nThe entire community was shocked at the size of your donation.\n\nYou gained +" +
               std::to_string(change) + " in Charisma.";
   }
-  return news<"♥️Helping the Community♥️">(std::move(message));
+  return news<"♥️Helping the Community♥️">(message);
 }
 
 }  // namespace

@@ -7,9 +7,9 @@ namespace backbeat {
 
 namespace {
 
-Outcome earned(Game& game, double dollars, AlertTitle title, const char* opening) {
+Outcome earned(Game& game, double dollars, const AlertTitle& title, const char* opening) {
   earn(game, {.dollars = dollars});
-  return news(std::move(title), opening + currency(dollars) + " 💰");
+  return news(title, opening + currency(dollars) + " 💰");
 }
 
 /// Wins or loses the same amount; a loss asks for no cash in advance.
