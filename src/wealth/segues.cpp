@@ -107,6 +107,7 @@ constexpr MenuLine menu[] = {
 
 }  // namespace
 
-const Room wealthRoom = {.segues = segues, .menu = menu, .addNeeds = addWealthNeeds, .addNews = addWealthNews};
+const Room wealthRoom = {
+    .name = "wealth", .segues = segues, .menu = menu, .addNeeds = addWealthNeeds, .addNews = addWealthNews};
 
 }  // namespace backbeat
