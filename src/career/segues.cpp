@@ -158,6 +158,7 @@ constexpr MenuLine menu[] = {
 
 }  // namespace
 
-const Room careerRoom = {.segues = segues, .menu = menu, .addNeeds = addCareerNeeds, .addNews = addCareerNews};
+const Room careerRoom = {
+    .name = "career", .segues = segues, .menu = menu, .addNeeds = addCareerNeeds, .addNews = addCareerNews};
 
 }  // namespace backbeat

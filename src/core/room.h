@@ -2,6 +2,7 @@
 #pragma once
 
 #include <span>
+#include <string_view>
 #include <vector>
 
 #include "core/menu.h"
@@ -12,6 +13,7 @@
 namespace backbeat {
 
 struct Room {
+  std::string_view name;  ///< as its folder
   std::span<const Segue> segues;
   std::span<const MenuLine> menu = {};
   /// Asked after every press, so it looks at little.

@@ -17,6 +17,6 @@ constexpr Segue segues[] = {
 
 }  // namespace
 
-const Room featuresRoom = {.segues = segues, .addNews = addFeaturesNews};
+const Room featuresRoom = {.name = "features", .segues = segues, .addNews = addFeaturesNews};
 
 }  // namespace backbeat

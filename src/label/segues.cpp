@@ -93,6 +93,7 @@ constexpr MenuLine menu[] = {
 
 }  // namespace
 
-const Room labelRoom = {.segues = segues, .menu = menu, .addNeeds = addLabelNeeds, .addNews = addLabelNews};
+const Room labelRoom = {
+    .name = "label", .segues = segues, .menu = menu, .addNeeds = addLabelNeeds, .addNews = addLabelNews};
 
 }  // namespace backbeat

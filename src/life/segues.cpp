@@ -114,6 +114,7 @@ constexpr MenuLine menu[] = {
 
 }  // namespace
 
-const Room lifeRoom = {.segues = segues, .menu = menu, .addNeeds = addLifeNeeds, .addNews = addLifeNews};
+const Room lifeRoom = {
+    .name = "life", .segues = segues, .menu = menu, .addNeeds = addLifeNeeds, .addNews = addLifeNews};
 
 }  // namespace backbeat

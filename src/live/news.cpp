@@ -35,7 +35,7 @@ void addTourNeed(const GameState& state, std::vector<Need>& needs) {
   const int64_t seats = std::min(outlook.seatsSold, house.capacity);
   if (seats < 1 || netOfShow(showTerms(state), outlook.ticketPrice, seats) <= 0) return;
   const bool isFirst = state.saveAllMusicTourList.empty();
-  needs.push_back({.priority = 130,
+  needs.push_back({.priority = 165,
                    .picture = icon("ticket"),
                    .title = isFirst ? "You could go on tour" : "Your break is over",
                    .subtitle = "About " + withCommas(seats) + " would come to " + std::string(house.name),

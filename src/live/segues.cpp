@@ -98,7 +98,11 @@ void addToProfile(const Game& game, View& view) { addTourDates(view, game.state)
 
 }  // namespace
 
-const Room liveRoom = {
-    .segues = segues, .menu = menu, .addNeeds = addLiveNeeds, .addNews = addLiveNews, .addToProfile = addToProfile};
+const Room liveRoom = {.name = "live",
+                       .segues = segues,
+                       .menu = menu,
+                       .addNeeds = addLiveNeeds,
+                       .addNews = addLiveNews,
+                       .addToProfile = addToProfile};
 
 }  // namespace backbeat

@@ -66,7 +66,7 @@ void addSoldOut(const Game& game, std::vector<News>& news) {
                     .picture = productPicture(product),
                     .kicker = *isFirst ? "Your first sold-out product" : "Gone from the shop",
                     .headline = product.name,
-                    .text = "The last units went for " + currency(row->merchGross) +
+                    .text = "The last " + counted(row->unitsSold, "unit") + " went for " + currency(row->merchGross) +
                             (canRestock(product) ? "; more can be made" : ", and there will be no more"),
                     .figure = withCommas(row->unitsSold),
                     .stamp = "SOLD OUT"});
@@ -86,7 +86,7 @@ void addMerchNeeds(const Game& game, std::vector<Need>& needs) {
   }
   if (!waiting) return;
   const bool canHaveMore = canRestock(*waiting);
-  needs.push_back({.priority = canHaveMore ? 155 : 105,
+  needs.push_back({.priority = canHaveMore ? 164 : 162,
                    .picture = productPicture(*waiting),
                    .title = quoted(*waiting) + " is sold out",
                    .subtitle = canHaveMore ? withCommas(waiting->startingInventory) + " more cost " +

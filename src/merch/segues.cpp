@@ -63,7 +63,11 @@ void addToProfile(const Game& game, View& view) {
 
 }  // namespace
 
-const Room merchRoom = {
-    .segues = segues, .menu = menu, .addNeeds = addMerchNeeds, .addNews = addMerchNews, .addToProfile = addToProfile};
+const Room merchRoom = {.name = "merch",
+                        .segues = segues,
+                        .menu = menu,
+                        .addNeeds = addMerchNeeds,
+                        .addNews = addMerchNews,
+                        .addToProfile = addToProfile};
 
 }  // namespace backbeat

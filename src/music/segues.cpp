@@ -111,6 +111,6 @@ void addNeeds(const Game& game, std::vector<Need>& needs) {
 
 }  // namespace
 
-const Room musicRoom = {.segues = segues, .menu = menu, .addNeeds = addNeeds, .addNews = addMusicNews};
+const Room musicRoom = {.name = "music", .segues = segues, .menu = menu, .addNeeds = addNeeds, .addNews = addMusicNews};
 
 }  // namespace backbeat

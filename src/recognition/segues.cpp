@@ -78,6 +78,7 @@ constexpr MenuLine menu[] = {
 
 }  // namespace
 
-const Room recognitionRoom = {.segues = segues, .menu = menu, .addNeeds = addAwardNeeds, .addNews = addAwardNews};
+const Room recognitionRoom = {
+    .name = "recognition", .segues = segues, .menu = menu, .addNeeds = addAwardNeeds, .addNews = addAwardNews};
 
 }  // namespace backbeat

@@ -51,6 +51,6 @@ void addNeeds(const Game& game, std::vector<Need>& needs) {
 
 }  // namespace
 
-const Room shellRoom = {.segues = shellSegues, .menu = shellMenu, .addNeeds = addNeeds};
+const Room shellRoom = {.name = "shell", .segues = shellSegues, .menu = shellMenu, .addNeeds = addNeeds};
 
 }  // namespace backbeat

@@ -32,6 +32,6 @@ void addNews(const Game& game, std::vector<News>& news) {
 
 }  // namespace
 
-const Room socialRoom = {.segues = segues, .addNews = addNews};
+const Room socialRoom = {.name = "social", .segues = segues, .addNews = addNews};
 
 }  // namespace backbeat

@@ -77,6 +77,7 @@ constexpr MenuLine menu[] = {
 
 }  // namespace
 
-const Room turnRoom = {.segues = segues, .menu = menu, .addNeeds = addTurnNeeds, .addNews = addTurnNews};
+const Room turnRoom = {
+    .name = "turn", .segues = segues, .menu = menu, .addNeeds = addTurnNeeds, .addNews = addTurnNews};
 
 }  // namespace backbeat

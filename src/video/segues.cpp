@@ -73,6 +73,6 @@ void addNeeds(const Game& game, std::vector<Need>& needs) {
 
 }  // namespace
 
-const Room videoRoom = {.segues = segues, .menu = menu, .addNeeds = addNeeds, .addNews = addVideoNews};
+const Room videoRoom = {.name = "video", .segues = segues, .menu = menu, .addNeeds = addNeeds, .addNews = addVideoNews};
 
 }  // namespace backbeat

@@ -70,7 +70,7 @@ void describeStartups(const Game& game, Row& row) {
 void describeRichList(const Game& game, Row& row) { row.value = worldRank(netAssets(game.state)); }
 
 constexpr MenuLine menu[] = {
-    motors(lifeTab, "Lifestyle", 360, "Exotic"),
+    motors(lifeTab, "Lifestyle", 360, "Motors"),
     motors(businessTab, "Wealth", 330, "Motors"),
     {.tab = businessTab,
      .section = "Wealth",
@@ -107,6 +107,7 @@ constexpr MenuLine menu[] = {
 
 }  // namespace
 
-const Room wealthRoom = {.segues = segues, .menu = menu, .addNeeds = addWealthNeeds, .addNews = addWealthNews};
+const Room wealthRoom = {
+    .name = "wealth", .segues = segues, .menu = menu, .addNeeds = addWealthNeeds, .addNews = addWealthNews};
 
 }  // namespace backbeat

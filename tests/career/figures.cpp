@@ -90,8 +90,8 @@ Standings lifeFigures(Game& twin) {
           {"Health", "", "goToLifestyleChoices 2"},
           {"Home", "", "goToLifestyleChoices 3"},
           {"Transportation", "", "goToLifestyleChoices 4"},
-          {"Exotic", currency(470'000 * 0.9), "goToTransportationOptions"},
-          {"Exotic: subtitle", state.saveAllTransportationOwnedList[0].title},
+          {"Motors", currency(470'000 * 0.9), "goToTransportationOptions"},
+          {"Motors: subtitle", state.saveAllTransportationOwnedList[0].title},
           {"Energy", std::to_string(state.totalEnergyMax - weeklyEnergyCosts(state)), "goToEnergyTransparency"},
           {"Living", currency(-living), "goToExpenseScreen"}};
 }

@@ -373,10 +373,10 @@ Standings artistFigures(Game& twin) {
 Standings songListFigures(Game& twin) {
   const GameState& state = twin.state;
   return {{"cover: badge", withDecimals(ferry(state).productionRating, 1)},
-          {"sold", withCommas(ferry(state).albumsSold)},
-          {"sold: note", "at " + price(ferry(state).price)},
-          {"earned", currency(albumsEarned(state))},
-          {"out", std::to_string(ferry(state).releaseYear)},
+          {"Sold", withCommas(ferry(state).albumsSold)},
+          {"Sold: note", "at " + price(ferry(state).price)},
+          {"Earned", currency(albumsEarned(state))},
+          {"Out", std::to_string(ferry(state).releaseYear)},
           {"1. Salt Lanterns", withDecimals(lanterns(state).productionRating, 1)},
           {"1. Salt Lanterns: note", withCommas(lanterns(state).totalListen) + " streams"}};
 }

@@ -2,17 +2,21 @@
 //   backbeat_careers FOLDER
 // careers.json names them: each is a career file, with the hour at which it goes on; a golden one has its trace and the
 // hash of its end too, and the career that it began with, if it was no new life. A film is the trace of a new life
-// alone.
+// alone. screens.json names every screen that there is, with its room, which is empty for the roots of the tabs.
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "core/json.h"
 #include "play/filmed_careers.h"
 #include "play/worlds.h"
 #include "shell/native/career_transfer.h"
+#include "shell/registry.h"
 #include "support/dates.h"
 
 namespace backbeat {
@@ -82,6 +86,23 @@ class Careers {
   JsonWriter json_;
 };
 
+bool writeScreens(const std::string& folder) {
+  std::vector<std::pair<std::string_view, std::string_view>> screens;
+  for (const Tab& tab : tabs()) screens.emplace_back(tab.root.screen, "");
+  for (const Room* room : rooms()) {
+    for (const Segue& segue : room->segues) screens.emplace_back(segue.screen, room->name);
+  }
+  JsonWriter json;
+  json.beginArray();
+  for (const auto& [screen, room] : screens) {
+    json.beginObject().key("screen").text(screen).key("room").text(room).endObject();
+  }
+  json.endArray();
+  std::ofstream file(folder + "/screens.json", std::ios::binary);
+  file << json.str() << '\n';
+  return file.good();
+}
+
 }  // namespace
 }  // namespace backbeat
 
@@ -94,5 +115,5 @@ int main(int count, char** words) {
   for (const NamedWorld& world : namedWorlds()) careers.add(world);
   for (const GoldenCareer& golden : goldenCareers()) careers.add(golden);
   for (const GoldenCareer& filmed : filmedCareers()) careers.addFilm(filmed);
-  return careers.finish() ? 0 : 1;
+  return careers.finish() && writeScreens(words[1]) ? 0 : 1;
 }

@@ -5,12 +5,16 @@ import { Launch, importedRows } from './door.mjs';
 
 const folder = new URL('../../build/check/careers/', import.meta.url);
 const list = new URL('careers.json', folder);
+const listed = new URL('screens.json', folder);
 
 /**
  * By name: the file, the hour at which it goes on, and for a golden career its trace, its beginning and its end. A film
  * has its trace alone.
  */
 export const careers = existsSync(list) ? JSON.parse(readFileSync(list, 'utf8')) : {};
+
+/** Every screen that there is: its name and its room, which is empty for the roots of the tabs. */
+export const screens = existsSync(listed) ? JSON.parse(readFileSync(listed, 'utf8')) : [];
 
 /** Where the file of a career is. */
 export const careerFileAt = (name) => new URL((careers[name] ?? fail(name)).file, folder);

@@ -103,6 +103,19 @@ export class Launch {
     return this.press(this.answer.view.key, id, value);
   }
 
+  /** This moment, to come back to. */
+  mark() {
+    return { memory: new Uint8Array(this.door.memory.buffer).slice(), now: this.now, answer: this.answer };
+  }
+
+  /** Everything is as it was at the mark, but for the rows. */
+  backTo({ memory, now, answer }) {
+    const all = new Uint8Array(this.door.memory.buffer);
+    all.set(memory);
+    all.fill(0, memory.length);
+    Object.assign(this, { now, answer });
+  }
+
   #pass(bytes, call) {
     const address = this.door.bb_alloc(bytes.length) >>> 0;
     new Uint8Array(this.door.memory.buffer, address, bytes.length).set(bytes);

@@ -70,8 +70,8 @@ Card employeeCard(const GameState& state, const Employee& employee) {
           .tone = toneOfBand(static_cast<double>(employee.employeeRating)),
           .value = std::to_string(employee.employeeRating) + " rating",
           .meters = {levelMeter("Energy", employee.employeeEnergy), levelMeter("Happiness", employee.employeeMorale)},
-          .buttons = {{.id = "fire:" + id, .label = "Fire", .style = Button::Style::destructive},
-                      {.id = "motivate:" + id, .label = "Motivate", .price = motivationCost(state)}}};
+          .buttons = {{.id = "motivate:" + id, .label = "Motivate", .price = motivationCost(state)},
+                      {.id = "fire:" + id, .label = "Fire", .style = Button::Style::destructive}}};
 }
 
 }  // namespace

@@ -51,9 +51,9 @@ void SignedArtistSongListViewController::describe(View& view) const {
                  .title = album.title,
                  .text = isSigned ? state().saveAllSignedArtistList[artist].name : state().myLabelName,
                  .badge = withDecimals(album.productionRating, 1)});
-  view.add(Tiles{{{.label = "sold", .value = withCommas(album.albumsSold), .note = "at " + price(album.price)},
-                  {.label = "earned", .value = currency(earnedBy(labelSums(game_).sales.ofWork, albumId_))},
-                  {.label = "out", .value = std::to_string(album.releaseYear)}}});
+  view.add(Tiles{{{.label = "Sold", .value = withCommas(album.albumsSold), .note = "at " + price(album.price)},
+                  {.label = "Earned", .value = currency(earnedBy(labelSums(game_).sales.ofWork, albumId_))},
+                  {.label = "Out", .value = std::to_string(album.releaseYear)}}});
   const bool canGo = canBeTrimmed(state(), album);
   if (canGo) view.add(caption("It drops next week. Until then up to two songs can go."));
   Rows songs;

@@ -44,12 +44,12 @@ Outcome FxyMatchListViewController::act(const Action& action) {
 
 View FxyMatchListViewController::view() const {
   const RecordList<Matches>& matches = state().saveAllMatchesList;
-  View view{.title = "Messages", .subtitle = "1 match", .theme = Theme::love};
+  View view{.title = "Messages", .theme = Theme::love};
   if (matches.empty()) {
     view.add(EmptyHint{.icon = "message", .text = "Nobody has liked you back yet. Swipe on."});
     return view;
   }
-  if (matches.size() > 1) view.subtitle = withCommas(static_cast<int64_t>(matches.size())) + " matches";
+  view.subtitle = matches.size() == 1 ? "1 match" : withCommas(static_cast<int64_t>(matches.size())) + " matches";
   view.add(windowedRows("matches", window_, static_cast<int64_t>(matches.size()),
                         [&](size_t i) { return rowOf(state(), matches[i]); }));
   return view;

@@ -35,12 +35,11 @@ View FXYYouMatchedWithViewController::view() const {
   const Matches& match = state().saveAllMatchesList[*position];
   view.title = match.name;
   view.subtitle = whenMatched(state(), match);
-  view.add(Poster{.pictures = {drawn(Picture::Kind::scene, "sunset", match.name), faceNow(state(), match)},
-                  .title = match.name,
-                  .text = match.matchTagline,
-                  .facts = {{.icon = "briefcase",
-                             .label = "Works as",
-                             .value = match.occupation + ", " + std::to_string(ageNow(state(), match))}}});
+  view.add(Poster{
+      .pictures = {drawn(Picture::Kind::scene, "sunset", match.name), faceNow(state(), match)},
+      .title = match.name,
+      .text = match.matchTagline,
+      .facts = {{.label = "Works as", .value = match.occupation + ", " + std::to_string(ageNow(state(), match))}}});
   view.add(Card{.picture = artistPicture(state()), .title = "You", .text = match.matchPickupLine});
   view.add(Card{.picture = faceNow(state(), match), .title = match.name, .text = match.pickupLineResponse});
   view.add(Text{.text = dateIdeas(match)});

@@ -43,7 +43,9 @@ View MonthlyListenerDetailViewController::view() const {
   }
   view.add(Figures{.items = {std::move(total)}, .style = Figures::Style::large});
   if (data.empty()) {
-    view.add(EmptyHint{.icon = "headphones", .text = "Nobody listens yet. Release a song and end the week."});
+    view.add(EmptyHint{.icon = "headphones",
+                       .text = state().totalFans > 0 ? "End the week to see how many come and go."
+                                                     : "Nobody listens yet. Release a song and end the week."});
   } else {
     view.add(Heading{withoutLeadingBreak(chartHeading)});
     view.add(Chart{.title = "Monthly Listeners",

@@ -109,6 +109,9 @@ View MusicViewController::view() const {
                   .pulse = state().loginCount == 0});
   view.add(Button{.id = "createAlbumButton", .label = "Create an Album"});
   const bool menuFirst = state().saveAllSongList.size() > shortList;
+  // What is being worked on is pressed every week, and stands above the menu as long as it leaves that in sight.
+  const bool workFirst = menuFirst && !showsAlbums_ && songsInProduction(state()).size() <= shortList;
+  if (workFirst) describeSongsInProduction(view);
   if (menuFirst) addMenu(view, game_, musicTab);
   view.add(Choice{.id = "kind",
                   .label = "Your music",
@@ -118,31 +121,33 @@ View MusicViewController::view() const {
   if (showsAlbums_) {
     describeAlbums(view);
   } else {
-    describeSongs(view);
+    if (!workFirst) describeSongsInProduction(view);
+    describeReleasedSongs(view);
   }
   if (!menuFirst) addMenu(view, game_, musicTab);
   return view;
 }
 
-void MusicViewController::describeSongs(View& view) const {
-  const RecordList<Song>& songs = state().saveAllSongList;
+void MusicViewController::describeSongsInProduction(View& view) const {
   const std::vector<size_t> inProduction = songsInProduction(state());
-  const std::vector<size_t> released = latestSongs(state());
+  if (inProduction.empty()) return;
+  view.add(Heading{"In production"});
+  Rows rows;
+  for (const size_t i : inProduction) rows.items.push_back(songRow(state(), state().saveAllSongList[i]));
+  view.add(std::move(rows));
+}
+
+void MusicViewController::describeReleasedSongs(View& view) const {
+  const RecordList<Song>& songs = state().saveAllSongList;
   if (songs.empty()) {
     view.add(EmptyHint{.icon = "note",
                        .text = "No songs yet. Write one, release it, and end the week to hear what the world says."});
   }
-  if (!inProduction.empty()) {
-    view.add(Heading{"In production"});
-    Rows rows;
-    for (const size_t i : inProduction) rows.items.push_back(songRow(state(), songs[i]));
-    view.add(std::move(rows));
-  }
-  if (!released.empty()) {
-    view.add(Heading{"Released"});
-    view.add(windowedRows("released", released_, static_cast<int64_t>(released.size()),
-                          [&](size_t i) { return songRow(state(), songs[released[i]]); }));
-  }
+  const std::vector<size_t> released = latestSongs(state());
+  if (released.empty()) return;
+  view.add(Heading{"Released"});
+  view.add(windowedRows("released", released_, static_cast<int64_t>(released.size()),
+                        [&](size_t i) { return songRow(state(), songs[released[i]]); }));
 }
 
 void MusicViewController::describeAlbums(View& view) const {

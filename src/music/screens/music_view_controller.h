@@ -29,7 +29,8 @@ class MusicViewController final : public Screen {
  private:
   /// The page of the album that was made since its button was pressed.
   Outcome toNewAlbum();
-  void describeSongs(View& view) const;
+  void describeSongsInProduction(View& view) const;
+  void describeReleasedSongs(View& view) const;
   void describeAlbums(View& view) const;
 
   bool showsAlbums_ = false;

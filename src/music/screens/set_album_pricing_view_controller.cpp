@@ -30,7 +30,10 @@ View SetAlbumPricingViewController::view() const {
   }
   const Album& album = state().saveAllAlbumList[*position];
   view.subtitle = album.title + " · now " + price(album.price);
-  Choice choice{.id = "price", .label = "Price of a copy", .selected = static_cast<int64_t>(option_)};
+  Choice choice{.id = "price",
+                .label = "Price of a copy",
+                .selected = static_cast<int64_t>(option_),
+                .style = Choice::Style::segments};
   for (const double dollars : albumPrices) {
     const double earned = album.percentageOfEarnings * (dollars - state().albumProductionCosts);
     choice.options.push_back({.label = price(dollars), .note = "You earn " + price(earned) + " a copy"});

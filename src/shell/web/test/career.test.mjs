@@ -208,11 +208,11 @@ describe("a career", { skip: !existsSync(engine) && "the engine is not built for
       await setting(page, /^Restore/);
       const kept = await page
         .locator(".layer.top")
-        .getByText(/ · Week /)
+        .getByText(/\s· Week /)
         .allInnerTexts();
       await press(page, "Back");
       await press(page, "Back");
-      return kept.map((text) => text.split(" · ")[0]);
+      return kept.map((text) => text.split(/\s· /)[0]);
     };
     await start(page, "First Life");
     await endTheWeek(page);

@@ -4,6 +4,7 @@ import { readFile } from "node:fs/promises";
 import { createRequire } from "node:module";
 import { resolve } from "node:path";
 import { after, before, describe, test } from "node:test";
+import { everyScreen } from "../tools/screens.mjs";
 import { walk } from "../tools/walk.mjs";
 import { openWorld, world } from "../tools/worlds.mjs";
 import { barriers, brokenWords, cutRings, drawnLate, quiet, tooWide, unreachable } from "./look.mjs";
@@ -16,6 +17,13 @@ describe("every screen", { skip: !existsSync(engine) && "the engine is not built
   let house;
   before(async () => (house = await openGame()));
   after(() => house?.close());
+
+  test("has a way that leads the gallery to it", async () => {
+    const screens = await everyScreen();
+    assert.ok(screens.length > 100, `only ${screens.length} screens are listed`);
+    const unseen = screens.filter(({ sights }) => sights.length === 0).map(({ name }) => name);
+    assert.deepEqual(unseen, []);
+  });
 
   test("is open to everybody, in either light, in large letters on a small phone", async () => {
     const seen = new Set();

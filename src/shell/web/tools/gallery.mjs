@@ -1,75 +1,123 @@
 #!/usr/bin/env node
-// A picture of every screen in every world, dark, and in some of them light too, and of every week of the filmed lives,
-// on one page to look through:
-//   node tools/gallery.mjs [--root dist] [--out FOLDER] [--world NAME] [--theme dark|light]
+// A picture of every screen, where it is fullest and what else it can look like, dark and light, and of every week of the
+// filmed lives, on one page to look through. A screen without a picture is named, and fails.
+//   node tools/gallery.mjs [--root dist] [--out FOLDER] [--theme dark|light] [--screen NAME] [--world NAME]
+// --screen takes the screens whose name holds it; --world walks through all that one career or filmed life has.
 import { mkdir, rm, writeFile } from "node:fs/promises";
 import { join } from "node:path";
 import { parseArgs } from "node:util";
 import { launchBrowser } from "./browser.mjs";
 import { film } from "./film.mjs";
+import { galleryPage } from "./gallery-page.mjs";
+import { everyScreen, openSight } from "./screens.mjs";
 import { serve } from "./serve.mjs";
 import { walk } from "./walk.mjs";
-import { filmNames, openWorld, world, worldNames } from "./worlds.mjs";
+import { filmNames, openWorld, world } from "./worlds.mjs";
 
 const { values } = parseArgs({
   options: {
     root: { type: "string", default: "dist" },
     out: { type: "string", default: "gallery" },
+    screen: { type: "string" },
     world: { type: "string" },
     theme: { type: "string" },
+    width: { type: "string", default: "390" },
+    height: { type: "string", default: "844" },
+    letters: { type: "string", default: "100" },
   },
 });
-const alsoLight = ["new", "mid-career", "edges"];
-const names = values.world ? [values.world] : [...worldNames, ...filmNames];
+const size = { width: Number(values.width), height: Number(values.height) };
+const themes = values.theme ? [values.theme] : ["dark", "light"];
+const pagesAtOnce = 2;
 
 await rm(values.out, { recursive: true, force: true });
 await mkdir(values.out, { recursive: true });
 const server = await serve({ root: values.root });
 const home = `http://127.0.0.1:${server.address().port}/`;
-const browser = await launchBrowser({ forPictures: true });
+const browser = await launchBrowser();
 const shots = [];
 const faults = [];
 try {
-  for (const name of names) for (const theme of themesOf(name)) await take(name, theme);
+  await together(values.world ? [() => takeWorld(values.world)] : await everything());
 } finally {
   await browser.close();
   server.close();
 }
-await writeFile(join(values.out, "index.html"), page());
+shots.sort((a, b) => a.place - b.place);
+await writeFile(join(values.out, "index.html"), galleryPage(shots, size));
 console.log(`${shots.length} pictures: ${join(values.out, "index.html")}`);
 for (const fault of faults) console.error(fault);
 process.exitCode = faults.length > 0 ? 1 : 0;
 
-function themesOf(career) {
-  if (values.theme) return [values.theme];
-  if (filmNames.includes(career)) return ["dark"];
-  return values.world || alsoLight.includes(career) ? ["dark", "light"] : ["dark"];
+async function together(jobs) {
+  const next = async () => {
+    for (let job = jobs.shift(); job; job = jobs.shift()) await job();
+  };
+  await Promise.all(Array.from({ length: pagesAtOnce }, next));
 }
 
-async function take(career, theme) {
-  const context = await browser.newContext({
-    viewport: { width: 390, height: 844 },
-    colorScheme: theme,
-    reducedMotion: "reduce",
+/** A job for each sight of each screen, and for each filmed life. */
+async function everything() {
+  const wanted = (await everyScreen()).filter(({ name }) => name.includes(values.screen ?? ""));
+  for (const { name, sights } of wanted) if (sights.length === 0) faults.push(`there is no way to ${name}`);
+  const jobs = wanted.flatMap((screen) => screen.sights.map((sight, i) => () => takeSight(screen, sight, i)));
+  return values.screen ? jobs : [...jobs, ...filmNames.map((life) => () => takeWorld(life))];
+}
+
+async function takeSight({ name, room, place }, sight, number) {
+  const told = `${name}, ${sight.career}`;
+  await onPage(told, async (page) => {
+    const { modal, tab, tabs, stack } = await openSight(page, home, name, sight);
+    const group = modal ? "Over everything" : `${tabs[tab].label}${stack.length > 1 ? `, ${room}` : ""}`;
+    for (const theme of themes) {
+      await page.emulateMedia({ colorScheme: theme });
+      const take = (what) =>
+        shoot(page, {
+          group,
+          place,
+          name: what,
+          told: `${sight.career}, ${theme}`,
+          file: `${name}-${number}-${theme}`,
+        });
+      await take(name);
+      await below(page, () => take(`${name}, below`));
+    }
   });
-  const page = await context.newPage();
-  page.on("console", (message) => message.type() === "error" && faults.push(`${career}: ${message.text()}`));
-  page.on("pageerror", (error) => faults.push(`${career}: ${error}`));
-  const shot = (name) => shoot(page, career, theme, name);
-  if (filmNames.includes(career)) {
-    await film(page, home, career, shot);
-  } else {
-    await openWorld(page, home, world(career));
-    await walk(page, async (name) => {
-      await shot(name);
-      await shootBelow(page, () => shot(`${name}, below`));
+}
+
+/** All that a career leads to, or all the weeks of a filmed life. */
+async function takeWorld(career) {
+  for (const theme of filmNames.includes(career) ? themes.slice(0, 1) : themes) {
+    await onPage(career, async (page) => {
+      await page.emulateMedia({ colorScheme: theme });
+      const take = (name) =>
+        shoot(page, { group: career, place: Infinity, name, told: theme, file: `${career}-${theme}-${name}` });
+      if (filmNames.includes(career)) return film(page, home, career, take);
+      await openWorld(page, home, world(career));
+      await walk(page, async (name) => {
+        await take(name);
+        await below(page, () => take(`${name}, below`));
+      });
     });
   }
+}
+
+async function onPage(told, look) {
+  const context = await browser.newContext({ viewport: size, reducedMotion: "reduce" });
+  const page = await context.newPage();
+  page.on("console", (message) => message.type() === "error" && faults.push(`${told}: ${message.text()}`));
+  page.on("pageerror", (error) => faults.push(`${told}: ${error}`));
+  if (values.letters !== "100") {
+    await page.addInitScript((letters) => {
+      addEventListener("DOMContentLoaded", () => (document.documentElement.style.fontSize = `${letters}%`));
+    }, values.letters);
+  }
+  await look(page).catch((error) => faults.push(`${told}: ${error}`));
   await context.close();
 }
 
 /** The end of the screen, where it is longer than the glass. */
-async function shootBelow(page, shot) {
+async function below(page, take) {
   const scrolls = await page.evaluate(() => {
     const scroll = document.querySelector(".layer.top .scroll");
     const more = scroll.scrollHeight > scroll.clientHeight + 60 && !document.querySelector("dialog[open]");
@@ -77,15 +125,16 @@ async function shootBelow(page, shot) {
     return more;
   });
   if (!scrolls) return;
-  await shot();
+  await take();
   await page.evaluate(() => (document.querySelector(".layer.top .scroll").scrollTop = 0));
 }
 
-async function shoot(page, career, theme, name) {
+async function shoot(page, shot) {
   await stillness(page);
-  const file = `${career}-${theme}-${name}`.replace(/[^\w]+/g, "-") + ".jpg";
+  const below = shot.name.endsWith("below") && !shot.file.endsWith("below") ? "-below" : "";
+  const file = `${shot.file}${below}`.replace(/[^\w]+/g, "-") + ".jpg";
   await page.screenshot({ path: join(values.out, file), type: "jpeg", quality: 80 });
-  shots.push({ career, theme, name, file });
+  shots.push({ ...shot, file });
 }
 
 /** Waits until nothing moves and every picture is there. */
@@ -98,19 +147,4 @@ async function stillness(page) {
     await Promise.allSettled([...document.images].map((image) => image.decode()));
     for (let frame = 0; frame < 3; frame += 1) await new Promise(requestAnimationFrame);
   });
-}
-
-function page() {
-  const figure = ({ career, theme, name, file }) =>
-    `<figure><img src="${file}" loading="lazy" width="390" height="844" alt=""><figcaption>${name}<br>${career}, ${theme}</figcaption></figure>`;
-  const rows = names.flatMap((career) =>
-    themesOf(career).map((theme) => {
-      const own = shots.filter((shot) => shot.career === career && shot.theme === theme);
-      return `<h2>${career}, ${theme}</h2><div>${own.map(figure).join("")}</div>`;
-    }),
-  );
-  return `<!doctype html><meta charset="utf-8"><title>Backbeat, every screen</title>
-<style>body{font:14px system-ui;margin:20px;background:#777}div{display:flex;flex-wrap:wrap;gap:16px}figure{margin:0}img{display:block;border-radius:20px}</style>
-${rows.join("\n")}
-`;
 }

@@ -54,13 +54,16 @@ class ChartElement extends LitElement {
           : nothing
       }
       ${value ? html`<span class="chart-value" dir="auto" style="--letters:${value.length}">${value}</span>` : nothing}
-      ${note ? html`<span class="chart-note" dir="auto">${note}</span>` : nothing}
-      ${
-        this.points().length > 0
-          ? html`<div class="plot" role="img" aria-label=${this.spoken()}></div>`
-          : html`<p class="plot-empty">Nothing to show yet</p>`
-      }
+      ${note ? html`<span class="chart-note" dir="auto">${note}</span>` : nothing} ${this.plotOrNothing()}
     </section>`;
+  }
+
+  /** One point is no line: the figure says it all. */
+  private plotOrNothing(): TemplateResult | typeof nothing {
+    const known = this.points().filter((point) => point !== null);
+    if (!known.some((point) => point !== 0)) return html`<p class="plot-empty">Nothing to show yet</p>`;
+    if (known.length === 1 && this.chart.style !== "bars" && this.chart.value) return nothing;
+    return html`<div class="plot" role="img" aria-label=${this.spoken()}></div>`;
   }
 
   // A plot takes longer than all the rest of its screen, and its room is there already.
@@ -131,7 +134,7 @@ class ChartElement extends LitElement {
           gap: 16,
           splits: () => ticks,
           grid: { stroke: colour("--hairline"), width: 1 },
-          values: (_, at) => at.map(abbreviated),
+          values: (_, at) => toldApart(at),
         },
       ],
       series: [{}, bars ? barSeries(colour) : lineSeries(colour)],
@@ -213,9 +216,16 @@ function ticksOf(points: (number | null)[], bars: boolean): number[] {
   return Array.from({ length: steps + 1 }, (_, i) => (first + i) * step);
 }
 
+/** The numbers of an axis, with as many digits as it takes to tell them apart. */
+function toldApart(values: number[]): string[] {
+  const short = (digits: number): string[] => values.map((value) => abbreviated(value, digits));
+  const enough = [3, 4, 5, 6].find((digits) => new Set(short(digits)).size === values.length);
+  return short(enough ?? 6);
+}
+
 /** A number as short as an axis needs it: 1250000 is "1.25M". */
-function abbreviated(value: number): string {
-  return new Intl.NumberFormat("en-US", { notation: "compact", maximumSignificantDigits: 3 }).format(value);
+function abbreviated(value: number, digits = 3): string {
+  return new Intl.NumberFormat("en-US", { notation: "compact", maximumSignificantDigits: digits }).format(value);
 }
 
 customElements.define("bb-chart", ChartElement);

@@ -118,7 +118,7 @@ function rowBody(row: Row, underHeads: boolean, scene: Scene): TemplateResult {
     }
     <span class="row-texts">
       <span class="row-title"><span class="clip" dir="auto">${row.title}</span>${badge(row.badge)}</span>
-      ${row.subtitle ? html`<span class="row-subtitle" dir="auto">${row.subtitle}</span>` : nothing}
+      ${row.subtitle ? html`<span class="row-subtitle" dir="auto">${facts(row.subtitle)}</span>` : nothing}
       ${row.share === undefined ? nothing : bar(row.share)}
     </span>
     ${spark(row.points)}
@@ -132,6 +132,9 @@ function rowBody(row: Row, underHeads: boolean, scene: Scene): TemplateResult {
     ${row.opens ? html`<span class="chevron" aria-hidden="true"></span>` : nothing}
   `;
 }
+
+/** Facts in a line: none of its lines begins with the dot between two of them. */
+const facts = (text: string): string => text.replaceAll(" · ", "\u00a0· ");
 
 /** The picture of a row, with those that look out behind it. */
 function fanned({ picture: first, fan = [] }: Row): TemplateResult | typeof nothing {
