@@ -13,12 +13,13 @@ export function leastHeight(block: Block): number {
       return gap + rowsHeight(block);
     case "figures":
       return gap + figuresHeight(block);
-    case "post":
+    case "cover":
     case "tiles":
     case "card":
       return gap + 80;
     case "chart":
     case "poster":
+    case "post":
       return gap + 120;
     case "button":
       return gap + 44;

@@ -4,7 +4,7 @@ import { askToKeep } from "./keeping";
 import { Messages } from "./messages";
 import type { Answer, PressScreen } from "./protocol";
 import { obey } from "./requests";
-import { readInWorker } from "./reading";
+import { readInWorker, rehearseInWorker } from "./reading";
 import { makeRoomForCopies } from "./room";
 import { asidesOf, isAside, type Row, type StoredRow } from "./rows";
 import { Save, type Trouble } from "./save";
@@ -92,6 +92,11 @@ export class Game implements Player {
       }
     }
     return false;
+  }
+
+  /** Has the engine's parts ready before they are first needed; nothing waits for it. */
+  async rehearse(): Promise<void> {
+    await rehearseInWorker(await this.module);
   }
 
   act(screen: PressScreen, id: string, value = ""): void {

@@ -2,6 +2,7 @@ import { tellBroken } from "./broken";
 import { takeDroppedFiles } from "./dropped-files";
 import { Game, launchSeed } from "./game";
 import { takeSave } from "./lock";
+import { painted } from "./motion";
 import { installGlyphs } from "./pictures/icons";
 import { showNotice } from "./notice";
 import { applyLook } from "./preferences";
@@ -35,6 +36,8 @@ async function begin(steal: boolean): Promise<void> {
     app.player = game;
     document.querySelector("backbeat-app, .full-notice")!.replaceWith(app);
     if (import.meta.env.PROD) void offerUpdates(game);
+    await painted();
+    void game.rehearse();
   } catch (fault) {
     tellBroken(fault);
   }

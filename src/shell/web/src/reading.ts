@@ -4,7 +4,10 @@ import type { StoredRow } from "./rows";
 
 /** What the worker that reads a file is told, in this order; rows come in pieces. */
 export type Told =
-  { module: WebAssembly.Module; copies: KeptCopy[] } | { rows: StoredRow[] } | { file: Uint8Array; now: number };
+  | { module: WebAssembly.Module; copies: KeptCopy[] }
+  | { rows: StoredRow[] }
+  | { file: Uint8Array; now: number }
+  | { rehearsal: number };
 
 /** What it tells: the step that it begins, and at the end what is in the file, or null when that stopped an engine. */
 export type Heard = { step: number } | { read: Import | null };
@@ -53,4 +56,19 @@ export function readInWorker(
     clearTimeout(timer);
     worker.terminate();
   });
+}
+
+/**
+ * Plays a first week in a worker and forgets it. A browser compiles each part of the engine when it is first needed, once
+ * for all that run on that module: the player's first report need not wait for that.
+ */
+export async function rehearseInWorker(module: WebAssembly.Module): Promise<void> {
+  await readInWorker(
+    async (tell) => {
+      tell({ module, copies: [] });
+      tell({ rehearsal: Date.now() });
+    },
+    () => {},
+    new AbortController().signal,
+  );
 }

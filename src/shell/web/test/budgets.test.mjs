@@ -74,8 +74,8 @@ test("a press is painted and a report shown at once", async () => {
   }
   const { press: presses, report: reports } = await count.end();
   const told = `presses ${presses.map((ms) => ms.toFixed(0))}, reports ${reports.map((ms) => ms.toFixed(0))} ms`;
-  assert.ok(median(presses) * slowdown <= 110, told);
-  assert.ok(median(reports) * slowdown <= 190, told);
+  assert.ok(median(presses) * slowdown <= 90, told);
+  assert.ok(median(reports) * slowdown <= 160, told);
   assert.deepEqual(faults, []);
   await context.close();
 });
@@ -128,7 +128,7 @@ test("a release and the report that celebrates it move without a jerk", async ()
     await press(page, /^Create song/);
     await answerAlerts(page);
     await press(page, title);
-    await page.locator("backbeat-app:not(:has(.moving))").waitFor();
+    await page.waitForFunction(() => !document.querySelector(".moving"));
     await moment("release", "RELEASE", 1700);
     await answerAlerts(page);
     await press(page, "Back");

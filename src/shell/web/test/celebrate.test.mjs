@@ -59,7 +59,7 @@ test("confetti and figures wait until the sheet stands, and a tap lets all of it
 test("under sad news nothing counts and nothing falls", async () => {
   const { page, context, first } = await rise("mourn");
   assert.deepEqual(first, { rising: true, confetti: null, figure: "$41,230" });
-  await page.locator("backbeat-app:not(:has(.moving))").waitFor();
+  await page.waitForFunction(() => !document.querySelector(".moving"));
   await context.close();
 });
 

@@ -62,6 +62,22 @@ describe("the whole game", { skip: !existsSync(engine) && "the engine is not bui
     await context.close();
   });
 
+  test("a week is rehearsed in a worker, so that the first report finds the engine ready", async () => {
+    const init = () => {
+      window.Worker = class extends Worker {
+        constructor(...from) {
+          super(...from);
+          this.addEventListener("message", ({ data }) => (window.rehearsed = data.read === null));
+        }
+      };
+    };
+    const { page, context, faults } = await open({ init });
+    await page.waitForFunction(() => window.rehearsed);
+    assert.equal(await page.getByRole("textbox", { name: "Artist name" }).inputValue(), "");
+    assert.deepEqual(faults, []);
+    await context.close();
+  });
+
   test("a second tab is told, and takes over only when asked to", async () => {
     const { page, context, faults } = await open();
     await start(page);

@@ -195,12 +195,14 @@ test("screens are found again as they were left", async () => {
   const music = answer([], { key: 3, tab: 1 });
   const { page, presses, answerNext, close } = await open(root);
   const scrolled = () => page.locator(".layer.top .scroll").evaluate((scroll) => Math.round(scroll.scrollTop));
+  await page.locator(".row").nth(59).waitFor({ state: "attached" });
   await page.locator(".layer.top .scroll").evaluate((scroll) => scroll.scrollTo(0, 900));
   await answerNext(detail, root);
   await page.getByRole("button", { name: "Row 18" }).click();
   await page.getByRole("heading", { name: "Screen 2" }).waitFor();
   const before = await page.locator(".layer.beneath .scroll").evaluate((scroll) => Math.round(scroll.scrollTop));
   assert.ok(before > 500);
+  await page.waitForFunction(() => !document.querySelector(".moving"));
   const reached = await page
     .locator(".layer.beneath button")
     .first()
