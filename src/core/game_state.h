@@ -262,7 +262,7 @@ struct GameState {
   RecordList<AwardYear> awardYear{edited};  ///< one, or none before the first nominations
   RecordList<PackWeek> packWeeks{edited};   ///< one of each free pack that was taken
   RecordList<CreditedPurchase> creditedPurchases{growing};
-  RecordList<ReportNumbers> openReport{growing};  ///< and what a closed one leaves: see turn/open_report.h
+  RecordList<ReportNumbers> reportNumbers{growing};  ///< and what a closed one leaves: see turn/open_report.h
 
   friend bool operator==(const GameState&, const GameState&) = default;
 };
@@ -503,7 +503,7 @@ inline constexpr auto fieldsOf<GameState> = [](auto&& take) {
       SavedList{"AllCelebrityCameos", &GameState::AllCelebrityCameos, Lifetime::player},
       SavedList{"awardYear", &GameState::awardYear}, SavedList{"packWeeks", &GameState::packWeeks, Lifetime::family},
       SavedList{deviceKey, &GameState::creditedPurchases, Lifetime::device},
-      SavedList{"openReport", &GameState::openReport});
+      SavedList{"reportNumbers", &GameState::reportNumbers});
 };
 
 /// A list of a state, whatever it holds, and the key under which it is stored.

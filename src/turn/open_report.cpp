@@ -141,7 +141,7 @@ bool isKept(const Numbers& numbers, std::string_view what) {
 
 /// Leaves the week, and what was done by then.
 void beginAnew(Game& game, std::string_view how) {
-  Numbers& numbers = game.state.openReport;
+  Numbers& numbers = game.state.reportNumbers;
   const bool songs = isKept(numbers, hasMadeSong) || !game.state.saveAllSongList.empty();
   const bool jobs = isKept(numbers, hasWorked) || game.turn.tookFirstJob;
   numbers.clear();
@@ -159,13 +159,13 @@ bool isFirstWeek(const GameState& state) {
 }  // namespace
 
 bool isReportOpen(const GameState& state) {
-  const ReportNumbers* kept = keptOf(state.openReport, openWeek);
+  const ReportNumbers* kept = keptOf(state.reportNumbers, openWeek);
   return kept && kept->figures == std::vector{static_cast<double>(state.weekNumberForTracking)};
 }
 
 void rememberReport(Game& game, const WeeklyReport& report) {
   const Turn& turn = game.turn;
-  Numbers& numbers = game.state.openReport;
+  Numbers& numbers = game.state.reportNumbers;
   beginAnew(game, openWeek);
   keep(numbers, "report", ofReport, report);
   keep(numbers, "turn", ofTurn, turn);
@@ -175,12 +175,12 @@ void rememberReport(Game& game, const WeeklyReport& report) {
   keep(numbers, "songs", ofSong, std::span(turn.before.songs));
   keep(numbers, "albums", ofAlbum, std::span(turn.before.albums));
   keep(numbers, "companies", ofVenture, std::span(turn.ventures));
-  game.save(&GameState::openReport);
+  game.save(&GameState::reportNumbers);
 }
 
 void rememberAppearance(Game& game, const WeeklyReport& report) {
-  keep(game.state.openReport, "appearance", ofAppearance, report);
-  game.save(&GameState::openReport);
+  keep(game.state.reportNumbers, "appearance", ofAppearance, report);
+  game.save(&GameState::reportNumbers);
 }
 
 WeeklyReport recalledReport(Game& game) {
@@ -189,7 +189,7 @@ WeeklyReport recalledReport(Game& game) {
   Turn& turn = game.turn;
   turn = Turn();
   turn.before.week = report.week;
-  const Numbers& numbers = game.state.openReport;
+  const Numbers& numbers = game.state.reportNumbers;
   recall(numbers, "report", ofReport, report);
   recall(numbers, "appearance", ofAppearance, report);
   recall(numbers, "turn", ofTurn, turn);
@@ -204,7 +204,7 @@ WeeklyReport recalledReport(Game& game) {
 
 void noteFirsts(Game& game) {
   GameState& state = game.state;
-  Numbers& numbers = state.openReport;
+  Numbers& numbers = state.reportNumbers;
   if (numbers.empty() && !isFirstWeek(state)) {
     numbers.append({std::string(hasMadeSong), 0, {}});
     numbers.append({std::string(hasWorked), 0, {}});
@@ -215,7 +215,7 @@ void noteFirsts(Game& game) {
 
 void forgetReport(Game& game) {
   beginAnew(game, closedWeek);
-  game.save(&GameState::openReport);
+  game.save(&GameState::reportNumbers);
 }
 
 }  // namespace backbeat

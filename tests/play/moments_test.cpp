@@ -112,7 +112,7 @@ TEST(Moments, WhatWasDoneBeforeAReloadIsStillToldByTheWeek) {
   releaseSingles(player, {});
   MemoryStore older;  // of a version that did not keep how the career stood
   older.rows = made.rows;
-  std::erase_if(older.rows, [](const auto& row) { return row.first.first == "openReport"; });
+  std::erase_if(older.rows, [](const auto& row) { return row.first.first == "reportNumbers"; });
   const std::set<std::string> toldOfSong = toldAfterReload(made);
   EXPECT_EQ(toldOfSong.count("first song"), 1u);
   EXPECT_EQ(toldOfSong.count("first job"), 0u) << "that was last week's";

@@ -10,7 +10,8 @@
 namespace backbeat {
 
 /// Numbers that the open report tells by and that stand nowhere else, such as the followers before the week. What there
-/// is to remember may grow from version to version: see turn/open_report.h.
+/// is to remember may grow from version to version: see turn/open_report.h. (The key "openReport" once held the same in
+/// another form; nothing may stand there again.)
 struct ReportNumbers {
   std::string what;             ///< whose they are: "week before", "songs"
   int64_t each = 0;             ///< how many belong to each of those, one after the other
