@@ -84,7 +84,9 @@ const night = (fields) => ({
 test("the envelope opened last unfolds on top, wherever one was reading", async () => {
   const { page, context } = await stage.open({ reducedMotion: "no-preference" });
   await page.evaluate((night) => window.stage.show(night), night(["Album", "Record"]));
+  const unfolded = () => document.getAnimations().every(({ animationName }) => animationName !== "unfold");
   await page.waitForFunction(() => document.querySelectorAll(".award").length === 2);
+  await page.waitForFunction(unfolded);
   await page.evaluate(() => document.querySelector(".layer.modal .scroll").scrollTo({ top: 400 }));
   const unfolding = await page.evaluate(
     (night) => {

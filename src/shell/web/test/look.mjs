@@ -4,8 +4,11 @@
 export const quiet = (page) =>
   page.evaluate(async () => {
     await document.fonts.ready;
-    const isWhole = () => [...document.querySelectorAll("bb-blocks")].every(({ whole }) => whole);
-    for (let frames = 0; frames < 2 || !isWhole(); frames += 1) await new Promise(requestAnimationFrame);
+    const unfinished = () => [...document.querySelectorAll("bb-blocks")].filter(({ whole }) => !whole);
+    for (let frames = 0; frames < 2 || unfinished().length > 0; frames += 1) {
+      if (frames > 1000) throw new Error(`never whole: ${unfinished().map(({ view }) => view?.screen)}`);
+      await new Promise(requestAnimationFrame);
+    }
     for (const animation of document.getAnimations()) {
       if (animation.effect.getComputedTiming().endTime !== Infinity) animation.finish();
     }
