@@ -132,7 +132,7 @@ struct Launch {
   VentureMemory ventures;
   int64_t weddingWeek = 0;                  ///< the absolute week of the last wedding
   std::vector<int64_t> achievementsToTell;  ///< granted by this press and not told yet
-  mutable GoalsInSight goalsInSight;        ///< looked for when a screen asks, once a week
+  mutable GoalsInSight goalsInSight;        ///< looked for when a screen asks, now and then
   std::vector<std::string> awaitedPacks;    ///< products asked for, whose answer is still to come
 };
 

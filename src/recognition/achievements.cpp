@@ -58,7 +58,8 @@ int64_t completedCount(const GameState& state) {
 int64_t goalsToCollect(const Game& game) {
   GoalsInSight& inSight = game.launch.goalsInSight;
   const int64_t week = game.state.weekNumberForTracking;
-  if (inSight.absoluteWeek != week) inSight = {week, static_cast<int64_t>(reachedGoals(game.state).size())};
+  const bool isFresh = inSight.absoluteWeek >= 0 && week >= inSight.absoluteWeek && week < inSight.absoluteWeek + 4;
+  if (!isFresh) inSight = {week, static_cast<int64_t>(reachedGoals(game.state).size())};
   return inSight.count;
 }
 

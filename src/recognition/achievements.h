@@ -56,7 +56,7 @@ bool isCompleted(const GameState& state, int64_t id);
 int64_t completedCount(const GameState& state);
 
 /// How many goals are reached and wait for `completeReached`. Looking for them walks all of a career, so it is done
-/// once a week: what a press reaches is counted a week later.
+/// once in four weeks; what is reached in between is counted late.
 int64_t goalsToCollect(const Game& game);
 
 /// Looks for every goal that is still open, and completes and saves those that are reached. Answers with them.
