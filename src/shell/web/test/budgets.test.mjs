@@ -35,7 +35,7 @@ test("the page stays light on the line", async () => {
     [/^drawings.*\.js$/, 25],
     [/^late-glyphs.*\.js$/, 18],
     [/\.css$/, 25],
-    [/^engine\.wasm$/, 460],
+    [/^engine\.wasm$/, 442],
   ];
   for (const [pattern, limit] of limits) {
     const kilobytes = weigh(pattern);
