@@ -80,11 +80,15 @@ Outcome askToHire(const GameState& state, const Candidate& candidate, Action con
       "No", {"Yes, Offer", std::move(confirmed), AlertButton::Style::normal});
 }
 
+bool hasFreeDesk(const GameState& state) {
+  // Past the label's codes a salary would be taken for a cost of the shop.
+  return static_cast<int64_t>(state.saveAllEmployeeList.size()) < state.officeCapacity &&
+         state.employeeId < expense::lastLabelCost;
+}
+
 Outcome hireEmployee(Game& game, const Candidate& candidate) {
   GameState& state = game.state;
-  const auto staff = static_cast<int64_t>(state.saveAllEmployeeList.size());
-  // Past the label's codes a salary would be taken for a cost of the shop.
-  if (staff >= state.officeCapacity || state.employeeId >= expense::lastLabelCost) {
+  if (!hasFreeDesk(state)) {
     return refuse<"🖥 No Office Space 🖥">(
         "\nYou do not have enough office space to hire this employee. Upgrade your office to accommodate a larger "
         "staff.");

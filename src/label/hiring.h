@@ -38,6 +38,9 @@ std::vector<Candidate> generateCandidates(Game& game);
 /// Asks before an offer is made; the answer sends `confirmed`.
 Outcome askToHire(const GameState& state, const Candidate& candidate, Action confirmed);
 
+/// Whether the office takes one more.
+bool hasFreeDesk(const GameState& state);
+
 /// The candidate joins for a weekly salary in the ledger, and the screen that answers closes. Refused when the office
 /// is full. The department's bonus follows at the next refresh alone: intended.
 Outcome hireEmployee(Game& game, const Candidate& candidate);

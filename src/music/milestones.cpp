@@ -73,21 +73,22 @@ int64_t recordCount(const RecordList<T>& list, std::span<const uint32_t> weeks, 
   return beaten ? 0 : latest;
 }
 
+std::string bestWeekOf(const std::string& title) { return quoted(title) + " has its best week yet"; }
+
 void addRecords(std::vector<Milestone>& milestones, const GameState& after, CalendarWeek week) {
   const auto& streams = after.saveAllWeeklySongListens;
   for (const WeeklySongListens& row : rowsOfWeek(streams, week)) {
     const int64_t best = recordCount(streams, streams.historyOf(row.songId), &WeeklySongListens::songListens);
     if (best == 0) continue;
-    milestones.push_back(ofSong(Kind::recordWeek, row.songId,
-                                quoted(row.songTitle) + " has its best week yet: " + counted(best, "stream"), best));
+    milestones.push_back(ofSong(Kind::recordWeek, row.songId, bestWeekOf(row.songTitle), best));
+    milestones.back().amount = counted(best, "stream");
   }
   const auto& sales = after.saveAllWeeklyAlbumSales;
   for (const WeeklyAlbumSales& row : rowsOfWeek(sales, week)) {
     const int64_t best = recordCount(sales, sales.historyOf(row.albumId), &WeeklyAlbumSales::albumSales);
     if (best == 0) continue;
-    milestones.push_back(ofAlbum(Kind::recordWeek, row.albumId,
-                                 quoted(row.albumTitle) + " has its best week yet: " + withCommas(best) + " sold",
-                                 best));
+    milestones.push_back(ofAlbum(Kind::recordWeek, row.albumId, bestWeekOf(row.albumTitle), best));
+    milestones.back().amount = withCommas(best) + " sold";
   }
 }
 

@@ -12,10 +12,11 @@ namespace backbeat {
 struct Milestone {
   /// Greatest first.
   enum class Kind { numberOne, certification, chartDebut, newPeak, recordWeek } kind = Kind::recordWeek;
-  int64_t songId = -1;   ///< -1 when it is about an album
-  int64_t albumId = -1;  ///< -1 when it is about a song
-  std::string text;      ///< one finished line, the title in it
-  int64_t number = 0;    ///< the rank, the certification's tier, or the count of the week
+  int64_t songId = -1;      ///< -1 when it is about an album
+  int64_t albumId = -1;     ///< -1 when it is about a song
+  std::string text;         ///< what happened, the title in it
+  int64_t number = 0;       ///< the rank, the certification's tier, or the count of the week
+  std::string amount = {};  ///< that count in words, of a record alone
 };
 
 /// Taken before the week cycle.

@@ -87,14 +87,11 @@ void addMilestones(const Game& game, std::vector<News>& all) {
       news.kind = Kind::best;
       news.rank = 150;
       news.key = "record week";
-      // What the week came to stands in the line below.
-      const size_t amount = milestone.text.rfind(": ");
-      news.headline = milestone.text.substr(0, amount);
-      news.text = milestone.text.substr(amount + 2);
+      news.text = milestone.amount;
     } else {
       tellChart(news, milestone, bestRank);
     }
-    if (news.headline.empty()) news.headline = milestone.text;
+    news.headline = milestone.text;
     news.picture = pictureFor(game.state, milestone);
     all.push_back(std::move(news));
   }

@@ -96,7 +96,7 @@ void keep(Numbers& numbers, std::string_view what, const Kept<Owner> (&table)[co
 }
 
 const ReportNumbers* keptOf(const Numbers& numbers, std::string_view what) {
-  const size_t at = numbers.find([&](const ReportNumbers& kept) { return kept.what == what && kept.each > 0; });
+  const size_t at = numbers.find([&](const ReportNumbers& kept) { return kept.what == what; });
   return at < numbers.size() ? &numbers[at] : nullptr;
 }
 
@@ -130,14 +130,12 @@ template <class Owner, size_t count>
 void recall(const Numbers& numbers, std::string_view what, const Kept<Owner> (&table)[count],
             std::vector<Owner>& owners) {
   const ReportNumbers* kept = keptOf(numbers, what);
-  if (!kept) return;
+  if (!kept || kept->each < 1) return;
   owners.resize(kept->figures.size() / static_cast<size_t>(kept->each));
   recall(*kept, table, std::span(owners));
 }
 
-bool isKept(const Numbers& numbers, std::string_view what) {
-  return numbers.find([&](const ReportNumbers& kept) { return kept.what == what; }) != numbers.size();
-}
+bool isKept(const Numbers& numbers, std::string_view what) { return keptOf(numbers, what) != nullptr; }
 
 /// Leaves the week, and what was done by then.
 void beginAnew(Game& game, std::string_view how) {

@@ -75,7 +75,9 @@ TEST(Statistics, AreTheSongsOwnWeeks) {
 
 std::vector<std::string> texts(const std::vector<Milestone>& milestones) {
   std::vector<std::string> lines;
-  for (const Milestone& milestone : milestones) lines.push_back(milestone.text);
+  for (const Milestone& milestone : milestones) {
+    lines.push_back(milestone.text + (milestone.amount.empty() ? "" : ": " + milestone.amount));
+  }
   return lines;
 }
 

@@ -61,14 +61,14 @@ Outcome LabelHireStaffViewController::press(const Action& action) {
 void LabelHireStaffViewController::describe(View& view) const {
   view.title = "Hire";
   view.subtitle = state().myLabelName;
-  const auto staff = static_cast<int64_t>(state().saveAllEmployeeList.size());
-  const bool hasDesk = staff < state().officeCapacity;
-  view.add(Tiles{{{.label = candidates_.size() == 1 ? "candidate this visit" : "candidates this visit",
-                   .value = std::to_string(candidates_.size())},
-                  {.label = "desks taken",
-                   .value = std::to_string(staff) + " of " + std::to_string(state().officeCapacity),
-                   .tone = hasDesk ? Tone::plain : Tone::warning},
-                  {.label = "Weekly Exp: ", .value = currency(weeklyExpenses(state()))}}});
+  const bool hasDesk = hasFreeDesk(state());
+  view.add(Tiles{
+      {{.label = candidates_.size() == 1 ? "candidate this visit" : "candidates this visit",
+        .value = std::to_string(candidates_.size())},
+       {.label = "desks taken",
+        .value = std::to_string(state().saveAllEmployeeList.size()) + " of " + std::to_string(state().officeCapacity),
+        .tone = hasDesk ? Tone::plain : Tone::warning},
+       {.label = "Weekly Exp: ", .value = currency(weeklyExpenses(state()))}}});
   const LabelRatings label = departmentRatings(state());
   for (size_t i = 0; i < candidates_.size(); ++i) {
     view.add(candidateCard(candidates_[i], label, i, hasDesk));

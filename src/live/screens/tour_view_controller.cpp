@@ -106,8 +106,8 @@ void TourViewController::describeVenues(View& view) const {
   Rows full;
   Rows others;
   for (const TourLocation& location : tourLocations) {
-    const bool wouldFill = toneOfBand(demandPercent(game_, plan_, location)) == Tone::good;
-    (wouldFill ? full : others).items.push_back(describe(location));
+    Row row = describe(location);
+    (row.tone == Tone::good ? full : others).items.push_back(std::move(row));
   }
   const bool isSplit = !full.items.empty() && !others.items.empty();
   if (isSplit) view.add(caption("These you would fill, or nearly."));

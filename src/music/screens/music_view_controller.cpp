@@ -110,8 +110,9 @@ View MusicViewController::view() const {
   view.add(Button{.id = "createAlbumButton", .label = "Create an Album"});
   const bool menuFirst = state().saveAllSongList.size() > shortList;
   // What is being worked on is pressed every week, and stands above the menu as long as it leaves that in sight.
-  const bool workFirst = menuFirst && !showsAlbums_ && songsInProduction(state()).size() <= shortList;
-  if (workFirst) describeSongsInProduction(view);
+  const std::vector<size_t> inProduction = showsAlbums_ ? std::vector<size_t>() : songsInProduction(state());
+  const bool workFirst = menuFirst && inProduction.size() <= shortList;
+  if (workFirst) describeSongsInProduction(view, inProduction);
   if (menuFirst) addMenu(view, game_, musicTab);
   view.add(Choice{.id = "kind",
                   .label = "Your music",
@@ -121,15 +122,14 @@ View MusicViewController::view() const {
   if (showsAlbums_) {
     describeAlbums(view);
   } else {
-    if (!workFirst) describeSongsInProduction(view);
+    if (!workFirst) describeSongsInProduction(view, inProduction);
     describeReleasedSongs(view);
   }
   if (!menuFirst) addMenu(view, game_, musicTab);
   return view;
 }
 
-void MusicViewController::describeSongsInProduction(View& view) const {
-  const std::vector<size_t> inProduction = songsInProduction(state());
+void MusicViewController::describeSongsInProduction(View& view, const std::vector<size_t>& inProduction) const {
   if (inProduction.empty()) return;
   view.add(Heading{"In production"});
   Rows rows;

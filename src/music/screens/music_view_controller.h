@@ -29,7 +29,7 @@ class MusicViewController final : public Screen {
  private:
   /// The page of the album that was made since its button was pressed.
   Outcome toNewAlbum();
-  void describeSongsInProduction(View& view) const;
+  void describeSongsInProduction(View& view, const std::vector<size_t>& inProduction) const;
   void describeReleasedSongs(View& view) const;
   void describeAlbums(View& view) const;
 

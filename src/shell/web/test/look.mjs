@@ -1,18 +1,16 @@
 /** What can be wrong with the looks of a page, as lists of faults. */
+import { drawnWhole } from "../tools/whole.mjs";
 
 /** Waits for what is drawn below the first screenful, and brings all that fades or slides to its end. */
-export const quiet = (page) =>
-  page.evaluate(async () => {
-    await document.fonts.ready;
-    const unfinished = () => [...document.querySelectorAll("bb-blocks")].filter(({ whole }) => !whole);
-    for (let frames = 0; frames < 2 || unfinished().length > 0; frames += 1) {
-      if (frames > 1000) throw new Error(`never whole: ${unfinished().map(({ view }) => view?.screen)}`);
-      await new Promise(requestAnimationFrame);
-    }
+export async function quiet(page) {
+  await page.evaluate(() => document.fonts.ready.then(() => {}));
+  await drawnWhole(page);
+  await page.evaluate(() => {
     for (const animation of document.getAnimations()) {
       if (animation.effect.getComputedTiming().endTime !== Infinity) animation.finish();
     }
   });
+}
 
 /** What axe, which must be in the page, finds serious; of the named rules alone when there are any. */
 export async function barriers(page, ...rules) {

@@ -12,6 +12,7 @@ import { galleryPage } from "./gallery-page.mjs";
 import { everyScreen, openSight } from "./screens.mjs";
 import { serve } from "./serve.mjs";
 import { walk } from "./walk.mjs";
+import { drawnWhole } from "./whole.mjs";
 import { filmNames, openWorld, world } from "./worlds.mjs";
 
 const { values } = parseArgs({
@@ -137,8 +138,9 @@ async function shoot(page, shot) {
   shots.push({ ...shot, file });
 }
 
-/** Waits until nothing moves and every picture is there. */
+/** Waits until all is drawn, nothing moves and every picture is there. */
 async function stillness(page) {
+  await drawnWhole(page);
   await page.evaluate(async () => {
     await new Promise(requestAnimationFrame);
     const ending = document.getAnimations().filter(({ effect }) => effect.getComputedTiming().endTime !== Infinity);
