@@ -19,16 +19,17 @@ std::vector<size_t> releasedSongs(const GameState& state) {
   return released;
 }
 
-std::vector<size_t> mostHeard(const GameState& state, std::vector<size_t> songs, size_t count) {
+std::vector<size_t> mostHeard(const GameState& state, size_t count) {
   const RecordList<Song>& all = state.saveAllSongList;
-  const size_t shown = std::min(count, songs.size());
-  // The others need no order.
-  std::partial_sort(songs.begin(), songs.begin() + static_cast<std::ptrdiff_t>(shown), songs.end(),
-                    [&](size_t a, size_t b) {
-                      return all[a].totalListen != all[b].totalListen ? all[a].totalListen > all[b].totalListen : a < b;
-                    });
-  songs.resize(shown);
-  return songs;
+  std::vector<size_t> most;
+  const auto before = [&](size_t a, size_t b) { return all[a].totalListen > all[b].totalListen; };
+  for (auto song = all.begin(); song != all.end(); ++song) {
+    const bool isShort = most.size() < count;
+    if (!song->isReleased || (!isShort && song->totalListen <= all[most.back()].totalListen)) continue;
+    if (!isShort) most.pop_back();
+    most.insert(std::upper_bound(most.begin(), most.end(), song.position(), before), song.position());
+  }
+  return most;
 }
 
 int64_t latestWeeklyStreams(const GameState& state, const Song& song) {

@@ -15,8 +15,9 @@ Row songRow(const GameState& state, const Song& song);
 /// Positions of the songs that are out.
 std::vector<size_t> releasedSongs(const GameState& state);
 
-/// Of the songs at these positions those with the most streams, `count` at most; of equal ones the first in the list.
-std::vector<size_t> mostHeard(const GameState& state, std::vector<size_t> songs, size_t count);
+/// Positions of the songs that are out and have the most streams, `count` (at least 1) at most, the greatest first; of
+/// equal ones the first in the list.
+std::vector<size_t> mostHeard(const GameState& state, size_t count);
 
 /// The streams of the song's latest recorded week, 0 when there is none.
 int64_t latestWeeklyStreams(const GameState& state, const Song& song);

@@ -82,7 +82,7 @@ View ArtistProfileViewController::view() const {
              {.icon = "calendar", .label = "Making music since", .value = std::to_string(generationBegan(state()))}}});
   addAssistedMark(view, state());
   const std::vector<size_t> released = releasedSongs(state());
-  describePopular(view, released);
+  describePopular(view);
   describeAlbums(view);
   describeSingles(view, released);
   describeVideos(view);
@@ -105,13 +105,13 @@ void ArtistProfileViewController::describeAbout(View& view) const {
   addPhotoField(view, headerField(state()));
 }
 
-void ArtistProfileViewController::describePopular(View& view, const std::vector<size_t>& released) const {
-  if (released.empty()) {
+void ArtistProfileViewController::describePopular(View& view) const {
+  const std::vector<size_t> popular = mostHeard(state(), popularShown);
+  if (popular.empty()) {
     view.add(EmptyHint{.icon = "note", .text = "Your page is empty. Release a song and the world can press play."});
     return;
   }
   const RecordList<Song>& songs = state().saveAllSongList;
-  const std::vector<size_t> popular = mostHeard(state(), released, popularShown);
   view.add(Heading{.text = "Popular", .link = Link{.id = "goToCertification", .label = "Certifications"}});
   Rows rows;
   for (size_t i = 0; i < popular.size(); ++i) {

@@ -13,7 +13,7 @@ class ArtistProfileViewController final : public Screen {
   View view() const override;
 
  private:
-  void describePopular(View& view, const std::vector<size_t>& released) const;
+  void describePopular(View& view) const;
   void describeAlbums(View& view) const;
   void describeSingles(View& view, const std::vector<size_t>& released) const;
   void describeVerses(View& view) const;

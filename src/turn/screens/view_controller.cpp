@@ -139,7 +139,7 @@ void ViewController::describeWeek(View& view) const {
 }
 
 void ViewController::describeMusic(View& view) const {
-  const std::vector<size_t> songs = mostHeard(state(), releasedSongs(state()), topSongs);
+  const std::vector<size_t> songs = mostHeard(state(), topSongs);
   if (!songs.empty()) {
     view.add(Heading{"Top songs"});
     Rows rows;
