@@ -106,10 +106,11 @@ struct Dating {
   int64_t pendingSuperLike = 0;   ///< 1: the next match counts as one by star
 };
 
-/// How many goals wait to be collected, as it stood when they were last looked for.
+/// The goals that wait to be collected, as it stood when they were last looked for.
 struct GoalsInSight {
-  int64_t absoluteWeek = -1;  ///< in which that was; -1 for never
-  int64_t count = 0;
+  int64_t longLook = -1;  ///< the absolute week in which all were looked for; -1 for never
+  int64_t lastLook = -1;  ///< the same of those that may be over soon
+  std::vector<int64_t> ids;
 };
 
 /// Working values of this launch; gone when the program ends, by design.
@@ -130,7 +131,6 @@ struct Launch {
   LabelMemory label;  ///< what of its history is summed already
   Dating dating;
   VentureMemory ventures;
-  int64_t weddingWeek = 0;                  ///< the absolute week of the last wedding
   std::vector<int64_t> achievementsToTell;  ///< granted by this press and not told yet
   mutable GoalsInSight goalsInSight;        ///< looked for when a screen asks, now and then
   std::vector<std::string> awaitedPacks;    ///< products asked for, whose answer is still to come

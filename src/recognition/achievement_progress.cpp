@@ -72,6 +72,10 @@ Progress fieldsOfOneYear(const GameState& state, Counts counts) {
   return towards(static_cast<int64_t>(most), mainFields);
 }
 
+bool isDebutAtOne(const BillboardSong& row) {
+  return isOwnSong(row) && row.weeksAtOne >= 1 && row.weeksOnChart == row.weeksAtOne;
+}
+
 bool wasPlayed(const GameState& state, const Festival& festival) {
   return festival.weekNumberForTracking < state.weekNumberForTracking;
 }
@@ -120,16 +124,21 @@ Progress billionSingles(const GameState& state, int64_t amount) {
   return towards(static_cast<int64_t>(count), amount);
 }
 
-Progress debutAtOne(const GameState& state, int64_t) {
-  return once(has(state.saveAllBillboardSongList, [](const BillboardSong& row) {
-    return isOwnSong(row) && row.weeksAtOne >= 1 && row.weeksOnChart == row.weeksAtOne;
-  }));
+Progress debutAtOne(const GameState& state, int64_t) { return once(has(state.saveAllBillboardSongList, isDebutAtOne)); }
+
+// What is on the chart is awake.
+
+Progress debutAtOneNow(const GameState& state, int64_t) {
+  const RecordList<BillboardSong>& rows = state.saveAllBillboardSongList;
+  const std::vector<uint32_t> awake = rows.awake();
+  return once(std::any_of(awake.begin(), awake.end(), [&](uint32_t row) { return isDebutAtOne(rows[row]); }));
 }
 
 Progress topTenAtOnce(const GameState& state, int64_t) {
   constexpr int64_t places = 10;
   std::set<int64_t> held;
-  for (const BillboardSong& row : state.saveAllBillboardSongList) {
+  for (const uint32_t i : state.saveAllBillboardSongList.awake()) {
+    const BillboardSong& row = state.saveAllBillboardSongList[i];
     const bool isPlace = row.isOnCharts && row.rankThisWeek >= 1 && row.rankThisWeek <= places;
     if (isPlace && isOwnSong(row) && row.weeksOnChart == 1) held.insert(row.rankThisWeek);
   }

@@ -33,6 +33,8 @@ Progress exitGain(const GameState& state, int64_t amount);
 Progress singlePlays(const GameState& state, int64_t amount);
 Progress billionSingles(const GameState& state, int64_t amount);
 Progress debutAtOne(const GameState& state, int64_t);
+/// The same of what is on the chart, where it may be over with the next week.
+Progress debutAtOneNow(const GameState& state, int64_t);
 Progress topTenAtOnce(const GameState& state, int64_t);
 Progress weeksAtOne(const GameState& state, int64_t amount);
 Progress weeksOnChart(const GameState& state, int64_t amount);

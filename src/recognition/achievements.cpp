@@ -20,6 +20,27 @@ std::vector<const Achievement*> reachedGoals(const GameState& state) {
   return reached;
 }
 
+constexpr int64_t weeksBetweenLongLooks = 4;
+
+/// A quick look for what is reached one week and may be lost the next; nullptr for a goal that stays reached.
+Measure lookForPassing(const Achievement& goal) {
+  using namespace progress;
+  if (goal.measure == debutAtOne) return debutAtOneNow;
+  const bool passes = goal.measure == netWorth || goal.measure == listeners || goal.measure == subscribers ||
+                      goal.measure == stealthBomber || goal.measure == ventureWorth || goal.measure == topTenAtOnce;
+  return passes ? goal.measure : nullptr;
+}
+
+/// Brings up to date which of the goals that may be lost again wait.
+void updatePassing(const GameState& state, std::vector<int64_t>& ids) {
+  for (const Achievement& goal : achievements()) {
+    const Measure look = lookForPassing(goal);
+    if (!look || isCompleted(state, goal.id)) continue;
+    const bool waited = std::erase(ids, goal.id) > 0;
+    if ((waited ? goal.measure : look)(state, goal.amount).reached()) ids.push_back(goal.id);
+  }
+}
+
 }  // namespace
 
 std::string Achievement::task() const {
@@ -58,15 +79,22 @@ int64_t completedCount(const GameState& state) {
 int64_t goalsToCollect(const Game& game) {
   GoalsInSight& inSight = game.launch.goalsInSight;
   const int64_t week = game.state.weekNumberForTracking;
-  const bool isFresh = inSight.absoluteWeek >= 0 && week >= inSight.absoluteWeek && week < inSight.absoluteWeek + 4;
-  if (!isFresh) inSight = {week, static_cast<int64_t>(reachedGoals(game.state).size())};
-  return inSight.count;
+  const bool isFresh =
+      inSight.longLook >= 0 && week >= inSight.longLook && week < inSight.longLook + weeksBetweenLongLooks;
+  if (!isFresh) {
+    inSight = {week, week, {}};
+    for (const Achievement* goal : reachedGoals(game.state)) inSight.ids.push_back(goal->id);
+  } else if (inSight.lastLook != week || !inSight.ids.empty()) {
+    inSight.lastLook = week;
+    updatePassing(game.state, inSight.ids);
+  }
+  return static_cast<int64_t>(inSight.ids.size());
 }
 
 std::vector<const Achievement*> completeReached(Game& game) {
   std::vector<const Achievement*> reached = reachedGoals(game.state);
   for (const Achievement* goal : reached) completeAchievement(game, goal->id);
-  game.launch.goalsInSight = {game.state.weekNumberForTracking, 0};
+  game.launch.goalsInSight = {game.state.weekNumberForTracking, game.state.weekNumberForTracking, {}};
   return reached;
 }
 

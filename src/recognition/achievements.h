@@ -56,7 +56,7 @@ bool isCompleted(const GameState& state, int64_t id);
 int64_t completedCount(const GameState& state);
 
 /// How many goals are reached and wait for `completeReached`. Looking for them walks all of a career, so it is done
-/// once in four weeks; what is reached in between is counted late.
+/// once in four weeks; what is reached in between is counted late. What may be over by then is looked for each week.
 int64_t goalsToCollect(const Game& game);
 
 /// Looks for every goal that is still open, and completes and saves those that are reached. Answers with them.

@@ -289,6 +289,28 @@ TEST(Achievements, AreLookedForWhenTheirScreenOpensInOneOrderAndOnceForAll) {
   world.settle();
 }
 
+TEST(Achievements, ThatMayPassAreToldInTheirWeekAndNoLonger) {
+  World world;
+  GameState& state = world.state;
+  EXPECT_EQ(goalsToCollect(world.game), 0);
+  state.weekNumberForTracking += 1;
+  state.totalFans = 1'000;
+  state.rejectionCount = 30;
+  BillboardSong row;
+  row.songId = 3;
+  row.weeksAtOne = row.weeksOnChart = 1;
+  state.saveAllBillboardSongList.append(row);
+  EXPECT_EQ(goalsToCollect(world.game), 2) << "what stays reached waits for the long look";
+  state.totalFans = 999;
+  EXPECT_EQ(goalsToCollect(world.game), 1);
+  state.weekNumberForTracking += 1;
+  state.saveAllBillboardSongList.update(0, [](BillboardSong& falls) { falls.weeksOnChart += 1; });
+  EXPECT_EQ(goalsToCollect(world.game), 0);
+  state.weekNumberForTracking += 2;
+  EXPECT_EQ(goalsToCollect(world.game), 1);
+  world.settle();
+}
+
 TEST(Achievements, TellHowFarTheOpenOnesAre) {
   World world;
   world.state.totalCashAvailable = 4'200'000;
