@@ -170,6 +170,7 @@ struct GameState {
   int64_t childEnergyCost = 0;
   int64_t childAbandonmentEnergyLoss = 0;
   int64_t signPrenup = 0;
+  int64_t weddingWeek = 0;    ///< the absolute week of the last wedding, 0 for none
   int64_t ageAtTakeover = 0;  ///< year in which this generation took over
   int64_t childId = 0;        ///< written and never loaded: it restarts at 0 on every launch, on purpose
   int64_t awardId = 0;        ///< written and never loaded: it restarts at 0 on every launch, on purpose
@@ -408,6 +409,7 @@ inline constexpr auto scalars = std::to_array<Scalar>({
     {"childEnergyCost", &GameState::childEnergyCost},
     {"childAbandonmentEnergyLoss", &GameState::childAbandonmentEnergyLoss},
     {"signPrenup", &GameState::signPrenup},
+    {"weddingWeek", &GameState::weddingWeek},
     {"ageAtTakeover", &GameState::ageAtTakeover},
     {"childId", &GameState::childId, Lifetime::artist, Loading::writeOnly},
     {"awardId", &GameState::awardId, Lifetime::artist, Loading::writeOnly},

@@ -187,7 +187,8 @@ Outcome wed(Game& game, bool withPrenup) {
     earn(game, {.dollars = partnersAssets(state, partner)});
   }
   promise(game, *position, love::married);
-  game.launch.weddingWeek = state.weekNumberForTracking;
+  state.weddingWeek = state.weekNumberForTracking;
+  game.save(&GameState::weddingWeek);
   stateChanged(game);
   return news<"💒 Just Married 💒">("\nYou and " + partner.name + " said \"I do\" in front of everybody you love.");
 }

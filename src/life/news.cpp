@@ -70,7 +70,7 @@ void addNewPartner(const GameState& state, int64_t week, std::vector<News>& news
 void addWedding(const Game& game, int64_t week, std::vector<News>& news) {
   const GameState& state = game.state;
   const auto position = partnerPosition(state);
-  if (!position || game.launch.weddingWeek != week || !isMarried(state.saveAllMatchesList[*position])) return;
+  if (!position || state.weddingWeek != week || !isMarried(state.saveAllMatchesList[*position])) return;
   const Matches& partner = state.saveAllMatchesList[*position];
   news.push_back({.kind = Kind::reached,
                   .rank = 570,

@@ -67,7 +67,7 @@ constexpr Kept<VentureWeek> ofVenture[] = {&VentureWeek::businessId, &VentureWee
 
 constexpr Kept<Turn> ofTurn[] = {&Turn::lastPlaceChartPosition, &Turn::madeFirstSong, &Turn::tookFirstJob};
 
-constexpr Kept<Launch> ofLaunch[] = {&Launch::weeklyFanChange, &Launch::weddingWeek};
+constexpr Kept<Launch> ofLaunch[] = {&Launch::weeklyFanChange};
 
 constexpr std::string_view openWeek = "open";
 constexpr std::string_view closedWeek = "closed";

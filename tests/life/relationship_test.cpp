@@ -134,6 +134,7 @@ TEST(Engagement, WithoutAPrenupTheFortuneComesInAtOnce) {
   world.change([](Matches& partner) { partner.timeToPropose = 20; });
   EXPECT_EQ(mainAction(world.game).result, Result::asked);
   wed(world.game, false);
+  EXPECT_EQ(world.state.weddingWeek, 40);
   EXPECT_DOUBLE_EQ(world.state.totalCashAvailable, 30'000 + 1'750 * 13 * 7 - 25'000);
   EXPECT_EQ(world.state.signPrenup, 0);
   EXPECT_EQ(world.partner().relationshipState, love::married);
