@@ -5,6 +5,7 @@
 #include <cmath>
 #include <functional>
 #include <map>
+#include <optional>
 #include <type_traits>
 
 #include "core/numbers.h"
@@ -66,7 +67,7 @@ constexpr NamedBounds boundsOfFields[] = {
     {"followers", {0, 1e11}},  // of a child, who may become the artist
     {"totalEnergyMax", {-1e8, 1e8}},
     {"netWorth", {-9e15, 9e15}},
-    {"figure", {-1e18, 1e18}},  // cash among them
+    {"figures", {-1e18, 1e18}},  // cash among them
 };
 
 template <size_t count>
@@ -98,14 +99,12 @@ struct Number {
   }
 };
 
-std::vector<Number> numbersOf(const ValueType& record) {
-  std::vector<Number> numbers;
-  for (const FieldType& field : record.fields) {
-    const bool isWhole = field.type.kind == ValueType::Kind::integer;
-    if (!isWhole && field.type.kind != ValueType::Kind::real && field.type.kind != ValueType::Kind::date) continue;
-    numbers.push_back({field.key, field.offset, isWhole, boundsOfField(field.key, isWhole)});
-  }
-  return numbers;
+/// The number of that type which a field, or each item of its list, holds; nothing for another type.
+std::optional<Number> numberOf(const ValueType& type, std::string_view key, size_t offset) {
+  using Kind = ValueType::Kind;
+  const bool isWhole = type.kind == Kind::integer;
+  if (!isWhole && type.kind != Kind::real && type.kind != Kind::date) return std::nullopt;
+  return Number{key, offset, isWhole, boundsOfField(key, isWhole)};
 }
 
 constexpr const char* holdsANul = " holds a character that is none (NUL)";
@@ -133,11 +132,13 @@ bool holdsNul(const ValueType& type, const void* value) {
   }
 }
 
-/// What is looked at in each record of a type: its numbers, its texts, and its lists of records in the same way.
+/// What is looked at in each record of a type: its numbers, its texts, and in the same way its lists of records and of
+/// numbers, of which each is looked at as a record that holds nothing else.
 struct Shape {
   struct Inner;
 
   explicit Shape(const ValueType& record);
+  explicit Shape(const Number& only);
 
   std::vector<Number> numbers;
   std::vector<FieldType> texts;
@@ -149,13 +150,19 @@ struct Shape::Inner {
   Shape shape;
 };
 
-Shape::Shape(const ValueType& record) : numbers(numbersOf(record)) {
+Shape::Shape(const Number& only) : numbers{only} {}
+
+Shape::Shape(const ValueType& record) {
   using Kind = ValueType::Kind;
   for (const FieldType& field : record.fields) {
     const bool isList = field.type.kind == Kind::list;
     const ValueType& each = isList ? *field.type.item : field.type;
     if (each.kind == Kind::text) texts.push_back(field);
     if (isList && each.kind == Kind::record) lists.push_back({field, Shape(each)});
+    if (const auto number = numberOf(each, field.key, isList ? 0 : field.offset)) {
+      if (isList) lists.push_back({field, Shape(*number)});
+      if (!isList) numbers.push_back(*number);
+    }
   }
 }
 

@@ -167,6 +167,10 @@ TEST(Extremes, WhatNoRuleCanCarryIsRefusedByName) {
             "This file cannot be used: totalCashAvailable is not a number.");
   EXPECT_EQ(refusalOf(changeSong([&](Song& song) { song.viralityScore = nan; })),
             "This file cannot be used: saveAllSongList, entry 2: viralityScore is not a number.");
+  EXPECT_EQ(refusalOf([&](GameState& state) {
+              state.reportNumbers.append({"week before", 2, {1, nan}});
+            }),
+            "This file cannot be used: reportNumbers, entry 1: figures is not a number.");
   EXPECT_EQ(refusalOf([](GameState& state) { state.myArtistsName = std::string("Zo\0e", 4); }),
             "This file cannot be used: myArtistsName holds a character that is none (NUL).");
   EXPECT_EQ(refusalOf(changeSong([](Song& song) { song.features = {std::string(1, '\0')}; })),
