@@ -330,7 +330,7 @@ bool ChunkedList::restore(RecordBuffer places, std::vector<uint32_t> slots) {
   if (layout_.order == Order::front) {
     std::vector<uint32_t> backwards(places.size());
     std::iota(backwards.rbegin(), backwards.rend(), 0u);
-    places.reorder(backwards);
+    places.reorder(backwards, places.size() / 8);  // as at the end of other lists that are loaded
   }
   records_ = std::move(places);
   rebuildIndexes();

@@ -78,12 +78,14 @@ void RecordBuffer::shrink(size_t count) {
   while (size_ > count) type_->end(recordAt(--size_));
 }
 
-void RecordBuffer::reorder(std::span<const uint32_t> order) {
-  std::unique_ptr<char[]> ordered(new char[size_ * type_->size]);
-  for (size_t i = 0; i < size_; ++i) relocate(ordered.get() + i * type_->size, recordAt(order[i]));
+void RecordBuffer::reorder(std::span<const uint32_t> order, size_t roomInFront) {
+  const size_t capacity = roomInFront + size_;
+  std::unique_ptr<char[]> ordered(new char[capacity * type_->size]);
+  char* first = ordered.get() + roomInFront * type_->size;
+  for (size_t i = 0; i < size_; ++i) relocate(first + i * type_->size, recordAt(order[i]));
   bytes_ = std::move(ordered);
-  first_ = 0;
-  capacity_ = size_;
+  first_ = roomInFront;
+  capacity_ = capacity;
 }
 
 void RecordBuffer::makeRoom() {

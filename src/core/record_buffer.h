@@ -39,8 +39,9 @@ class RecordBuffer {
   void erase(std::span<const uint32_t> positions);
   /// Down to so many records.
   void shrink(size_t count);
-  /// Position `i` takes what was at `order[i]`, which names each position once.
-  void reorder(std::span<const uint32_t> order);
+  /// Position `i` takes what was at `order[i]`, which names each position once. After it there is room for so many more
+  /// records in front.
+  void reorder(std::span<const uint32_t> order, size_t roomInFront = 0);
 
  private:
   void makeRoom();
