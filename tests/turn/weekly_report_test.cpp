@@ -233,6 +233,24 @@ TEST(WeeklyReport, AppearingTwiceRunsItsChainOnce) {
   EXPECT_TRUE(screen.appear().alerts.empty());
 }
 
+TEST(WeeklyReport, AQuestionThatALaunchTookAlongIsAskedAgain) {
+  ReportWorld world;
+  world.state.weekNumber = 31;
+  world.random.integerIs(0, 100, 0);
+  WeeklySummaryViewController before(world.game);
+  before.open();
+  EXPECT_EQ(before.appear().alerts.size(), 1u);
+  WeeklySummaryViewController after(world.game);
+  after.open();
+  const Outcome offer = after.appear();
+  ASSERT_EQ(offer.alerts.size(), 1u);
+  EXPECT_TRUE(after.appear().alerts.empty()) << "once a launch";
+  after.act(offer.alerts[0].buttons[1].action);
+  WeeklySummaryViewController answered(world.game);
+  answered.open();
+  EXPECT_TRUE(answered.appear().alerts.empty());
+}
+
 TEST(WeeklyReport, SideGigsStandAsCardsUntilTheyArePressed) {
   ReportWorld world;
   world.settle();

@@ -47,8 +47,8 @@ void addIncome(Figures& figures, std::string label, double amount, std::string n
   if (isTold(amount)) figures.items.push_back(dollars(std::move(label), amount, Tone::good, std::move(note)));
 }
 
-void addExpense(Figures& figures, std::string label, double amount) {
-  if (isTold(amount)) figures.items.push_back(dollars(std::move(label), -amount, Tone::bad));
+void addExpense(Figures& figures, std::string label, double amount, std::string note = {}) {
+  if (isTold(amount)) figures.items.push_back(dollars(std::move(label), -amount, Tone::bad, std::move(note)));
 }
 
 /// The total is what the week was paid, to the cent; the lines are told to the dollar.
@@ -78,7 +78,7 @@ Figures expensesOf(const WeeklyReport& report) {
   addExpense(expenses, "Family", report.family);
   addExpense(expenses, "Touring", std::max(-report.tour, 0.0));
   addExpense(expenses, "Office", report.labelExpenses);
-  addExpense(expenses, "Signing bonus paid back", report.bonusPaidBack);
+  addExpense(expenses, "Signing bonus paid back", report.bonusPaidBack, "contract ended");
   addExpense(expenses, "Divorce", report.settlement);
   expenses.total = totalOf("Total cost", expenses.items);
   return expenses;
@@ -241,6 +241,7 @@ Outcome WeeklySummaryViewController::open() {
 /// After a launch: nothing is settled and nothing drawn a second time, and the week's chances are gone.
 Outcome WeeklySummaryViewController::openAgain() {
   report_ = recalledReport(game_);
+  isToldAgain_ = true;
   tellWeek();
   return {};
 }
@@ -253,7 +254,8 @@ void WeeklySummaryViewController::tellWeek() {
 }
 
 Outcome WeeklySummaryViewController::appear() {
-  if (report_.hasAppeared) return {};
+  // A launch that ended before the question was answered took it along.
+  if (report_.hasAppeared) return std::exchange(isToldAgain_, false) ? offerEnergyForRating() : Outcome{};
   report_.hasAppeared = true;
   Outcome outcome = offerEnergyForRating();
   const double cash = state().totalCashAvailable;

@@ -56,6 +56,7 @@ class WeeklySummaryViewController final : public Screen {
   std::string story_;                  // for a week without a headline
   WeeklyEvents events_;
   AwardShow awardShow_ = AwardShow::none;
+  bool isToldAgain_ = false;  ///< by another launch than opened it, and not shown by this one yet
 };
 
 }  // namespace backbeat
