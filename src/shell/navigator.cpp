@@ -47,7 +47,9 @@ void Navigator::tell(std::string_view what, const std::vector<std::string>& keys
 }
 
 void Navigator::openFirstScreens() {
-  open(stacks_[homeTab], tabs()[homeTab].root, "");
+  firstRootKey_ = lastKey_ + 1;
+  lastKey_ += tabCount;
+  openRoot(homeTab);
   if (isReportOpen(game_.state)) open(modals_, *segueNamed(reportSegue), "");
   selectTab(game_.state.promptToEnterName >= 1 ? homeTab : musicTab);
 }
@@ -130,7 +132,7 @@ void Navigator::selectTab(size_t number) {
   const bool again = number == tab_;
   tab_ = number;
   if (stacks_[tab_].empty()) {
-    open(stacks_[tab_], tabs()[tab_].root, "");
+    openRoot(tab_);
   } else if (again) {
     closeToRoot(stacks_[tab_]);
   }
@@ -157,9 +159,15 @@ void Navigator::endTheWeek() {
   appear();
 }
 
+void Navigator::openRoot(size_t tab) { open(stacks_[tab], rootKey(tab), tabs()[tab].root, ""); }
+
 void Navigator::open(std::vector<Open>& stack, const Segue& segue, std::string_view argument) {
+  open(stack, ++lastKey_, segue, argument);
+}
+
+void Navigator::open(std::vector<Open>& stack, int64_t key, const Segue& segue, std::string_view argument) {
   std::shared_ptr<Screen> screen = segue.make(game_, argument);
-  stack.push_back({++lastKey_, &segue, screen});
+  stack.push_back({key, &segue, screen});
   follow(screen, screen->open());
 }
 
@@ -274,9 +282,15 @@ Shown Navigator::shown() const {
   shown.key = top().key;
   shown.view = top().screen->view();
   if (const Open* beside = besideTop()) {
-    shown.beside = Shown::Beside{beside->segue->screen, beside->key, beside->screen->view()};
+    shown.beside = OtherScreen{beside->segue->screen, beside->key, beside->screen->view()};
   }
   return shown;
+}
+
+std::optional<OtherScreen> Navigator::ahead(size_t tab) const {
+  if (tab >= tabCount || !stacks_[tab].empty()) return std::nullopt;
+  const Segue& root = tabs()[tab].root;
+  return OtherScreen{root.screen, rootKey(tab), root.make(game_, "")->view()};
 }
 
 }  // namespace backbeat

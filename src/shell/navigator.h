@@ -42,6 +42,13 @@ struct Request {
   std::string text = {};  ///< of feedback: what helps whoever reads it
 };
 
+/// A screen that is not on top, as it describes itself.
+struct OtherScreen {
+  std::string_view screen;
+  int64_t key = 0;
+  View view;
+};
+
 /// Everything that is on the glass: what the page draws and the console prints.
 struct Shown {
   Header header;
@@ -64,12 +71,7 @@ struct Shown {
   std::string_view screen;
   int64_t key = 0;
   View view;
-  struct Beside {
-    std::string_view screen;
-    int64_t key = 0;
-    View view;
-  };
-  std::optional<Beside> beside;  ///< at a desk: what can be seen next to the screen of the tab that is on top
+  std::optional<OtherScreen> beside;  ///< at a desk: what can be seen next to the screen of the tab that is on top
 };
 
 /// Answered instead of a segue by a screen that needs the program around the game; see Request. The last one carries
@@ -99,6 +101,10 @@ class Navigator {
   void takePurchase(const PurchaseAnswer& answer);
 
   Shown shown() const;
+
+  /// The root of a tab that was not opened yet, as it would describe itself now, under the key that it will have; none
+  /// once it is open. It stays closed: who asks learns what a press may show, and nothing has happened.
+  std::optional<OtherScreen> ahead(size_t tab) const;
 
   /// Has every turn from now on tell `observer` of its steps.
   void observeTurns(StepObserver observer) { turnObserver_ = std::move(observer); }
@@ -138,7 +144,10 @@ class Navigator {
   const Open* besideTop() const;
   void endTheWeek();
   void keepNewYear();
+  int64_t rootKey(size_t tab) const { return firstRootKey_ + static_cast<int64_t>(tab); }
+  void openRoot(size_t tab);
   void open(std::vector<Open>& stack, const Segue& segue, std::string_view argument);
+  void open(std::vector<Open>& stack, int64_t key, const Segue& segue, std::string_view argument);
   void follow(const std::shared_ptr<Screen>& from, Outcome outcome);
   bool admitted(const Segue& segue, const std::shared_ptr<Screen>& from);
   void appear();
@@ -151,6 +160,7 @@ class Navigator {
   size_t tab_ = homeTab;
   bool desk_ = false;
   int64_t lastKey_ = 0;       ///< of a screen
+  int64_t firstRootKey_ = 0;  ///< of home; those of the other tabs follow, opened or not
   int64_t lastAlertKey_ = 0;  ///< counted by itself, so that what is asked moves no screen's key
   Feedback feedback_ = Feedback::none;
   Result result_ = Result::done;

@@ -120,9 +120,9 @@ void writeAlert(JsonWriter& json, const std::optional<Shown::ShownAlert>& shown)
   json.endObject();
 }
 
-void writeView(ViewWriter& writer, std::string_view name, std::string_view screen, int64_t key, const View& view) {
+void writeView(ViewWriter& writer, std::string_view screen, int64_t key, const View& view) {
   JsonWriter& json = writer.json();
-  json.key(name).beginObject();
+  json.beginObject();
   json.key("screen").text(screen);
   json.key("key").number(key);
   writer.members(view);
@@ -152,10 +152,20 @@ std::string shownAsJson(const Navigator& navigator, const Shown& shown) {
   if (!shown.request.snapshot.empty()) json.key("snapshot").text(shown.request.snapshot);
   if (!shown.request.product.empty()) json.key("product").text(shown.request.product);
   if (!shown.request.text.empty()) json.key("text").text(shown.request.text);
-  writeView(writer, "view", shown.screen, shown.key, shown.view);
-  if (const auto& beside = shown.beside) writeView(writer, "beside", beside->screen, beside->key, beside->view);
+  json.key("view");
+  writeView(writer, shown.screen, shown.key, shown.view);
+  if (const auto& beside = shown.beside) {
+    json.key("beside");
+    writeView(writer, beside->screen, beside->key, beside->view);
+  }
   json.endObject();
   return json.str();
+}
+
+std::string screenAsJson(const Navigator& navigator, const OtherScreen& other) {
+  ViewWriter writer(navigator);
+  writeView(writer, other.screen, other.key, other.view);
+  return writer.json().str();
 }
 
 }  // namespace backbeat

@@ -89,7 +89,8 @@ std::string glassFault(const Session& session, const std::function<Shown()>& sho
   if (const std::string line = tooWideLine(printScreen(session.navigator(), once, false).text); !line.empty()) {
     return "a printed line is too wide: " + line;
   }
-  if (stateHash(state) != before) return "describing it changed the state";
+  for (size_t tab = 0; tab < tabCount; ++tab) session.navigator().ahead(tab);
+  if (stateHash(state) != before) return "describing it, or what lies ahead, changed the state";
   if (const std::string icon = unknownIconOf(once.view); !icon.empty()) return "nobody draws " + icon;
   if (hidesThePhoto(once, state)) return "the artist has another face than the photo";
   return {};

@@ -71,6 +71,35 @@ TEST(Navigator, AtADeskTheRootLiesBesideWhatItLedToAndElseHomeDoes) {
   EXPECT_FALSE(play.shown().beside);
 }
 
+TEST(Navigator, ATabIsToldAheadUnderItsKeyAndTheLifeGoesOnAsIfNobodyHadAsked) {
+  MemoryStore store, otherStore;
+  Play play(store), unasked(otherStore);
+  const Navigator& navigator = play.session.navigator();
+  play.nameTheArtist();
+  EXPECT_FALSE(navigator.ahead(musicTab)) << "it is open";
+  EXPECT_FALSE(navigator.ahead(homeTab)) << "every launch opens it";
+  EXPECT_FALSE(navigator.ahead(tabCount));
+  const auto life = navigator.ahead(lifeTab);
+  const auto social = navigator.ahead(socialTab);
+  ASSERT_TRUE(life && social);
+  play.press("goToBillboard");
+  for (const auto& [tab, told] : {std::pair(socialTab, *social), std::pair(lifeTab, *life)}) {
+    play.tab(tab);
+    EXPECT_EQ(play.shown().key, told.key);
+    EXPECT_EQ(play.shown().view.title, told.view.title);
+    EXPECT_FALSE(navigator.ahead(tab));
+  }
+  play.endWeek();
+
+  unasked.nameTheArtist();
+  unasked.press("goToBillboard");
+  unasked.tab(socialTab);
+  unasked.tab(lifeTab);
+  unasked.endWeek();
+  EXPECT_EQ(play.shown().stack, unasked.shown().stack);
+  EXPECT_EQ(stateHash(play.state()), stateHash(unasked.state())) << "nothing was drawn by lot either";
+}
+
 TEST(Navigator, TabsKeepTheirScreensAndOldPressesAreIgnored) {
   MemoryStore store;
   Play play(store);

@@ -86,6 +86,12 @@ export class Launch {
     return decoder.decode(this.#bytes(this.door.bb_out(), this.door.bb_out_size()));
   }
 
+  /** The root of a tab that was not opened yet; null once it is open. */
+  ahead(tab) {
+    this.#pass(encoder.encode(String(tab)), this.door.bb_ahead);
+    return JSON.parse(decoder.decode(this.#bytes(this.door.bb_out(), this.door.bb_out_size())) || 'null');
+  }
+
   /** The fingerprint of the whole state. */
   stateHash() {
     this.door.bb_state_hash();

@@ -11,7 +11,7 @@ function glass({ header, tabs, tab, view }) {
 test('the module asks nobody for anything and has the whole door', () => {
   assert.deepEqual(WebAssembly.Module.imports(module), []);
   const names = WebAssembly.Module.exports(module).map(({ name }) => name);
-  const door = ['_initialize', 'bb_act', 'bb_alloc', 'bb_batch', 'bb_batch_size', 'bb_export', 'bb_export_name', 'bb_give_up', 'bb_hold_scores', 'bb_import', 'bb_out', 'bb_out_size', 'bb_purchase', 'bb_row', 'bb_scores', 'bb_snapshot', 'bb_spare', 'bb_start', 'bb_state_hash', 'bb_trace', 'memory'];
+  const door = ['_initialize', 'bb_act', 'bb_ahead', 'bb_alloc', 'bb_batch', 'bb_batch_size', 'bb_export', 'bb_export_name', 'bb_give_up', 'bb_hold_scores', 'bb_import', 'bb_out', 'bb_out_size', 'bb_purchase', 'bb_row', 'bb_scores', 'bb_snapshot', 'bb_spare', 'bb_start', 'bb_state_hash', 'bb_trace', 'memory'];
   assert.deepEqual(names.sort(), door);
 });
 
@@ -86,6 +86,17 @@ test('the same seed and presses give the same bytes, another seed another career
   });
   assert.equal(careers[0], careers[1]);
   assert.notEqual(careers[0], careers[2]);
+});
+
+test('what lies ahead is told as its tab will tell it, and nothing is stored', () => {
+  const launch = new Launch();
+  beginCareer(launch, 'Theo');
+  const before = [launch.batches.length, launch.stateHash(), launch.trace()];
+  const business = launch.ahead(3);
+  assert.deepEqual(['1', '5', '-1', ''].map((tab) => launch.ahead(tab)), [null, null, null, null], 'open, or no tab');
+  assert.deepEqual([launch.batches.length, launch.stateHash(), launch.trace()], before);
+  assert.deepEqual(launch.press('tabs', 'tab', '3').view, business);
+  assert.equal(launch.ahead(3), null);
 });
 
 test('presses that do not belong to what is shown change nothing', () => {

@@ -128,6 +128,14 @@ extern "C" {
   backbeat::answer();
 }
 
+[[clang::export_name("bb_ahead")]] void bb_ahead(const char* bytes, uint32_t size) {
+  auto& here = door();
+  const auto tab = backbeat::optionNumber({bytes, size}, backbeat::tabCount);
+  const backbeat::Navigator& navigator = here.career.session().navigator();
+  const auto root = tab ? navigator.ahead(*tab) : std::nullopt;
+  here.answer = root ? backbeat::screenAsJson(navigator, *root) : "";
+}
+
 [[clang::export_name("bb_purchase")]] void bb_purchase(const char* bytes, uint32_t size) {
   std::string_view text(bytes, size);
   const int64_t now = backbeat::timeFrom(backbeat::nextPart(text));

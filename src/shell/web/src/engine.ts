@@ -1,4 +1,4 @@
-import type { Answer, PressScreen } from "./protocol";
+import type { Answer, PressScreen, View } from "./protocol";
 import { decodeBatch, encodedSize, encodeRow, type Row, type StoredRow } from "./rows";
 import type { KeptCopy } from "./save";
 import type { PurchaseAnswer } from "./shop";
@@ -18,6 +18,7 @@ interface Exports {
   bb_import(address: number, size: number): void;
   bb_start(address: number, size: number): void;
   bb_act(address: number, size: number): void;
+  bb_ahead(address: number, size: number): void;
   bb_purchase(address: number, size: number): void;
   bb_trace(): void;
   bb_out(): number;
@@ -129,6 +130,15 @@ export class Engine {
   /** One press. */
   act(now: number, screen: PressScreen, id: string, value: string): Reply {
     return this.call(`${now}\0${screen}\0${id}\0${value}`, this.door.bb_act);
+  }
+
+  /** The root of a tab that was not opened yet, as it would describe itself now; null once it is open. Nothing happens. */
+  ahead(tab: number): View | null {
+    return this.guard(() => {
+      this.pass(encoder.encode(String(tab)), this.door.bb_ahead);
+      const told = decoder.decode(this.out());
+      return told ? (JSON.parse(told) as View) : null;
+    });
   }
 
   /** What the shop answers. */

@@ -2,7 +2,7 @@ import { Engine, EngineFault, loadEngineModule, type Import, type Reply } from "
 import type { HandedFile } from "./files";
 import { askToKeep } from "./keeping";
 import { Messages } from "./messages";
-import type { Answer, PressScreen } from "./protocol";
+import type { Answer, PressScreen, View } from "./protocol";
 import { obey } from "./requests";
 import { readInWorker, rehearseInWorker } from "./reading";
 import { makeRoomForCopies } from "./room";
@@ -22,6 +22,8 @@ export interface Player {
   /** What the page itself has to say. */
   readonly messages: Messages;
   act(screen: PressScreen, id: string, value?: string): void;
+  /** What a press of a tab that was not opened yet will show first; null when it is open, or there is no telling. */
+  ahead(tab: number): View | null;
   /** Called after every change of the members above, but for the messages. */
   onChange: () => void;
 }
@@ -46,6 +48,8 @@ export class Game implements Player {
 
   /** None while the save is being exchanged: what is pressed meanwhile belongs to a screen that is gone. */
   private engine: Engine | null = null;
+  /** Nobody has asked for what lies ahead: when that stopped the engine, it is left alone. */
+  private looksAhead = true;
 
   private constructor(
     private readonly module: Promise<WebAssembly.Module>,
@@ -112,6 +116,17 @@ export class Game implements Player {
     this.onChange();
     askToKeep(before, this.answer);
     if (this.answer.request) void obey(this, this.answer);
+  }
+
+  ahead(tab: number): View | null {
+    if (!this.engine || !this.looksAhead) return null;
+    try {
+      return this.engine.ahead(tab);
+    } catch (fault) {
+      this.looksAhead = false;
+      this.recover(fault);
+      return null;
+    }
   }
 
   /** Hears what the shop answers. */

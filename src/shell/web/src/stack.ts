@@ -10,6 +10,8 @@ export interface Layer {
   pushed: boolean;
   /** The week could be ended here when the screen was last on top. */
   endWeek: boolean;
+  /** Nobody has seen it: it is drawn out of sight before it is asked for. */
+  ahead: boolean;
   focus: HTMLElement | null;
   /** The id that was pressed last. */
   pressed: string;
@@ -65,11 +67,22 @@ export class Stack {
     top.modal = modal;
     top.pushed = this.layers.length > 1 && !modal;
     top.endWeek = answer.endWeek ?? false;
+    top.ahead = false;
 
     const step = this.move(was, top, tab === this.tab ? before : null);
     this.tab = tab;
     if (answer.beside) this.seeBeside(answer.beside);
     return step;
+  }
+
+  /** Takes the root of a tab that nobody has seen yet. */
+  foresee(tab: number, view: View): void {
+    this.kept.set(tab, [{ ...fresh(view.key), view, endWeek: true, ahead: true }]);
+  }
+
+  /** Whether it is the first screen of its tab. */
+  isRoot(layer: Layer): boolean {
+    return layer === this.layers[0] || [...this.kept.values()].some(([root]) => root === layer);
   }
 
   /** Beside the top lies the root of its tab or home, which may never have been on top itself. */
@@ -94,5 +107,5 @@ export class Stack {
 }
 
 function fresh(key: number): Layer {
-  return { key, view: null, modal: false, pushed: false, endWeek: false, focus: null, pressed: "" };
+  return { key, view: null, modal: false, pushed: false, endWeek: false, ahead: false, focus: null, pressed: "" };
 }

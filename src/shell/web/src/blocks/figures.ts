@@ -34,7 +34,8 @@ class FiguresElement extends LitElement {
     if (!changed.has("figures")) return;
     const { items = [], total } = this.figures;
     const told = JSON.stringify([...items, total].map((figure) => figure?.value));
-    if (told === this.told) return;
+    // What is drawn ahead counts when it is seen.
+    if (told === this.told || this.closest(".layer.ahead")) return;
     this.told = told;
     // Under sad news nothing counts.
     if (!prefersStillness() && !this.closest(".mourning")) this.begin();

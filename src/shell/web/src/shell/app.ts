@@ -13,7 +13,9 @@ import { picture } from "../pictures/picture";
 import type { Alert, Answer, Header, Picture, PressScreen, View } from "../protocol";
 import type { Scene, SheetContent } from "../scene";
 import { Stack, type Layer, type Step } from "../stack";
+import { Ahead } from "./ahead";
 import "./alert";
+import type { BlocksElement } from "./blocks";
 import "./blocks";
 import { onRoomChange, room, type Room } from "./desk";
 import { dock, endWeekDock, headButtons, moodOf, soleAnswer } from "./dock";
@@ -46,6 +48,13 @@ class AppElement extends LitElement {
     released: (back) => this.release(back),
   });
   private readonly backGesture = new BackGesture(() => this.deviceBack());
+  private readonly ahead = new Ahead({
+    inReach: () => this.room === "phone" && !this.stack.top!.modal && !this.alerting && !this.sheet,
+    resting: () => this.step.motion === "none" || !this.querySelector(".moving"),
+    begun: () =>
+      [...this.querySelectorAll<BlocksElement>(".layer.ahead bb-blocks")].find(({ foreseen }) => !foreseen) ?? null,
+    next: () => this.foresee(),
+  });
   private seen: Answer | null = null;
   private drawn: Answer | null = null;
   private step: Step = { motion: "none", leaving: null };
@@ -58,6 +67,7 @@ class AppElement extends LitElement {
   private pulledShare = 0;
   private room: Room = room();
   private toldDesk = 0;
+  private asked = 0;
 
   constructor() {
     super();
@@ -88,7 +98,10 @@ class AppElement extends LitElement {
   private take(answer: Answer): void {
     this.stopMoving();
     this.remember();
-    if (this.launches !== this.player.launches) this.stack = new Stack(); // the screens of another launch are gone
+    if (this.launches !== this.player.launches) {
+      this.stack = new Stack(); // the screens of another launch are gone
+      this.asked = 0;
+    }
     this.launches = this.player.launches;
     const before = this.stack.top;
     const { panels } = this;
@@ -103,6 +116,20 @@ class AppElement extends LitElement {
     if (this.canGoBack) this.backGesture.arm();
     setAppearance(answer.appearance);
     this.tellDesk();
+  }
+
+  /** Takes the next root that nobody has seen; false when there is none left. */
+  private foresee(): boolean {
+    const { tabs = [] } = this.player.answer;
+    while (this.asked < tabs.length) {
+      const tab = this.asked++;
+      const view = this.player.ahead(tab);
+      if (!view) continue;
+      this.stack.foresee(tab, view);
+      this.requestUpdate();
+      return true;
+    }
+    return false;
   }
 
   private enterRoom(): void {
@@ -218,10 +245,10 @@ class AppElement extends LitElement {
     const top = place === "top";
     const scene = this.sceneOf(layer);
     const wash = washOf(view);
-    const root = layer.key === this.stack.ofTab[0]?.key || layer === this.stack.home;
+    const root = this.stack.isRoot(layer);
     return html`<section
       @input=${view?.screen === "EnterNameViewController" ? this.faceOf : nothing}
-      class="layer ${place} ${panel} ${layer.modal ? "modal" : ""} ${wash && "sleeved"} theme-${view?.theme ?? "plain"} ${moodOf(view)}"
+      class="layer ${place} ${panel} ${layer.modal ? "modal" : ""} ${layer.ahead ? "ahead" : ""} ${wash && "sleeved"} theme-${view?.theme ?? "plain"} ${moodOf(view)}"
       style=${wash || nothing}
       data-screen=${view?.screen ?? nothing}
       aria-label=${((top || panel) && view?.title) || nothing}
@@ -232,7 +259,7 @@ class AppElement extends LitElement {
         <div class="page">
           ${this.topBar(layer, answer.header ?? {}, panel)} ${this.titled(layer, panel) ? this.bigTitle(view) : nothing}
           ${root ? headButtons(view, scene) : nothing}
-          <bb-blocks class="blocks" .view=${view} .scene=${scene}></bb-blocks>
+          <bb-blocks class="blocks" .view=${view} .scene=${scene} .ahead=${layer.ahead}></bb-blocks>
           ${this.foot(layer, root)}
         </div>
       </div>
@@ -406,6 +433,7 @@ class AppElement extends LitElement {
 
   protected override updated(): void {
     const { answer } = this.player;
+    void this.ahead.goOn();
     if (this.drawn === answer) return;
     this.drawn = answer;
     void this.settle(this.step);

@@ -1,4 +1,4 @@
-import { LitElement, type TemplateResult } from "lit";
+import { LitElement, type PropertyValues, type TemplateResult } from "lit";
 import { headHeight } from "../extent";
 import { painted } from "../motion";
 import type { View } from "../protocol";
@@ -7,22 +7,40 @@ import type { Scene } from "../scene";
 import { room } from "./desk";
 import { ownSettings } from "./own-settings";
 
+/** What is drawn ahead at a time, in pixels: a row. */
+const unseenStep = 50;
+
+/** What is seen of a screen that opens, in pixels; more room than a phone's is filled at once. */
+const opening = (): number => (room() === "phone" ? innerHeight - headHeight : Infinity);
+
 /**
  * The blocks of one screen; drawn again only when the screen has described itself anew. What a new screen of a
- * phone shows is drawn at once, what lies below is added from frame to frame.
+ * phone shows is drawn at once, what lies below is added from frame to frame. A screen that nobody has seen yet grows
+ * only when it is told to.
  */
 class BlocksElement extends LitElement {
-  static override properties = { view: { attribute: false }, scene: { attribute: false } };
+  static override properties = {
+    view: { attribute: false },
+    scene: { attribute: false },
+    ahead: { attribute: false },
+  };
   declare view: View | null;
   declare scene: Scene;
+  declare ahead: boolean;
 
   /** All of it is drawn. */
   whole = false;
   /** How much of it may be drawn by now, in pixels. */
-  private reach = room() === "phone" ? innerHeight - headHeight : Infinity;
+  private reach = 0;
+  private laidOut = false;
 
   protected override createRenderRoot(): this {
     return this;
+  }
+
+  protected override willUpdate(changed: PropertyValues<this>): void {
+    if (!changed.has("ahead") || this.ahead) return;
+    this.reach = Math.max(this.reach, opening());
   }
 
   protected override render(): TemplateResult[] {
@@ -32,7 +50,21 @@ class BlocksElement extends LitElement {
   }
 
   protected override updated(): void {
-    if (!this.whole) void painted().then(() => this.grow());
+    if (!this.whole && !this.ahead) void painted().then(() => this.grow());
+  }
+
+  /** What it opens with is drawn and laid out. */
+  get foreseen(): boolean {
+    return this.laidOut && (this.whole || this.reach >= opening());
+  }
+
+  /** Draws a little more out of sight or has the browser lay it out, by turns: style and layout outlast the hiding. */
+  async growUnseen(): Promise<void> {
+    this.laidOut = !this.laidOut;
+    if (this.laidOut) return void this.offsetHeight;
+    this.reach += unseenStep;
+    this.requestUpdate();
+    await this.updateComplete;
   }
 
   private grow(): void {
@@ -42,3 +74,5 @@ class BlocksElement extends LitElement {
 }
 
 customElements.define("bb-blocks", BlocksElement);
+
+export type { BlocksElement };

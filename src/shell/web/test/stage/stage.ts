@@ -26,6 +26,10 @@ class StagePlayer implements Player {
   /** What the next presses answer; without any, the screen describes itself again. */
   readonly answers: Answer[] = [];
 
+  ahead(): null {
+    return null;
+  }
+
   act(screen: number | string, id: string, value = ""): void {
     this.presses.push([String(screen), id, value]);
     this.answer = this.answers.shift() ?? structuredClone(this.answer);
