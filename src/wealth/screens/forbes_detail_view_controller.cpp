@@ -22,6 +22,12 @@ Row lineOf(std::string label, std::string value, std::string about = {}) {
   return {.title = std::move(label), .subtitle = std::move(about), .value = std::move(value)};
 }
 
+std::string sinceLastVisit(double change) {
+  const std::string amount = abbreviatedDollars(std::fabs(change));
+  const std::string said = amount == "$0" ? "unchanged" : (change < 0 ? "down " : "up ") + amount;
+  return said + " since your last visit";
+}
+
 }  // namespace
 
 Outcome ForbesDetailViewController::open() {
@@ -48,11 +54,10 @@ View ForbesDetailViewController::view() const {
 
 void ForbesDetailViewController::describeFortune(View& view) const {
   const double change = visit_.change;
-  view.add(
-      Chart{.title = "Real Time Net Worth",
-            .value = abbreviatedDollars(visit_.netWorth),
-            .note = (change < 0 ? "down " : "up ") + abbreviatedDollars(std::fabs(change)) + " since your last visit",
-            .tone = toneOfChange(change)});
+  view.add(Chart{.title = "Real Time Net Worth",
+                 .value = abbreviatedDollars(visit_.netWorth),
+                 .note = sinceLastVisit(change),
+                 .tone = toneOfChange(change)});
   const double ventures = venturesValue(state());
   const double property = propertiesValue(state());
   const double garage = transportationValue(state());

@@ -28,7 +28,9 @@ std::vector<Fact> factsOf(const Property& property) { return sizes(property); }
 std::vector<Fact> factsOf(const InvestmentProperty& home) { return sizes(home); }
 
 std::string changeText(double change) {
-  return (change < 0 ? "down " : "up ") + withDecimals(std::fabs(change) * 100, 1) + "%";
+  const std::string percent = withDecimals(std::fabs(change) * 100, 1);
+  if (percent == "0.0") return "unchanged";
+  return (change < 0 ? "down " : "up ") + percent + "%";
 }
 
 Tile marketTile(double index) {

@@ -14,7 +14,7 @@ namespace backbeat {
 std::vector<Fact> factsOf(const Property& property);
 std::vector<Fact> factsOf(const InvestmentProperty& home);
 
-/// "up 7.2%", "down 0.4%", for a difference of indexes.
+/// "up 7.2%", "down 0.4%", "unchanged", for a difference of indexes.
 std::string changeText(double change);
 
 /// Today's market: the index, and how far it is from where all markets begin.

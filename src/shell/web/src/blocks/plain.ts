@@ -33,20 +33,23 @@ export function meterBlock(meter: MeterData): TemplateResult {
   </div>`;
 }
 
-/** A table with column heads; a wide one scrolls sideways by itself. */
+/**
+ * A table with column heads; a wide one scrolls sideways by itself. The roles say what it is where large letters make
+ * its lines anything but a table's.
+ */
 export function tableBlock({ columns = [], rows = [] }: Table): TemplateResult {
   return html`<div class="table card" role="region" aria-label=${columns.join(", ") || "Table"} tabindex="0">
-    <table>
-      <thead>
-        <tr>
-          ${columns.map((column) => html`<th scope="col" dir="auto">${column}</th>`)}
+    <table role="table">
+      <thead role="rowgroup">
+        <tr role="row">
+          ${columns.map((column) => html`<th role="columnheader" scope="col" dir="auto">${column}</th>`)}
         </tr>
       </thead>
-      <tbody>
+      <tbody role="rowgroup">
         ${rows.map(
           (cells) =>
-            html`<tr>
-              ${cells.map((cell) => html`<td dir="auto">${cell}</td>`)}
+            html`<tr role="row">
+              ${cells.map((cell) => html`<td role="cell" dir="auto">${cell}</td>`)}
             </tr>`,
         )}
       </tbody>

@@ -4,7 +4,7 @@ import { glyph } from "../pictures/icons";
 import type { PictureGrid, Row, Rows } from "../protocol";
 import type { Scene } from "../scene";
 import "./floor";
-import { actionMenu, badge, bar, pricePill, reveal, toneClass } from "./parts";
+import { actionMenu, badge, bar, longestWord, pricePill, reveal, toneClass } from "./parts";
 import { film, shelfItem, stop, stripItem, wireLine } from "./row-styles";
 import { spark } from "./spark";
 
@@ -70,8 +70,10 @@ const stripLook = (items: Row[]): string => `of-${items[0]?.picture?.kind ?? "no
 const isTaken = ({ share, price }: Row): boolean => share !== undefined && price !== undefined;
 
 function rowLook(row: Row): string {
-  if (row.share === undefined) return "";
-  if (!isTaken(row)) return "measured";
+  const { value = "", title = "" } = row;
+  const room = `${/[\d,.]{10}/.test(value) ? "large-sum" : ""} ${longestWord(title) > 13 ? "wordy" : ""}`;
+  if (row.share === undefined) return room;
+  if (!isTaken(row)) return `measured ${room}`;
   return row.selected ? "taking taken" : "taking";
 }
 

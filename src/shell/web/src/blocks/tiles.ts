@@ -3,14 +3,22 @@ import { glyph, tintOf } from "../pictures/icons";
 import { picture } from "../pictures/picture";
 import type { Tile, Tiles } from "../protocol";
 import type { Scene } from "../scene";
-import { toneClass } from "./parts";
+import { longestWord, toneClass } from "./parts";
 
 /** Figures side by side: on small cards, bare in a line, or as actions once one of them has a price. */
 export function tilesBlock({ items = [] }: Tiles, scene: Scene): TemplateResult {
   if (items.some(({ price }) => price)) return actions(items, scene);
   if (items.every(({ icon, note, id }) => !icon && !note && !id)) return bare(items);
   const columns = items.length % 3 === 0 ? 3 : Math.min(items.length, 2);
-  return html`<div class="tiles" style="--columns:${columns}">${items.map((item) => tile(item, scene))}</div>`;
+  return html`<div class="tiles" style="--columns:${columns};--need:${needOf(items)}">
+    ${items.map((item) => tile(item, scene))}
+  </div>`;
+}
+
+/** How wide each tile has to be for the longest figure and the longest word of a label to stay whole, in rem. */
+function needOf(items: Tile[]): number {
+  const needs = items.map(({ label = "", value = "" }) => Math.max(value.length * 0.47, longestWord(label) * 0.43));
+  return Math.max(...needs);
 }
 
 function tile({ icon, label, value, note, tone, id }: Tile, scene: Scene): TemplateResult {
