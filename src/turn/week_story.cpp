@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/calendar.h"
 #include "core/money.h"
 #include "core/numbers.h"
 #include "core/view_words.h"
+#include "music/listeners.h"
 #include "music/news.h"
 #include "music/song_creation.h"
 #include "music/streaming.h"
@@ -19,11 +21,11 @@ constexpr double strongChange = 0.25;
 constexpr double mostOfAll = 0.7;
 constexpr int64_t longRun = 4;   ///< weeks in a row
 constexpr double savings = 500;  ///< dollars: they pay somebody for a song
-constexpr int64_t lastWeekOfYear = 52;
+constexpr int64_t weeksOfYear = 52;
 
 /// What the sentences choose by.
 struct Facts {
-  int64_t weeks = 0;  ///< of the career so far
+  int64_t weeks = 0;  ///< of the calendar so far: whose turn a sentence is
   int64_t songsOut = 0;
   int64_t songsPlaying = 0;
   int64_t silencedNow = 0;
@@ -129,38 +131,55 @@ std::string energyOf(const GameState& state) {
 /// Where the account will stand at New Year if nothing changes; empty when it stays as it is.
 std::string untilNewYear(const GameState& state) {
   const double net = standingWeeklyNet(state);
-  const auto weeks = static_cast<double>(lastWeekOfYear + 1 - state.weekNumber);
+  const auto weeks = static_cast<double>(weeksOfYear + 1 - state.weekNumber);
   const double then = state.totalCashAvailable + net * weeks;
   if (net == 0 || weeks < 2) return "";
   return then < 0 ? "If nothing changes, you owe " + currency(-then) + " by New Year."
                   : "At this pace there will be " + currency(then) + " by New Year.";
 }
 
+std::string spanOf(int64_t weeks) {
+  return weeks < 2 * weeksOfYear ? counted(weeks, "week") : counted(weeks / weeksOfYear, "year");
+}
+
+/// How long this life has lasted. The calendar of an heir goes on from the parent's, and the list of their own weeks is
+/// a short one.
+std::string timeSoFar(const GameState& state, const Facts& facts) {
+  if (state.ageAtTakeover == 0) return spanOf(facts.weeks);
+  const size_t own = state.monthlyListenerData.size();
+  if (own < listenerWeeksRemembered) return spanOf(static_cast<int64_t>(own));
+  const int64_t years = state.yearNumber - generationBegan(state);  // begun: the first may have been a week
+  return years < 2 ? "More than half a year" : years < 3 ? "More than a year" : "Years";
+}
+
 std::string beforeAnySong(const GameState& state, const Facts& facts) {
-  const std::string weeks = counted(facts.weeks, "week");
+  const std::string time = timeSoFar(state, facts);
   if (facts.waiting > 0) {
     const std::string song = quoted(facts.waitingTitle);
     return inTurn(facts, {song + " lies in the drawer. Release it, and the world can hear it.",
-                          weeks + " in, and " + song + " is still a secret."});
+                          time + " in, and " + song + " is still a secret."});
   }
   const std::string readers =
       state.followerCount > 0 ? counted(state.followerCount, "follower") + " would like to hear you sing." : "";
   const std::string debt = debtOf(state);
   const std::string account = debt.empty() ? "A first song costs energy, and no money." : debt;
+  const std::string listeners = state.totalFans < 10 ? "Ten listeners are the first step, and a song is the way there."
+                                                     : counted(state.totalFans, "listener") + " wait for a first song.";
+  const std::string putBy =
+      state.totalCashAvailable >= savings
+          ? currency(state.totalCashAvailable) + " put by. A writer, musicians and a studio can be had for it."
+          : "";
   if (state.weeklyJobIncome > 0) {
     const int64_t left = state.weeklyJobContractRemaining;
-    return inTurn(
-        facts, {"You worked, you got paid, and nobody has heard you yet. A song would change that.",
-                weeks + " of work so far, and not one song.",
-                left > 0 ? "The job goes on for " + counted(left, "week") + ". One evening makes a song." : readers,
-                account, energyOf(state), "Ten listeners are the first step, and a song is the way there.",
-                state.totalCashAvailable >= savings ? currency(state.totalCashAvailable) +
-                                                          " put by. A writer, musicians and a studio can be had for it."
-                                                    : "",
-                untilNewYear(state)});
+    return inTurn(facts,
+                  {"You worked, you got paid, and nobody has heard you yet. A song would change that.",
+                   time + " of work so far, and not one song.",
+                   left > 0 ? "The job goes on for " + counted(left, "week") + ". One evening makes a song." : readers,
+                   account, energyOf(state), listeners, putBy, untilNewYear(state)});
   }
   return inTurn(facts, {debt.empty() ? "A week without a song. Everything begins with the first one." : debt,
-                        weeks + " in, and the first song is still to come.", readers, energyOf(state)});
+                        time + " in, and the first song is still to come.", readers.empty() ? listeners : readers,
+                        energyOf(state), putBy, untilNewYear(state)});
 }
 
 std::string afterTheLastSong(const Game& game, const Facts& facts) {
@@ -175,7 +194,7 @@ std::string afterTheLastSong(const Game& game, const Facts& facts) {
   return inTurn(
       facts,
       {debt.empty() ? "Silence: every song of yours has had its time. Write the next one." : debt,
-       counted(silence + 1, "week") + " without a song of yours playing.",
+       spanOf(silence + 1) + " without a song of yours playing.",
        facts.waiting > 0 ? quoted(facts.waitingTitle) + " waits for its release, and nothing else of yours is playing."
                          : energyOf(state),
        change > 0   ? "Nothing of yours is playing, yet word still travels: " + counted(change, "new listener") + "."
@@ -215,7 +234,8 @@ std::string changeOf(const Facts& facts, const std::string& streams, const std::
   }
   if (change <= -strongChange) {
     return inTurn(facts, {"Ears move on: " + streams + ", " + percentOf(-change) + " fewer than last week.",
-                          top + " and the rest had " + before + " last week. This week: " + streams + "."});
+                          top + (facts.songsPlaying > 1 ? " and the rest" : "") + " had " + before +
+                              " last week. This week: " + streams + "."});
   }
   return "";
 }
