@@ -48,11 +48,13 @@ View ForbesDetailViewController::view() const {
 
 void ForbesDetailViewController::describeFortune(View& view) const {
   const double change = visit_.change;
-  view.add(
-      Chart{.title = "Real Time Net Worth",
-            .value = abbreviatedDollars(visit_.netWorth),
-            .note = (change < 0 ? "down " : "up ") + abbreviatedDollars(std::fabs(change)) + " since your last visit",
-            .tone = toneOfChange(change)});
+  view.add(Chart{.title = "Real Time Net Worth",
+                 .value = abbreviatedDollars(visit_.netWorth),
+                 .note = visit_.isFirst ? ""
+                         : change == 0  ? "as at your last visit"
+                                        : (change < 0 ? "down " : "up ") + abbreviatedDollars(std::fabs(change)) +
+                                             " since your last visit",
+                 .tone = visit_.isFirst ? Tone::plain : toneOfChange(change)});
   const double ventures = venturesValue(state());
   const double property = propertiesValue(state());
   const double garage = transportationValue(state());
