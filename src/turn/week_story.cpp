@@ -10,6 +10,7 @@
 #include "music/listeners.h"
 #include "music/news.h"
 #include "music/song_creation.h"
+#include "music/song_release.h"
 #include "music/streaming.h"
 #include "turn/goals.h"
 
@@ -30,7 +31,7 @@ struct Facts {
   int64_t songsPlaying = 0;
   int64_t silencedNow = 0;
   int64_t waiting = 0;
-  std::string waitingTitle;
+  const Song* newestWaiting = nullptr;
   std::string offChart;  ///< a title that left the chart this week
   const Song* onChart = nullptr;
   const Song* freshest = nullptr;   ///< of those out, the one with the most weeks left
@@ -74,7 +75,7 @@ void countSongs(const GameState& state, Facts& facts) {
     const Song& song = songs[i];
     if (!song.isReleased) {
       ++facts.waiting;
-      facts.waitingTitle = song.title;
+      if (!facts.newestWaiting || song.songId > facts.newestWaiting->songId) facts.newestWaiting = &song;
       continue;
     }
     ++facts.songsOut;
@@ -155,9 +156,14 @@ std::string timeSoFar(const GameState& state, const Facts& facts) {
 std::string beforeAnySong(const GameState& state, const Facts& facts) {
   const std::string time = timeSoFar(state, facts);
   if (facts.waiting > 0) {
-    const std::string song = quoted(facts.waitingTitle);
+    const std::string song = quoted(facts.newestWaiting->title);
     return inTurn(facts, {song + " lies in the drawer. Release it, and the world can hear it.",
-                          time + " in, and " + song + " is still a secret."});
+                          time + " in, and " + song + " is still a secret.",
+                          facts.waiting > 1 ? counted(facts.waiting, "song") + " are finished, and none of them is out."
+                                            : "Nobody can press play yet. RELEASE stands on the song's page.",
+                          "A release takes " + std::to_string(releaseCost.energy) +
+                              " energy, and the new week brings " + std::to_string(state.totalEnergyAvailable) + ".",
+                          "Listeners come with a release, and " + song + " could be the first.", untilNewYear(state)});
   }
   const std::string readers =
       state.followerCount > 0 ? counted(state.followerCount, "follower") + " would like to hear you sing." : "";
@@ -195,8 +201,9 @@ std::string afterTheLastSong(const Game& game, const Facts& facts) {
       facts,
       {debt.empty() ? "Silence: every song of yours has had its time. Write the next one." : debt,
        spanOf(silence + 1) + " without a song of yours playing.",
-       facts.waiting > 0 ? quoted(facts.waitingTitle) + " waits for its release, and nothing else of yours is playing."
-                         : energyOf(state),
+       facts.waiting > 0
+           ? quoted(facts.newestWaiting->title) + " waits for its release, and nothing else of yours is playing."
+           : energyOf(state),
        change > 0   ? "Nothing of yours is playing, yet word still travels: " + counted(change, "new listener") + "."
        : change < 0 ? "Nothing of yours is playing, and " + counted(-change, "listener") +
                           " moved on. A new song brings them back."
