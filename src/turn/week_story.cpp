@@ -230,19 +230,38 @@ std::string withoutStreams(const GameState& state, const Facts& facts) {
                                          : ""});
 }
 
-/// A week that brought more or less than the one before it, or a long run of such weeks; empty when there is neither.
-std::string changeOf(const Facts& facts, const std::string& streams, const std::string& top) {
-  if (facts.streamsBefore == 0) return top + " meets its first listeners: " + streams + ".";
+/// Whether the song was streamed before that week.
+bool wasHeardBefore(const GameState& state, const WeeklySongListens& week) {
+  const RecordList<Song>& songs = state.saveAllSongList;
+  const std::vector<uint32_t> awake = songs.awake();
+  return std::any_of(awake.begin(), awake.end(), [&](uint32_t i) {
+    return songs[i].songId == week.songId && songs[i].totalListen > week.songListens;
+  });
+}
+
+/// A week that brought more or less than the one before it; empty when it was much the same.
+std::string changeOf(const GameState& state, const Facts& facts, const std::string& streams,
+                     const WeeklySongListens& first) {
+  const std::string top = quoted(first.songTitle);
+  if (facts.streamsBefore == 0) {
+    if (!wasHeardBefore(state, first)) return top + " meets its first listeners: " + streams + ".";
+    return inTurn(facts, {top + " is heard again: " + streams + ".",
+                          "After a week of silence somebody pressed play on " + top + ": " + streams + "."});
+  }
   const double change = static_cast<double>(facts.streams) / static_cast<double>(facts.streamsBefore) - 1;
   const std::string before = withCommas(facts.streamsBefore);
   if (change >= strongChange) {
     return inTurn(facts, {"A lift: " + streams + ", " + percentOf(change) + " more than last week, led by " + top + ".",
-                          "Word gets around: " + streams + ", after " + before + " the week before."});
+                          "Word gets around: " + streams + ", after " + before + " the week before.",
+                          before + " last week, " + streams + " in this one. Most went to " + top + ".",
+                          "Up by " + percentOf(change) + ": " + streams + "."});
   }
   if (change <= -strongChange) {
     return inTurn(facts, {"Ears move on: " + streams + ", " + percentOf(-change) + " fewer than last week.",
                           top + (facts.songsPlaying > 1 ? " and the rest" : "") + " had " + before +
-                              " last week. This week: " + streams + "."});
+                              " last week. This week: " + streams + ".",
+                          "Fewer press play: " + streams + ", after " + before + " the week before.",
+                          "Down by " + percentOf(-change) + ": " + streams + ". Something new would turn heads."});
   }
   return "";
 }
@@ -291,9 +310,12 @@ std::string whilePlaying(const GameState& state, const WeeklyReport& report, con
     const std::string song = quoted(facts.onChart->title);
     return inTurn(
         facts, {song + " holds on to the chart in a week of " + streams + ".",
-                song + " is " + rank(facts.onChart->chartRanking) + " this week, and your songs had " + streams + "."});
+                song + " is " + rank(facts.onChart->chartRanking) + " this week, and your songs had " + streams + ".",
+                streams + " for your songs, and " + song + " stays on the Billboard 100.",
+                "The chart has " + song + " at " + rank(facts.onChart->chartRanking) +
+                    ". All your songs together: " + streams + "."});
   }
-  const std::string change = changeOf(facts, streams, quoted(report.weeklySongListens.front().songTitle));
+  const std::string change = changeOf(state, facts, streams, report.weeklySongListens.front());
   return change.empty() ? ordinary(state, report, facts, streams) : change;
 }
 
