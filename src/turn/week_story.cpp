@@ -30,6 +30,7 @@ struct Facts {
   int64_t songsOut = 0;
   int64_t songsPlaying = 0;
   int64_t silencedNow = 0;
+  std::string silenced;  ///< the title of one of these
   int64_t waiting = 0;
   const Song* newestWaiting = nullptr;
   std::string offChart;  ///< a title that left the chart this week
@@ -81,7 +82,10 @@ void countSongs(const GameState& state, Facts& facts) {
     ++facts.songsOut;
     const double life = remainingLife(state, song);
     if (life > 0) ++facts.songsPlaying;
-    if (!(life > 0) && life > -1) ++facts.silencedNow;
+    if (!(life > 0) && life > -1) {
+      ++facts.silencedNow;
+      facts.silenced = song.title;
+    }
     if (song.chartRanking > 0) facts.onChart = &song;
     rememberBest(state, song, facts);
   }
@@ -303,9 +307,16 @@ std::string whilePlaying(const GameState& state, const WeeklyReport& report, con
   const std::string streams = counted(facts.streams, "stream");
   if (!facts.offChart.empty())
     return quoted(facts.offChart) + " has left the chart, with " + streams + " for all your songs.";
-  if (facts.silencedNow > 0)
-    return "One voice fewer: " + counted(facts.songsPlaying, "song") + " of yours still " +
-           (facts.songsPlaying == 1 ? "plays" : "play") + ", for " + streams + ".";
+  if (facts.silencedNow > 0) {
+    const std::string fewer = facts.silencedNow == 1 ? "One voice" : counted(facts.silencedNow, "voice");
+    const std::string song = quoted(facts.silenced);
+    const std::string left = counted(facts.songsPlaying, "song") + " of yours";
+    return inTurn(facts, {fewer + " fewer: " + left + " still " + (facts.songsPlaying == 1 ? "plays" : "play") +
+                              ", for " + streams + ".",
+                          song + " has had its time. What is left is " + left + ", and " + streams + ".",
+                          streams + " this week, and from now on none of " + song + ".",
+                          "The last week of " + song + ", and " + streams + " in all."});
+  }
   if (facts.onChart) {
     const std::string song = quoted(facts.onChart->title);
     return inTurn(
