@@ -37,7 +37,7 @@ Inked endsOf(PrintedPage& page, const Row& row) {
   };
   add(page.inked(0).add(spark(row.points, 12)));
   add(page.inked(0).add(oneLine(row.value, 24), colourOf(row.tone)));
-  add(page.inked(0).add(oneLine(row.note, 18)));
+  add(page.inked(0).add(oneLine(row.note, 22)));
   add(page.price(row.price));
   return ends;
 }
