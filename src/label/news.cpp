@@ -16,13 +16,20 @@ namespace {
 
 std::string quoted(const std::string& title) { return "“" + title + "”"; }
 
+/// What is told of one artist, behind the name, and of several, behind their number.
+struct DueWords {
+  std::string title;
+  std::string subtitle;
+};
+
 /// One need for all artists whom it is about; of one it leads to them.
-void addDue(std::vector<Need>& needs, const DueArtists& due, Need need, const std::string& one,
-            const std::string& several) {
+void addDue(std::vector<Need>& needs, const DueArtists& due, int64_t priority, const DueWords& one,
+            const DueWords& several) {
   if (due.count == 0) return;
-  need.picture = person(due.first->name);
-  need.title = due.count == 1 ? due.first->name + one : std::to_string(due.count) + several;
-  need.badge = "!";
+  const DueWords& words = due.count == 1 ? one : several;
+  Need need{.priority = priority, .picture = person(due.first->name), .badge = "!"};
+  need.title = (due.count == 1 ? due.first->name : std::to_string(due.count)) + words.title;
+  need.subtitle = words.subtitle;
   need.segue = due.count == 1 ? "goToSignedArtistDetail" : "goToSignedArtists";
   if (due.count == 1) need.argument = std::to_string(due.first->artistId);
   needs.push_back(std::move(need));
@@ -37,6 +44,14 @@ void addStaffNeeds(const GameState& state, std::vector<Need>& needs) {
                      .subtitle = "Nobody scouts, nobody sells",
                      .segue = "goToLabelDetail"});
     return;
+  }
+  if (std::none_of(state.saveAllSignedArtistList.begin(), state.saveAllSignedArtistList.end(),
+                   [](const SignedArtist& artist) { return artist.underContract; })) {
+    needs.push_back({.priority = 165,
+                     .picture = icon("label"),
+                     .title = "Nobody has signed with " + state.myLabelName,
+                     .subtitle = "Your staff are paid all the same",
+                     .segue = "goToLabelDetail"});
   }
   const auto unhappy = std::count_if(staff.begin(), staff.end(),
                                      [](const Employee& employee) { return employee.employeeMorale < unhappyBelow; });
@@ -135,10 +150,10 @@ void addLabelNeeds(const Game& game, std::vector<Need>& needs) {
   const GameState& state = game.state;
   if (state.isLabelLaunched < 1) return;
   addStaffNeeds(state, needs);
-  addDue(needs, dueArtists(state, contractIsUp), {.priority = 210, .subtitle = "Their album rests until you renew it"},
-         "'s contract is up", " contracts are up");
-  addDue(needs, dueArtists(state, albumWaits), {.priority = 190, .subtitle = "Review the songs and it comes out"},
-         "'s album is complete", " albums are complete");
+  addDue(needs, dueArtists(state, contractIsUp), 210, {"'s contract is up", "Their album rests until you renew it"},
+         {" contracts are up", "Their albums rest until you renew them"});
+  addDue(needs, dueArtists(state, albumWaits), 190, {"'s album is complete", "Review the songs and it comes out"},
+         {" albums are complete", "Review the songs and they come out"});
 }
 
 void addLabelNews(const Game& game, std::vector<News>& news) {

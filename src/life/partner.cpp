@@ -79,6 +79,7 @@ std::string temperText(int64_t maintenance) {
 }
 
 std::string lengthText(int64_t weeks) {
+  if (weeks < 1) return "less than a week";
   if (weeks < weeksInWords) return counted(weeks, "week");
   if (weeks < weeksOfYear) return counted(weeks / weeksOfMonth, "month");
   return counted(weeks / weeksOfYear, "year");

@@ -126,7 +126,7 @@ inline constexpr auto dateIdeasFree = std::to_array<std::string_view>({
     "have a picnic in the park",
     "look for shapes in the clouds",
     "dance in the kitchen",
-    "count stars until you lost count",
+    "count stars until two in the morning",
     "build a blanket fort",
     "walk along the river",
     "make pancakes for dinner",
@@ -139,7 +139,7 @@ inline constexpr auto dateIdeasFree = std::to_array<std::string_view>({
     "write a silly song together",
     "visit a free museum",
     "swing in the playground after dark",
-    "plan a trip you cannot afford yet",
+    "plan a trip around the world",
     "people watch downtown",
     "throw stones into the lake",
 });

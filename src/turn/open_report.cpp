@@ -148,12 +148,6 @@ void beginAnew(Game& game, std::string_view how) {
   if (jobs) numbers.append({std::string(hasWorked), 0, {}});
 }
 
-/// No week of this life has ended yet.
-bool isFirstWeek(const GameState& state) {
-  const bool hasBegun = state.weekNumberForTracking == 1 || state.ageAtTakeover == state.yearNumber;
-  return hasBegun && state.monthlyListenerData.empty();
-}
-
 }  // namespace
 
 bool isReportOpen(const GameState& state) {
@@ -203,7 +197,7 @@ WeeklyReport recalledReport(Game& game) {
 void noteFirsts(Game& game) {
   GameState& state = game.state;
   Numbers& numbers = state.reportNumbers;
-  if (numbers.empty() && !isFirstWeek(state)) {
+  if (numbers.empty() && anyWeekReported(state)) {
     numbers.append({std::string(hasMadeSong), 0, {}});
     numbers.append({std::string(hasWorked), 0, {}});
   }

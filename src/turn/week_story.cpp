@@ -3,11 +3,14 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/calendar.h"
 #include "core/money.h"
 #include "core/numbers.h"
 #include "core/view_words.h"
+#include "music/listeners.h"
 #include "music/news.h"
 #include "music/song_creation.h"
+#include "music/song_release.h"
 #include "music/streaming.h"
 #include "turn/goals.h"
 
@@ -19,16 +22,17 @@ constexpr double strongChange = 0.25;
 constexpr double mostOfAll = 0.7;
 constexpr int64_t longRun = 4;   ///< weeks in a row
 constexpr double savings = 500;  ///< dollars: they pay somebody for a song
-constexpr int64_t lastWeekOfYear = 52;
+constexpr int64_t weeksOfYear = 52;
 
 /// What the sentences choose by.
 struct Facts {
-  int64_t weeks = 0;  ///< of the career so far
+  int64_t weeks = 0;  ///< of the calendar so far: whose turn a sentence is
   int64_t songsOut = 0;
   int64_t songsPlaying = 0;
   int64_t silencedNow = 0;
+  std::string silenced;  ///< the title of one of these
   int64_t waiting = 0;
-  std::string waitingTitle;
+  const Song* newestWaiting = nullptr;
   std::string offChart;  ///< a title that left the chart this week
   const Song* onChart = nullptr;
   const Song* freshest = nullptr;   ///< of those out, the one with the most weeks left
@@ -72,13 +76,16 @@ void countSongs(const GameState& state, Facts& facts) {
     const Song& song = songs[i];
     if (!song.isReleased) {
       ++facts.waiting;
-      facts.waitingTitle = song.title;
+      if (!facts.newestWaiting || song.songId > facts.newestWaiting->songId) facts.newestWaiting = &song;
       continue;
     }
     ++facts.songsOut;
     const double life = remainingLife(state, song);
     if (life > 0) ++facts.songsPlaying;
-    if (!(life > 0) && life > -1) ++facts.silencedNow;
+    if (!(life > 0) && life > -1) {
+      ++facts.silencedNow;
+      facts.silenced = song.title;
+    }
     if (song.chartRanking > 0) facts.onChart = &song;
     rememberBest(state, song, facts);
   }
@@ -129,38 +136,60 @@ std::string energyOf(const GameState& state) {
 /// Where the account will stand at New Year if nothing changes; empty when it stays as it is.
 std::string untilNewYear(const GameState& state) {
   const double net = standingWeeklyNet(state);
-  const auto weeks = static_cast<double>(lastWeekOfYear + 1 - state.weekNumber);
+  const auto weeks = static_cast<double>(weeksOfYear + 1 - state.weekNumber);
   const double then = state.totalCashAvailable + net * weeks;
   if (net == 0 || weeks < 2) return "";
   return then < 0 ? "If nothing changes, you owe " + currency(-then) + " by New Year."
                   : "At this pace there will be " + currency(then) + " by New Year.";
 }
 
+std::string spanOf(int64_t weeks) {
+  return weeks < 2 * weeksOfYear ? counted(weeks, "week") : counted(weeks / weeksOfYear, "year");
+}
+
+/// How long this life has lasted. The calendar of an heir goes on from the parent's, and the list of their own weeks is
+/// a short one.
+std::string timeSoFar(const GameState& state, const Facts& facts) {
+  if (state.ageAtTakeover == 0) return spanOf(facts.weeks);
+  const size_t own = state.monthlyListenerData.size();
+  if (own < listenerWeeksRemembered) return spanOf(static_cast<int64_t>(own));
+  const int64_t years = state.yearNumber - generationBegan(state);  // begun: the first may have been a week
+  return years < 2 ? "More than half a year" : years < 3 ? "More than a year" : "Years";
+}
+
 std::string beforeAnySong(const GameState& state, const Facts& facts) {
-  const std::string weeks = counted(facts.weeks, "week");
+  const std::string time = timeSoFar(state, facts);
   if (facts.waiting > 0) {
-    const std::string song = quoted(facts.waitingTitle);
+    const std::string song = quoted(facts.newestWaiting->title);
     return inTurn(facts, {song + " lies in the drawer. Release it, and the world can hear it.",
-                          weeks + " in, and " + song + " is still a secret."});
+                          time + " in, and " + song + " is still a secret.",
+                          facts.waiting > 1 ? counted(facts.waiting, "song") + " are finished, and none of them is out."
+                                            : "Nobody can press play yet. RELEASE stands on the song's page.",
+                          "A release takes " + std::to_string(releaseCost.energy) +
+                              " energy, and the new week brings " + std::to_string(state.totalEnergyAvailable) + ".",
+                          "Listeners come with a release, and " + song + " could be the first.", untilNewYear(state)});
   }
   const std::string readers =
       state.followerCount > 0 ? counted(state.followerCount, "follower") + " would like to hear you sing." : "";
   const std::string debt = debtOf(state);
   const std::string account = debt.empty() ? "A first song costs energy, and no money." : debt;
+  const std::string listeners = state.totalFans < 10 ? "Ten listeners are the first step, and a song is the way there."
+                                                     : counted(state.totalFans, "listener") + " wait for a first song.";
+  const std::string putBy =
+      state.totalCashAvailable >= savings
+          ? currency(state.totalCashAvailable) + " put by. A writer, musicians and a studio can be had for it."
+          : "";
   if (state.weeklyJobIncome > 0) {
     const int64_t left = state.weeklyJobContractRemaining;
-    return inTurn(
-        facts, {"You worked, you got paid, and nobody has heard you yet. A song would change that.",
-                weeks + " of work so far, and not one song.",
-                left > 0 ? "The job goes on for " + counted(left, "week") + ". One evening makes a song." : readers,
-                account, energyOf(state), "Ten listeners are the first step, and a song is the way there.",
-                state.totalCashAvailable >= savings ? currency(state.totalCashAvailable) +
-                                                          " put by. A writer, musicians and a studio can be had for it."
-                                                    : "",
-                untilNewYear(state)});
+    return inTurn(facts,
+                  {"You worked, you got paid, and nobody has heard you yet. A song would change that.",
+                   time + " of work so far, and not one song.",
+                   left > 0 ? "The job goes on for " + counted(left, "week") + ". One evening makes a song." : readers,
+                   account, energyOf(state), listeners, putBy, untilNewYear(state)});
   }
   return inTurn(facts, {debt.empty() ? "A week without a song. Everything begins with the first one." : debt,
-                        weeks + " in, and the first song is still to come.", readers, energyOf(state)});
+                        time + " in, and the first song is still to come.", readers.empty() ? listeners : readers,
+                        energyOf(state), putBy, untilNewYear(state)});
 }
 
 std::string afterTheLastSong(const Game& game, const Facts& facts) {
@@ -175,9 +204,10 @@ std::string afterTheLastSong(const Game& game, const Facts& facts) {
   return inTurn(
       facts,
       {debt.empty() ? "Silence: every song of yours has had its time. Write the next one." : debt,
-       counted(silence + 1, "week") + " without a song of yours playing.",
-       facts.waiting > 0 ? quoted(facts.waitingTitle) + " waits for its release, and nothing else of yours is playing."
-                         : energyOf(state),
+       spanOf(silence + 1) + " without a song of yours playing.",
+       facts.waiting > 0
+           ? quoted(facts.newestWaiting->title) + " waits for its release, and nothing else of yours is playing."
+           : energyOf(state),
        change > 0   ? "Nothing of yours is playing, yet word still travels: " + counted(change, "new listener") + "."
        : change < 0 ? "Nothing of yours is playing, and " + counted(-change, "listener") +
                           " moved on. A new song brings them back."
@@ -204,18 +234,38 @@ std::string withoutStreams(const GameState& state, const Facts& facts) {
                                          : ""});
 }
 
-/// A week that brought more or less than the one before it, or a long run of such weeks; empty when there is neither.
-std::string changeOf(const Facts& facts, const std::string& streams, const std::string& top) {
-  if (facts.streamsBefore == 0) return top + " meets its first listeners: " + streams + ".";
+/// Whether the song was streamed before that week.
+bool wasHeardBefore(const GameState& state, const WeeklySongListens& week) {
+  const RecordList<Song>& songs = state.saveAllSongList;
+  const std::vector<uint32_t> awake = songs.awake();
+  return std::any_of(awake.begin(), awake.end(), [&](uint32_t i) {
+    return songs[i].songId == week.songId && songs[i].totalListen > week.songListens;
+  });
+}
+
+/// A week that brought more or less than the one before it; empty when it was much the same.
+std::string changeOf(const GameState& state, const Facts& facts, const std::string& streams,
+                     const WeeklySongListens& first) {
+  const std::string top = quoted(first.songTitle);
+  if (facts.streamsBefore == 0) {
+    if (!wasHeardBefore(state, first)) return top + " meets its first listeners: " + streams + ".";
+    return inTurn(facts, {top + " is heard again: " + streams + ".",
+                          "After a week of silence somebody pressed play on " + top + ": " + streams + "."});
+  }
   const double change = static_cast<double>(facts.streams) / static_cast<double>(facts.streamsBefore) - 1;
   const std::string before = withCommas(facts.streamsBefore);
   if (change >= strongChange) {
     return inTurn(facts, {"A lift: " + streams + ", " + percentOf(change) + " more than last week, led by " + top + ".",
-                          "Word gets around: " + streams + ", after " + before + " the week before."});
+                          "Word gets around: " + streams + ", after " + before + " the week before.",
+                          before + " last week, " + streams + " in this one. Most went to " + top + ".",
+                          "Up by " + percentOf(change) + ": " + streams + "."});
   }
   if (change <= -strongChange) {
     return inTurn(facts, {"Ears move on: " + streams + ", " + percentOf(-change) + " fewer than last week.",
-                          top + " and the rest had " + before + " last week. This week: " + streams + "."});
+                          top + (facts.songsPlaying > 1 ? " and the rest" : "") + " had " + before +
+                              " last week. This week: " + streams + ".",
+                          "Fewer press play: " + streams + ", after " + before + " the week before.",
+                          "Down by " + percentOf(-change) + ": " + streams + ". Something new would turn heads."});
   }
   return "";
 }
@@ -257,16 +307,26 @@ std::string whilePlaying(const GameState& state, const WeeklyReport& report, con
   const std::string streams = counted(facts.streams, "stream");
   if (!facts.offChart.empty())
     return quoted(facts.offChart) + " has left the chart, with " + streams + " for all your songs.";
-  if (facts.silencedNow > 0)
-    return "One voice fewer: " + counted(facts.songsPlaying, "song") + " of yours still " +
-           (facts.songsPlaying == 1 ? "plays" : "play") + ", for " + streams + ".";
+  if (facts.silencedNow > 0) {
+    const std::string fewer = facts.silencedNow == 1 ? "One voice" : counted(facts.silencedNow, "voice");
+    const std::string song = quoted(facts.silenced);
+    const std::string left = counted(facts.songsPlaying, "song") + " of yours";
+    return inTurn(facts, {fewer + " fewer: " + left + " still " + (facts.songsPlaying == 1 ? "plays" : "play") +
+                              ", for " + streams + ".",
+                          song + " has had its time. What is left is " + left + ", and " + streams + ".",
+                          streams + " this week, and from now on none of " + song + ".",
+                          "The last week of " + song + ", and " + streams + " in all."});
+  }
   if (facts.onChart) {
     const std::string song = quoted(facts.onChart->title);
     return inTurn(
         facts, {song + " holds on to the chart in a week of " + streams + ".",
-                song + " is " + rank(facts.onChart->chartRanking) + " this week, and your songs had " + streams + "."});
+                song + " is " + rank(facts.onChart->chartRanking) + " this week, and your songs had " + streams + ".",
+                streams + " for your songs, and " + song + " stays on the Billboard 100.",
+                "The chart has " + song + " at " + rank(facts.onChart->chartRanking) +
+                    ". All your songs together: " + streams + "."});
   }
-  const std::string change = changeOf(facts, streams, quoted(report.weeklySongListens.front().songTitle));
+  const std::string change = changeOf(state, facts, streams, report.weeklySongListens.front());
   return change.empty() ? ordinary(state, report, facts, streams) : change;
 }
 

@@ -88,7 +88,10 @@ void settleLabel(GameState& state, WeeklyReport& report) {
 
 }  // namespace
 
-bool anyWeekReported(const GameState& state) { return state.weekNumberForTracking > 1; }
+bool anyWeekReported(const GameState& state) {
+  const bool hasBegun = state.weekNumberForTracking == 1 || state.ageAtTakeover == state.yearNumber;
+  return !hasBegun || !state.monthlyListenerData.empty();
+}
 
 void gatherRecords(const GameState& state, WeeklyReport& report) {
   report.week = reportedWeek(state);

@@ -50,7 +50,7 @@ struct WeeklyReport {
   bool hasAppeared = false;  ///< the chain of the first appearance has run
 };
 
-/// False in the very first week of a family, which has no week before it to tell of.
+/// False in the first week of a life, also that of an heir: no week before it is theirs to tell of.
 bool anyWeekReported(const GameState& state);
 
 /// Gathers the records of the reported week.

@@ -31,7 +31,7 @@ void addPremiere(const GameState& state, const MusicVideo& video, std::vector<Ne
                   .picture = stillOf(state, video),
                   .kicker = isFirst ? "Your first music video" : "New on your channel",
                   .headline = "“" + video.songTitle + "” has a video",
-                  .text = directorOf(video.director) + " · " + videoViews(video)});
+                  .text = directorOf(video.director) + " · " + (video.totalViews == 1 ? "1 view" : videoViews(video))});
 }
 
 /// What the video was viewed before the week of this row.
@@ -47,11 +47,12 @@ void addViews(const GameState& state, const MusicVideo& video, const WeeklyVideo
     return other.videoId != video.videoId && other.totalViews >= step;
   });
   const std::string words = inWords(step);
+  const std::string first = words.starts_with("1 ") ? words.substr(2) : words;  // "Your first million views"
   news.push_back({.kind = isFirst ? News::Kind::first : News::Kind::reached,
                   .rank = isFirst ? 470 : 190,
                   .key = "views " + std::to_string(step),
                   .picture = stillOf(state, video),
-                  .kicker = isFirst ? "Your first " + words + " views" : "On your channel",
+                  .kicker = isFirst ? "Your first " + first + " views" : "On your channel",
                   .headline = "“" + video.songTitle + "” passes " + words + " views",
                   .text = withCommas(week.videoViews) + " of them this week"});
 }

@@ -52,7 +52,7 @@ std::string maritalStatus(const GameState& state) {
 RichListVisit visitRichList(Game& game) {
   double& last = game.state.netWorthSinceLastChecked;
   const double netWorth = netAssets(game.state);
-  const RichListVisit visit{.netWorth = netWorth, .change = netWorth - last};
+  const RichListVisit visit{.netWorth = netWorth, .change = netWorth - last, .isFirst = last == 0};
   last = netWorth;
   game.save(&GameState::netWorthSinceLastChecked);
   return visit;

@@ -27,6 +27,7 @@ std::string maritalStatus(const GameState& state);
 struct RichListVisit {
   double netWorth = 0;  ///< dollars
   double change = 0;    ///< since the last visit
+  bool isFirst = true;  ///< there was no last visit, or it found nothing
 };
 /// Takes that look, and remembers it for the next one.
 RichListVisit visitRichList(Game& game);

@@ -10,6 +10,7 @@
 #include "label/launch.h"
 #include "label/office.h"
 #include "label/perks.h"
+#include "label/roster.h"
 #include "label/scouting.h"
 #include "label/staff.h"
 #include "music/figures.h"
@@ -356,7 +357,7 @@ Standings artistFigures(Game& twin) {
                                 currency(static_cast<double>(nova.signingBonus)) + " and has earned " +
                                 currency(albumsEarned(state) + streamsEarned(state)) + " from a " +
                                 std::to_string(std::llround(percent)) + "% royalty."},
-                   {"text (2)", toGo(state, nova) + " weeks of the contract remain."},
+                   {"text (2)", counted(weeksLeft(state, nova), "week") + " of the contract remain."},
                    {"Salt Lanterns", currency(streamsEarned(state))},
                    {"Salt Lanterns: subtitle", withCommas(lanterns(state).totalListen) + " streams"},
                    {"Night Ferry", currency(albumsEarned(state)), "goToSignedArtistSongList 6002"},

@@ -25,7 +25,7 @@ TEST(LabelNews, TellsOfTheFirstSigningInItsWeekAlone) {
   EXPECT_EQ(news[0].headline, "Juno Hale signed with you");
 }
 
-TEST(LabelNeeds, AnEmptyLabelAndUnhappyStaffWait) {
+TEST(LabelNeeds, ALabelWithoutStaffOrArtistsAndUnhappyStaffWait) {
   World world;
   std::vector<Need> needs;
   addLabelNeeds(world.game, needs);
@@ -34,14 +34,18 @@ TEST(LabelNeeds, AnEmptyLabelAndUnhappyStaffWait) {
   addLabelNeeds(world.game, needs);
   for (int i = 0; i < 3; ++i) addEmployee(world.state, department::sales, 40);
   addLabelNeeds(world.game, needs);
-  ASSERT_EQ(needs.size(), 1u) << "staff that is content waits for nothing";
+  ASSERT_EQ(needs.size(), 2u);
   EXPECT_EQ(needs[0].title, "Kite House has no staff");
+  EXPECT_EQ(needs[1].title, "Nobody has signed with Kite House");
+  addSignedArtist(world.state, "Juno Hale", 40);
+  addLabelNeeds(world.game, needs);
+  ASSERT_EQ(needs.size(), 2u) << "staff that is content waits for nothing";
   for (const size_t i : {0u, 2u}) {
     world.state.saveAllEmployeeList.update(i, [](Employee& employee) { employee.employeeMorale = 34.9; });
   }
   addLabelNeeds(world.game, needs);
-  ASSERT_EQ(needs.size(), 2u);
-  EXPECT_EQ(needs[1].title, "2 of your staff are unhappy");
+  ASSERT_EQ(needs.size(), 3u);
+  EXPECT_EQ(needs[2].title, "2 of your staff are unhappy");
 }
 
 TEST(LabelNeeds, WhatIsDueLeadsToTheOneOrToAll) {
@@ -70,6 +74,7 @@ TEST(LabelNeeds, WhatIsDueLeadsToTheOneOrToAll) {
   needs.clear();
   addLabelNeeds(world.game, needs);
   EXPECT_EQ(needs[0].title, "2 contracts are up");
+  EXPECT_EQ(needs[0].subtitle, "Their albums rest until you renew them");
   EXPECT_EQ(needs[0].segue, "goToSignedArtists");
 }
 

@@ -11,6 +11,7 @@
 #include "music/builders.h"
 #include "support/dates.h"
 #include "support/world.h"
+#include "turn/week_story.h"
 
 namespace backbeat {
 namespace {
@@ -46,6 +47,17 @@ TEST(Inheritance, IsSharedByTheFamilyAndSoAreDebts) {
   world.state.saveAllChildList.clear();
   EXPECT_EQ(inheritanceOf(world.state, dead).cash, 1);
   world.settle();
+}
+
+TEST(Takeover, TheWeeksOfAnHeirBeginWithTheTakeover) {
+  LateWorld world;
+  takeOver(world.game, 0);
+  EXPECT_FALSE(anyWeekReported(world.state)) << "the week before was the parent's";
+  world.state.monthlyListenerData = {0, 0, 0};
+  world.state.weekNumberForTracking = 2'102;  // whose turn it is to tell the time
+  world.settle();
+  EXPECT_TRUE(anyWeekReported(world.state));
+  EXPECT_EQ(weekStory(world.game, {}), "3 weeks in, and the first song is still to come.");
 }
 
 TEST(Takeover, TakesAnHeirOfAgeAndTheEnergyForIt) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/view_find.h"
 #include "music/album_creation.h"
 #include "music/builders.h"
 #include "music/marketing_plans.h"
@@ -273,7 +274,7 @@ TEST(MusicScreen, MakingAnAlbumLetsNoNumberGoBy) {
   EXPECT_EQ(world.state.albumId, 1);
 }
 
-TEST(MusicScreen, GoesOnToTheAlbumThatWasJustMade) {
+TEST(MusicScreen, BringsWhatWasJustMadeIntoSight) {
   World world;
   world.state.promptToEnterName = 1;
   world.settle();
@@ -287,6 +288,11 @@ TEST(MusicScreen, GoesOnToTheAlbumThatWasJustMade) {
   EXPECT_EQ(way.go->segue, "goToAlbumDetail");
   EXPECT_EQ(way.go->argument, std::to_string(world.state.saveAllAlbumList.back().albumId));
   EXPECT_FALSE(screen.appear().go.has_value());
+  EXPECT_EQ(blockOf<Choice>(screen.view()).selected, 1) << "among the albums";
+  world.state.saveAllSongList.append({});
+  world.settle();
+  screen.appear();
+  EXPECT_EQ(blockOf<Choice>(screen.view()).selected, 0) << "among the songs";
 }
 
 }  // namespace

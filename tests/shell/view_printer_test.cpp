@@ -4,8 +4,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <numeric>
 #include <sstream>
 
+#include "core/text.h"
 #include "core/view_find.h"
 #include "shell/native/terminal_text.h"
 #include "support/every_block.h"
@@ -20,11 +22,11 @@ struct Printed : World {
   Navigator navigator{game};
 
   Printed() { navigator.start({}); }
-  PrintedScreen print(View view, bool colour = false) {
+  PrintedScreen print(View view, bool colour = false, size_t columns = widestPage) {
     Shown shown = navigator.shown();
     shown.view = std::move(view);
     shown.alert.reset();
-    return printScreen(navigator, shown, colour);
+    return printScreen(navigator, shown, colour, columns);
   }
 };
 
@@ -49,11 +51,35 @@ View longWinded(View view) {
   return view;
 }
 
-TEST(ViewPrinter, OffersEveryPressOfEveryBlockWithinEightyColumns) {
+/// The numbers that stand before presses, in their order.
+std::vector<size_t> numbersIn(const std::string& text) {
+  std::vector<size_t> numbers;
+  for (size_t at = text.find('['); at != text.npos; at = text.find('[', at + 1)) {
+    const size_t end = text.find("] ", at);
+    if (const auto number = wholeNumber(text.substr(at + 1, end - at - 1))) {
+      numbers.push_back(static_cast<size_t>(*number));
+    }
+  }
+  return numbers;
+}
+
+TEST(ViewPrinter, OffersEveryPressOfEveryBlockWithinTheTerminal) {
   Printed printed;
-  for (const View& view : {everyBlock(), barestBlocks(), longWinded(everyBlock())}) {
+  for (const size_t columns : {80u, 60u, 40u}) {
+    for (const View& view : {everyBlock(), barestBlocks(), longWinded(everyBlock())}) {
+      const PrintedScreen screen = printed.print(view, false, columns);
+      for (const std::string& line : linesOf(screen.text)) EXPECT_LE(columnsOf(line), columns) << line;
+      std::vector<size_t> numbers(screen.pressables.size());
+      std::iota(numbers.begin(), numbers.end(), 1);
+      EXPECT_EQ(numbersIn(screen.text), numbers) << "a press without its number at " << columns;
+    }
+  }
+}
+
+TEST(ViewPrinter, OffersEveryPressOfEveryBlock) {
+  Printed printed;
+  for (const View& view : {everyBlock(), barestBlocks()}) {
     const PrintedScreen screen = printed.print(view);
-    for (const std::string& line : linesOf(screen.text)) EXPECT_LE(columnsOf(line), 80u) << line;
     std::vector<std::string> offered;
     for (const Pressable& pressable : screen.pressables) {
       const std::string& id = pressable.action.id;
@@ -74,6 +100,19 @@ TEST(ViewPrinter, ColoursTakeNoColumns) {
     painted.erase(code, painted.find('m', code) + 1 - code);
   }
   EXPECT_EQ(painted, printed.print(everyBlock()).text);
+}
+
+TEST(ViewPrinter, WhatIsLockedSaysSoWithoutColour) {
+  Printed printed;
+  View view;
+  view.add(Rows{.items = {{.title = "Leadership", .tone = Tone::locked, .id = "lead"}}});
+  view.add(
+      Choice{.id = "plan", .label = "Plan", .options = {{.label = "Free"}, {.label = "Gold", .tone = Tone::locked}}});
+  view.mainAction = Button{.id = "go", .label = "Release", .tone = Tone::locked};
+  const std::string text = printed.print(view).text;
+  for (const char* name : {"Leadership", "Gold", "Release"}) {
+    EXPECT_THAT(text, HasSubstr(std::string(name) + " (locked)"));
+  }
 }
 
 TEST(ViewPrinter, ColumnsStandUnderTheirHeadsAndPeakAndWeeksStayWhole) {

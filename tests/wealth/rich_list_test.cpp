@@ -45,6 +45,10 @@ TEST(RichList, AVisitTellsTheChangeSinceTheLastOne) {
   EXPECT_EQ(blockOf<Chart>(screen.view()).note, "down $2.5K since your last visit");
   screen.open();
   EXPECT_EQ(blockOf<Chart>(screen.view()).note, "unchanged since your last visit");
+  world.state.netWorthSinceLastChecked = 0;
+  world.settle();
+  screen.open();
+  EXPECT_EQ(blockOf<Chart>(screen.view()).note, "") << "a life's first look compares with nothing";
 }
 
 TEST(RichList, TheProfileTellsTradesFamilyAndInheritance) {

@@ -164,7 +164,8 @@ void SignedArtistDetailViewController::describeContract(View& view, const Signed
                          "or renewed.",
                      Tone::warning));
   } else {
-    view.add(caption(std::to_string(weeksLeft(state(), artist)) + " weeks of the contract remain."));
+    const int64_t left = weeksLeft(state(), artist);
+    view.add(caption(counted(left, "week") + " of the contract " + (left == 1 ? "remains." : "remain.")));
   }
 }
 

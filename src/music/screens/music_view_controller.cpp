@@ -60,6 +60,8 @@ Outcome MusicViewController::open() {
 
 Outcome MusicViewController::appear() {
   if (game_.state.promptToEnterName == 0) return goTo("goToEnterName");
+  const size_t songs = state().saveAllSongList.size();
+  if (songs > std::exchange(songsSeen_, songs)) showsAlbums_ = false;  // the new one is in sight
   return toNewAlbum();
 }
 

@@ -34,6 +34,7 @@ class MusicViewController final : public Screen {
   void describeAlbums(View& view) const;
 
   bool showsAlbums_ = false;
+  size_t songsSeen_ = 0;
   std::optional<int64_t> albumIdBefore_;
   ListWindow released_;
   ListWindow releasedAlbums_;

@@ -26,7 +26,8 @@ constexpr const char* helpText =
     "  export --force FILE when the file is there already\n"
     "  import --force FILE when the oldest kept copy has to go for it\n"
     "  help                this text              quit          leaves; everything is kept\n"
-    "✗ stands behind a price that you cannot pay now.\n";
+    "✗ stands behind a price that you cannot pay now.\n"
+    "(locked) behind what something else has to come before.\n";
 
 /// The input up to the first space, and what stands behind it.
 std::pair<std::string_view, std::string_view> firstWord(std::string_view input) {
@@ -39,14 +40,16 @@ std::pair<std::string_view, std::string_view> firstWord(std::string_view input) 
 }  // namespace
 
 ConsolePlayer::ConsolePlayer(TraceRecorder& career, CareerStore& store, FreeShop& shop, LineInput input,
-                             std::ostream& out, bool colour, std::function<int64_t()> now)
+                             std::ostream& out, bool colour, std::function<int64_t()> now,
+                             std::function<size_t()> columns)
     : career_(career),
       store_(store),
       shop_(shop),
       input_(std::move(input)),
       out_(out),
       colour_(colour),
-      now_(std::move(now)) {}
+      now_(std::move(now)),
+      columns_(std::move(columns)) {}
 
 void ConsolePlayer::run() {
   for (std::optional<std::string> line = "again"; line && obey(*line); line = input_("> ")) out_.flush();
@@ -61,7 +64,7 @@ void ConsolePlayer::show() {
   shown_ = session.shown();
   if (shown_.notice == noticeTold_) shown_.notice.clear();
   if (!shown_.notice.empty()) noticeTold_ = shown_.notice;
-  printed_ = printScreen(session.navigator(), shown_, colour_);
+  printed_ = printScreen(session.navigator(), shown_, colour_, columns_());
   out_ << '\n' << printed_.text;
   if (shown_.endWeek && !shown_.alert) {
     say("Type end to END THE WEEK, a number to press, or help.");
@@ -99,7 +102,7 @@ bool ConsolePlayer::obeyWord(const std::string& word, std::string_view value) {
   } else if (word == "again") {
     show();
   } else if (word == "info") {
-    out_ << printHelp(shown_.view);
+    out_ << printHelp(shown_.view, columns_());
   } else if (word == "export") {
     exportTo(value);
   } else if (word == "import") {

@@ -16,9 +16,11 @@ namespace backbeat {
 class ConsolePlayer {
  public:
   /// `career` plays on `store` with `shop`, and has been launched. `colour` adds the terminal's colours to what is
-  /// printed. `now` gives the time of each press, in milliseconds since 1970.
-  ConsolePlayer(TraceRecorder& career, CareerStore& store, FreeShop& shop, LineInput input, std::ostream& out,
-                bool colour, std::function<int64_t()> now);
+  /// printed. `now` gives the time of each press, in milliseconds since 1970; `columns` how wide the terminal is just
+  /// now.
+  ConsolePlayer(
+      TraceRecorder& career, CareerStore& store, FreeShop& shop, LineInput input, std::ostream& out, bool colour,
+      std::function<int64_t()> now, std::function<size_t()> columns = [] { return widestPage; });
 
   /// Plays until the player quits or the input ends.
   void run();
@@ -51,6 +53,7 @@ class ConsolePlayer {
   std::ostream& out_;
   bool colour_;
   std::function<int64_t()> now_;
+  std::function<size_t()> columns_;
   Shown shown_;
   PrintedScreen printed_;
   std::string noticeTold_;

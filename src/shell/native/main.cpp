@@ -1,4 +1,5 @@
 // The game on a computer.
+#include <sys/ioctl.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -63,6 +64,13 @@ int fail(const std::string& why) {
 
 bool isTerminal(int file) { return isatty(file) != 0; }
 
+/// How wide the player's terminal is just now; where that is not known, as wide as a page can be.
+size_t terminalColumns() {
+  winsize size = {};
+  if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0) return widestPage;
+  return size.ws_col;
+}
+
 /// Whether anything was kept there before.
 bool holdsCareer(Store& store) {
   bool found = false;
@@ -97,7 +105,8 @@ int play(const CommandLine& line) {
   const bool colour = isTerminal(STDOUT_FILENO) && environment("NO_COLOR").empty();
   const bool atTerminal = isTerminal(STDIN_FILENO) && isTerminal(STDOUT_FILENO);
   LineInput input = atTerminal ? linesFromTerminal() : linesFrom(std::cin);
-  ConsolePlayer(career, *opened.store, platform, std::move(input), std::cout, colour, unixMilliseconds).run();
+  ConsolePlayer(career, *opened.store, platform, std::move(input), std::cout, colour, unixMilliseconds, terminalColumns)
+      .run();
   if (!line.trace.empty() && !trace) return fail("the trace " + line.trace + " is not complete.");
   if (career.session().game().saveFile.failing()) return fail("the last steps could not be saved.");
   return done;

@@ -11,7 +11,7 @@ namespace {
 /// One of several, as a list or as plans with what they hold.
 void print(PrintedPage& page, const Option& option, size_t number, bool chosen, size_t labelColumns) {
   Inked left = page.inked(0).add(paddedBefore(std::to_string(number), 8)).add(chosen ? " ✓ " : "   ");
-  left.add(oneLine(option.label, 40), colourOf(option.tone));
+  left.add(oneLine(option.label, 40) + lockOf(option.tone), colourOf(option.tone));
   Inked right = page.inked(0);
   const auto add = [&](const Inked& part) {
     if (part.columns() > 0) right.add(right.columns() > 0 ? "  " : "").add(part);
@@ -28,7 +28,8 @@ void print(PrintedPage& page, const Option& option, size_t number, bool chosen, 
 
 void print(PrintedPage& page, const Button& button) {
   Inked label = page.inked().add(page.numberOf(button.id, button.label));
-  page.put(label.add(oneLine(button.label, 50), colourOf(button.tone)), page.price(button.price), 0);
+  label.add(oneLine(button.label, 50) + lockOf(button.tone), colourOf(button.tone));
+  page.put(std::move(label), page.price(button.price), 0);
 }
 
 void print(PrintedPage& page, const TextField& field) {
@@ -38,7 +39,7 @@ void print(PrintedPage& page, const TextField& field) {
   typed.label = field.label;
   typed.maxLength = field.maxLength;
   Inked line = page.inked().add(page.number(std::move(typed))).add(oneLine(field.label, 30) + ": ");
-  const size_t room = pageWidth - line.columns() - 2;
+  const size_t room = page.width() - line.columns() - 2;
   page.put(field.value.empty() ? line.add("(" + oneLine(field.placeholder, room) + ")", faint)
                                : line.add("\"" + oneLine(field.value, room) + "\""));
   if (!field.suggest.empty()) page.line("  " + page.numberOf(field.suggest, "a suggestion") + "Suggest one");
@@ -63,7 +64,9 @@ void print(PrintedPage& page, const Choice& choice) {
   chosen.options = static_cast<int64_t>(choice.options.size());
   page.line("  " + page.number(std::move(chosen)) + oneLine(choice.label, 60));
   size_t columns = 0;
-  for (const Option& option : choice.options) columns = std::max(columns, columnsOf(oneLine(option.label, 40)));
+  for (const Option& option : choice.options) {
+    columns = std::max(columns, columnsOf(oneLine(option.label, 40) + lockOf(option.tone)));
+  }
   for (size_t i = 0; i < choice.options.size(); ++i) {
     print(page, choice.options[i], i + 1, static_cast<int64_t>(i) == choice.selected, columns);
   }
@@ -80,7 +83,7 @@ void print(PrintedPage& page, const Toggle& toggle) {
 }
 
 void print(PrintedPage& page, const Slider& slider) {
-  constexpr size_t railColumns = 24;
+  const size_t railColumns = page.barColumns() + 4;
   Pressable moved;
   moved.action = {slider.id, std::to_string(slider.at)};
   moved.takes = Pressable::Takes::option;
@@ -105,7 +108,7 @@ void print(PrintedPage& page, const Stepper& stepper) {
   if (stepper.canMore) ways.add(page.numberOf(stepper.id, stepper.label + ": more", "1")).add("more");
   Inked line = page.inked().add(oneLine(stepper.label, 30) + ": ").add(oneLine(stepper.value, 20), bold);
   page.put(line, ways, 0);
-  if (!stepper.note.empty()) page.put(page.inked(6).add(oneLine(stepper.note, pageWidth - 6), faint));
+  if (!stepper.note.empty()) page.put(page.inked(6).add(oneLine(stepper.note, page.width() - 6), faint));
 }
 
 }  // namespace backbeat

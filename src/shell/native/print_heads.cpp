@@ -8,10 +8,10 @@ namespace {
 /// What every head begins with: a small line, the title, and what stands beside it.
 void printTitle(PrintedPage& page, const std::string& kicker, const std::string& title, const std::string& beside) {
   page.line("");
-  if (!kicker.empty()) page.put(page.inked().add(oneLine(kicker, pageWidth - 2), faint));
+  if (!kicker.empty()) page.put(page.inked().add(oneLine(kicker, page.width() - 2), faint));
   const Inked right = page.inked(0).add(oneLine(beside, 30), bold);
   if (!title.empty()) {
-    page.put(page.inked().add(oneLine(title, pageWidth - 2), bold), right, 0);
+    page.put(page.inked().add(oneLine(title, page.width() - 2), bold), right, 0);
   } else if (!beside.empty()) {
     page.put(page.inked().add(right));
   }

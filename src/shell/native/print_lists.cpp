@@ -12,6 +12,10 @@ namespace {
 constexpr size_t underTitle = 6;
 constexpr size_t valuesBegin = 52;
 constexpr size_t sideBySide = 12;  // columns of a note or value that has a head
+constexpr size_t narrowTable = 60;
+
+/// Where the two columns under heads begin.
+size_t headsBegin(const PrintedPage& page) { return std::min(valuesBegin, page.width() - 2 * sideBySide); }
 
 bool looksLikeANumber(const std::string& cell) {
   const size_t start = cell.find_first_not_of("-+$#");
@@ -20,7 +24,7 @@ bool looksLikeANumber(const std::string& cell) {
 
 Inked titleOf(PrintedPage& page, const Row& row, size_t columns) {
   Inked title = page.inked().add(page.numberOf(row.id, row.title)).add(row.selected ? "✓ " : "");
-  const std::string badge = row.badge.empty() ? "" : " (" + oneLine(row.badge, 16) + ")";
+  const std::string badge = (row.badge.empty() ? "" : " (" + oneLine(row.badge, 16) + ")") + lockOf(row.tone);
   const size_t taken = title.columns() + columnsOf(badge);
   return title.add(oneLine(row.title, columns - taken)).add(badge);
 }
@@ -33,7 +37,7 @@ Inked endsOf(PrintedPage& page, const Row& row) {
   };
   add(page.inked(0).add(spark(row.points, 12)));
   add(page.inked(0).add(oneLine(row.value, 24), colourOf(row.tone)));
-  add(page.inked(0).add(oneLine(row.note, 18)));
+  add(page.inked(0).add(oneLine(row.note, 22)));
   add(page.price(row.price));
   return ends;
 }
@@ -46,18 +50,22 @@ Inked sideBySideOf(PrintedPage& page, const std::string& note, const std::string
 }
 
 void print(PrintedPage& page, const Row& row, bool underHeads) {
+  // On a narrow page little would be left of a title beside two columns: they stand below it.
+  const bool beside = page.width() >= narrowTable;
+  const size_t room = underHeads && beside ? headsBegin(page) - 2 : page.width();
+  Inked title = titleOf(page, row, room);
   if (underHeads) {
-    page.put(titleOf(page, row, valuesBegin - 2), sideBySideOf(page, row.note, row.value, row.tone), valuesBegin);
+    page.put(std::move(title), sideBySideOf(page, row.note, row.value, row.tone), headsBegin(page));
   } else {
-    page.put(titleOf(page, row, pageWidth), endsOf(page, row), valuesBegin);
+    page.put(std::move(title), endsOf(page, row), valuesBegin);
   }
   // The lines of a subtitle are kept where the row is one of a table: the last says most.
   if (underHeads) {
     page.paragraph(row.subtitle, faint, underTitle);
   } else if (!row.subtitle.empty()) {
-    page.put(page.inked(underTitle).add(oneLine(row.subtitle, pageWidth - underTitle), faint));
+    page.paragraph(oneLine(row.subtitle, 2 * (page.width() - underTitle)), faint, underTitle);
   }
-  if (row.share) page.put(page.inked(underTitle).add(bar(*row.share, 20)));
+  if (row.share) page.put(page.inked(underTitle).add(bar(*row.share, page.barColumns())));
   printActions(page, row.actions);
 }
 
@@ -65,30 +73,31 @@ void print(PrintedPage& page, const Row& row, bool underHeads) {
 void printWindow(PrintedPage& page, const Rows& rows) {
   const auto count = static_cast<int64_t>(rows.items.size());
   if (rows.total <= count) return;
-  std::string text =
-      withCommas(rows.from + 1) + " to " + withCommas(rows.from + count) + " of " + withCommas(rows.total);
+  Inked ways = page.inked(0);
   const auto window = [&](const char* label, int64_t from, bool earlier) {
     Pressable pressable;
     pressable.action = {rows.id, std::to_string(from)};
     pressable.takes = Pressable::Takes::row;
     pressable.label = label;
     pressable.earlier = earlier;
-    text += "  " + page.number(std::move(pressable)) + label;
+    ways.add(ways.columns() > 0 ? "  " : "").add(page.number(std::move(pressable)) + label, faint);
   };
   if (rows.from > 0) window("earlier", std::max(rows.from - ListWindow::pageSize, int64_t{0}), true);
   if (rows.from + count < rows.total) window("more", rows.from + count, false);
-  page.put(page.inked().add(text, faint));
+  const std::string shown =
+      withCommas(rows.from + 1) + " to " + withCommas(rows.from + count) + " of " + withCommas(rows.total);
+  page.put(page.inked().add(shown, faint), ways, 0);
 }
 
 /// The widest that a column may be so that all of them fit side by side.
-size_t widestColumn(const std::vector<size_t>& widths, size_t gap) {
+size_t widestColumn(const std::vector<size_t>& widths, size_t gap, size_t room) {
   size_t widest = 28;
   const auto taken = [&] {
     size_t sum = PrintedPage::blockMargin;
     for (const size_t width : widths) sum += std::min(width, widest) + gap;
     return sum - gap;
   };
-  while (widest > 3 && taken() > pageWidth) --widest;
+  while (widest > 3 && taken() > room) --widest;
   return widest;
 }
 
@@ -108,7 +117,7 @@ void print(PrintedPage& page, const Tree::Person& person, const Tree& tree) {
   };
   tie("with ", nameOf(person.beside));
   tie("child of ", nameOf(person.parent));
-  page.put(line, page.inked(0).add(oneLine(ties, pageWidth - underTitle), faint), 0);
+  page.put(line, page.inked(0).add(oneLine(ties, page.width() - underTitle), faint), 0);
 }
 
 }  // namespace
@@ -130,7 +139,7 @@ void print(PrintedPage& page, const Rows& rows) {
   if (heads) {
     const std::string& first = rows.columns.front();
     const Inked names = sideBySideOf(page, rows.columns.size() > 1 ? first : "", rows.columns.back(), Tone::locked);
-    page.put(page.inked(valuesBegin).add(names));
+    page.put(page.inked(headsBegin(page)).add(names));
   }
   for (const Row& row : rows.items) print(page, row, heads);
   printWindow(page, rows);
@@ -146,11 +155,11 @@ void print(PrintedPage& page, const Table& table) {
     widths.resize(std::max(widths.size(), cells[r].size()));
     numeric.resize(widths.size(), true);
     for (size_t c = 0; c < cells[r].size(); ++c) {
-      widths[c] = std::max(widths[c], columnsOf(oneLine(cells[r][c], pageWidth)));
+      widths[c] = std::max(widths[c], columnsOf(oneLine(cells[r][c], page.width())));
       if (r > 0 && !looksLikeANumber(cells[r][c])) numeric[c] = false;
     }
   }
-  const size_t widest = widestColumn(widths, gap);
+  const size_t widest = widestColumn(widths, gap, page.width());
   for (size_t r = 0; r < cells.size(); ++r) {
     std::string text;
     for (size_t c = 0; c < cells[r].size(); ++c) {
@@ -159,7 +168,7 @@ void print(PrintedPage& page, const Table& table) {
       text += (numeric[c] && c > 0 ? paddedBefore(cell, width) : padded(cell, width)) + std::string(gap, ' ');
     }
     text.resize(text.find_last_not_of(' ') + 1);
-    page.put(page.inked().add(oneLine(text, pageWidth - PrintedPage::blockMargin), r == 0 ? faint : ""));
+    page.put(page.inked().add(oneLine(text, page.width() - PrintedPage::blockMargin), r == 0 ? faint : ""));
   }
 }
 

@@ -13,8 +13,8 @@ void printActions(PrintedPage& page, const std::vector<RowAction>& actions) {
   Inked line = page.inked(margin);
   for (const RowAction& action : actions) {
     const std::string number = page.numberOf(action.id, action.label);
-    const std::string label = oneLine(action.label, 40);
-    if (line.columns() + 2 + columnsOf(number) + columnsOf(label) > pageWidth) {
+    const std::string label = oneLine(action.label, 40 - margin) + lockOf(action.tone);
+    if (line.columns() + 2 + columnsOf(number) + columnsOf(label) > page.width()) {
       page.put(line);
       line = page.inked(margin);
     }
@@ -28,7 +28,7 @@ void print(PrintedPage& page, const Heading& heading) {
   Inked link = page.inked(0);
   if (heading.link)
     link.add(page.numberOf(heading.link->id, heading.link->label)).add(oneLine(heading.link->label, 30));
-  page.put(page.inked(0).add(oneLine(heading.text, pageWidth), bold), link, 0);
+  page.put(page.inked(0).add(oneLine(heading.text, page.width()), bold), link, 0);
 }
 
 void print(PrintedPage& page, const Text& text) { page.paragraph(text.text, colourOf(text.tone)); }

@@ -1,5 +1,6 @@
 #include "shell/native/printed_page.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/money.h"
@@ -19,17 +20,17 @@ const char* colourOf(Tone tone) {
   return "";
 }
 
+const char* lockOf(Tone tone) { return tone == Tone::locked ? " (locked)" : ""; }
+
 Inked& Inked::add(std::string_view text, const char* code) {
-  const bool painted = colour_ && *code != '\0' && !text.empty();
-  if (painted) text_ += code;
-  text_ += text;
-  if (painted) text_ += "\x1b[0m";
+  if (text.empty()) return *this;
+  pieces_.push_back({std::string(text), code});
   columns_ += columnsOf(text);
   return *this;
 }
 
 Inked& Inked::add(const Inked& other) {
-  text_ += other.text_;
+  pieces_.insert(pieces_.end(), other.pieces_.begin(), other.pieces_.end());
   columns_ += other.columns_;
   return *this;
 }
@@ -39,28 +40,59 @@ Inked& Inked::to(size_t column) {
   return *this;
 }
 
-Inked PrintedPage::inked(size_t margin) const { return Inked(colour_).to(margin); }
+Inked& Inked::cut(size_t columns) {
+  if (columns_ <= columns) return *this;
+  constexpr size_t leastCut = 3;  // a wide letter and "…"
+  const auto begin = [&] { return columns_ - columnsOf(pieces_.back().text); };
+  while (begin() + leastCut > columns) {
+    columns_ = begin();
+    pieces_.pop_back();
+  }
+  columns_ = begin();
+  pieces_.back().text = oneLine(pieces_.back().text + " …", columns - columns_);
+  columns_ += columnsOf(pieces_.back().text);
+  return *this;
+}
 
-void PrintedPage::put(const Inked& line) {
-  printed_.text += line.text();
+std::string Inked::text(bool colour) const {
+  std::string text;
+  for (const Piece& piece : pieces_) {
+    const bool painted = colour && *piece.code != '\0';
+    text += painted ? piece.code + piece.text + "\x1b[0m" : piece.text;
+  }
+  return text;
+}
+
+PrintedPage::PrintedPage(const Navigator& navigator, int64_t screenKey, bool colour, size_t width)
+    : navigator_(navigator),
+      screenKey_(std::to_string(screenKey)),
+      colour_(colour),
+      width_(std::clamp(width, narrowestPage, widestPage)) {}
+
+Inked PrintedPage::inked(size_t margin) { return Inked().to(margin); }
+
+void PrintedPage::put(Inked line) {
+  printed_.text += line.cut(width_).text(colour_);
   printed_.text += '\n';
 }
 
 void PrintedPage::put(Inked left, const Inked& right, size_t at) {
   constexpr size_t gap = 2;
-  if (right.columns() == 0) return put(left);
-  if (std::max(left.columns() + gap, at) + right.columns() <= pageWidth) {
-    return put(left.to(left.columns() + gap).to(at).add(right));
+  constexpr size_t ownLine = 6;
+  if (right.columns() == 0) return put(std::move(left));
+  const size_t begin = std::min(at, width_ - std::min(right.columns(), width_));
+  if (left.columns() + gap + right.columns() <= width_) {
+    return put(left.to(left.columns() + gap).to(begin).add(right));
   }
-  put(left);
-  put(inked(std::min(at, pageWidth - std::min(right.columns(), pageWidth))).add(right));
+  put(std::move(left));
+  put(inked(std::max(begin, std::min(ownLine, width_ - std::min(right.columns(), width_)))).add(right));
 }
 
 void PrintedPage::line(std::string_view text, const char* code) { put(inked(0).add(text, code)); }
 
 void PrintedPage::paragraph(std::string_view text, const char* code, size_t margin) {
   if (text.empty()) return;
-  for (const std::string& part : wrapped(text, pageWidth - margin)) put(inked(margin).add(part, code));
+  for (const std::string& part : wrapped(text, width_ - margin)) put(inked(margin).add(part, code));
 }
 
 void PrintedPage::facts(const std::vector<Fact>& facts, size_t margin) {
@@ -70,7 +102,7 @@ void PrintedPage::facts(const std::vector<Fact>& facts, size_t margin) {
     const std::string value = oneLine(fact.value, 34);
     Inked told = inked(0).add(label, faint).add(label.empty() || value.empty() ? "" : " ");
     told.add(value, colourOf(fact.tone));
-    if (line.columns() > margin && line.columns() + 3 + told.columns() > pageWidth) {
+    if (line.columns() > margin && line.columns() + 3 + told.columns() > width_) {
       put(std::exchange(line, inked(margin)));
     }
     line.add(line.columns() > margin ? " · " : "").add(told);

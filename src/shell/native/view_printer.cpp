@@ -1,5 +1,8 @@
 #include "shell/native/view_printer.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "shell/native/print_blocks.h"
 #include "shell/native/terminal_text.h"
 
@@ -9,20 +12,25 @@ namespace {
 
 void printHeader(PrintedPage& page, const Shown& shown) {
   const Header& header = shown.header;
-  page.put(
-      page.inked(0).add(header.cash, colourOf(header.cashTone)).add(" · ⚡ " + header.energy + " · " + header.date));
+  Inked line = page.inked(0).add(header.cash, colourOf(header.cashTone)).add(" · ⚡ " + header.energy);
+  if (line.columns() + 3 + columnsOf(header.date) > page.width()) {
+    page.put(std::exchange(line, page.inked(0).add(header.date)));
+  } else {
+    line.add(" · " + header.date);
+  }
+  page.put(std::move(line));
   std::string bar;
   for (size_t i = 0; i < tabCount; ++i) {
     const std::string label(tabs()[i].label);
     const std::string badge = shown.badges[i].empty() ? "" : " (" + oneLine(shown.badges[i], 8) + ")";
     bar += (i == 0 ? "" : "  ") + (i == shown.tab ? "<" + label + ">" : label) + badge;
   }
-  page.line(bar, faint);
+  page.paragraph(bar, faint, 0);
 }
 
 void printTitle(PrintedPage& page, const View& view) {
   page.line("");
-  page.line(oneLine(view.title, pageWidth), bold);
+  page.line(oneLine(view.title, page.width()), bold);
   page.paragraph(view.subtitle, faint, 0);
   if (!view.pictureId.empty()) page.line("  " + page.numberOf(view.pictureId, "Portrait") + "(your portrait)", faint);
 }
@@ -32,7 +40,7 @@ void printFoot(PrintedPage& page, const View& view) {
   if (!view.totals.empty() || view.mainAction || view.aside) page.line("");
   for (const Total& total : view.totals) {
     Inked value = page.inked(0).add((total.energy ? "⚡ " : "") + oneLine(total.value, 30), colourOf(total.tone));
-    if (total.share) value.add("  ").add(bar(*total.share, 20), colourOf(total.tone));
+    if (total.share) value.add("  ").add(bar(*total.share, page.barColumns()), colourOf(total.tone));
     page.put(page.inked().add(oneLine(total.label, 30)), value, 34);
   }
   if (view.mainAction) print(page, *view.mainAction);
@@ -42,7 +50,7 @@ void printFoot(PrintedPage& page, const View& view) {
 void printAlert(PrintedPage& page, const Shown::ShownAlert& shown) {
   page.forgetPressables();
   page.line("");
-  page.line("──────── " + oneLine(shown.alert.title, pageWidth - 10), bold);
+  page.line("──────── " + oneLine(shown.alert.title, page.width() - 10), bold);
   std::string_view message = shown.alert.message;
   if (message.starts_with('\n')) message.remove_prefix(1);
   page.paragraph(message);
@@ -51,14 +59,14 @@ void printAlert(PrintedPage& page, const Shown::ShownAlert& shown) {
     button.screenKey = "alert";
     button.action = {std::to_string(shown.key), std::to_string(i)};
     button.label = shown.alert.buttons[i].label;
-    page.line(page.number(button) + oneLine(button.label, pageWidth - 8));
+    page.line(page.number(button) + oneLine(button.label, page.width() - 8));
   }
 }
 
 }  // namespace
 
-PrintedScreen printScreen(const Navigator& navigator, const Shown& shown, bool colour) {
-  PrintedPage page(navigator, shown.key, colour);
+PrintedScreen printScreen(const Navigator& navigator, const Shown& shown, bool colour, size_t columns) {
+  PrintedPage page(navigator, shown.key, colour, columns);
   page.paragraph(shown.notice, colourOf(Tone::warning), 0);
   if (!shown.modal) printHeader(page, shown);
   printTitle(page, shown.view);
@@ -68,10 +76,11 @@ PrintedScreen printScreen(const Navigator& navigator, const Shown& shown, bool c
   return page.take();
 }
 
-std::string printHelp(const View& view) {
+std::string printHelp(const View& view, size_t columns) {
   if (!view.help) return "There is nothing more to say about this screen.\n";
-  std::string text = oneLine(view.help->title, pageWidth) + "\n";
-  for (const std::string& part : wrapped(view.help->text, pageWidth)) text += part + "\n";
+  const size_t width = std::clamp(columns, narrowestPage, widestPage);
+  std::string text = oneLine(view.help->title, width) + "\n";
+  for (const std::string& part : wrapped(view.help->text, width)) text += part + "\n";
   return text;
 }
 

@@ -33,10 +33,14 @@ struct PrintedScreen {
   std::vector<Pressable> pressables;  ///< number 1 first; while an alert stands, its buttons alone
 };
 
-/// The screen in at most 80 columns. `colour` adds the terminal's colours.
-PrintedScreen printScreen(const Navigator& navigator, const Shown& shown, bool colour);
+/// No page is wider, on whatever terminal; on one that is narrower than the narrowest page, lines break as they may.
+inline constexpr size_t widestPage = 80;
+inline constexpr size_t narrowestPage = 40;
+
+/// The screen on a terminal so many columns wide. `colour` adds the terminal's colours.
+PrintedScreen printScreen(const Navigator& navigator, const Shown& shown, bool colour, size_t columns = widestPage);
 
 /// The help behind a screen's information button; one line that says so when it has none.
-std::string printHelp(const View& view);
+std::string printHelp(const View& view, size_t columns = widestPage);
 
 }  // namespace backbeat

@@ -56,8 +56,8 @@ void ForbesDetailViewController::describeFortune(View& view) const {
   const double change = visit_.change;
   view.add(Chart{.title = "Real Time Net Worth",
                  .value = abbreviatedDollars(visit_.netWorth),
-                 .note = sinceLastVisit(change),
-                 .tone = toneOfChange(change)});
+                 .note = visit_.isFirst ? "" : sinceLastVisit(change),
+                 .tone = visit_.isFirst ? Tone::plain : toneOfChange(change)});
   const double ventures = venturesValue(state());
   const double property = propertiesValue(state());
   const double garage = transportationValue(state());
