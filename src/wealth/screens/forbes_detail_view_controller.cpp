@@ -22,9 +22,10 @@ Row lineOf(std::string label, std::string value, std::string about = {}) {
   return {.title = std::move(label), .subtitle = std::move(about), .value = std::move(value)};
 }
 
-std::string sinceLastVisit(double change) {
-  const std::string amount = abbreviatedDollars(std::fabs(change));
-  const std::string said = amount == "$0" ? "unchanged" : (change < 0 ? "down " : "up ") + amount;
+std::string changeOf(const RichListVisit& visit) {
+  const std::string amount = abbreviatedDollars(std::fabs(visit.change));
+  const std::string said = amount == "$0" ? "unchanged" : (visit.change < 0 ? "down " : "up ") + amount;
+  if (visit.isFirst) return amount == "$0" ? "" : said + " from nothing";
   return said + " since your last visit";
 }
 
@@ -53,11 +54,10 @@ View ForbesDetailViewController::view() const {
 }
 
 void ForbesDetailViewController::describeFortune(View& view) const {
-  const double change = visit_.change;
   view.add(Chart{.title = "Real Time Net Worth",
                  .value = abbreviatedDollars(visit_.netWorth),
-                 .note = visit_.isFirst ? "" : sinceLastVisit(change),
-                 .tone = visit_.isFirst ? Tone::plain : toneOfChange(change)});
+                 .note = changeOf(visit_),
+                 .tone = toneOfChange(visit_.change)});
   const double ventures = venturesValue(state());
   const double property = propertiesValue(state());
   const double garage = transportationValue(state());
