@@ -98,9 +98,9 @@ export class Game implements Player {
     return false;
   }
 
-  /** Has the engine's parts ready before they are first needed; nothing waits for it. */
-  async rehearse(): Promise<void> {
-    await rehearseInWorker(await this.module);
+  /** Has the engine's parts ready before they are first needed; nothing waits for it. Gives samples of its screens. */
+  async rehearse(): Promise<View[]> {
+    return rehearseInWorker(await this.module);
   }
 
   act(screen: PressScreen, id: string, value = ""): void {

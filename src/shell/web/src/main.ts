@@ -37,7 +37,7 @@ async function begin(steal: boolean): Promise<void> {
     document.querySelector("backbeat-app, .full-notice")!.replaceWith(app);
     if (import.meta.env.PROD) void offerUpdates(game);
     await painted();
-    void game.rehearse();
+    app.lookAhead(game.rehearse()).catch(() => {}); // then first visits take a little longer
   } catch (fault) {
     tellBroken(fault);
   }

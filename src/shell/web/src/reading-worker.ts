@@ -1,6 +1,7 @@
 /** Where a career file is read and tried, and a life rehearsed: away from the page, on engines of its own. */
 import { Engine, type Import } from "./engine";
 import type { Heard, Told } from "./reading";
+import { samplesOf } from "./samples";
 import { rehearse, trialProblem } from "./trial";
 
 let module: WebAssembly.Module;
@@ -20,8 +21,7 @@ async function obey(told: Told): Promise<void> {
   } else if ("rows" in told) {
     (await engine).hold(told.rows);
   } else if ("rehearsal" in told) {
-    rehearse(await engine, told.rehearsal);
-    tell({ read: null });
+    tell({ samples: samplesOf(rehearse(await engine, told.rehearsal)) });
   } else {
     const read = await readAndTry(told.file, told.now).catch((fault: unknown) => {
       console.warn("The file stopped the engine.", fault);

@@ -1,4 +1,5 @@
 import type { Import } from "./engine";
+import type { View } from "./protocol";
 import type { KeptCopy } from "./save";
 import type { StoredRow } from "./rows";
 
@@ -9,8 +10,11 @@ export type Told =
   | { file: Uint8Array; now: number }
   | { rehearsal: number };
 
-/** What it tells: the step that it begins, and at the end what is in the file, or null when that stopped an engine. */
-export type Heard = { step: number } | { read: Import | null };
+/**
+ * What it tells: the step that it begins, and at the end what is in the file, or null when that stopped an engine; of a
+ * rehearsal samples of all that was seen.
+ */
+export type Heard = { step: number } | { read: Import | null } | { samples: View[] };
 
 /** The steps, as the player sees them. */
 export const steps = ["Reading the file", "Launching its career", "Ending a week of it"];
@@ -46,7 +50,8 @@ export function readInWorker(
     signal.addEventListener("abort", () => resolve(null));
     worker.onerror = failed;
     worker.onmessage = ({ data }: MessageEvent<Heard>) => {
-      if ("read" in data) return resolve(data.read);
+      if ("read" in data) resolve(data.read);
+      if (!("step" in data)) return;
       step = data.step;
       onStep(step);
     };
@@ -60,15 +65,16 @@ export function readInWorker(
 
 /**
  * Plays a first week in a worker and forgets it. A browser compiles each part of the engine when it is first needed, once
- * for all that run on that module: the player's first report need not wait for that.
+ * for all that run on that module: the player's first report need not wait for that. Gives samples of the screens that
+ * were seen.
  */
-export async function rehearseInWorker(module: WebAssembly.Module): Promise<void> {
-  await readInWorker(
-    async (tell) => {
-      tell({ module, copies: [] });
-      tell({ rehearsal: Date.now() });
-    },
-    () => {},
-    new AbortController().signal,
-  );
+export function rehearseInWorker(module: WebAssembly.Module): Promise<View[]> {
+  const worker = new Worker(new URL("./reading-worker.ts", import.meta.url), { type: "module" });
+  const rehearsal = new Promise<View[]>((resolve) => {
+    worker.onerror = () => resolve([]);
+    worker.onmessage = ({ data }: MessageEvent<Heard>) => resolve("samples" in data ? data.samples : []);
+    worker.postMessage({ module, copies: [] } satisfies Told);
+    worker.postMessage({ rehearsal: Date.now() } satisfies Told);
+  });
+  return rehearsal.finally(() => worker.terminate());
 }

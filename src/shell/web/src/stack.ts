@@ -77,7 +77,7 @@ export class Stack {
 
   /** Takes the root of a tab that nobody has seen yet. */
   foresee(tab: number, view: View): void {
-    this.kept.set(tab, [{ ...fresh(view.key), view, endWeek: true, ahead: true }]);
+    this.kept.set(tab, [{ ...unseen(view), endWeek: true }]);
   }
 
   /** Whether it is the first screen of its tab. */
@@ -104,6 +104,11 @@ export class Stack {
     if (this.layers.includes(was)) return { motion: "push", leaving: null };
     return { motion: "fade", leaving: null };
   }
+}
+
+/** A layer for a screen that is drawn before anybody asks for it. */
+export function unseen(view: View): Layer {
+  return { ...fresh(view.key), view, ahead: true };
 }
 
 function fresh(key: number): Layer {

@@ -1,5 +1,5 @@
 import { EngineFault, type Engine } from "./engine";
-import type { Answer, PressScreen } from "./protocol";
+import type { Answer, PressScreen, View } from "./protocol";
 import { isOrder, type Row, type StoredRow } from "./rows";
 
 const mostAlerts = 200; // more than a launch ever has to say
@@ -23,6 +23,24 @@ class Rehearsal {
 
   endTheWeek(): void {
     ({ answer: this.answer } = this.engine.act(this.now, "nav", "endTheWeekButton", ""));
+  }
+
+  /** Writes a text into the first field of a screen and presses its main button. */
+  fillIn(text: string): void {
+    const { key, blocks = [], mainAction } = this.answer.view;
+    const field = blocks.find((block) => block.kind === "field");
+    if (!field || !mainAction) throw new Error("Nothing can be filled in here.");
+    this.press(key, field.id, text);
+    this.press(key, mainAction.id);
+  }
+
+  /** Where a press leads, and back again. */
+  lookInto(id: string): View[] {
+    this.press(this.answer.view.key, id);
+    const { stack = [], view } = this.answer;
+    if (stack.length < 2) return [];
+    this.press("nav", "back");
+    return [view];
   }
 
   private agree(): void {
@@ -54,15 +72,32 @@ export function trialProblem(engine: Engine, batch: Row[], now: number, onStep: 
   }
 }
 
-/** Plays a throw-away life on a fresh engine: its name, all tabs, its first report. */
-export function rehearse(engine: Engine, now: number): void {
+/**
+ * Plays a throw-away life on a fresh engine: its name, its first report, a song, and all that the tabs lead to. Gives the
+ * screens that it came by.
+ */
+export function rehearse(engine: Engine, now: number): View[] {
   const life = new Rehearsal(engine, now);
-  const { key, blocks = [], mainAction } = life.answer.view;
-  const name = blocks.find((block) => block.kind === "field");
-  if (!name || !mainAction) throw new Error("A life no longer begins with a name.");
-  life.press(key, name.id, "Nova");
-  life.press(key, mainAction.id);
-  for (const tab of [1, 2, 3, 4, 0]) life.press("tabs", "tab", String(tab));
+  life.fillIn("Nova");
+  life.press("tabs", "tab", "0");
   life.endTheWeek();
   if (!life.answer.modal) throw new Error("The week of a new life cannot be ended.");
+  life.press(life.answer.view.key, life.answer.view.mainAction!.id);
+  life.press("tabs", "tab", "1");
+  life.press(life.answer.view.key, "createSongButton");
+  life.fillIn("Paper Lanterns");
+  return [1, 2, 3, 4, 0].flatMap((tab) => {
+    life.press("tabs", "tab", String(tab));
+    return [...idsIn(life.answer.view)].flatMap((id) => life.lookInto(id));
+  });
+}
+
+/** All that can be pressed there. */
+function idsIn(part: object): Set<string> {
+  const ids = new Set<string>();
+  for (const [name, value] of Object.entries(part)) {
+    if (name === "id") ids.add(value as string);
+    if (typeof value === "object" && value) for (const id of idsIn(value as object)) ids.add(id);
+  }
+  return ids;
 }

@@ -15,6 +15,12 @@ after(() => game.close());
 const holdIdleMoments = () => {
   const waiting = [];
   window.requestIdleCallback = (work) => waiting.push(work);
+  window.Worker = class extends Worker {
+    constructor(...from) {
+      super(...from);
+      this.addEventListener("message", () => setTimeout(() => (window.rehearsed = true)));
+    }
+  };
   window.idleMoment = () => waiting.splice(0).forEach((work) => work({}));
 };
 const idleMoment = async (page) => {
@@ -59,6 +65,28 @@ test("tabs are drawn ahead out of reach, and pressed they are as if they were ne
     assert.ok(kept, `${name} is drawn anew`);
   }
   await page.waitForFunction(() => window.counted.size > 2); // figures count when they are seen
+  assert.deepEqual(faults, []);
+  await context.close();
+});
+
+test("samples of other screens are drawn out of reach, and nothing of them stays", async () => {
+  const { page, context, faults } = await open(holdIdleMoments);
+  await page.waitForFunction(() => window.rehearsed); // its own samples are replaced by these
+  const samples = () => page.locator(".layer.ahead bb-blocks", { hasText: "A sample" });
+  await page.evaluate(() => {
+    const blocks = [{ kind: "text", text: "A sample" }];
+    document.querySelector("backbeat-app").ahead.rehearse([
+      { key: -1, blocks },
+      { key: -1, blocks },
+    ]);
+  });
+  const counts = new Set();
+  for (let moments = 0; moments < 500 && !(counts.has(1) && (await samples().count()) === 0); moments += 1) {
+    await idleMoment(page);
+    counts.add(await samples().count());
+  }
+  assert.deepEqual(counts, new Set([0, 1]));
+  assert.equal(await page.locator(".layer").count(), 5, "the tabs are there");
   assert.deepEqual(faults, []);
   await context.close();
 });

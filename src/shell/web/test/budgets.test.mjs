@@ -30,7 +30,7 @@ test("the page stays light on the line", async () => {
   const weigh = (pattern) => [...weights].reduce((sum, [name, size]) => sum + (pattern.test(name) ? size : 0), 0);
   const limits = [
     // All that has to be there before the first screen; the rest comes when it is asked for.
-    [/^(?!sw|portraits|drawings|late-glyphs|story-picture).*\.js$/, 94],
+    [/^(?!sw|portraits|drawings|late-glyphs|story-picture|ahead|reading-worker).*\.js$/, 92],
     [/^portraits.*\.js$/, 140],
     [/^drawings.*\.js$/, 25],
     [/^late-glyphs.*\.js$/, 18],

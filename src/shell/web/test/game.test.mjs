@@ -62,17 +62,20 @@ describe("the whole game", { skip: !existsSync(engine) && "the engine is not bui
     await context.close();
   });
 
-  test("a week is rehearsed in a worker, so that the first report finds the engine ready", async () => {
+  test("a week and what the tabs lead to are rehearsed in a worker, so that the engine is ready for them", async () => {
     const init = () => {
       window.Worker = class extends Worker {
         constructor(...from) {
           super(...from);
-          this.addEventListener("message", ({ data }) => (window.rehearsed = data.read === null));
+          this.addEventListener("message", ({ data }) => (window.rehearsed = data.samples));
         }
       };
     };
     const { page, context, faults } = await open({ init });
-    await page.waitForFunction(() => window.rehearsed);
+    const rehearsed = await page.waitForFunction(() => window.rehearsed);
+    const kinds = new Set((await rehearsed.jsonValue()).flatMap(({ blocks }) => blocks.map(({ kind }) => kind)));
+    for (const kind of ["field", "choice", "toggle", "photo", "cover", "tiles", "figures", "chart", "gauges", "meter"])
+      assert.ok(kinds.has(kind), `no ${kind} came by`);
     assert.equal(await page.getByRole("textbox", { name: "Artist name" }).inputValue(), "");
     assert.deepEqual(faults, []);
     await context.close();

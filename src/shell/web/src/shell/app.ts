@@ -12,8 +12,8 @@ import { glyph } from "../pictures/icons";
 import { picture } from "../pictures/picture";
 import type { Alert, Answer, Header, Picture, PressScreen, View } from "../protocol";
 import type { Scene, SheetContent } from "../scene";
-import { Stack, type Layer, type Step } from "../stack";
-import { Ahead } from "./ahead";
+import { Stack, unseen, type Layer, type Step } from "../stack";
+import type { Ahead } from "./ahead";
 import "./alert";
 import type { BlocksElement } from "./blocks";
 import "./blocks";
@@ -48,13 +48,7 @@ class AppElement extends LitElement {
     released: (back) => this.release(back),
   });
   private readonly backGesture = new BackGesture(() => this.deviceBack());
-  private readonly ahead = new Ahead({
-    inReach: () => this.room === "phone" && !this.stack.top!.modal && !this.alerting && !this.sheet,
-    resting: () => this.step.motion === "none" || !this.querySelector(".moving"),
-    begun: () =>
-      [...this.querySelectorAll<BlocksElement>(".layer.ahead bb-blocks")].find(({ foreseen }) => !foreseen) ?? null,
-    next: () => this.foresee(),
-  });
+  private ahead: Ahead | null = null;
   private seen: Answer | null = null;
   private drawn: Answer | null = null;
   private step: Step = { motion: "none", leaving: null };
@@ -67,7 +61,7 @@ class AppElement extends LitElement {
   private pulledShare = 0;
   private room: Room = room();
   private toldDesk = 0;
-  private asked = 0;
+  private sample: Layer | null = null;
 
   constructor() {
     super();
@@ -100,7 +94,7 @@ class AppElement extends LitElement {
     this.remember();
     if (this.launches !== this.player.launches) {
       this.stack = new Stack(); // the screens of another launch are gone
-      this.asked = 0;
+      this.ahead?.beginAnew();
     }
     this.launches = this.player.launches;
     const before = this.stack.top;
@@ -118,18 +112,43 @@ class AppElement extends LitElement {
     this.tellDesk();
   }
 
-  /** Takes the next root that nobody has seen; false when there is none left. */
-  private foresee(): boolean {
-    const { tabs = [] } = this.player.answer;
-    while (this.asked < tabs.length) {
-      const tab = this.asked++;
-      const view = this.player.ahead(tab);
-      if (!view) continue;
-      this.stack.foresee(tab, view);
-      this.requestUpdate();
-      return true;
+  /** Takes the root of a tab; false when somebody has opened it already. */
+  private foresee(tab: number): boolean {
+    const view = this.player.ahead(tab);
+    if (!view) return false;
+    this.stack.foresee(tab, view);
+    this.requestUpdate();
+    return true;
+  }
+
+  /** From now on what nobody has seen yet is drawn in idle moments: tabs, then samples of what other screens are made of. */
+  async lookAhead(samples: Promise<View[]>): Promise<void> {
+    const { Ahead } = await import("./ahead");
+    this.ahead = new Ahead({
+      inReach: () => this.room === "phone" && !this.stack.top!.modal && !this.alerting && !this.sheet,
+      resting: () => this.step.motion === "none" || !this.querySelector(".moving"),
+      unseen: () => this.unseen,
+      foresee: (tab) => this.foresee(tab),
+      hang: (sample) => this.hang(sample),
+    });
+    void this.ahead.goOn();
+    this.ahead.rehearse(await samples);
+  }
+
+  /** Has a sample drawn in the place of the one before; null takes the last one down. */
+  private hang(sample: View | null): void {
+    const { sample: before } = this;
+    const place = before && this.unseen.find(({ view }) => view === before.view);
+    if (place && sample) {
+      place.view = before.view = sample;
+      return;
     }
-    return false;
+    this.sample = sample && { ...unseen(sample), pushed: true };
+    this.requestUpdate();
+  }
+
+  private get unseen(): BlocksElement[] {
+    return [...this.querySelectorAll<BlocksElement>(".layer.ahead bb-blocks")];
   }
 
   private enterRoom(): void {
@@ -198,7 +217,8 @@ class AppElement extends LitElement {
     const { leaving } = this.step;
     const modal = top!.modal;
     // In an order in which none ever has to move: moved, it would lose its scroll position.
-    const shown = [...new Set(leaving ? [...everywhere, leaving] : everywhere)].sort((a, b) => a.key - b.key);
+    const layers = [...everywhere, leaving, this.sample].filter((layer) => layer !== null);
+    const shown = [...new Set(layers)].sort((a, b) => a.key - b.key);
     const { panels } = this;
     const { tabs = [], tab = 0, header = {} } = answer;
     const press = (tab: number): void => this.press("tabs", "tab", String(tab));
@@ -433,7 +453,7 @@ class AppElement extends LitElement {
 
   protected override updated(): void {
     const { answer } = this.player;
-    void this.ahead.goOn();
+    void this.ahead?.goOn();
     if (this.drawn === answer) return;
     this.drawn = answer;
     void this.settle(this.step);

@@ -39,8 +39,8 @@ class BlocksElement extends LitElement {
   }
 
   protected override willUpdate(changed: PropertyValues<this>): void {
-    if (!changed.has("ahead") || this.ahead) return;
-    this.reach = Math.max(this.reach, opening());
+    if (changed.has("view")) this.laidOut = false;
+    if (changed.has("ahead") && !this.ahead) this.reach = Math.max(this.reach, opening());
   }
 
   protected override render(): TemplateResult[] {
