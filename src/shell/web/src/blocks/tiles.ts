@@ -15,9 +15,11 @@ export function tilesBlock({ items = [] }: Tiles, scene: Scene): TemplateResult 
   </div>`;
 }
 
-/** How wide each tile has to be for the longest figure and the longest word of a label to stay whole, in rem. */
+/** How wide each tile has to be for the longest figure and the longest word to stay whole, in rem. */
 function needOf(items: Tile[]): number {
-  const needs = items.map(({ label = "", value = "" }) => Math.max(value.length * 0.47, longestWord(label) * 0.43));
+  const needs = items.map(({ label = "", value = "", note = "" }) =>
+    Math.max(value.length * 0.47, longestWord(label) * 0.43, longestWord(note) * 0.47),
+  );
   return Math.max(...needs);
 }
 
