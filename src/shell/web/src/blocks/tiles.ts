@@ -3,7 +3,7 @@ import { glyph, tintOf } from "../pictures/icons";
 import { picture } from "../pictures/picture";
 import type { Tile, Tiles } from "../protocol";
 import type { Scene } from "../scene";
-import { longestWord, toneClass } from "./parts";
+import { toneClass } from "./parts";
 
 /** Figures side by side: on small cards, bare in a line, or as actions once one of them has a price. */
 export function tilesBlock({ items = [] }: Tiles, scene: Scene): TemplateResult {
@@ -14,6 +14,8 @@ export function tilesBlock({ items = [] }: Tiles, scene: Scene): TemplateResult 
     ${items.map((item) => tile(item, scene))}
   </div>`;
 }
+
+const longestWord = (text: string): number => Math.max(...text.split(/[\s-]/).map((word) => word.length));
 
 /** How wide each tile has to be for the longest figure and the longest word to stay whole, in rem. */
 function needOf(items: Tile[]): number {
