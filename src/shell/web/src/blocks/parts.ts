@@ -10,9 +10,6 @@ export function toneClass(tone: Tone | undefined): string {
   return tone && tone !== "plain" ? `tone-${tone}` : "";
 }
 
-/** How many letters the longest word of a text has. */
-export const longestWord = (text: string): number => Math.max(...text.split(/[\s-]/).map((word) => word.length));
-
 /** What a press costs, as a pill. */
 export function pricePill(price: Price | undefined): Part {
   if (!price || (!price.energy && !price.dollars)) return nothing;

@@ -4,7 +4,7 @@ import { glyph } from "../pictures/icons";
 import type { PictureGrid, Row, Rows } from "../protocol";
 import type { Scene } from "../scene";
 import "./floor";
-import { actionMenu, badge, bar, longestWord, pricePill, reveal, toneClass } from "./parts";
+import { actionMenu, badge, bar, pricePill, reveal, toneClass } from "./parts";
 import { film, shelfItem, stop, stripItem, wireLine } from "./row-styles";
 import { spark } from "./spark";
 
@@ -69,9 +69,12 @@ const stripLook = (items: Row[]): string => `of-${items[0]?.picture?.kind ?? "no
 /** A row with a bar and a price is one that is taken and given back: its check mark sits on its picture. */
 const isTaken = ({ share, price }: Row): boolean => share !== undefined && price !== undefined;
 
+/** A word that large letters would break beside a picture. */
+const wideWord = /\p{Lu}{13}|[^\s-]{17}/u;
+
 function rowLook(row: Row): string {
   const { value = "", title = "" } = row;
-  const room = `${/[\d,.]{10}/.test(value) ? "large-sum" : ""} ${longestWord(title) > 13 ? "wordy" : ""}`;
+  const room = `${/[\d,.]{10}/.test(value) ? "large-sum" : ""} ${wideWord.test(title) ? "wordy" : ""}`;
   if (row.share === undefined) return room;
   if (!isTaken(row)) return `measured ${room}`;
   return row.selected ? "taking taken" : "taking";

@@ -3,7 +3,7 @@ import { glyph, tintOf } from "../pictures/icons";
 import { picture } from "../pictures/picture";
 import type { Tile, Tiles } from "../protocol";
 import type { Scene } from "../scene";
-import { longestWord, toneClass } from "./parts";
+import { toneClass } from "./parts";
 
 /** Figures side by side: on small cards, bare in a line, or as actions once one of them has a price. */
 export function tilesBlock({ items = [] }: Tiles, scene: Scene): TemplateResult {
@@ -15,9 +15,13 @@ export function tilesBlock({ items = [] }: Tiles, scene: Scene): TemplateResult 
   </div>`;
 }
 
-/** How wide each tile has to be for the longest figure and the longest word of a label to stay whole, in rem. */
+const longestWord = (text: string): number => Math.max(...text.split(/[\s-]/).map((word) => word.length));
+
+/** How wide each tile has to be for the longest figure and the longest word to stay whole, in rem. */
 function needOf(items: Tile[]): number {
-  const needs = items.map(({ label = "", value = "" }) => Math.max(value.length * 0.47, longestWord(label) * 0.43));
+  const needs = items.map(({ label = "", value = "", note = "" }) =>
+    Math.max(value.length * 0.47, longestWord(label) * 0.43, longestWord(note) * 0.47),
+  );
   return Math.max(...needs);
 }
 
