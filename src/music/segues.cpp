@@ -1,10 +1,6 @@
 #include "music/segues.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "core/money.h"
-#include "core/numbers.h"
 #include "music/covers.h"
 #include "music/news.h"
 #include "music/screens/add_to_album_view_controller.h"
@@ -22,8 +18,6 @@
 #include "music/screens/set_album_pricing_view_controller.h"
 #include "music/screens/song_chart_detail_view_controller.h"
 #include "music/screens/song_detail_view_controller.h"
-#include "music/song_creation.h"
-#include "music/streaming.h"
 
 namespace backbeat {
 
@@ -85,30 +79,8 @@ constexpr MenuLine menu[] = {
      .segue = "goToCertification"},
 };
 
-/// The next song, once nothing is in production and little left to play.
-void addSongNeed(const GameState& state, std::vector<Need>& needs) {
-  constexpr double weeksToSpare = 4;
-  if (state.totalCashAvailable < 0 || state.totalEnergyAvailable < songEnergy) return;
-  const RecordList<Song>& songs = state.saveAllSongList;
-  double longest = 0;
-  for (const uint32_t i : songs.awake()) {
-    if (!songs[i].isReleased) return;
-    longest = std::max(longest, remainingLife(state, songs[i]));
-  }
-  if (longest >= weeksToSpare) return;
-  const auto weeks = truncate(std::ceil(longest));
-  needs.push_back({.priority = 130,
-                   .picture = icon("note"),
-                   .title = songs.empty() ? "Write your first song" : "Write a new song",
-                   .subtitle = songs.empty() ? "It costs " + std::to_string(songEnergy) + " energy, and no money"
-                               : weeks > 0   ? "What you have out plays for " + counted(weeks, "week") + " more"
-                                             : "Nothing of yours is playing",
-                   .segue = "goToCreateASong"});
-}
-
 void addNeeds(const Game& game, std::vector<Need>& needs) {
   const GameState& state = game.state;
-  addSongNeed(state, needs);
   const Song* waiting = nullptr;
   const Song* falling = nullptr;
   for (const uint32_t i : state.saveAllSongList.awake()) {

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/needs.h"
 #include "music/builders.h"
 #include "music/guests.h"
 #include "music/production_options.h"
@@ -270,41 +269,6 @@ TEST(Guests, TheTableRisesAndRenamingKeepsTheRest) {
   EXPECT_EQ(guestTable(world.state).back(), expected);
   EXPECT_EQ(guestTable(world.state)[0], table[0]);
   EXPECT_EQ(cameoTable(world.state)[0].name, "Dad");
-}
-
-/// What home says of the next song; empty when it says nothing.
-std::string songNeed(const World& world) {
-  View home;
-  listNeeds(home, world.game);
-  for (const Block& block : home.blocks) {
-    const auto* rows = std::get_if<Rows>(&block);
-    if (!rows) continue;
-    for (const Row& row : rows->items) {
-      if (row.id == "goToCreateASong") return row.title + ": " + row.subtitle;
-    }
-  }
-  return "";
-}
-
-TEST(SongNeed, WaitsWhereNothingIsInProductionAndLittleIsLeftToPlay) {
-  World world;
-  EXPECT_EQ(songNeed(world), "Write your first song: It costs 10 energy, and no money");
-  world.state.totalEnergyAvailable = 9;
-  EXPECT_EQ(songNeed(world), "");
-  world.state.totalEnergyAvailable = 10;
-  world.state.totalCashAvailable = -1;
-  EXPECT_EQ(songNeed(world), "") << "nobody records on credit";
-  world.state.totalCashAvailable = 0;
-  Song song = releasedSong(1, "Tide");
-  song.releaseWeek = world.state.weekNumberForTracking;
-  song.productionRating = 4;
-  world.state.saveAllSongList.append(song);
-  EXPECT_EQ(songNeed(world), "");
-  world.state.saveAllSongList.update(0, [](Song& tide) { tide.productionRating = 1.5; });
-  EXPECT_EQ(songNeed(world), "Write a new song: What you have out plays for 2 weeks more");
-  world.state.saveAllSongList.append(songInProduction(2, "Ebb"));
-  EXPECT_EQ(songNeed(world), "");
-  world.settle();
 }
 
 }  // namespace
