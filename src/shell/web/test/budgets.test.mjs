@@ -46,8 +46,11 @@ test("the page stays light on the line", async () => {
 test("a press is painted and a report shown at once", async () => {
   const { page, context, faults } = await game.open({ address: "about:blank" });
   await openWorld(page, game.home, world("golden_decade"));
+  await page.waitForFunction(
+    () => [...document.querySelectorAll(".layer.ahead bb-blocks")].filter(({ foreseen }) => foreseen).length >= 4,
+  );
   const count = await countCosts(game.browser, page);
-  const tab = (n) => count.press("press", (n) => document.querySelectorAll(".tab-bar button")[n].click(), n);
+  const tab = (name, n) => count.press(name, (n) => document.querySelectorAll(".tab-bar button")[n].click(), n);
   const button = (name, label) =>
     count.press(
       name,
@@ -57,11 +60,12 @@ test("a press is painted and a report shown at once", async () => {
       },
       label,
     );
+  for (const n of [1, 2, 3, 4]) await tab("first", n);
   for (let round = 0; round < 4; round += 1) {
-    for (const n of [1, 2, 3, 4, 1]) await tab(n);
+    for (const n of [1, 2, 3, 4, 1]) await tab("press", n);
     await button("press", "Create a Song");
     await button("press", "Back");
-    await tab(0);
+    await tab("press", 0);
     await button("report", "END THE WEEK");
     await page.evaluate(() => {
       const { player } = document.querySelector("backbeat-app");
@@ -72,8 +76,10 @@ test("a press is painted and a report shown at once", async () => {
       }
     });
   }
-  const { press: presses, report: reports } = await count.end();
-  const told = `presses ${presses.map((ms) => ms.toFixed(0))}, reports ${reports.map((ms) => ms.toFixed(0))} ms`;
+  const { first, press: presses, report: reports } = await count.end();
+  const list = (costs) => costs.map((ms) => ms.toFixed(0));
+  const told = `first visits ${list(first)}, presses ${list(presses)}, reports ${list(reports)} ms`;
+  assert.ok(median(first) * slowdown <= 60, told);
   assert.ok(median(presses) * slowdown <= 90, told);
   assert.ok(median(reports) * slowdown <= 160, told);
   assert.deepEqual(faults, []);
