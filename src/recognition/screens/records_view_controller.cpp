@@ -56,7 +56,7 @@ void RecordsViewController::describeRecord(View& view, size_t number) const {
   if (best > 0 && value == best) {
     row.subtitle = score.holder(state());
     row.selected = true;
-    row.note = "yours";
+    row.note = "to beat: " + amountText(score, best + 1);
   } else {
     row.subtitle = value ? "This life: " + amountText(score, *value) : "Nothing in this life yet";
     row.note = best > 0 ? "to beat: " + amountText(score, best + 1) : "no record yet";
