@@ -1,3 +1,5 @@
+#include <cmath>
+
 #include "career/skill.h"
 #include "core/money.h"
 #include "music/figures.h"
