@@ -45,6 +45,7 @@ void swipe(Player& player, const FamilyPlan& plan) {
   for (int64_t i = 0; i < plan.swipes && player.seen().screen == deck; ++i) {
     if (player.state().totalEnergyAvailable <= plan.energyKept) return;
     player.press("heartButton");
+    player.settle();  // a like can be a goal of its own
   }
   if (player.tryPress("messageButton")) player.settle();
 }
